@@ -1,0 +1,39 @@
+# Settings and helpers that every floor shares.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+
+# One set of flags for every target. Contraction is off and SSE arithmetic is the rule, so that the same input gives the
+# same digits on every machine and in every build type; -ffast-math must never appear here.
+add_library(lithmark_flags INTERFACE)
+target_compile_options(lithmark_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Werror
+  -ffp-contract=off)
+if(CMAKE_SYSTEM_PROCESSOR MATCHES "i[3-6]86")
+  target_compile_options(lithmark_flags INTERFACE -msse2 -mfpmath=sse)
+endif()
+target_include_directories(lithmark_flags INTERFACE ${PROJECT_SOURCE_DIR})
+target_compile_definitions(lithmark_flags INTERFACE LITHMARK_VERSION="${PROJECT_VERSION}")
+if(LITHMARK_SANITIZE)
+  target_compile_options(lithmark_flags INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(lithmark_flags INTERFACE -fsanitize=address,undefined)
+endif()
+
+# lithmark_floor(NAME LIBRARIES...): a static library of all .cpp files of the current folder.
+function(lithmark_floor name)
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp)
+  if(sources)
+    add_library(${name} STATIC ${sources})
+    target_link_libraries(${name} PUBLIC lithmark_flags ${ARGN})
+  else()
+    add_library(${name} INTERFACE)
+    target_link_libraries(${name} INTERFACE lithmark_flags ${ARGN})
+  endif()
+endfunction()

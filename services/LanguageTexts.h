@@ -1,0 +1,59 @@
+// LanguageTexts: a text by its number in the current language.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "base/TextId.h"
+#include "texts/LanguageTable.h"
+
+namespace lithmark {
+
+// How a text is wanted. 0: as it stands. What each style does is told beside LanguageTextsService::Text.
+struct Style {
+    int Number = 0;
+};
+
+// Pairs of a place-holder ("|1") and what takes its place.
+using Replacements = std::vector<std::pair<std::string, std::string>>;
+
+enum class Axis { X, Y, Z };
+
+class LanguageTextsService {
+  public:
+    Language Current() const noexcept { return current_; }
+    void SetCurrent(Language language) noexcept { current_ = language; }
+    // True for Arabic.
+    bool RightToLeft() const noexcept { return current_ == Language::Arabic; }
+
+    // The text of a number. An unknown number is a failure of the program and gives "?<number>?".
+    // Styles: 0 and 32 as it stands; 1 a button's caption, with its mnemonic mark "&"; 3 a button's caption that opens a
+    // dialog, ended by "..."; 4 a heading, ended by a colon and, where the text goes on behind it, read as "Order: ";
+    // 16 a table column's title with its line feeds.
+    std::string Text(TextId id, Style style = {}, const Replacements& replacements = {}) const;
+    std::string Text(TextId id, const Replacements& replacements) const { return Text(id, Style{0}, replacements); }
+
+    // The names of the coordinate axes; Arabic has letters of its own.
+    std::string AxisName(Axis axis) const;
+    // The version text of the report heading, and the line of the program's authors.
+    std::string VersionText() const;
+    std::string AuthorsText() const;
+
+  private:
+    Language current_ = Language::English;
+};
+
+// The one instance of the process.
+LanguageTextsService& LanguageTexts();
+
+// Short for LanguageTexts().Text(...).
+inline std::string Text(TextId id, Style style = {}, const Replacements& replacements = {}) {
+    return LanguageTexts().Text(id, style, replacements);
+}
+inline std::string Text(TextId id, const Replacements& replacements) {
+    return LanguageTexts().Text(id, Style{0}, replacements);
+}
+
+}  // namespace lithmark
