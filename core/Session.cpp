@@ -1,0 +1,9 @@
+#include "core/Session.h"
+
+namespace lithmark {
+
+void ResetSession() {
+    Session = SessionRecord{};
+}
+
+}  // namespace lithmark

@@ -1,0 +1,42 @@
+// What the two raft kernels share: the input of a run, its nodes, and what report and export need of it.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "base/Array.h"
+#include "base/Integer.h"
+#include "base/Single.h"
+
+namespace lithmark {
+
+// Input as the kernel works with it, in base units; z and h change during a run.
+struct RaftInput {
+    Single z, Q, A, B, h, eo, Po, Cc, Es;
+    Integer SoilPropertyType = 1;
+    Single Exz_x, Exz_y, Gamma;
+    bool AnalysisType = false, SettlementAt = false;
+};
+
+// One element of the plot mesh: corner count and corner nodes in the order of the mesh file.
+struct RaftElement {
+    int Count = 4;
+    int Nodes[4] = {0, 0, 0, 0};
+};
+
+// What a finished run hands to report and export; node arrays themselves are Session's.
+struct RaftResult {
+    RaftInput Input;                  // z and h as they are after the run
+    bool Circular = false;
+    Integer NX = 0, NY = 0;           // rectangle: grid intervals
+    Array<std::string> GridX, GridY;  // rectangle: coordinate texts, "0.000"
+    std::vector<RaftElement> Elements;
+    Array<Single> MidForce;           // along the middle row
+};
+
+// Appends the report of problems 9 and 10 to a new Session.ResultText.
+void WriteRaftReport(const RaftResult& result);
+// Writes the eleven export files of the project, in their order. Throws Failure; files finished earlier stay.
+void ExportRaft(const RaftResult& result);
+
+}  // namespace lithmark

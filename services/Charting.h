@@ -1,0 +1,31 @@
+// The arguments of ShowChart: a table of curves with everything that a chart window, a picture or a spreadsheet needs.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "base/Array.h"
+#include "base/Integer.h"
+#include "base/Single.h"
+
+namespace lithmark {
+
+struct ChartArguments {
+    Integer Curves = 0;
+    Integer LastColumn = 0;
+    Integer HeaderRows = 0;  // index of the last header row
+    Integer LastRow = 0;
+    std::string XTitle, YTitle;
+    Array<std::string> Legends;     // 0 .. Curves, from 1 in use
+    std::string TableTitle;
+    Matrix<std::string> Cells;      // rows 0 .. LastRow, columns 0 .. LastColumn; row and column 0 stay empty
+    Matrix<std::string> Header;     // rows 0 .. HeaderRows, columns 0 .. LastColumn
+    bool Flag = false;
+    Array<std::string> LineStyles;  // 0 .. Curves: "Solid line", "Points" or "LinesNoMarkers"
+    Single XStart, XEnd;
+    std::string ProjectText;        // four lines, each ended by a line feed
+    std::string ChartTitle;
+    std::string CompanyLine1, CompanyLine2;
+};
+
+}  // namespace lithmark

@@ -1,0 +1,54 @@
+// Numbered files as the program's data files need them: text files of one value a line, comma lists, and record files.
+//
+// One file is open at a time under file number 1. An output file is written beside its target and takes its place when
+// it is closed, so that after a crash or on a full disk the old file is still there. Every function throws a Failure
+// with the line number where one applies; who calls them goes through OpenDataFile and CloseDataFile (files/).
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <variant>
+
+#include "base/Integer.h"
+#include "base/Single.h"
+
+namespace lithmark {
+
+enum class FileMode { Input = 1, Output = 2, RandomInput = 3, RandomOutput = 4 };
+
+constexpr int kRecordLength = 128;
+
+// Opening and closing. Closing an output file puts it in place; dropping one throws away what was written.
+void OpenNumberedFile(int fileNumber, const std::string& path, FileMode mode);
+void CloseNumberedFile(int fileNumber);
+void DropNumberedFile(int fileNumber);
+bool IsNumberedFileOpen(int fileNumber);
+
+// Reading text files. A value ends at a comma or a line end; CR LF, LF and CR all end a line. Files that are not UTF-8
+// are taken as Windows-1252, or Windows-1256 while the language is Arabic.
+Single ReadSingle(int fileNumber);
+Integer ReadInteger(int fileNumber);
+long ReadLong(int fileNumber);
+double ReadDouble(int fileNumber);
+bool ReadFlag(int fileNumber);             // #TRUE# or #FALSE#
+std::string ReadRawLine(int fileNumber);   // the rest of the line as it stands
+std::string ReadListItem(int fileNumber);  // to the next comma or line end, without surrounding double quotes
+
+// Writing text files; each call is one line, ended by CR LF.
+void WriteNumber(int fileNumber, Single value);
+void WriteNumber(int fileNumber, Integer value);
+void WriteNumber(int fileNumber, long value);
+void WriteNumber(int fileNumber, double value);
+void WriteFlag(int fileNumber, bool value);
+void WriteRawLine(int fileNumber, const std::string& text);
+
+// A comma list on one line: bare numbers, #TRUE# or #FALSE#, texts in double quotes, an empty value as nothing.
+using ListItem = std::variant<std::monostate, Single, Integer, long, double, bool, std::string>;
+void WriteList(int fileNumber, std::initializer_list<ListItem> items);
+
+// Record files: a value at the start of record n (from 1), little endian. A string is a 16-bit length and its bytes.
+void PutRecord(int fileNumber, int record, Single value);
+void PutRecord(int fileNumber, int record, Integer value);
+void PutRecord(int fileNumber, int record, const std::string& value);
+
+}  // namespace lithmark

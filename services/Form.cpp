@@ -1,0 +1,23 @@
+#include "services/Form.h"
+
+namespace lithmark {
+
+Control::Control(Form& owner, ControlKind kind, std::string name) : Kind(kind), Name(std::move(name)) {
+    owner.controls_.push_back(this);
+}
+
+Form::Form(std::string name) : Name(std::move(name)) {}
+
+void Form::Unload() {
+    if (unloaded_) return;
+    Unloading();
+    unloaded_ = true;
+}
+
+Control* Form::Find(std::string_view controlName) const {
+    for (Control* control : controls_)
+        if (control->Name == controlName) return control;
+    return nullptr;
+}
+
+}  // namespace lithmark

@@ -1,0 +1,73 @@
+// A dialog without a toolkit: controls as plain members of a form, found by their names.
+//
+// A form's events are member functions; whoever shows the form calls them and afterwards looks at the controls again.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lithmark {
+
+class Form;
+
+enum class ControlKind { Label, TextBox, Option, CheckBox, ComboBox, Button, Frame, Picture, TextArea, DatePicker, Tab };
+
+// One control. `Value` is the state of options and check boxes; `Items` and `ListIndex` (-1: nothing selected) belong to
+// combo boxes and tabs. A control's name carries its index where it stands in a control array: "optLoadType(1)".
+class Control {
+  public:
+    Control(Form& owner, ControlKind kind, std::string name);
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+
+    const ControlKind Kind;
+    const std::string Name;
+    std::string Caption;
+    std::string Text;
+    bool Value = false;
+    bool Visible = true;
+    bool Enabled = true;
+    bool ReadOnly = false;
+    std::vector<std::string> Items;
+    int ListIndex = -1;
+
+    // What happens on a click (buttons, options, check boxes), on a change of the text or selection, and on Enter.
+    std::function<void()> OnClick, OnChange, OnEnter;
+};
+
+class Form {
+  public:
+    explicit Form(std::string name);
+    virtual ~Form() = default;
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+
+    const std::string Name;
+    std::string Caption;
+
+    // Runs before the form is shown, as it becomes active, and as it is unloaded.
+    virtual void Load() {}
+    virtual void Activate() {}
+    virtual void Unloading() {}
+
+    // Ends the form: its modal showing returns.
+    void Unload();
+    bool Unloaded() const noexcept { return unloaded_; }
+    // Whoever shows the form makes it fresh again before Load.
+    void Reopen() noexcept { unloaded_ = false; }
+
+    const std::vector<Control*>& Controls() const noexcept { return controls_; }
+    // The control of a name, or null.
+    Control* Find(std::string_view controlName) const;
+    // The control that has, or last asked for, the focus; null when none did.
+    Control* Focus = nullptr;
+
+  private:
+    friend class Control;
+    std::vector<Control*> controls_;
+    bool unloaded_ = false;
+};
+
+}  // namespace lithmark
