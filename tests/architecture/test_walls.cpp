@@ -14,9 +14,9 @@ namespace {
 namespace fs = std::filesystem;
 
 // Floors from the lowest up; cli and desktop share the top.
-const std::map<std::string, int> kFloors = {{"base", 0},  {"texts", 1},   {"services", 2}, {"core", 3},
-                                            {"files", 4}, {"report", 5},  {"kernels", 6},  {"contour", 7},
-                                            {"ui", 8},    {"render", 9},  {"cli", 10},     {"desktop", 10}};
+const std::map<std::string, int> kFloors = {{"base", 0},  {"texts", 1},  {"services", 2}, {"core", 3},
+                                            {"files", 4}, {"report", 5}, {"kernels", 6},  {"contour", 7},
+                                            {"ui", 8},    {"render", 9}, {"cli", 10},     {"desktop", 10}};
 
 struct SourceFile {
     std::string Path;   // relative to the root

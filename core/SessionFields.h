@@ -1,0 +1,37 @@
+// The fields of Session by their names: for the command line's --set and --vary, for listings, and for data files.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "core/Session.h"
+
+namespace lithmark {
+
+// Where a field lies in Session.
+using FieldRef = std::variant<Single*, Integer*, bool*, std::string*, Array<Single>*, Array<Integer>*>;
+
+struct SessionField {
+    std::string_view Name;
+    FieldRef Ref;
+};
+
+// All fields of a project's data files and of the preferences, each once.
+std::span<const SessionField> SessionFields();
+
+// The field of a name such as "Es" or "LoadTime", or null.
+const SessionField* FindSessionField(std::string_view name);
+
+enum class SetFieldOutcome { Done, NoSuchField, NoSuchElement, BadValue };
+
+// Puts a text into a field, in base units with "." as decimal sign. "hLayer(2)" or "hLayer[2]" names an array's
+// element; flags take true, false, 1, 0, -1, #TRUE#, #FALSE#. Nothing changes unless the outcome is Done.
+SetFieldOutcome SetSessionField(std::string_view name, std::string_view value);
+
+// A field's value as text: numbers by the written-number rule, flags "#TRUE#" or "#FALSE#", arrays as
+// "(v1, v2, ...)".
+std::string SessionFieldText(const FieldRef& ref);
+
+}  // namespace lithmark
