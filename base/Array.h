@@ -18,8 +18,13 @@ class Array {
     Array() = default;
     // Elements lower..upper, value-initialised. An upper bound below the lower one gives an empty array.
     Array(int lower, int upper) { Redim(lower, upper); }
-    // Elements 1..n.
-    Array(std::initializer_list<T> values) : lower_(1), items_(values) {}
+    // Elements 1..n with these values. A named function and not a constructor, so that Array<Single>{0, 70} means
+    // bounds.
+    static Array Of(std::initializer_list<T> values) {
+        Array array;
+        array.items_.assign(values);
+        return array;
+    }
 
     // New bounds; nothing of the old content stays.
     void Redim(int lower, int upper) {
