@@ -1,15 +1,16 @@
-// Session: the one process-wide state record. Everything a dialog shows, a data file stores and a kernel takes or
-// leaves lies here, in base units: metres, kilonewtons, kN/m2, seconds in Cv and k; settlements in centimetres.
+// Session: the one process-wide state record. Everything a dialog shows, a data file stores and a kernel takes or leaves
+// lies here, in base units: metres, kilonewtons, kN/m2, seconds in Cv and k; settlements in centimetres.
 #pragma once
 
 #include <string>
-#include <variant>
-#include <vector>
 
 #include "base/Array.h"
 #include "base/Integer.h"
 #include "base/Single.h"
 #include "base/TextId.h"
+
+#include <variant>
+#include <vector>
 
 namespace lithmark {
 
@@ -20,11 +21,6 @@ using ColumnUnit = std::variant<std::monostate, long, std::string>;
 // A report value: nothing, a number, or a ready text.
 using ReportValue = std::variant<std::monostate, double, std::string>;
 
-// Elements lower..upper, all zero. (In braces two bounds would be taken as two elements.)
-inline Array<Single> SingleArray(int lower, int upper) {
-    return Array<Single>(lower, upper);
-}
-
 struct SessionRecord {
     // Project location and identity.
     std::string ProgramDir;   // with a trailing separator
@@ -33,7 +29,7 @@ struct SessionRecord {
     std::string ProjectFile;  // full path of the last chosen project file
     std::string WorkDir;      // where the problem files are read and written
     std::string WorkName;
-    long CompressFlag = 2;  // 7 packing on, 0 off, 2 no setting file exists
+    long CompressFlag = 2;    // 7 packing on, 0 off, 2 no setting file exists
     Integer ProblemType = 1;
     std::string Auftr, Datum, Proj;  // order, date, project description
     std::string FirmaLine1, FirmaLine2;
@@ -42,11 +38,11 @@ struct SessionRecord {
     bool DialogOk = false, DataValid = false, FileSaved = false, CalcAborted = false;
 
     // Load and geometry.
-    Single x, y, z;        // calculation point; z is the depth
-    Single Q;              // total load
-    Single P;              // uniform load
-    Single A, B;           // length or radius, and width, of the loaded area
-    Single A0;             // copy of A; the radius for circular loads
+    Single x, y, z;  // calculation point; z is the depth
+    Single Q;        // total load
+    Single P;        // uniform load
+    Single A, B;     // length or radius, and width, of the loaded area
+    Single A0;       // copy of A; the radius for circular loads
     Integer LoadType = 0;  // 1 point, 2 rectangle, 3 circle
     Single Nue, Es, h, eo, Po, Cc, Gamma;
     Integer SoilPropertyType = 0;  // 1 by Es, 2 by eo, Cc and Po
@@ -56,7 +52,7 @@ struct SessionRecord {
 
     // Degree of consolidation for two layers.
     Integer NumLayers = 0;
-    Array<Single> hLayer = SingleArray(1, 2), CvLayer = SingleArray(1, 2), KLayer = SingleArray(1, 2);
+    Array<Single> hLayer{1, 2}, CvLayer{1, 2}, KLayer{1, 2};
     Integer DrainageCondition = 0;  // 1 bottom drained, 2 bottom impermeable
     Single T;
     Single U;               // constant initial pore water pressure, kN/m2
@@ -65,9 +61,9 @@ struct SessionRecord {
 
     // Time-settlement.
     Single CvTS, kf, EsTS, Ws, qv, qe, Hm, Sc, Pt, Sm;
-    bool Ms = false;         // a measurement is to be evaluated
-    Integer DesignCode = 0;  // time of the measurement
-    Integer TimePeriod = 0;  // time units that the report shows
+    bool Ms = false;  // a measurement is to be evaluated
+    Integer DesignCode = 0;   // time of the measurement
+    Integer TimePeriod = 0;   // time units that the report shows
     std::string StartDate;
     Integer DrainageFaces = 0;  // 1 one-sided, 2 both faces
     Integer CvChoice = 0;       // 1 CvTS from soil data, 3 given
@@ -112,9 +108,9 @@ struct SessionRecord {
     std::string SymbolSuffix;
     Integer TableLastColumn = 0, TableLastRow = 0, HeaderRows = 0;
     std::string TableTitle;
-    Array<Label> ColumnTitles = Array<Label>(0, -1);
-    Array<std::string> ColumnSymbols = Array<std::string>(0, -1);
-    Array<ColumnUnit> ColumnUnits = Array<ColumnUnit>(0, -1);
+    Array<Label> ColumnTitles{0, -1};
+    Array<std::string> ColumnSymbols{0, -1};
+    Array<ColumnUnit> ColumnUnits{0, -1};
     Matrix<std::string> TableCells;
 
     // Results: stresses (kN/m2), strains, displacements and settlement (cm).
@@ -124,14 +120,12 @@ struct SessionRecord {
 
     // Results: degree of consolidation.
     Integer IsoLast = 0;
-    Array<Single> IsoU0 = SingleArray(0, -1), IsoUf = SingleArray(0, -1), IsoZ = SingleArray(0, -1);
+    Array<Single> IsoU0{0, -1}, IsoUf{0, -1}, IsoZ{0, -1};
     Single Uc;
 
     // Results: time-settlement, index 0 to 70.
-    Array<Single> LoadCurve = SingleArray(0, 70), SuddenPercent = SingleArray(0, 70),
-                  SuddenSettlement = SingleArray(0, 70), SettlementSum = SingleArray(0, 70);
-    Array<Single> LoadChartTime = SingleArray(0, 70), LoadChartNew = SingleArray(0, 70),
-                  LoadChartPrev = SingleArray(0, 70);
+    Array<Single> LoadCurve{0, 70}, SuddenPercent{0, 70}, SuddenSettlement{0, 70}, SettlementSum{0, 70};
+    Array<Single> LoadChartTime{0, 70}, LoadChartNew{0, 70}, LoadChartPrev{0, 70};
     Single ConsolidationEnd;
     Single MeasureFactor;
 
