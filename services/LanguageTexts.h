@@ -28,10 +28,17 @@ class LanguageTextsService {
     // True for Arabic.
     bool RightToLeft() const noexcept { return current_ == Language::Arabic; }
 
-    // The text of a number. An unknown number is a failure of the program and gives "?<number>?".
-    // Styles: 0 and 32 as it stands; 1 a button's caption, with its mnemonic mark "&"; 3 a button's caption that opens a
-    // dialog, ended by "..."; 4 a heading, ended by a colon and, where the text goes on behind it, read as "Order: ";
-    // 16 a table column's title with its line feeds.
+    // The text of a number, its place-holders replaced. An unknown number is a failure of the program and gives
+    // "?<number>?". Styles:
+    //   0, 32  as it stands, without the mnemonic mark "&"; so does every number not named here
+    //   1      the caption of a button or menu entry, with its mnemonic mark
+    //   3      the same for one that opens a file dialog, ended by "..."
+    //   4      a heading, without the mark, ended by a colon where the text itself brings none; the labels of the
+    //   heading
+    //          lines (11 order, 12 date, 95 project, 107 file) end in ": ", because their value follows at once
+    //   16     a table column's title with its line feeds
+    // In Ids every text reads "T<number>" or "T<number>(r1,r2)", whatever the style, but for the few that the program
+    // takes apart or compares.
     std::string Text(TextId id, Style style = {}, const Replacements& replacements = {}) const;
     std::string Text(TextId id, const Replacements& replacements) const { return Text(id, Style{0}, replacements); }
 
