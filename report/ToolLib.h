@@ -22,8 +22,8 @@ std::string Ruler();
 // Starts a new report with the heading block, then ClearParameters.
 void ReportHeading();
 
-// The parameter block: label, symbol, unit, "=", value, aligned. AddParameter appends a line; with a label alone it is a
-// line of text, with nothing at all an empty line. A numeric value is formatted by `format` (empty: its plain text).
+// The parameter block: label, symbol, unit, "=", value, aligned. AddParameter appends a line; with a label alone it is
+// a line of text, with nothing at all an empty line. A numeric value is formatted by `format` (empty: its plain text).
 void ClearParameters();
 void AddParameter(const Label& label = {}, const std::string& symbol = {}, const std::string& unit = {},
                   const ReportValue& value = {}, const std::string& format = {});
@@ -47,5 +47,8 @@ void TableColumn(int column, const Label& title, const std::string& symbol, cons
 
 // Text 40079, a blank, the table's number, and the line of dashes under it.
 void ReportSectionTitle(const std::string& tableNumber);
+
+// The beginning of a section of the parameter block: an empty line and the text as a heading (style 4).
+void AddSection(TextId heading);
 
 }  // namespace lithmark
