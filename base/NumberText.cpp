@@ -84,8 +84,8 @@ std::string RoundedDigits(double value, int places) {
 // What stands between the first and the last place of a number pattern.
 struct Pattern {
     std::string prefix, suffix;
-    std::size_t wholeZeros = 0;      // least digits ahead of the point
-    std::string places;              // one "0" or "#" for each digit behind the point
+    std::size_t wholeZeros = 0;  // least digits ahead of the point
+    std::string places;          // one "0" or "#" for each digit behind the point
     bool point = false, thousands = false;
     int percents = 0;
     bool exponent = false, exponentPlus = false;
@@ -142,6 +142,56 @@ int PatternExponent(double value, const Pattern& p) {
     if (value == 0) return 0;
     const int lead = p.wholeZeros > 0 ? static_cast<int>(p.wholeZeros) - 1 : 0;
     return ShortestDecimal(value).exponent - lead;
+}
+
+// True when a number too great or too small for its type is too small. `text` has passed as a number.
+bool IsTiny(std::string_view text) {
+    const auto e = text.find('e');
+    const std::string_view mantissa = text.substr(0, e);
+    const auto point = std::min(mantissa.find('.'), mantissa.size());
+    const auto first = mantissa.find_first_of("123456789");
+    if (first == std::string_view::npos) return true;
+    const double places = first < point ? static_cast<double>(point - first) : -static_cast<double>(first - point);
+    double exponent = 0;  // digit by digit: it may be longer than any whole number
+    if (e != std::string_view::npos)
+        for (const char c : text.substr(e + 1))
+            if (c >= '0' && c <= '9') exponent = exponent * 10 + (c - '0');
+    if (e != std::string_view::npos && text.substr(e + 1).starts_with('-')) exponent = -exponent;
+    return places + exponent < 0;
+}
+
+// Reads a number into a type of its own width, so that it is rounded once. invalid_argument when the text holds none,
+// result_out_of_range when it is too great; one that is too small is zero.
+template <typename T>
+std::errc Parse(std::string_view text, char decimalSign, T& value) {
+    std::string number = Trim(text);
+    if (decimalSign != '.' && number.find('.') != std::string::npos) return std::errc::invalid_argument;
+    for (char& c : number) {
+        if (c == decimalSign)
+            c = '.';
+        else if (c == 'd' || c == 'D' || c == 'E')
+            c = 'e';
+    }
+    std::string_view rest = number;
+    if (rest.starts_with('+')) {
+        rest.remove_prefix(1);
+        if (rest.starts_with('-')) return std::errc::invalid_argument;
+    }
+    if (rest.find_first_not_of("+-.0123456789e") != std::string_view::npos) return std::errc::invalid_argument;
+    const auto [end, error] = std::from_chars(rest.data(), rest.data() + rest.size(), value);
+    if (end != rest.data() + rest.size() || rest.empty()) return std::errc::invalid_argument;
+    if (error != std::errc::result_out_of_range) return error;
+    value = 0;
+    return IsTiny(rest) ? std::errc{} : error;
+}
+
+template <typename T>
+T Checked(std::string_view text) {
+    T value = 0;
+    const std::errc error = Parse(text, '.', value);
+    if (error == std::errc::result_out_of_range) Fail(FailureKind::Overflow);
+    if (error != std::errc{}) Fail(FailureKind::BadNumber);
+    return value;
 }
 
 }  // namespace
@@ -223,30 +273,16 @@ std::string FormatNumber(double value, std::string_view pattern, char decimalSig
 }
 
 std::optional<double> ParseNumber(std::string_view text, char decimalSign) {
-    std::string number = Trim(text);
-    if (decimalSign != '.' && number.find('.') != std::string::npos) return std::nullopt;
-    for (char& c : number) {
-        if (c == decimalSign)
-            c = '.';
-        else if (c == 'd' || c == 'D' || c == 'E')
-            c = 'e';
-    }
-    std::string_view rest = number;
-    if (!rest.empty() && rest.front() == '+') {
-        rest.remove_prefix(1);
-        if (!rest.empty() && rest.front() == '-') return std::nullopt;
-    }
-    if (rest.find_first_not_of("+-.0123456789e") != std::string_view::npos) return std::nullopt;
     double value = 0;
-    const auto [end, error] = std::from_chars(rest.data(), rest.data() + rest.size(), value);
-    if (end != rest.data() + rest.size() || rest.empty()) return std::nullopt;
-    if (error == std::errc::result_out_of_range) {
-        // Too small is zero; too large does not fit.
-        const double wide = std::strtod(std::string(rest).c_str(), nullptr);
-        return std::isinf(wide) ? std::nullopt : std::optional<double>(wide);
-    }
-    if (error != std::errc{}) return std::nullopt;
-    return value;
+    return Parse(text, decimalSign, value) == std::errc{} ? std::optional<double>(value) : std::nullopt;
+}
+
+double TextToNumber(std::string_view text) {
+    return Checked<double>(text);
+}
+
+Single TextToSingle(std::string_view text) {
+    return Single(Checked<Single::Storage>(text));
 }
 
 }  // namespace lithmark

@@ -30,4 +30,9 @@ std::string FormatNumber(double value, std::string_view pattern, char decimalSig
 // Nothing when the text is no number or does not fit 64 bits.
 std::optional<double> ParseNumber(std::string_view text, char decimalSign = '.');
 
+// The number of a text in a file, "." as decimal point. BadNumber when it holds none, Overflow when it does not fit.
+// The text of a Single is rounded once, to its own width.
+double TextToNumber(std::string_view text);
+Single TextToSingle(std::string_view text);
+
 }  // namespace lithmark

@@ -32,7 +32,10 @@ long ReadLong(int fileNumber);
 double ReadDouble(int fileNumber);
 bool ReadFlag(int fileNumber);             // #TRUE# or #FALSE#
 std::string ReadRawLine(int fileNumber);   // the rest of the line as it stands
-std::string ReadListItem(int fileNumber);  // to the next comma or line end, without surrounding double quotes
+// To the next comma or line end, without surrounding double quotes; between a pair of quotes a comma is text.
+std::string ReadListItem(int fileNumber);
+// The line, from 1, that the next value is read from.
+long LineToRead(int fileNumber);
 
 // Writing text files; each call is one line, ended by CR LF.
 void WriteNumber(int fileNumber, Single value);

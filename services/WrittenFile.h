@@ -1,0 +1,53 @@
+// WrittenFile: an output file that is written whole or not at all.
+//
+// The content goes to a file of another name beside the target. Commit puts it in the target's place in one step, so
+// that after a crash, a full disk or a pulled plug the target is either the old file or the new one. Without Commit the
+// target stays as it was and nothing is left behind. A target that is no regular file (a device, a pipe) is written
+// directly. A symbolic link stays a link: the file that it points to is replaced.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "base/Failure.h"
+
+namespace lithmark {
+
+class WrittenFile {
+  public:
+    // NotAFile for a directory, PermissionDenied where the target or its folder must not be written, FileMissing
+    // without a folder, DiskFull, WriteError for the rest.
+    explicit WrittenFile(const std::string& path);
+    ~WrittenFile();
+    WrittenFile(const WrittenFile&) = delete;
+    WrittenFile& operator=(const WrittenFile&) = delete;
+
+    void Append(std::string_view bytes);
+    // Bytes at an offset from the start; what lies between is zero. Not to be mixed with Append.
+    void WriteAt(std::int64_t offset, std::string_view bytes);
+    // Everything on the disk and in place. When it fails, the target is as it was.
+    void Commit();
+
+  private:
+    void OpenTemporary();
+    void Flush();
+    void Drop() noexcept;
+
+    std::string target_, temporary_, buffer_;
+    int descriptor_ = -1;
+    unsigned mode_ = 0;  // of the file to be replaced; 0 when there is none
+};
+
+// Writes a whole file by way of a WrittenFile.
+void WriteWholeFile(const std::string& path, std::string_view content);
+// The bytes of a regular file. FileMissing, NotAFile, PermissionDenied or ReadError.
+std::string ReadWholeFile(const std::string& path);
+
+// Makes what was done to a folder's entries lasting, as far as the file system can.
+void SyncFolderOf(const std::string& path) noexcept;
+
+// The failure that a system error number stands for.
+[[noreturn]] void FailWithSystemError(int error, FailureKind otherwise);
+
+}  // namespace lithmark

@@ -1,0 +1,73 @@
+// What the tests of the services share: folders of their own, files, and the kind of a failure.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "base/Failure.h"
+
+namespace lithmark::testing {
+
+// A folder of the test's own, gone with everything in it when the test ends.
+class TestFolder {
+  public:
+    TestFolder() {
+        std::string pattern = (std::filesystem::temp_directory_path() / "lithmark-test-XXXXXX").string();
+        path_ = mkdtemp(pattern.data());
+    }
+    ~TestFolder() {
+        std::error_code error;
+        std::filesystem::remove_all(path_, error);
+    }
+    TestFolder(const TestFolder&) = delete;
+    TestFolder& operator=(const TestFolder&) = delete;
+
+    // The path of a name in the folder.
+    std::string operator/(const std::string& name) const { return path_ + "/" + name; }
+    // The folder with its trailing separator.
+    std::string Dir() const { return path_ + "/"; }
+    // Names of everything in the folder, hidden files too, in order.
+    std::vector<std::string> Names() const {
+        std::vector<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(path_)) names.push_back(entry.path().filename());
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+
+  private:
+    std::string path_;
+};
+
+inline void WriteBytes(const std::string& path, const std::string& bytes) {
+    std::ofstream(path, std::ios::binary) << bytes;
+}
+
+inline std::string ReadBytes(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+// The failure that an action ends in, or nothing.
+inline std::optional<Failure> FailureOf(auto&& action) {
+    try {
+        action();
+    } catch (const Failure& failure) {
+        return failure;
+    }
+    return std::nullopt;
+}
+
+inline std::optional<FailureKind> KindOf(auto&& action) {
+    const auto failure = FailureOf(action);
+    return failure ? std::optional(failure->Kind()) : std::nullopt;
+}
+
+}  // namespace lithmark::testing
