@@ -1,4 +1,5 @@
-// What the two raft kernels share: the input of a run, its nodes, and what report and export need of it.
+// What the two raft kernels share: the input of a run, its plot mesh, and what report and export need of a finished
+// run.
 #pragma once
 
 #include <string>
@@ -24,19 +25,20 @@ struct RaftElement {
     int Nodes[4] = {0, 0, 0, 0};
 };
 
-// What a finished run hands to report and export; node arrays themselves are Session's.
+// What a finished run hands to report and export; the node arrays and the middle row are Session's.
 struct RaftResult {
-    RaftInput Input;                  // z and h as they are after the run
+    RaftInput Input;  // z and h as they are after the run
     bool Circular = false;
     Integer NX = 0, NY = 0;           // rectangle: grid intervals
     Array<std::string> GridX, GridY;  // rectangle: coordinate texts, "0.000"
     std::vector<RaftElement> Elements;
-    Array<Single> MidForce;           // along the middle row
+    Array<Single> MidForce;  // along the middle row, kN
 };
 
 // Appends the report of problems 9 and 10 to a new Session.ResultText.
 void WriteRaftReport(const RaftResult& result);
-// Writes the eleven export files of the project, in their order. Throws Failure; files finished earlier stay.
+// Writes the eleven export files of the project, in their order. Throws Failure; files finished earlier stay. Sets
+// Session.Nue to 0 or eo after an analytical run of problem 10 (see RaftExport.cpp).
 void ExportRaft(const RaftResult& result);
 
 }  // namespace lithmark
