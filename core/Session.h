@@ -126,7 +126,6 @@ struct SessionRecord {
     // Results: time-settlement, index 0 to 70.
     Array<Single> LoadCurve{0, 70}, SuddenPercent{0, 70}, SuddenSettlement{0, 70}, SettlementSum{0, 70};
     Array<Single> LoadChartTime{0, 70}, LoadChartNew{0, 70}, LoadChartPrev{0, 70};
-    Single ConsolidationEnd;
     Single MeasureFactor;
 
     // Results: rafts. Forces kN, pressures kN/m2, settlements cm.
