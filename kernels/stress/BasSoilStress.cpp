@@ -1,0 +1,58 @@
+#include "kernels/stress/BasSoilStress.h"
+
+#include "core/Session.h"
+#include "kernels/stress/CircularLoad.h"
+#include "kernels/stress/PointLoad.h"
+#include "kernels/stress/RectangularLoad.h"
+#include "kernels/stress/SoilStressReport.h"
+#include "report/KernelRun.h"
+#include "services/SharedServices.h"
+
+namespace lithmark {
+
+namespace {
+
+// Hooke's law (1678) for an isotropic body; stresses from Session.
+void ComputeStrains(Single Nue, Single E) {
+    const Single G = Quotient(E, (1 + Nue) + (1 + Nue));
+    Session.Varepsilon_x = Quotient(Session.Sigma_x - (Session.Sigma_y + Session.Sigma_z) * Nue, E);
+    Session.Varepsilon_y = Quotient(Session.Sigma_y - (Session.Sigma_x + Session.Sigma_z) * Nue, E);
+    Session.Varepsilon_z = Quotient(Session.Sigma_z - (Session.Sigma_x + Session.Sigma_y) * Nue, E);
+    Session.Gamma_xy = Quotient(Session.Tau_xy, G);
+    Session.Gamma_xz = Quotient(Session.Tau_xz, G);
+    Session.Gamma_yz = Quotient(Session.Tau_yz, G);
+}
+
+}  // namespace
+
+void SolveSoilStress(const SoilStressInput& in) {
+    const Single zc = FormulaDepth(in.z);
+    switch (in.LoadType) {
+        case 1:
+            ComputePointLoad(in, zc);
+            break;
+        case 2:
+            ComputeRectangularLoad(in, zc);
+            break;
+        case 3:
+            ComputeCircularLoad(in, zc);
+            break;
+        default:
+            break;
+    }
+    ComputeStrains(in.Nue, in.Es);
+}
+
+void ComputeSoilStress(Single x, Single y, Single z, Single Q, Single P, Single A, Single B, Single Nue, Single Es,
+                       Integer LoadType) {
+    RunKernel([&] {
+        const SoilStressInput in{x, y, z, Q, P, A, B, Nue, Es, LoadType};
+        SharedServices().SetPointer(PointerShape::Hourglass);
+        Session.A0 = A;
+        SolveSoilStress(in);
+        SharedServices().SetPointer(PointerShape::Default);
+        WriteSoilStressReport(in);
+    });
+}
+
+}  // namespace lithmark
