@@ -26,6 +26,7 @@ enum class FailureKind {
     EndOfFile,
     BadNumber,      // a line that should hold a number holds something else
     BadFlag,        // a line that should hold #TRUE# or #FALSE# holds something else
+    BadWord,        // a line that should hold one of a set of words holds something else
     BadCount,       // a table count below 1 or beyond what an Integer holds
     DamagedArchive, // a packed project that cannot be unpacked
     NoSuchForm,     // a menu entry without a dialog

@@ -46,6 +46,8 @@ class Form {
 
     const std::string Name;
     std::string Caption;
+    // The reading direction of the language in which the form was loaded; PrepareForm sets it.
+    bool RightToLeft = false;
 
     // Runs before the form is shown, as it becomes active, and as it is unloaded.
     virtual void Load() {}

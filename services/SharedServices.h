@@ -3,12 +3,14 @@
 // None of these reads the program's state record: they get what they need as arguments.
 #pragma once
 
+#include <chrono>
+#include <optional>
 #include <string>
-#include <variant>
 
 #include "base/Failure.h"
 #include "services/Host.h"
 #include "services/LanguageTexts.h"
+#include "services/SettingsStore.h"
 
 namespace lithmark {
 
@@ -25,15 +27,23 @@ struct Directories {
 
 class SharedServicesService {
   public:
-    // The first and the last call of the process.
+    // The first and the last call of the process. The last one drops a file that is still open.
     void SetProgramNumber(int number);
     void CloseServices();
 
-    // The program directory holds the settings files. When it is not writable the user's own settings directory
-    // takes its place. An explicit directory (command line, tests) goes before both.
+    // The program directory holds the settings files: ../share/lithmark beside an installed program, else the
+    // program's own folder. When it is not writable the user's own settings directory ($XDG_CONFIG_HOME/lithmark or
+    // ~/.config/lithmark) takes its place. An explicit directory (command line, tests) goes before both and holds the
+    // settings store too; an empty name takes it back.
     void UseSettingsDirectory(const std::string& dir);
+    // Program directory, and data directory and packing flag from the file "STEU" in it; without the file the program
+    // directory and 2. A damaged file is told and counts as missing.
     Directories GetDirectories();
+    // Where the program's own files lie (help pages, pictures), with a trailing separator; they are only read.
+    std::string ResourceDir() const;
     std::string GetHelpFile(const std::string& key);
+    // The file "Units" in the program directory; without it m, cm, kN, MN and degrees Celsius, each with factor 1. A
+    // damaged file is told and counts as missing.
     UnitSettings GetUnits(const std::string& programDir);
 
     CompanyLines GetFirmaData();
@@ -41,16 +51,18 @@ class SharedServicesService {
     bool EditFirmaData(CompanyLines& lines);
     // Shows its dialog; LanguageTexts answers in the chosen language from then on, and the choice is stored.
     void ChooseLanguage();
-    // The stored language, put in force.
-    void LoadLanguage();
+    // The stored language, put in force; when none is stored, the given one.
+    void LoadLanguage(Language otherwise = Language::English);
+    void StoreLanguage(Language language);
 
-    // The name a file is really opened under: extension folded to upper case, an existing file of another letter case
-    // found, separators those of the platform.
+    // The name a file is really opened under (MappedFileName): a project extension folded to upper case, an existing
+    // file of another letter case found, separators those of the platform.
     void SetFileName(const std::string& name);
     std::string GetFileName() const;
     // The name that error texts refer to.
     void SetCurrentFile(const std::string& name);
     const std::string& CurrentFile() const noexcept { return currentFile_; }
+    // True when no such file exists under any letter case of its extension.
     bool FileMissing(const std::string& name, bool quiet) const;
 
     // The reading or writing notice in the status bar.
@@ -63,7 +75,8 @@ class SharedServicesService {
     void ShowMessageBox(const std::string& title, const std::string& text, MessageIcon icon);
     void SetPointer(PointerShape shape);
 
-    // How far a long run is, 0 to 1. Throws Failure(Cancelled) when the user ends the run.
+    // How far a long run is, 0 to 1. Throws Failure(Cancelled) when the user ends the run. Cheap enough for inner
+    // loops: the host hears of it twenty times a second, and always at 0 and 1.
     void ReportProgress(double fraction);
 
     void SetCurrentTextId(TextId id) { currentTextId_ = id; }
@@ -72,12 +85,13 @@ class SharedServicesService {
     // The decimal sign of what the user types and sees; "." in files and in the command line tool always.
     char DecimalSign = '.';
 
-    // Registers a form as it loads.
+    // Fits a form to the language as it loads.
     void PrepareForm(Form& form);
-    // The number in a text box by the current decimal sign; InvalidArgument when it holds none.
+    // The number in a text box by the current decimal sign; InvalidArgument when it holds none. Arabic digits, the
+    // Arabic decimal sign and the minus sign of typesetting are read as their plain forms.
     double GetNumber(const Control& control) const;
-    // False, after a message that names `label` and with the focus on the control, when the box holds no number or one
-    // outside lower..upper.
+    // False, after a message that names `label` and the allowed range and with the focus on the control, when the box
+    // holds no number or one outside lower..upper. Kind 2 is a real number; kind 1 must be whole too.
     bool CheckNumber(Form& form, Control& control, int kind, double upper, double lower, const std::string& label);
 
     void SetHelpText(const std::string& text) { helpText_ = text; }
@@ -88,17 +102,34 @@ class SharedServicesService {
     // Asks whether to end the program.
     bool ConfirmQuit();
 
-    // Persistent settings by application title, section and key.
+    // Persistent settings by application title, section and key. A value of another type than asked for counts as
+    // missing. A store that cannot be written is told once, and the program goes on.
     void SaveSetting(const std::string& app, const std::string& section, const std::string& key,
-                     const std::variant<bool, long, std::string>& value);
+                     const SettingValue& value);
     bool GetSetting(const std::string& app, const std::string& section, const std::string& key, bool defaultValue);
     std::string GetSetting(const std::string& app, const std::string& section, const std::string& key,
                            const std::string& defaultValue);
+    std::string GetSetting(const std::string& app, const std::string& section, const std::string& key,
+                           const char* defaultValue) {
+        return GetSetting(app, section, key, std::string(defaultValue));
+    }
+    long GetSetting(const std::string& app, const std::string& section, const std::string& key, long defaultValue);
 
   private:
+    std::string ProgramDir() const;
+    std::string SettingsFile() const;
+    void TellDamage(const std::string& file, const Failure& failure);
+    std::optional<SettingValue> StoredValue(const std::string& app, const std::string& section, const std::string& key);
+    void TellStoreSetAside(const std::string& damagedName);
+
     std::string fileName_, currentFile_, helpText_, settingsDir_;
     TextId currentTextId_{};
+    std::chrono::steady_clock::time_point lastProgress_{};
+    bool unwritableStoreTold_ = false;
 };
+
+// The title under which the program keeps its settings.
+inline const std::string kApplicationTitle = "Lithmark";
 
 SharedServicesService& SharedServices();
 

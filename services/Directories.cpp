@@ -1,0 +1,238 @@
+// The part of SharedServices that knows where files lie and what the settings files hold.
+#include <pwd.h>
+#include <unistd.h>
+
+#include <array>
+#include <climits>
+#include <cstdlib>
+#include <filesystem>
+#include <system_error>
+
+#include "base/NumberText.h"
+#include "services/DataFile.h"
+#include "services/FileNames.h"
+#include "services/SettingsStore.h"
+#include "services/SharedServices.h"
+
+namespace lithmark {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// Label texts of the unit groups; a file holds a label's canonical form, which is the English one.
+constexpr std::array kLengthLabels = {28_text, 36_text, 38_text, 40_text, 42_text, 44_text};
+constexpr std::array kForceLabels = {29_text, 47_text, 49_text, 51_text, 53_text, 55_text, 57_text, 59_text, 61_text};
+constexpr std::array kTemperatureLabels = {33_text, 30_text, 31_text, 32_text};
+
+constexpr int kFile = 1;
+
+// The folder of the running program, with a trailing separator.
+std::string ExecutableDir() {
+    std::array<char, PATH_MAX> path;
+    const ssize_t length = ::readlink("/proc/self/exe", path.data(), path.size());
+    std::error_code error;
+    if (length <= 0) return WithSeparator(fs::current_path(error).string());
+    return WithSeparator(fs::path(std::string(path.data(), static_cast<std::size_t>(length))).parent_path().string());
+}
+
+// The user's own settings directory, with a trailing separator; empty when the user has no home.
+std::string UserSettingsDir() {
+    const char* config = std::getenv("XDG_CONFIG_HOME");
+    if (config != nullptr && *config == '/') return WithSeparator(config) + "lithmark/";
+    const char* home = std::getenv("HOME");
+    if (home == nullptr || *home != '/') {
+        const passwd* user = ::getpwuid(::getuid());
+        home = user != nullptr ? user->pw_dir : nullptr;
+    }
+    return home != nullptr && *home == '/' ? WithSeparator(home) + ".config/lithmark/" : "";
+}
+
+bool IsWritable(const std::string& dir) {
+    return ::access(dir.c_str(), W_OK | X_OK) == 0;
+}
+
+// The label in the current language of a label in a file.
+template <std::size_t N>
+std::string LabelOf(const std::string& inFile, const std::array<TextId, N>& labels, long line) {
+    for (const TextId id : labels)
+        if (inFile == TextIn(*FindLanguageRow(id.Number), Language::English)) return Text(id);
+    Fail(FailureKind::BadWord, inFile, line);
+}
+
+// One line of the file "Units": label and factor.
+template <std::size_t N>
+void ReadUnit(const std::array<TextId, N>& labels, std::string& label, double& factor) {
+    const long line = LineToRead(kFile);
+    label = LabelOf(ReadListItem(kFile), labels, line);
+    factor = ReadDouble(kFile);
+    if (!(factor > 0)) Fail(FailureKind::BadNumber, NumberToText(factor), line);
+}
+
+UnitSettings DefaultUnits() {
+    return {Text(28_text), Text(40_text), Text(29_text), Text(61_text), Text(33_text)};
+}
+
+// The word by which a language is stored, the same as it calls itself: text 140156.
+std::string LanguageWord(Language language) {
+    return TextIn(*FindLanguageRow((140156_text).Number), language);
+}
+
+}  // namespace
+
+void SharedServicesService::UseSettingsDirectory(const std::string& dir) {
+    settingsDir_ = WithSeparator(dir);
+    unwritableStoreTold_ = false;
+}
+
+std::string SharedServicesService::ResourceDir() const {
+    const std::string executable = ExecutableDir();
+    const std::string shared = (fs::path(executable) / "../share/lithmark").lexically_normal().string();
+    std::error_code error;
+    return fs::is_directory(shared, error) ? WithSeparator(shared) : executable;
+}
+
+std::string SharedServicesService::ProgramDir() const {
+    if (!settingsDir_.empty()) return settingsDir_;
+    const std::string program = ResourceDir();
+    if (IsWritable(program)) return program;
+    const std::string user = UserSettingsDir();
+    std::error_code error;  // a directory that cannot be made shows in the first write
+    if (!user.empty()) fs::create_directories(user, error);
+    return user.empty() ? program : user;
+}
+
+std::string SharedServicesService::SettingsFile() const {
+    std::string dir = settingsDir_.empty() ? UserSettingsDir() : settingsDir_;
+    return (dir.empty() ? ProgramDir() : dir) + "settings.json";
+}
+
+void SharedServicesService::TellDamage(const std::string& file, const Failure& failure) {
+    DropNumberedFile(kFile);
+    SetCurrentFile(file);
+    ShowFileError(failure);
+}
+
+Directories SharedServicesService::GetDirectories() {
+    const std::string program = ProgramDir();
+    const Directories defaults{program, program, 2};
+    const std::string file = program + "STEU";
+    if (FileMissing(file, true)) return defaults;
+    try {
+        Directories result = defaults;
+        OpenNumberedFile(kFile, file, FileMode::Input);
+        const std::string dataDir = ReadRawLine(kFile);
+        result.CompressFlag = ReadLong(kFile);
+        CloseNumberedFile(kFile);
+        if (!dataDir.empty()) result.DataDir = WithSeparator(MappedFileName(dataDir));
+        return result;
+    } catch (const Failure& failure) {
+        TellDamage(file, failure);
+        return defaults;
+    }
+}
+
+std::string SharedServicesService::GetHelpFile(const std::string& key) {
+    return ResourceDir() + "help/" + key + ".html";
+}
+
+UnitSettings SharedServicesService::GetUnits(const std::string& programDir) {
+    const std::string file = programDir + "Units";
+    if (FileMissing(file, true)) return DefaultUnits();
+    try {
+        UnitSettings units;
+        OpenNumberedFile(kFile, file, FileMode::Input);
+        ReadUnit(kLengthLabels, units.Len1Label, units.Len1Factor);
+        ReadUnit(kLengthLabels, units.Len2Label, units.Len2Factor);
+        ReadUnit(kForceLabels, units.Force1Label, units.Force1Factor);
+        ReadUnit(kForceLabels, units.Force2Label, units.Force2Factor);
+        const long line = LineToRead(kFile);
+        units.TempLabel = LabelOf(ReadListItem(kFile), kTemperatureLabels, line);
+        CloseNumberedFile(kFile);
+        return units;
+    } catch (const Failure& failure) {
+        TellDamage(file, failure);
+        return DefaultUnits();
+    }
+}
+
+CompanyLines SharedServicesService::GetFirmaData() {
+    return {GetSetting(kApplicationTitle, "Company", "Line 1", ""),
+            GetSetting(kApplicationTitle, "Company", "Line 2", "")};
+}
+
+bool SharedServicesService::EditFirmaData(CompanyLines& lines) {
+    const auto edited = CurrentHost().EditCompanyLines(lines);
+    if (!edited || (edited->Line1 == lines.Line1 && edited->Line2 == lines.Line2)) return false;
+    lines = *edited;
+    SaveSetting(kApplicationTitle, "Company", "Line 1", lines.Line1);
+    SaveSetting(kApplicationTitle, "Company", "Line 2", lines.Line2);
+    return true;
+}
+
+void SharedServicesService::ChooseLanguage() {
+    const auto chosen = CurrentHost().ChooseLanguage(LanguageTexts().Current());
+    if (!chosen) return;
+    LanguageTexts().SetCurrent(*chosen);
+    StoreLanguage(*chosen);
+}
+
+void SharedServicesService::LoadLanguage(Language otherwise) {
+    const std::string word = GetSetting(kApplicationTitle, "Settings", "Language", "");
+    for (const Language language : {Language::German, Language::English, Language::Arabic})
+        if (word == LanguageWord(language)) otherwise = language;
+    LanguageTexts().SetCurrent(otherwise);
+}
+
+void SharedServicesService::StoreLanguage(Language language) {
+    SaveSetting(kApplicationTitle, "Settings", "Language", LanguageWord(language));
+}
+
+std::optional<SettingValue> SharedServicesService::StoredValue(const std::string& app, const std::string& section,
+                                                               const std::string& key) {
+    std::string damaged;
+    const auto value = ReadSetting(SettingsFile(), app, section, key, damaged);
+    TellStoreSetAside(damaged);
+    return value;
+}
+
+void SharedServicesService::TellStoreSetAside(const std::string& damagedName) {
+    if (damagedName.empty()) return;
+    ShowMessageBox(Text(160030_text), Text(901006_text, {{"|1", damagedName}}), MessageIcon::Exclamation);
+}
+
+void SharedServicesService::SaveSetting(const std::string& app, const std::string& section, const std::string& key,
+                                        const SettingValue& value) {
+    const std::string file = SettingsFile();
+    std::string damaged;
+    try {
+        WriteSetting(file, app, section, key, value, damaged);
+    } catch (const Failure& failure) {
+        if (!unwritableStoreTold_) {
+            unwritableStoreTold_ = true;
+            SetCurrentFile(file);
+            ShowFileError(failure);
+        }
+    }
+    TellStoreSetAside(damaged);
+}
+
+bool SharedServicesService::GetSetting(const std::string& app, const std::string& section, const std::string& key,
+                                       bool defaultValue) {
+    const auto value = StoredValue(app, section, key);
+    return value && std::holds_alternative<bool>(*value) ? std::get<bool>(*value) : defaultValue;
+}
+
+std::string SharedServicesService::GetSetting(const std::string& app, const std::string& section,
+                                              const std::string& key, const std::string& defaultValue) {
+    const auto value = StoredValue(app, section, key);
+    return value && std::holds_alternative<std::string>(*value) ? std::get<std::string>(*value) : defaultValue;
+}
+
+long SharedServicesService::GetSetting(const std::string& app, const std::string& section, const std::string& key,
+                                       long defaultValue) {
+    const auto value = StoredValue(app, section, key);
+    return value && std::holds_alternative<long>(*value) ? std::get<long>(*value) : defaultValue;
+}
+
+}  // namespace lithmark
