@@ -1,0 +1,121 @@
+// The report of problem 5.
+
+#include <string>
+
+#include "base/NumberText.h"
+#include "core/Session.h"
+#include "core/Units.h"
+#include "kernels/consolidation/ConsolidationRateRun.h"
+#include "kernels/stress/LoadRows.h"
+#include "report/ToolLib.h"
+#include "services/LanguageTexts.h"
+
+namespace lithmark {
+
+namespace {
+
+void LoadTitleRow(int loadType) {
+    switch (loadType) {
+        case 1:
+            AddParameter(400171_text);
+            break;
+        case 2:
+            AddParameter(400174_text);
+            break;
+        case 3:
+            AddParameter(400177_text);
+            break;
+        default:
+            break;
+    }
+}
+
+void InitialPressureRows(const ConsolidationRateInput& in) {
+    if (in.Pressure) {
+        AddParameter(300012_text);
+        AddParameter(300008_text, "uo", UnitLabel(0), in.U * UnitFactor(0), Session.FmtStress);
+        return;
+    }
+    LoadTitleRow(in.LoadType);
+    AddSection(140095_text);
+    AddLoadRows(in.LoadType, in.Q, in.P, in.A, in.B, LengthFactor::Twice);
+}
+
+void LayerRows(const ConsolidationRateInput& in) {
+    AddParameter();
+    AddParameter(300013_text);
+    if (!in.Pressure) AddCoordinateRows(in.x, in.y, in.z);
+    for (int i = 1; i <= in.NumLayers; ++i) {
+        const std::string number = NumberToText(i);
+        AddParameter(Text(40052_text) + " " + number, "h" + number, Session.Len1Label,
+                     in.hLayer(i) * Session.Len1Factor, Session.FmtLength);
+    }
+}
+
+void PermeabilityRow(const ConsolidationRateInput& in, int i) {
+    AddParameter(10242_text, "k" + NumberToText(i), UnitLabel(11), in.KLayer(i) * UnitFactor(11),
+                 Session.FmtPermeability);
+}
+
+void CvRow(const ConsolidationRateInput& in, int i) {
+    AddParameter(10243_text, "Cv" + NumberToText(i), UnitLabel(10), in.CvLayer(i) * UnitFactor(10), Session.FmtCv);
+}
+
+// The time factor is that of layer 1 alone, Tv = Cv t/H^2 with H the drainage length.
+void SoilRows(const ConsolidationRateInput& in, Single c) {
+    AddSection(140162_text);
+    Single H = 0;
+    if (in.DrainageCondition == 1) {
+        AddParameter(300011_text);
+        H = in.hLayer(1) / 2;
+    } else if (in.DrainageCondition == 2) {
+        AddParameter(300010_text);
+        H = in.hLayer(1);
+    }
+    const Single Tv = Quotient(in.CvLayer(1) * in.T * c, Square(H));
+    AddParameter(300007_text, "Tc", in.TimeUnit, in.T, Session.FmtTime);
+    AddParameter(400126_text, "Tv", "[-]", Tv, Session.FmtRatio);
+    CvRow(in, 1);
+    if (in.NumLayers == 2) {
+        PermeabilityRow(in, 1);
+        CvRow(in, 2);
+        PermeabilityRow(in, 2);
+    }
+}
+
+void IsochroneTable() {
+    TableColumns(3, Session.IsoLast + 1, Text(300014_text));
+    TableColumn(0, 13_text, Text(90000_text), "[-]");
+    TableColumn(1, 300018_text, "z", Session.Len1Label);
+    TableColumn(2, 300016_text, "u0", UnitLabel(0));
+    TableColumn(3, 300017_text, "uf", UnitLabel(0));
+    const double pressureFactor = UnitFactor(0);
+    for (int m = 0; m <= Session.IsoLast; ++m) {
+        Session.TableCells(m + 1, 0) = NumberToText(m);
+        Session.TableCells(m + 1, 1) = FormatValue(Session.IsoZ(m) * Session.Len1Factor, Session.FmtLength);
+        Session.TableCells(m + 1, 2) = FormatValue(Session.IsoU0(m) * pressureFactor, Session.FmtStress);
+        Session.TableCells(m + 1, 3) = FormatValue(Session.IsoUf(m) * pressureFactor, Session.FmtStress);
+    }
+    ReportTable();
+}
+
+}  // namespace
+
+void WriteConsolidationRateReport(const ConsolidationRateInput& in, Single c) {
+    ReportHeading();
+    AddParameter(140187_text);
+    AddParameter(Ruler());
+    ReportParameters();
+    AddParameter();
+    InitialPressureRows(in);
+    LayerRows(in);
+    SoilRows(in, c);
+    AddSection(140096_text);
+    AddParameter(140187_text, "Uc", "[%]", Session.Uc, Session.FmtPercent);
+    ReportParameters();
+    ReportLines({Label{std::string{}}});
+    IsochroneTable();
+    ReportLines({Label{std::string{}}});
+}
+
+}  // namespace lithmark

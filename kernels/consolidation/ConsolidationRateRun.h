@@ -1,0 +1,28 @@
+// What one run of the degree of consolidation holds, and its report.
+#pragma once
+
+#include <string>
+
+#include "base/Array.h"
+#include "base/Integer.h"
+#include "base/Single.h"
+
+namespace lithmark {
+
+// Base units; see ComputeConsolidationRate.
+struct ConsolidationRateInput {
+    Single x, y, z, Q, P, A, B;
+    Integer LoadType;
+    Single U, T;
+    Integer NumLayers;
+    Array<Single> hLayer, CvLayer, KLayer;  // 1 .. NumLayers in use
+    Integer DrainageCondition;
+    bool Pressure = false;
+    std::string TimeUnit;
+};
+
+// Starts a new Session.ResultText with the input, Uc and the table of the isochrones. c: seconds per time unit. Throws
+// Failure; a drainage condition that is neither 1 nor 2 has no drainage length and so divides by zero.
+void WriteConsolidationRateReport(const ConsolidationRateInput& in, Single c);
+
+}  // namespace lithmark
