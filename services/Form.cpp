@@ -14,6 +14,13 @@ void Form::Unload() {
     unloaded_ = true;
 }
 
+void Form::SelectOption(Control& option) {
+    const auto arrayName = [](const Control& control) { return control.Name.substr(0, control.Name.find('(')); };
+    for (Control* control : controls_)
+        if (control->Kind == ControlKind::Option && arrayName(*control) == arrayName(option)) control->Value = false;
+    option.Value = true;
+}
+
 Control* Form::Find(std::string_view controlName) const {
     for (Control* control : controls_)
         if (control->Name == controlName) return control;

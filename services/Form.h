@@ -33,7 +33,8 @@ class Control {
     std::vector<std::string> Items;
     int ListIndex = -1;
 
-    // What happens on a click (buttons, options, check boxes), on a change of the text or selection, and on Enter.
+    // What happens on a click (buttons, options, check boxes), on a change of the text or selection, and on Enter. Who
+    // shows the form changes Text, Value or ListIndex first: a click turns a check box and selects an option.
     std::function<void()> OnClick, OnChange, OnEnter;
 };
 
@@ -61,6 +62,8 @@ class Form {
     void Reopen() noexcept { unloaded_ = false; }
 
     const std::vector<Control*>& Controls() const noexcept { return controls_; }
+    // Sets an option and clears the others of its control array.
+    void SelectOption(Control& option);
     // The control of a name, or null.
     Control* Find(std::string_view controlName) const;
     // The control that has, or last asked for, the focus; null when none did.

@@ -7,10 +7,10 @@
 
 #include "services/DataFile.h"
 #include "services/LanguageTexts.h"
-#include "services/Support.h"
+#include "support/Files.h"
 
 using namespace lithmark;
-using namespace lithmark::testing;
+using namespace lithmark::tests;
 using ::testing::ElementsAre;
 
 namespace {

@@ -7,10 +7,10 @@
 #include "services/DenseInverse.h"
 #include "services/MeshLib.h"
 #include "services/NumericLib.h"
-#include "services/Support.h"
+#include "support/Files.h"
 
 using namespace lithmark;
-using lithmark::testing::KindOf;
+using lithmark::tests::KindOf;
 
 namespace {
 

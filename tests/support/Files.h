@@ -1,4 +1,4 @@
-// What the tests of the services share: folders of their own, files, and the kind of a failure.
+// What tests with files share: a folder of their own, bytes of files, and the kind of a failure.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -14,7 +14,7 @@
 
 #include "base/Failure.h"
 
-namespace lithmark::testing {
+namespace lithmark::tests {
 
 // A folder of the test's own, gone with everything in it when the test ends.
 class TestFolder {
@@ -70,4 +70,4 @@ inline std::optional<FailureKind> KindOf(auto&& action) {
     return failure ? std::optional(failure->Kind()) : std::nullopt;
 }
 
-}  // namespace lithmark::testing
+}  // namespace lithmark::tests
