@@ -1,0 +1,336 @@
+// The eleven export files of a raft run. Text files hold one written value or list a line; record files hold one value
+// in each record of 128 bytes, so the place of every value is the number of its record.
+#include <string>
+#include <vector>
+
+#include "core/Session.h"
+#include "files/GloableVariable.h"
+#include "kernels/raft/RaftRun.h"
+#include "services/MeshLib.h"
+
+namespace lithmark {
+
+namespace {
+
+constexpr int kFile = 1;
+const std::string kVersion = "Version 9";
+
+// An open export file, in place once Close has been called; left open by a failure it is dropped by the shared failure
+// routine.
+class TextExport {
+  public:
+    explicit TextExport(const std::string& extension, FileMode mode = FileMode::Output) {
+        OpenDataFile(DataFileName(Session.WorkDir, Session.WorkName, extension), mode, kFile);
+    }
+    void Close() { CloseDataFile(kFile); }
+
+    void Put(Single value) { WriteNumber(kFile, value); }
+    void Put(Integer value) { WriteNumber(kFile, value); }
+    void Put(long value) { WriteNumber(kFile, value); }
+    void PutAll(const Array<Single>& values) {
+        for (const Single value : values) Put(value);
+    }
+};
+
+// The same for records, numbered in the order in which they are put.
+class RecordExport : private TextExport {
+  public:
+    explicit RecordExport(const std::string& extension) : TextExport(extension, FileMode::RandomOutput) {}
+    using TextExport::Close;
+
+    template <typename T>
+    void Put(const T& value) {
+        PutRecord(kFile, ++record_, value);
+    }
+    template <typename T>
+    void Put(int times, const T& value) {
+        for (int i = 0; i < times; ++i) Put(value);
+    }
+
+  private:
+    int record_ = 0;
+};
+
+Integer ElementCount(const RaftResult& result) {
+    return result.Elements.size();
+}
+
+void WriteMesh(const RaftResult& result) {
+    TextExport file("To1");
+    file.Put(Integer(Session.NodeX.Upper()));
+    for (int i = 1; i <= Session.NodeX.Upper(); ++i) {
+        file.Put(Session.NodeX(i));
+        file.Put(Session.NodeY(i));
+    }
+    file.Put(ElementCount(result));
+    for (const RaftElement& element : result.Elements) {
+        file.Put(Integer(element.Count));
+        for (int k = 0; k < element.Count; ++k) file.Put(Integer(element.Nodes[k]));
+    }
+    file.Close();
+}
+
+void WriteRunOptions(const RaftResult& result) {
+    TextExport file("PO1");
+    WriteRawLine(kFile, kVersion);
+    file.Put(Integer(1));
+    file.Put(Integer(result.Input.AnalysisType ? 19 : 7));
+    for (int i = 0; i < 13; ++i) file.Put(Integer(2));
+    file.Put(0L);
+    file.Close();
+}
+
+void WriteAreas() {
+    TextExport file("PL4");
+    file.Put(Integer(Session.NodeArea.Upper()));
+    file.PutAll(Session.NodeArea);
+    file.Close();
+}
+
+// The corners of each element going round it: the first two of the mesh file change places.
+std::vector<MeshLib::ElementRecord> ElementRecords(const RaftResult& result) {
+    std::vector<MeshLib::ElementRecord> records;
+    records.reserve(result.Elements.size());
+    for (const RaftElement& element : result.Elements) {
+        MeshLib::ElementRecord record;
+        record.Count = element.Count;
+        record.Node[1] = element.Nodes[1];
+        record.Node[2] = element.Nodes[0];
+        for (int k = 2; k < element.Count; ++k) record.Node[static_cast<std::size_t>(k + 1)] = element.Nodes[k];
+        records.push_back(record);
+    }
+    return records;
+}
+
+void WriteMeshWithEdges(const RaftResult& result, const std::vector<MeshLib::ElementRecord>& records) {
+    // A circle's coordinates, which count from its centre, are moved so that all are positive.
+    const double shift = result.Circular ? static_cast<double>(result.Input.A) : 0;
+    TextExport file("PL6");
+    file.Put(Integer(Session.NodeX.Upper()));
+    for (int i = 1; i <= Session.NodeX.Upper(); ++i) {
+        file.Put(Single(Session.NodeX(i) + shift));
+        file.Put(Single(Session.NodeY(i) + shift));
+    }
+    file.Put(ElementCount(result));
+    for (const MeshLib::ElementRecord& record : records) {
+        file.Put(record.Count);
+        for (std::size_t k = 1; k <= static_cast<std::size_t>(record.Count); ++k) {
+            file.Put(record.Node[k]);
+            file.Put(record.Edge[k]);
+        }
+    }
+    file.Close();
+}
+
+void WriteOutline(const RaftResult& result, const MeshLib::MeshValues& values) {
+    // A circular raft, too, is outlined as a rectangle, with the width that the record happens to hold; kept.
+    const Single a = result.Input.A, b = result.Circular ? Session.B : result.Input.B, o = 0;
+    TextExport file("PL8");
+    file.Put(Integer(4));
+    const auto line = [o](Single x1, Single y1, Single x2, Single y2) {
+        WriteList(kFile, {false, x1, y1, x2, y2, o, o, false});
+    };
+    line(o, o, a, o);
+    line(a, o, a, b);
+    line(a, b, o, b);
+    line(o, b, o, o);
+    WriteList(kFile, {Integer(0), Integer(0)});  // no inner lines
+    WriteList(kFile, {Integer(0), Integer(0)});  // no further tables
+    file.Put(values.EdgeCount);
+    WriteList(kFile, {values.OffsetX, values.OffsetY, values.Turn});
+    // A direction without a grid gets ten places of its own.
+    const auto places = [](Integer intervals) { return intervals == 0 ? Integer(10) : intervals; };
+    WriteList(kFile, {places(result.NX), places(result.NY)});
+    const auto grid = [](Integer intervals, const Array<std::string>& texts) {
+        if (intervals != 0) {
+            for (const std::string& text : texts) WriteList(kFile, {text});
+            return;
+        }
+        WriteList(kFile, {std::monostate{}});
+        for (int i = 1; i <= 10; ++i) WriteNumber(kFile, Integer(i));
+    };
+    grid(result.NX, result.GridX);
+    grid(result.NY, result.GridY);
+    file.Close();
+}
+
+void WriteLoads(const RaftResult& result) {
+    const RaftInput& input = result.Input;
+    const Integer none = 0, one = 1;
+    RecordExport file("PC1");
+    file.Put(2, none);
+    file.Put(one);  // point loads
+    file.Put(4, none);
+    file.Put(one);  // rows of the second table
+    file.Put(kVersion);
+    file.Put(one);
+    file.Put(input.Q);
+    file.Put(Single(result.Circular ? input.A + input.Exz_x : input.A / 2 + input.Exz_x));
+    file.Put(Single(result.Circular ? static_cast<double>(input.A) : input.B / 2 + input.Exz_y));
+    file.Put(2, Single(0.5));
+    file.Close();
+}
+
+void WriteMaterial(const RaftResult& result) {
+    RecordExport file("P21");
+    file.Put(Single(0));
+    file.Put(Integer(1));
+    file.Put(kVersion);
+    file.Put(4, Single(0));
+    file.Put(std::string());
+    file.Put(Single(0));
+    // Thickness [m], modulus [kN/m2] and Poisson's ratio of the raft.
+    file.Put(Single(1));
+    file.Put(Single(20000000));
+    file.Put(Single(0.25));
+    file.Put(ElementCount(result), Integer(1));
+    file.Close();
+}
+
+struct SoilLayer {
+    Single Depth, Modulus1, Modulus2, UnitWeight;
+    std::string Soil;
+    Single Friction, Cohesion, Poisson;
+    Integer Kind = 0;
+};
+
+// The soil model as the file tells it.
+struct SoilModel {
+    std::vector<SoilLayer> Layers;
+    Integer CaseCode = 0;
+    Single CaseValue;       // modulus or compression index of an analytical run
+    Single Shift1, Shift2;  // the two values behind the borings
+};
+
+constexpr double kStiff = 200000000;  // kN/m2, soil above the clay
+
+SoilLayer ClayOf(const RaftInput& input) {
+    const bool byModulus = input.SoilPropertyType == 1;
+    const Single modulus = byModulus ? input.Es : input.Cc;
+    return {input.z + input.h,
+            modulus,
+            modulus,
+            byModulus ? Single(18) : input.Gamma,
+            "T/vi",
+            0,
+            30,
+            byModulus ? Single(0) : input.eo,
+            byModulus ? 2 : 3};
+}
+
+SoilModel NumericalModel(const RaftInput& input) {
+    SoilModel model;
+    if (Session.ProblemType == 9) {
+        model.Layers.push_back({input.h, input.Es, input.Es, input.Gamma, "G/ge", 30, 0, Session.Nue, 1});
+        return model;
+    }
+    if (input.z != 0) {
+        SoilLayer above;
+        if (input.z > 0) {
+            const Single unitWeight = input.SoilPropertyType == 1 ? Single(18) : Single(input.Po / input.z);
+            above = {input.z, kStiff, kStiff, unitWeight, "G/ge", 30, 0, 0, 2};
+        }
+        model.Layers.push_back(above);
+    }
+    model.Layers.push_back(ClayOf(input));
+    return model;
+}
+
+// An analytical run has one layer without values. In problem 10 it overwrites Poisson's ratio in the record, which
+// stays so after the run; kept, because reports and files of existing projects show it.
+SoilModel AnalyticalModel(const RaftInput& input) {
+    SoilModel model;
+    model.Layers.emplace_back();
+    if (Session.ProblemType == 9) {
+        model.CaseCode = 4;
+        model.CaseValue = input.Es;
+        model.Shift1 = 30;
+        return model;
+    }
+    const bool byModulus = input.SoilPropertyType == 1;
+    model.CaseCode = byModulus ? 5 : 6;
+    model.CaseValue = byModulus ? input.Es : input.Cc;
+    Session.Nue = byModulus ? Single(0) : input.eo;
+    model.Shift2 = 30;
+    return model;
+}
+
+void WriteSoil(const RaftInput& input) {
+    const SoilModel model = input.AnalysisType ? AnalyticalModel(input) : NumericalModel(input);
+    const Single zero = 0;
+    RecordExport file("BAU");
+    file.Put(Single(1));
+    file.Put(Session.Nue);
+    file.Put(Single(1));
+    file.Put(Integer(1));  // borings
+    file.Put(model.CaseValue);
+    file.Put(2, zero);  // the boring's place
+    file.Put(std::string("BP1"));
+    file.Put(Integer(model.Layers.size()));
+    file.Put(zero);
+    for (const SoilLayer& layer : model.Layers) {
+        file.Put(layer.Depth);
+        file.Put(layer.Modulus1);
+        file.Put(layer.Modulus2);
+        file.Put(layer.UnitWeight);
+        file.Put(layer.Soil);
+    }
+    for (const SoilLayer& layer : model.Layers) {
+        file.Put(layer.Friction);
+        file.Put(layer.Cohesion);
+    }
+    file.Put(zero);
+    file.Put(model.Shift1);
+    file.Put(model.Shift2);
+    for (const SoilLayer& layer : model.Layers) {
+        file.Put(layer.Poisson);
+        file.Put(layer.Kind);
+    }
+    file.Put(input.AnalysisType ? input.Gamma : zero);
+    file.Put(model.CaseCode);
+    file.Put(Single(100));
+    file.Put(2, Integer(1));
+    file.Put(Integer(2));
+    file.Put(kVersion);
+    file.Close();
+}
+
+// Contact pressure over settlement [kN/m3]. A settlement of exactly 0 counts as next to nothing.
+Array<Single> SubgradeModulus() {
+    Array<Single> modulus(1, Session.NodePressure.Upper());
+    for (int i = 1; i <= modulus.Upper(); ++i) {
+        const double settlement = Session.NodeSettlement(i) == 0 ? 1e-20 : Session.NodeSettlement(i) / 100;
+        modulus(i) = Session.NodePressure(i) / settlement;
+    }
+    return modulus;
+}
+
+void WriteNodeValues(const std::string& extension, const Array<Single>& values) {
+    TextExport file(extension);
+    file.PutAll(values);
+    file.Close();
+}
+
+}  // namespace
+
+void ExportRaft(const RaftResult& result) {
+    WriteMesh(result);
+    WriteRunOptions(result);
+    WriteAreas();
+    std::vector<MeshLib::ElementRecord> records = ElementRecords(result);
+    const MeshLib::MeshValues values = MeshLib::BuildEdges(records);
+    WriteMeshWithEdges(result, records);
+    WriteOutline(result, values);
+    WriteLoads(result);
+    WriteMaterial(result);
+    WriteSoil(result.Input);
+
+    const Array<Single> modulus = SubgradeModulus();
+    Array<Single> metres(1, Session.NodeSettlement.Upper());
+    for (int i = 1; i <= metres.Upper(); ++i) metres(i) = Session.NodeSettlement(i) / 100;
+    WriteNodeValues("PH1", metres);
+    WriteNodeValues("PH2", Session.NodePressure);
+    WriteNodeValues("PW1", modulus);
+}
+
+}  // namespace lithmark
