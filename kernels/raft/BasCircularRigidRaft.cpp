@@ -1,0 +1,60 @@
+#include "kernels/raft/BasCircularRigidRaft.h"
+
+#include "core/Session.h"
+#include "kernels/raft/CircularRaftRun.h"
+#include "kernels/raft/RaftRun.h"
+#include "report/KernelRun.h"
+#include "services/SharedServices.h"
+
+namespace lithmark {
+
+namespace {
+
+// Gives z and h of a run back to its caller, also when it fails half-way.
+class GiveBack {
+  public:
+    GiveBack(const RaftInput& input, Single& z, Single& h) : input_(input), z_(z), h_(h) {}
+    GiveBack(const GiveBack&) = delete;
+    GiveBack& operator=(const GiveBack&) = delete;
+    ~GiveBack() {
+        z_ = input_.z;
+        h_ = input_.h;
+    }
+
+  private:
+    const RaftInput& input_;
+    Single &z_, &h_;
+};
+
+}  // namespace
+
+void ComputeCircularRaft(Single& z, Single Q, Single A, Single& h, Single eo, Single Po, Single Cc, Single Es,
+                         Integer SoilPropertyType, Single Exz_x, Single Gamma, bool AnalysisType, bool SettlementAt) {
+    RunKernel([&] {
+        SharedServices().SetPointer(PointerShape::Hourglass);
+        Session.A0 = A;
+        RaftInput input;
+        input.z = z;
+        input.Q = Q;
+        input.A = A;
+        input.B = Session.B;
+        input.h = h;
+        input.eo = eo;
+        input.Po = Po;
+        input.Cc = Cc;
+        input.Es = Es;
+        input.SoilPropertyType = SoilPropertyType;
+        input.Exz_x = Exz_x;
+        input.Exz_y = Session.Exz_y;
+        input.Gamma = Gamma;
+        input.AnalysisType = AnalysisType;
+        input.SettlementAt = SettlementAt;
+        const GiveBack giveBack(input, z, h);
+        const RaftResult result = CalculateCircularRaft(input);
+        ExportRaft(result);
+        WriteRaftReport(result);
+        SharedServices().SetPointer(PointerShape::Default);
+    });
+}
+
+}  // namespace lithmark
