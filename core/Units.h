@@ -5,17 +5,20 @@
 #include <string>
 
 #include "base/TextId.h"
+#include "core/Session.h"
 
 namespace lithmark {
 
 // The factor (display units per base unit) and the bracketed label of a derived unit. Selectors: 0 pressure, 1 moment
 // per length, 2 moment, 3 unit weight, 4 line load, 5 second moment of area, 6 area, 7 reinforcement per length,
-// 8 modulus, 9 moment per angle, 10 area per time, 11 length per time. Any other gives 0 and "[]".
+// 8 modulus, 9 moment per angle, 10 area per time, 11 length per time. Any other gives 0 and "[]". Powers go through
+// the general power function. DivisionByZero when a length factor of 0 stands under the line.
 double UnitFactor(long selector);
 std::string UnitLabel(long selector);
 
 // A value by a number format. An empty format gives the plain text of the value as a Single. `format` is a pattern of
-// FormatNumber; the decimal sign is the current one.
+// FormatNumber, or kLongDate, which takes the value as a day number (core/Dates.h). The decimal sign is the current one
+// in both cases, so that a dialog can read back what it shows.
 std::string FormatValue(double value, const std::string& format);
 
 // A row of the unit tables: the long name, the label (with brackets), and the factor to one metre or one kilonewton.
@@ -28,8 +31,20 @@ std::span<const UnitRow> LengthUnits();
 std::span<const UnitRow> ForceUnits();
 std::span<const UnitRow> TemperatureUnits();
 
-// Appends "000" to a format that is one character long, or holds an "E" or a "."; others stay.
+// The base units in force: m, cm, kN, MN and degrees Celsius, with labels of the current language and factors of 1.
+void SetDefaultUnits();
+
+// A row of the table of number formats: the field and its default. The rows stand in the order of the file "NOFORMAT".
+struct NumberFormatRow {
+    std::string SessionRecord::*Field;
+    const char* Default;
+};
+std::span<const NumberFormatRow> NumberFormats();
+
+// Appends "000" to a format that holds an "E" or a ".", or is one character long; others stay.
 void AdjustFormat(std::string& format);
+// The two derived formats, from FmtForce and FmtStress.
+void DeriveNumberFormats();
 // The eighteen number formats of the table, and the two derived ones, at their defaults.
 void SetDefaultNumberFormats();
 
