@@ -1,0 +1,258 @@
+#include "contour/CurveSets.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "base/NumberText.h"
+#include "core/Session.h"
+#include "core/Units.h"
+#include "report/ToolLib.h"
+#include "services/LanguageTexts.h"
+#include "services/NumericLib.h"
+#include "services/SharedServices.h"
+
+namespace lithmark {
+
+namespace {
+
+constexpr const char* kSolidLine = "Solid line";
+constexpr const char* kPoints = "Points";
+constexpr const char* kLinesNoMarkers = "LinesNoMarkers";
+
+// One data column: its head, and what the cell of row i holds.
+struct Column {
+    TextId Title;
+    std::string Symbol, Unit;
+    std::function<std::string(int)> Cell;
+};
+
+struct Curve {
+    std::string Legend;
+    const char* Style = kSolidLine;
+};
+
+std::string AxisTitle(TextId title, const std::string& symbol, const std::string& unit) {
+    return Text(title) + " " + symbol + " " + unit;
+}
+
+std::string AxisTitle(const Column& column) {
+    return AxisTitle(column.Title, column.Symbol, column.Unit);
+}
+
+// The cell of row i as a 32-bit number again.
+Single CellNumber(const std::string& cell) {
+    const auto number = ParseNumber(cell, SharedServices().DecimalSign);
+    if (!number) Fail(FailureKind::InvalidArgument);
+    return Single(*number);
+}
+
+// Puts rows 1 .. lastRow of the columns into the chart and describes the table in Session. Column 0 stays empty.
+void FillTable(ChartArguments& chart, int lastRow, const std::string& tableTitle, const std::vector<Column>& columns,
+               const std::vector<Curve>& curves) {
+    const int lastColumn = static_cast<int>(columns.size());
+    TableColumns(lastColumn, lastRow, tableTitle);
+    TableColumn(0, std::string(), "", std::string());
+    chart.Cells.Redim(0, lastRow, 0, lastColumn);
+    for (int c = 1; c <= lastColumn; ++c) {
+        const Column& column = columns[static_cast<std::size_t>(c - 1)];
+        TableColumn(c, column.Title, column.Symbol + Session.SymbolSuffix, column.Unit);
+        for (int row = 1; row <= lastRow; ++row)
+            if (column.Cell) chart.Cells(row, c) = column.Cell(row);
+    }
+    chart.Curves = static_cast<int>(curves.size());
+    chart.Legends.Redim(0, chart.Curves);
+    chart.LineStyles.Redim(0, chart.Curves);
+    for (int i = 1; i <= chart.Curves; ++i) {
+        chart.Legends(i) = curves[static_cast<std::size_t>(i - 1)].Legend;
+        chart.LineStyles(i) = curves[static_cast<std::size_t>(i - 1)].Style;
+    }
+    chart.XTitle = AxisTitle(columns[0]);
+    chart.YTitle = AxisTitle(columns[1]);
+}
+
+std::string TableTitle(const char* suffix) {
+    return Text(40079_text) + suffix;
+}
+
+Column TimeColumn() {
+    return {10247_text, "t", Session.TimeUnit, [](int i) { return NumberToText(i - 1); }};
+}
+
+bool InPerCent(const std::string& unit) {
+    return unit == "[%]";
+}
+
+// "Tab1": the stepped load line.
+void LoadCurveSet(ChartArguments& chart) {
+    const SessionRecord& p = Session;
+    const bool perCent = InPerCent(p.CurveLoadUnit);
+    const Column time{10247_text, "t", p.TimeUnit, [&](int i) { return NumberToText(p.LoadChartTime(i)); }};
+    const Column load{300053_text, perCent ? "EL" : "Ex", perCent ? "[%]" : p.Force1Label, [&, perCent](int i) {
+                          return perCent ? FormatValue(p.LoadChartNew(i), p.FmtPercent)
+                                         : FormatValue(p.LoadChartNew(i) * p.Force1Factor * p.Pt / 100, p.FmtForce);
+                      }};
+    // The second load series keeps a settlement's title, factor and format; kept: existing charts rely on it.
+    const Column previous{40081_text, "Zse", p.Len2Label, [&, perCent](int i) {
+                              const double value = p.LoadChartPrev(i) * p.Len2Factor;
+                              return FormatValue(perCent ? value : value * p.Pt / 100, p.FmtSettlement);
+                          }};
+    FillTable(chart, p.TimePeriod + p.NLoad, TableTitle(" T1"), {time, load, previous},
+              {{Text(400183_text)}, {Text(400003_text)}});
+    chart.ChartTitle = Text(300019_text);
+    chart.Flag = false;
+}
+
+// "Tab2": settlement under the load applied suddenly.
+void SuddenCurveSet(ChartArguments& chart) {
+    const SessionRecord& p = Session;
+    const bool perCent = InPerCent(p.CurveSettlementUnit);
+    const Column settlement{40081_text, perCent ? "Sts" : "Setn", p.CurveSettlementUnit, [&, perCent](int i) {
+                                return perCent ? FormatValue(p.SuddenPercent(i - 1), p.FmtPercent)
+                                               : FormatValue(p.SuddenSettlement(i - 1) * p.Len2Factor, p.FmtSettlement);
+                            }};
+    FillTable(chart, p.TimePeriod + 1, TableTitle(" T2"), {TimeColumn(), settlement}, {{Text(300052_text)}});
+    chart.ChartTitle = Text(300052_text);
+}
+
+// "Tab3": settlement of the building.
+void BuildingCurveSet(ChartArguments& chart) {
+    const SessionRecord& p = Session;
+    const bool perCent = InPerCent(p.CurveSettlementUnit);
+    const Column settlement{40081_text, "Zse", p.CurveSettlementUnit, [&, perCent](int i) {
+                                return perCent ? FormatValue(Quotient(p.SettlementSum(i) * 100, p.Sc), p.FmtPercent)
+                                               : FormatValue(p.SettlementSum(i) * p.Len2Factor, p.FmtSettlement);
+                            }};
+    FillTable(chart, p.TimePeriod + 1, TableTitle(" T3"), {TimeColumn(), settlement}, {{Text(140188_text)}});
+    chart.ChartTitle = Text(140188_text);
+}
+
+// "Tab4": computed and corrected settlement; the settlement unit choice has no effect here.
+void CorrectedCurveSet(ChartArguments& chart) {
+    const SessionRecord& p = Session;
+    const Column computed{40081_text, "Zse", p.Len2Label,
+                          [&](int i) { return FormatValue(p.SettlementSum(i) * p.Len2Factor, p.FmtSettlement); }};
+    const Column corrected{40081_text, "Zse", p.Len2Label, [&](int i) {
+                               return FormatValue(p.SettlementSum(i) * p.Len2Factor * p.MeasureFactor, p.FmtSettlement);
+                           }};
+    FillTable(chart, p.TimePeriod + 1, TableTitle(" T4"), {TimeColumn(), computed, corrected},
+              {{Text(140188_text)}, {Text(300056_text)}});
+    chart.ChartTitle = Text(300054_text);
+}
+
+std::string LengthCell(Single value) {
+    return FormatValue(value * Session.Len1Factor, Session.FmtLength);
+}
+
+std::string StressCell(Single value) {
+    return FormatValue(value * UnitFactor(0), Session.FmtStress);
+}
+
+std::string SettlementCell(Single value) {
+    return FormatValue(value * Session.Len2Factor, Session.FmtSettlement);
+}
+
+// "Tab5": contact pressure along the middle row. The abscissa is "z" in the table and "x" on the axis; both stay.
+void PressureCurveSet(ChartArguments& chart) {
+    const SessionRecord& p = Session;
+    const std::string stress = UnitLabel(0);
+    const Column place{400004_text, "z", p.Len1Label, [&](int i) { return LengthCell(p.RaftMidX(i)); }};
+    const Column mean{160007_text, "qm", stress, [&](int) { return StressCell(p.RaftMeanPressure); }};
+    const Column pressure{90098_text, "q", stress, [&](int i) { return StressCell(p.RaftMidPressure(i)); }};
+    FillTable(chart, p.RaftMidCount, TableTitle(" 1"), {place, mean, pressure},
+              {{Text(160007_text)}, {Text(90098_text)}});
+    chart.ChartTitle = Text(300077_text);
+    chart.XTitle = AxisTitle(400004_text, "x", p.Len1Label);
+    chart.YTitle = AxisTitle(pressure);
+}
+
+// "Tab6": settlements along the middle row, the straight line through them, and the flexible raft.
+void RaftSettlementCurveSet(ChartArguments& chart) {
+    const SessionRecord& p = Session;
+    const TextId title = p.ProblemType == 9 ? 90046_text : 140186_text;
+    const Column place{400004_text, "x", p.Len1Label, [&](int i) { return LengthCell(p.RaftMidX(i)); }};
+    const Column settlement{title, "s", p.Len2Label, [&](int i) { return SettlementCell(p.RaftMidSettlement(i)); }};
+    const Column line{300080_text, "sm", p.Len2Label, nullptr};
+    const Column flexible{300087_text, "sf", p.Len2Label, [&](int i) { return SettlementCell(p.RaftMidFlexible(i)); }};
+    FillTable(chart, p.RaftMidCount, TableTitle(" 1"), {place, settlement, line, flexible},
+              {{Text(title), kPoints}, {Text(300080_text), kLinesNoMarkers}, {Text(300087_text), kSolidLine}});
+
+    // The line is fitted to the shown, rounded numbers and evaluated at the coordinates in metres; kept: existing
+    // charts rely on it.
+    const int n = p.RaftMidCount;
+    Array<Single> x(1, n), y(1, n);
+    for (int i = 1; i <= n; ++i) {
+        x(i) = CellNumber(chart.Cells(i, 1));
+        y(i) = CellNumber(chart.Cells(i, 2));
+    }
+    Single intercept, slope;
+    NumericLib::FitLine(n, x, y, intercept, slope);
+    for (int i = 1; i <= n; ++i) chart.Cells(i, 3) = FormatValue(slope * p.RaftMidX(i) + intercept, "");
+    chart.ChartTitle = Text(title);
+}
+
+// Problem 5: pore water pressure over depth, at the start and at the time of the calculation.
+void IsochroneCurveSet(ChartArguments& chart) {
+    const SessionRecord& p = Session;
+    const std::string stress = UnitLabel(0);
+    const Column depth{300018_text, "z", p.Len1Label, [&](int i) { return LengthCell(p.IsoZ(i - 1)); }};
+    const Column start{300016_text, "u0", stress, [&](int i) { return StressCell(p.IsoU0(i - 1)); }};
+    const Column end{300017_text, "uf", stress, [&](int i) { return StressCell(p.IsoUf(i - 1)); }};
+    FillTable(chart, p.IsoLast + 1, TableTitle(" 1"), {depth, start, end}, {{Text(300016_text)}, {Text(300017_text)}});
+    chart.ChartTitle = Text(300015_text);
+    chart.YTitle = AxisTitle(300015_text, "u", stress);
+    chart.Flag = false;
+}
+
+std::string ProjectText() {
+    const Style label{4};
+    return Text(11_text, label) + Session.Auftr + "\n" + Text(12_text, label) + Session.Datum + "\n" +
+           Text(95_text, label) + Session.Proj + "\n" + Text(107_text, label) + Session.ProjectName + "\n";
+}
+
+}  // namespace
+
+ChartArguments BuildChart() {
+    ChartArguments chart;
+    chart.Flag = true;
+    const std::string& choice = Session.CurveChoice;
+    const bool raft = choice == "Tab5" || choice == "Tab6";
+    if (Session.ProblemType == 5)
+        IsochroneCurveSet(chart);
+    else if (choice == "Tab1")
+        LoadCurveSet(chart);
+    else if (choice == "Tab2")
+        SuddenCurveSet(chart);
+    else if (choice == "Tab3")
+        BuildingCurveSet(chart);
+    else if (choice == "Tab4")
+        CorrectedCurveSet(chart);
+    else if (choice == "Tab5")
+        PressureCurveSet(chart);
+    else if (choice == "Tab6")
+        RaftSettlementCurveSet(chart);
+    else
+        Fail(FailureKind::InvalidArgument);
+
+    if (Session.ProblemType != 5 && raft && Session.LoadType == 3) {
+        chart.XStart = -Session.A0;
+        chart.XEnd = Session.A0;
+    } else if (Session.ProblemType != 5 && raft && Session.LoadType == 2) {
+        chart.XStart = 0;
+        chart.XEnd = Session.A;
+    } else {
+        chart.XStart = CellNumber(chart.Cells(1, 1));
+        chart.XEnd = CellNumber(chart.Cells(Session.TableLastRow, 1));
+    }
+    chart.ProjectText = ProjectText();
+    BuildTableHeader(chart.Header);
+    chart.LastColumn = Session.TableLastColumn;
+    chart.LastRow = Session.TableLastRow;
+    chart.HeaderRows = Session.HeaderRows;
+    chart.TableTitle = Session.TableTitle;
+    chart.CompanyLine1 = Session.FirmaLine1;
+    chart.CompanyLine2 = Session.FirmaLine2;
+    return chart;
+}
+
+}  // namespace lithmark

@@ -1,0 +1,17 @@
+// The curve sets: a problem's results as a table with a chart description, ready for ShowChart.
+//
+// Problem 5 has one fixed set. The time-settlement problems have "Tab1" (load), "Tab2" (sudden-load curve), "Tab3"
+// (settlement of the building) and "Tab4" (corrected settlement); the rafts "Tab5" (contact pressure) and "Tab6"
+// (settlements along the middle row). The choice and its units are Session.CurveChoice, CurveLoadUnit and
+// CurveSettlementUnit.
+#pragma once
+
+#include "services/Charting.h"
+
+namespace lithmark {
+
+// The chart of Session.ProblemType and Session.CurveChoice from the results of the last run. Also fills Session's table
+// fields. Throws Failure: a result missing (SubscriptRange), per cent of a final settlement of 0 (DivisionByZero).
+ChartArguments BuildChart();
+
+}  // namespace lithmark
