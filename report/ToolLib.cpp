@@ -52,10 +52,6 @@ void AppendLine(const std::string& line) {
     Session.ResultText += kLineEnd;
 }
 
-std::string Centred(const std::string& text) {
-    return Blanks(static_cast<int>(RoundHalfEven((kReportWidth - Length(text)) / 2.0))) + text;
-}
-
 // The number that a string of digits holds. A ready text of digits alone counts as a number in the parameter block and
 // in ReportLines.
 std::optional<int> DigitsOf(const std::string& text) {
@@ -114,6 +110,10 @@ std::string ResolvedUnit(const ColumnUnit& unit) {
 
 std::string Ruler() {
     return std::string(kReportWidth, '-');
+}
+
+std::string Centred(const std::string& text) {
+    return Blanks(static_cast<int>(RoundHalfEven((kReportWidth - Length(text)) / 2.0))) + text;
 }
 
 void ReportHeading() {

@@ -19,6 +19,10 @@ inline const std::string kLineEnd = "\r\n";
 // 60 characters "-".
 std::string Ruler();
 
+// The text with the blanks in front that centre it in the report's width; half a blank goes to the even number. A
+// longer text stays as it is.
+std::string Centred(const std::string& text);
+
 // Starts a new report with the heading block, then ClearParameters.
 void ReportHeading();
 
