@@ -6,6 +6,7 @@
 
 #include <atomic>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <system_error>
@@ -16,6 +17,7 @@ namespace lithmark {
 namespace {
 
 constexpr std::size_t kBufferSize = 1 << 16;
+constexpr char kTemporaryStart[] = ".lithmark-", kTemporaryEnd[] = ".tmp";
 
 // Writes all bytes, at an offset or, when it is negative, at the current place.
 void WriteAll(int descriptor, std::string_view bytes, std::int64_t offset) {
@@ -78,7 +80,8 @@ void WrittenFile::OpenTemporary() {
     const std::string folder = slash == std::string::npos ? "" : target_.substr(0, slash + 1);
     // The name is short whatever the target is called, so that long names can be written too.
     do {
-        temporary_ = folder + ".lithmark-" + std::to_string(::getpid()) + "-" + std::to_string(++counter) + ".tmp";
+        temporary_ =
+            folder + kTemporaryStart + std::to_string(::getpid()) + "-" + std::to_string(++counter) + kTemporaryEnd;
         descriptor_ = ::open(temporary_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
     } while (descriptor_ < 0 && errno == EEXIST);
     if (descriptor_ < 0) {
@@ -103,11 +106,15 @@ void WrittenFile::Flush() {
     WriteAll(descriptor_, bytes, -1);
 }
 
+void WrittenFile::Sync() {
+    Flush();
+    if (!temporary_.empty() && ::fsync(descriptor_) != 0) FailWithSystemError(errno, FailureKind::WriteError);
+}
+
 void WrittenFile::Commit() {
     try {
-        Flush();
+        Sync();
         const bool replaces = !temporary_.empty();
-        if (replaces && ::fsync(descriptor_) != 0) FailWithSystemError(errno, FailureKind::WriteError);
         if (::close(std::exchange(descriptor_, -1)) != 0) FailWithSystemError(errno, FailureKind::WriteError);
         if (!replaces) return;
         if (std::rename(temporary_.c_str(), target_.c_str()) != 0) FailWithSystemError(errno, FailureKind::WriteError);
@@ -162,6 +169,18 @@ std::string ReadWholeFile(const std::string& path) {
     ::close(descriptor);
     if (error != 0) FailWithSystemError(error, FailureKind::ReadError);
     return content;
+}
+
+void RemoveStaleTemporaries(const std::string& folder) noexcept {
+    namespace fs = std::filesystem;
+    std::error_code error;
+    for (fs::directory_iterator it(folder, error), end; !error && it != end; it.increment(error)) {
+        const std::string name = it->path().filename().string();
+        if (!name.starts_with(kTemporaryStart) || !name.ends_with(kTemporaryEnd)) continue;
+        std::error_code ofFile;
+        const auto age = fs::file_time_type::clock::now() - it->last_write_time(ofFile);
+        if (!ofFile && age > std::chrono::hours(24)) fs::remove(it->path(), ofFile);
+    }
 }
 
 void SyncFolderOf(const std::string& path) noexcept {

@@ -26,6 +26,10 @@ class WrittenFile {
     void Append(std::string_view bytes);
     // Bytes at an offset from the start; what lies between is zero. Not to be mixed with Append.
     void WriteAt(std::int64_t offset, std::string_view bytes);
+    // Everything on the disk, but not in place yet.
+    void Sync();
+    // Where the content stands until Commit.
+    const std::string& TemporaryName() const noexcept { return temporary_; }
     // Everything on the disk and in place. When it fails, the target is as it was.
     void Commit();
 
@@ -46,6 +50,9 @@ std::string ReadWholeFile(const std::string& path);
 
 // Makes what was done to a folder's entries lasting, as far as the file system can.
 void SyncFolderOf(const std::string& path) noexcept;
+
+// Removes what a crash more than a day ago left in a folder: content that never took its target's place.
+void RemoveStaleTemporaries(const std::string& folder) noexcept;
 
 // The failure that a system error number stands for.
 [[noreturn]] void FailWithSystemError(int error, FailureKind otherwise);

@@ -1,0 +1,79 @@
+#include "services/FileDialogs.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+
+#include "base/Utf8.h"
+#include "services/FileNames.h"
+#include "services/Host.h"
+#include "services/LanguageTexts.h"
+
+namespace lithmark {
+
+namespace {
+
+constexpr std::string_view kProjectExtension = "PO3";
+constexpr int kProjectFile = 6;
+
+bool HasExtension(const std::string& path, std::string_view extension) {
+    return UpperAscii(ExtensionOf(path)) == UpperAscii(extension);
+}
+
+// A project as a whole and the data of one problem have dialogs of different titles.
+std::string Title(const std::string& pattern, TextId forProject, TextId forData) {
+    return Text(HasExtension("." + pattern, kProjectExtension) ? forProject : forData);
+}
+
+}  // namespace
+
+bool FileDialogsService::OpenFileDialog(std::string& file, const std::string& startDir, std::string& outDir,
+                                        std::string& outName, const std::string& pattern) {
+    const auto chosen = CurrentHost().ChooseFileToOpen(Title(pattern, 124_text, 10016_text), startDir, pattern);
+    if (!chosen) return false;
+    file = MappedFileName(*chosen);
+    SplitProjectPath(file, outDir, outName);
+    return true;
+}
+
+bool FileDialogsService::SaveFileDialog(std::string& file, const std::string& startDir, std::string& outDir,
+                                        std::string& outName, const std::string& extension) {
+    const auto chosen =
+        CurrentHost().ChooseFileToSave(Title(extension, 10339_text, 9_text), startDir, outName, extension);
+    if (!chosen) return false;
+    file = MappedFileName(HasExtension(*chosen, extension) ? *chosen : *chosen + "." + extension);
+    SplitProjectPath(file, outDir, outName);
+    return true;
+}
+
+void FileDialogsService::SplitProjectPath(const std::string& file, std::string& dir, std::string& name) const {
+    std::error_code error;
+    const std::filesystem::path mapped = MappedFileName(file);
+    const auto absolute = std::filesystem::absolute(mapped, error);
+    const std::filesystem::path path = (error ? mapped : absolute).lexically_normal();
+    std::string stem = path.filename().string();
+    const std::string extension = UpperAscii(ExtensionOf(stem));
+    const auto known = ProjectExtensions();
+    if (std::find(known.begin(), known.end(), extension) != known.end())
+        stem.resize(stem.size() - extension.size() - 1);
+    dir = WithSeparator(path.parent_path().string());
+    name = stem;
+}
+
+bool FileDialogsService::ResolveProjectPath(const std::string& path, std::string& file, std::string& dir,
+                                            std::string& name, const std::string& extension, int kind) const {
+    const std::string wanted = extension.empty() && kind == kProjectFile ? std::string(kProjectExtension) : extension;
+    const std::string found = MappedFileName(HasExtension(path, wanted) ? path : path + "." + wanted);
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(found, error)) return false;
+    SplitProjectPath(found, dir, name);
+    file = dir + std::filesystem::path(found).filename().string();
+    return true;
+}
+
+FileDialogsService& FileDialogs() {
+    static FileDialogsService instance;
+    return instance;
+}
+
+}  // namespace lithmark

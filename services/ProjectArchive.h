@@ -1,0 +1,25 @@
+// The packed form of a project: a ZIP archive of its files.
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+
+namespace lithmark {
+
+// The bytes of a project's files by their extensions, upper case.
+using ProjectFiles = std::map<std::string, std::string>;
+
+// True when a file begins as an archive does. False for a file that cannot be read.
+bool IsArchiveFile(const std::string& path);
+
+// The archive of the files; its entries are called `name` with the extensions. WriteError when it cannot be built.
+std::string BuildArchive(const std::string& name, const ProjectFiles& files);
+
+// The files of an archive. What the entries are called ahead of their extensions does not matter, so a packed project
+// can be renamed like any file. DamagedArchive when a checksum or a length is wrong, when an entry is no project file,
+// stands twice or tries to leave the folder, when the project file itself is missing, or when more than 1 GiB would
+// come out.
+ProjectFiles ReadArchive(std::string_view archive);
+
+}  // namespace lithmark

@@ -1,0 +1,232 @@
+// Directories, units, company lines, language, and the store behind them.
+#include <gmock/gmock.h>
+
+#include "services/SharedServices.h"
+#include "support/Files.h"
+#include "support/ScriptedHost.h"
+
+using namespace lithmark;
+using namespace lithmark::tests;
+using ::testing::AllOf;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+namespace {
+
+class Settings : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        SharedServices().UseSettingsDirectory(folder.Dir());
+        LanguageTexts().SetCurrent(Language::English);
+    }
+    void TearDown() override {
+        SharedServices().UseSettingsDirectory("");
+        LanguageTexts().SetCurrent(Language::English);
+    }
+    TestFolder folder;
+    ScriptedHost host;
+};
+
+// --- the store -----------------------------------------------------------------------------------------------------
+
+TEST_F(Settings, ValuesOfEveryTypeComeBack) {
+    SharedServices().SaveSetting("App", "Settings", "File Bar", false);
+    SharedServices().SaveSetting("App", "Settings", "Count", 70000L);
+    SharedServices().SaveSetting("App", "Other", "File Bar", std::string("Größe \"1\"\nمشروع"));
+    EXPECT_FALSE(SharedServices().GetSetting("App", "Settings", "File Bar", true));
+    EXPECT_EQ(SharedServices().GetSetting("App", "Settings", "Count", 1L), 70000);
+    EXPECT_EQ(SharedServices().GetSetting("App", "Other", "File Bar", ""), "Größe \"1\"\nمشروع");
+    SharedServices().SaveSetting("App", "Settings", "File Bar", true);
+    EXPECT_TRUE(SharedServices().GetSetting("App", "Settings", "File Bar", false));
+    EXPECT_THAT(folder.Names(), ElementsAre("settings.json"));
+}
+
+TEST_F(Settings, WhatIsMissingOrOfAnotherTypeGivesTheDefault) {
+    EXPECT_TRUE(SharedServices().GetSetting("App", "Settings", "File Bar", true));
+    SharedServices().SaveSetting("App", "Settings", "File Bar", std::string("yes"));
+    EXPECT_TRUE(SharedServices().GetSetting("App", "Settings", "File Bar", true));
+    EXPECT_EQ(SharedServices().GetSetting("App", "Settings", "File Bar", 3L), 3);
+    EXPECT_EQ(SharedServices().GetSetting("Another", "Settings", "File Bar", "none"), "none");
+}
+
+TEST_F(Settings, ADamagedStoreIsSetAsideToldOnceAndDefaultsServe) {
+    for (const std::string& damage : {std::string("{\"App\": {"), std::string("[1, 2]"), std::string(),
+                                      std::string("\0\xFF\x80junk", 7), std::string(200000, '[')}) {
+        WriteBytes(folder / "settings.json", damage);
+        host.Messages.clear();
+        EXPECT_TRUE(SharedServices().GetSetting("App", "Settings", "File Bar", true));
+        EXPECT_EQ(ReadBytes(folder / "settings.json.damaged"), damage);
+        SharedServices().SaveSetting("App", "Settings", "File Bar", false);
+        EXPECT_FALSE(SharedServices().GetSetting("App", "Settings", "File Bar", true));
+        ASSERT_THAT(host.Messages, SizeIs(1));
+        EXPECT_THAT(host.LastMessage().Text, HasSubstr("settings.json.damaged"));
+    }
+}
+
+TEST_F(Settings, SectionsOfAnUnexpectedShapeDoNoHarm) {
+    WriteBytes(folder / "settings.json", R"({"App": 5, "Other": {"Settings": [1], "Key": {}}})");
+    EXPECT_EQ(SharedServices().GetSetting("App", "Settings", "Key", "d"), "d");
+    EXPECT_EQ(SharedServices().GetSetting("Other", "Settings", "Key", "d"), "d");
+    SharedServices().SaveSetting("App", "Settings", "Key", std::string("v"));
+    EXPECT_EQ(SharedServices().GetSetting("App", "Settings", "Key", "d"), "v");
+    EXPECT_THAT(host.Messages, IsEmpty());
+}
+
+TEST_F(Settings, AStoreThatCannotBeWrittenIsToldOnce) {
+    std::filesystem::create_directory(folder / "settings.json");
+    SharedServices().SaveSetting("App", "Settings", "A", true);
+    SharedServices().SaveSetting("App", "Settings", "B", true);
+    ASSERT_THAT(host.Messages, SizeIs(1));
+    EXPECT_THAT(host.LastMessage().Text, HasSubstr("settings.json"));
+    EXPECT_FALSE(SharedServices().GetSetting("App", "Settings", "A", false));
+}
+
+TEST_F(Settings, TheStoresFolderIsMadeWhenItIsNeeded) {
+    SharedServices().UseSettingsDirectory(folder / "new/deep");
+    SharedServices().SaveSetting("App", "Settings", "A", true);
+    EXPECT_TRUE(SharedServices().GetSetting("App", "Settings", "A", false));
+}
+
+// --- directories ---------------------------------------------------------------------------------------------------
+
+TEST_F(Settings, WithoutTheSettingFileTheDataLieInTheProgramDirectory) {
+    const Directories directories = SharedServices().GetDirectories();
+    EXPECT_EQ(directories.ProgramDir, folder.Dir());
+    EXPECT_EQ(directories.DataDir, folder.Dir());
+    EXPECT_EQ(directories.CompressFlag, 2);
+    EXPECT_THAT(host.Messages, IsEmpty());
+}
+
+TEST_F(Settings, TheSettingFileTellsDataDirectoryAndPacking) {
+    WriteBytes(folder / "STEU", "/data/projects\r\n7\r\n");
+    Directories directories = SharedServices().GetDirectories();
+    EXPECT_EQ(directories.ProgramDir, folder.Dir());
+    EXPECT_EQ(directories.DataDir, "/data/projects/");
+    EXPECT_EQ(directories.CompressFlag, 7);
+    WriteBytes(folder / "STEU", "\\data\\old projects\\\r\n0\r\n");
+    directories = SharedServices().GetDirectories();
+    EXPECT_EQ(directories.DataDir, "/data/old projects/");
+    EXPECT_EQ(directories.CompressFlag, 0);
+}
+
+TEST_F(Settings, ADamagedSettingFileIsToldAndCountsAsMissing) {
+    WriteBytes(folder / "STEU", "/data/projects\r\nseven\r\n");
+    const Directories directories = SharedServices().GetDirectories();
+    EXPECT_EQ(directories.DataDir, folder.Dir());
+    EXPECT_EQ(directories.CompressFlag, 2);
+    EXPECT_THAT(host.LastMessage().Text, AllOf(HasSubstr("STEU"), HasSubstr("Line 2"), HasSubstr("seven")));
+}
+
+TEST_F(Settings, WithoutAnExplicitDirectoryTheProgramsOwnServes) {
+    SharedServices().UseSettingsDirectory("");
+    const std::string own = std::filesystem::read_symlink("/proc/self/exe").parent_path().string() + "/";
+    EXPECT_EQ(SharedServices().ResourceDir(), own);
+    EXPECT_EQ(SharedServices().GetHelpFile("verda"), own + "help/verda.html");
+    EXPECT_EQ(SharedServices().GetDirectories().ProgramDir, own);
+}
+
+TEST_F(Settings, TheStoreOfAUserLiesInTheUsersOwnDirectory) {
+    SharedServices().UseSettingsDirectory("");
+    const char* before = std::getenv("XDG_CONFIG_HOME");
+    const std::string kept = before != nullptr ? before : "";
+    ::setenv("XDG_CONFIG_HOME", (folder / "config").c_str(), 1);
+    SharedServices().SaveSetting("App", "Settings", "A", true);
+    before != nullptr ? ::setenv("XDG_CONFIG_HOME", kept.c_str(), 1) : ::unsetenv("XDG_CONFIG_HOME");
+    EXPECT_TRUE(std::filesystem::exists(folder / "config/lithmark/settings.json"));
+}
+
+// --- units ---------------------------------------------------------------------------------------------------------
+
+void ExpectDefaults(const UnitSettings& units) {
+    EXPECT_EQ(units.Len1Label + units.Len2Label + units.Force1Label + units.Force2Label + units.TempLabel,
+              "[m][cm][kN][MN][°C]");
+    EXPECT_EQ(units.Len1Factor * units.Len2Factor * units.Force1Factor * units.Force2Factor, 1);
+}
+
+TEST_F(Settings, WithoutTheUnitsFileTheBaseUnitsAreInForce) {
+    ExpectDefaults(SharedServices().GetUnits(folder.Dir()));
+    EXPECT_THAT(host.Messages, IsEmpty());
+}
+
+TEST_F(Settings, TheUnitsFileGivesLabelsAndFactors) {
+    WriteBytes(
+        folder / "Units",
+        "\"[ft]\",3.28083989501312\r\n\"[mm]\",10\r\n\"[kip]\",.224808923655339\r\n\"[kN]\",1000\r\n\"[°F]\"\r\n");
+    const UnitSettings units = SharedServices().GetUnits(folder.Dir());
+    EXPECT_EQ(units.Len1Label + units.Len2Label + units.Force1Label + units.Force2Label + units.TempLabel,
+              "[ft][mm][kip][kN][°F]");
+    EXPECT_EQ(units.Len1Factor, 3.28083989501312);
+    EXPECT_EQ(units.Len2Factor, 10);
+    EXPECT_EQ(units.Force1Factor, 0.224808923655339);
+    EXPECT_EQ(units.Force2Factor, 1000);
+    EXPECT_THAT(host.Messages, IsEmpty());
+}
+
+TEST_F(Settings, AnOlderUnitsFileHasItsDegreeSignInTheOldCodePage) {
+    WriteBytes(folder / "Units",
+               "\"[m]\",1\r\n\"[cm]\",1\r\n\"[kN]\",1\r\n\"[MN]\",1\r\n\"[\xB0"
+               "C]\"\r\n");
+    ExpectDefaults(SharedServices().GetUnits(folder.Dir()));
+    EXPECT_THAT(host.Messages, IsEmpty());
+}
+
+TEST_F(Settings, ADamagedUnitsFileIsToldWithItsLineAndCountsAsMissing) {
+    const std::string good = "\"[mm]\",1000\r\n\"[mm]\",10\r\n\"[N]\",1000\r\n";
+    const struct {
+        std::string Rest, Line, Word;
+    } cases[] = {{"\"[furlong]\",1\r\n\"[°C]\"\r\n", "4", "[furlong]"},
+                 {"\"[kN]\",many\r\n\"[°C]\"\r\n", "4", "many"},
+                 {"\"[kN]\",0\r\n\"[°C]\"\r\n", "4", "0"},
+                 {"\"[kN]\",-1\r\n\"[°C]\"\r\n", "4", "-1"},
+                 {"\"[kN]\",1000\r\n", "5", ""},
+                 {"\"[kN]\",1000\r\n\"[°X]\"\r\n", "5", "[°X]"}};
+    for (const auto& one : cases) {
+        WriteBytes(folder / "Units", good + one.Rest);
+        ExpectDefaults(SharedServices().GetUnits(folder.Dir()));
+        EXPECT_THAT(host.LastMessage().Text,
+                    AllOf(HasSubstr(folder / "Units"), HasSubstr("ine " + one.Line), HasSubstr(one.Word)));
+    }
+    EXPECT_THAT(host.Messages, SizeIs(std::size(cases)));
+}
+
+// --- company and language ------------------------------------------------------------------------------------------
+
+TEST_F(Settings, CompanyLinesAreKeptWhenTheyWereChanged) {
+    CompanyLines lines = SharedServices().GetFirmaData();
+    EXPECT_EQ(lines.Line1 + lines.Line2, "");
+    host.AnswerCompanyLines(std::nullopt);
+    EXPECT_FALSE(SharedServices().EditFirmaData(lines));
+    host.AnswerCompanyLines(CompanyLines{"", ""});
+    EXPECT_FALSE(SharedServices().EditFirmaData(lines));
+    EXPECT_THAT(folder.Names(), IsEmpty());
+    host.AnswerCompanyLines(CompanyLines{"Grundbau GmbH", "Kassel"});
+    EXPECT_TRUE(SharedServices().EditFirmaData(lines));
+    EXPECT_EQ(lines.Line2, "Kassel");
+    EXPECT_EQ(SharedServices().GetFirmaData().Line1, "Grundbau GmbH");
+}
+
+TEST_F(Settings, TheChosenLanguageIsInForceAndKept) {
+    host.AnswerLanguage(Language::Arabic);
+    SharedServices().ChooseLanguage();
+    EXPECT_EQ(LanguageTexts().Current(), Language::Arabic);
+    LanguageTexts().SetCurrent(Language::English);
+    SharedServices().LoadLanguage();
+    EXPECT_EQ(LanguageTexts().Current(), Language::Arabic);
+    host.AnswerLanguage(std::nullopt);
+    SharedServices().ChooseLanguage();
+    EXPECT_EQ(LanguageTexts().Current(), Language::Arabic);
+}
+
+TEST_F(Settings, WithoutAStoredLanguageTheGivenOneIsInForce) {
+    SharedServices().LoadLanguage();
+    EXPECT_EQ(LanguageTexts().Current(), Language::English);
+    SharedServices().LoadLanguage(Language::German);
+    EXPECT_EQ(LanguageTexts().Current(), Language::German);
+    SharedServices().SaveSetting(kApplicationTitle, "Settings", "Language", std::string("Latin"));
+    SharedServices().LoadLanguage();
+    EXPECT_EQ(LanguageTexts().Current(), Language::English);
+}
+
+}  // namespace
