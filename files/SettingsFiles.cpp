@@ -1,0 +1,125 @@
+#include "files/SettingsFiles.h"
+
+#include "core/Session.h"
+#include "core/StartSession.h"
+#include "core/Units.h"
+#include "files/GloableVariable.h"
+#include "services/SharedServices.h"
+
+namespace lithmark {
+
+namespace {
+
+constexpr int kFile = 1;
+
+// Reads a settings file; true when there was one. What `read` does not reach keeps its value; a failure is told.
+template <typename Read>
+bool ReadSettings(const std::string& name, Read&& read) {
+    const std::string path = Session.ProgramDir + name;
+    if (SharedServices().FileMissing(path, true)) return false;
+    try {
+        if (OpenDataFile(path, FileMode::Input, kFile) != 0) return false;
+        read();
+        CloseDataFile(kFile);
+    } catch (const Failure& failure) {
+        FileError(failure);
+    }
+    return true;
+}
+
+template <typename Write>
+void WriteSettings(const std::string& name, Write&& write) {
+    Session.FileSaved = false;
+    try {
+        OpenDataFile(Session.ProgramDir + name, FileMode::Output, kFile);
+        write();
+        CloseDataFile(kFile);
+        Session.FileSaved = true;
+    } catch (const Failure& failure) {
+        FileError(failure);
+    }
+}
+
+// The form of a label that no language changes: that of the row whose label text it is.
+std::string CanonicalLabel(std::span<const UnitRow> units, const std::string& label) {
+    for (const UnitRow& unit : units)
+        if (Text(unit.UnitLabel) == label) return unit.InFiles;
+    return label;
+}
+
+}  // namespace
+
+void LoadUnits() {
+    const UnitSettings units = SharedServices().GetUnits(Session.ProgramDir);
+    Session.Len1Label = units.Len1Label;
+    Session.Len1Factor = units.Len1Factor;
+    Session.Len2Label = units.Len2Label;
+    Session.Len2Factor = units.Len2Factor;
+    Session.Force1Label = units.Force1Label;
+    Session.Force1Factor = units.Force1Factor;
+    Session.Force2Label = units.Force2Label;
+    Session.Force2Factor = units.Force2Factor;
+    Session.TempLabel = units.TempLabel;
+}
+
+void WriteUnits() {
+    const auto pair = [](std::span<const UnitRow> units, const std::string& label, double factor) {
+        WriteList(kFile, {CanonicalLabel(units, label), factor});
+    };
+    OpenDataFile(Session.ProgramDir + "Units", FileMode::Output, kFile);
+    pair(LengthUnits(), Session.Len1Label, Session.Len1Factor);
+    pair(LengthUnits(), Session.Len2Label, Session.Len2Factor);
+    pair(ForceUnits(), Session.Force1Label, Session.Force1Factor);
+    pair(ForceUnits(), Session.Force2Label, Session.Force2Factor);
+    WriteList(kFile, {CanonicalLabel(TemperatureUnits(), Session.TempLabel)});
+    CloseDataFile(kFile);
+}
+
+void LoadNumberFormats() {
+    SetDefaultNumberFormats();
+    ReadSettings("NOFORMAT", [] {
+        for (const NumberFormatRow& row : NumberFormats()) Session.*row.Field = ReadRawLine(kFile);
+    });
+    DeriveNumberFormats();
+}
+
+void LoadPreferences() {
+    SetDefaultPreferences();
+    ReadSettings("Preferen.tol", [] {
+        Session.PrefDx = ReadSingle(kFile);
+        Session.PrefDy = ReadSingle(kFile);
+        Session.PrefDz = ReadSingle(kFile);
+        Session.PrefND = ReadInteger(kFile);
+        Session.PrefTol = ReadSingle(kFile);
+        Session.PrefImax = ReadInteger(kFile);
+    });
+}
+
+void SavePreferences() {
+    WriteSettings("Preferen.tol", [] {
+        WriteNumber(kFile, Session.PrefDx);
+        WriteNumber(kFile, Session.PrefDy);
+        WriteNumber(kFile, Session.PrefDz);
+        WriteNumber(kFile, Session.PrefND);
+        WriteNumber(kFile, Session.PrefTol);
+        WriteNumber(kFile, Session.PrefImax);
+    });
+}
+
+void ReadDataDirSettings(std::string& dataDir) {
+    dataDir = Session.ProgramDir;
+    Session.CompressFlag = 2;
+    ReadSettings("STEU", [&] {
+        dataDir = ReadRawLine(kFile);
+        Session.CompressFlag = ReadLong(kFile);
+    });
+}
+
+void WriteDataDirSettings(const std::string& dataDir) {
+    WriteSettings("STEU", [&] {
+        WriteRawLine(kFile, dataDir);
+        WriteNumber(kFile, Session.CompressFlag);
+    });
+}
+
+}  // namespace lithmark

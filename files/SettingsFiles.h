@@ -1,0 +1,27 @@
+// The settings files of the program directory: "Units", "NOFORMAT", "Preferen.tol" and "STEU".
+#pragma once
+
+#include <string>
+
+namespace lithmark {
+
+// Puts the units of the file "Units" into Session. Without the file the base units hold.
+void LoadUnits();
+// Writes Session's units in the form that no language changes. Throws Failure.
+void WriteUnits();
+
+// The eighteen number formats of "NOFORMAT", a raw line each; defaults without the file, and for the lines that a short
+// file lacks, which is told.
+void LoadNumberFormats();
+
+// The six preferences of "Preferen.tol"; defaults without the file.
+void LoadPreferences();
+// Writes them and sets Session.FileSaved; a failure goes through FileError.
+void SavePreferences();
+
+// The data directory and Session.CompressFlag of "STEU". Without the file: the program directory and 2.
+void ReadDataDirSettings(std::string& dataDir);
+// Writes both and sets Session.FileSaved; a failure goes through FileError.
+void WriteDataDirSettings(const std::string& dataDir);
+
+}  // namespace lithmark
