@@ -9,7 +9,7 @@ namespace lithmark {
 
 struct ProblemRow {
     int ProblemType;
-    int MenuEntry;          // index of mnuProblem
+    int MenuEntry;  // index of mnuProblem
     TextId MenuText;
     const char* Extension;  // of the data file, upper case
 };

@@ -1,16 +1,15 @@
-// Session: the one process-wide state record. Everything a dialog shows, a data file stores and a kernel takes or leaves
-// lies here, in base units: metres, kilonewtons, kN/m2, seconds in Cv and k; settlements in centimetres.
+// Session: the one process-wide state record. Everything a dialog shows, a data file stores and a kernel takes or
+// leaves lies here, in base units: metres, kilonewtons, kN/m2, seconds in Cv and k; settlements in centimetres.
 #pragma once
 
 #include <string>
+#include <variant>
+#include <vector>
 
 #include "base/Array.h"
 #include "base/Integer.h"
 #include "base/Single.h"
 #include "base/TextId.h"
-
-#include <variant>
-#include <vector>
 
 namespace lithmark {
 
@@ -29,7 +28,7 @@ struct SessionRecord {
     std::string ProjectFile;  // full path of the last chosen project file
     std::string WorkDir;      // where the problem files are read and written
     std::string WorkName;
-    long CompressFlag = 2;    // 7 packing on, 0 off, 2 no setting file exists
+    long CompressFlag = 2;  // 7 packing on, 0 off, 2 no setting file exists
     Integer ProblemType = 1;
     std::string Auftr, Datum, Proj;  // order, date, project description
     std::string FirmaLine1, FirmaLine2;
@@ -38,11 +37,11 @@ struct SessionRecord {
     bool DialogOk = false, DataValid = false, FileSaved = false, CalcAborted = false;
 
     // Load and geometry.
-    Single x, y, z;  // calculation point; z is the depth
-    Single Q;        // total load
-    Single P;        // uniform load
-    Single A, B;     // length or radius, and width, of the loaded area
-    Single A0;       // copy of A; the radius for circular loads
+    Single x, y, z;        // calculation point; z is the depth
+    Single Q;              // total load
+    Single P;              // uniform load
+    Single A, B;           // length or radius, and width, of the loaded area
+    Single A0;             // copy of A; the radius for circular loads
     Integer LoadType = 0;  // 1 point, 2 rectangle, 3 circle
     Single Nue, Es, h, eo, Po, Cc, Gamma;
     Integer SoilPropertyType = 0;  // 1 by Es, 2 by eo, Cc and Po
@@ -61,9 +60,9 @@ struct SessionRecord {
 
     // Time-settlement.
     Single CvTS, kf, EsTS, Ws, qv, qe, Hm, Sc, Pt, Sm;
-    bool Ms = false;  // a measurement is to be evaluated
-    Integer DesignCode = 0;   // time of the measurement
-    Integer TimePeriod = 0;   // time units that the report shows
+    bool Ms = false;         // a measurement is to be evaluated
+    Integer DesignCode = 0;  // time of the measurement
+    Integer TimePeriod = 0;  // time units that the report shows
     std::string StartDate;
     Integer DrainageFaces = 0;  // 1 one-sided, 2 both faces
     Integer CvChoice = 0;       // 1 CvTS from soil data, 3 given
@@ -126,6 +125,7 @@ struct SessionRecord {
     // Results: time-settlement, index 0 to 70.
     Array<Single> LoadCurve{0, 70}, SuddenPercent{0, 70}, SuddenSettlement{0, 70}, SettlementSum{0, 70};
     Array<Single> LoadChartTime{0, 70}, LoadChartNew{0, 70}, LoadChartPrev{0, 70};
+    Single ConsolidationEnd;  // when consolidation counts as finished, time units
     Single MeasureFactor;
 
     // Results: rafts. Forces kN, pressures kN/m2, settlements cm.

@@ -1,9 +1,9 @@
 #include "core/StartSession.h"
 
-#include "core/Dates.h"
 #include "core/Session.h"
 #include "core/Units.h"
 #include "services/LanguageTexts.h"
+#include "services/TextTools.h"
 
 namespace lithmark {
 
@@ -21,7 +21,7 @@ void StartSession() {
     SetDefaultUnits();
     SetDefaultNumberFormats();
     SetDefaultPreferences();
-    Session.Datum = LongDate(Today());
+    Session.Datum = TextTools().LongDateOfToday();
     Session.SymbolSuffix = Text(123_text);
     Session.WorkName = Text(93_text);
 }

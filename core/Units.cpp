@@ -1,13 +1,15 @@
 #include "core/Units.h"
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "base/NumberText.h"
 #include "base/Single.h"
 #include "base/Utf8.h"
-#include "core/Dates.h"
 #include "core/Session.h"
 #include "services/SharedServices.h"
+#include "services/TextTools.h"
 
 namespace lithmark {
 
@@ -146,7 +148,7 @@ std::string UnitLabel(long selector) {
 }
 
 std::string FormatValue(double value, const std::string& format) {
-    if (format == kLongDate) return LongDate(value);
+    if (format == kLongDate) return TextTools().LongDate(static_cast<int>(std::floor(std::clamp(value, -1e9, 1e9))));
     const char decimalSign = SharedServices().DecimalSign;
     if (!format.empty()) return FormatNumber(value, format, decimalSign);
     std::string text = NumberToText(Single(value));

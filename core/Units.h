@@ -17,9 +17,12 @@ double UnitFactor(long selector);
 std::string UnitLabel(long selector);
 
 // A value by a number format. An empty format gives the plain text of the value as a Single. `format` is a pattern of
-// FormatNumber, or kLongDate, which takes the value as a day number (core/Dates.h). The decimal sign is the current one
-// in both cases, so that a dialog can read back what it shows.
+// FormatNumber, or kLongDate, which takes the value as a day number (services/TextTools.h). The decimal sign is the
+// current one in both cases, so that a dialog can read back what it shows.
 std::string FormatValue(double value, const std::string& format);
+
+// The format that asks for a date's text.
+inline const std::string kLongDate = "Long Date";
 
 // A row of the unit tables: the long name, the label (with brackets), and the factor to one metre or one kilonewton.
 struct UnitRow {

@@ -70,7 +70,7 @@ bool DirectCurve(TimeSettlementRun& run) {
     }
     SetSudden(last, Session.StsValue(n));
     for (int t = last + 1; t <= kLastSlot; ++t) SetSudden(t, Session.SuddenPercent(last));
-    run.ConsolidationEnd = run.CurveTime(n);
+    Session.ConsolidationEnd = run.CurveTime(n);
     return true;
 }
 
@@ -96,7 +96,7 @@ bool OedometerCurve(TimeSettlementRun& run) {
         }
         SetSudden(t, *percent);
     }
-    run.ConsolidationEnd = run.CurveTime(n);
+    Session.ConsolidationEnd = run.CurveTime(n);
     return true;
 }
 
@@ -124,7 +124,7 @@ void TheoryCurve(TimeSettlementRun& run) {
         SharedServices().ShowMessageBox(Text(300033_text),
                                         Text(300074_text) + "70" + " " + Session.TimeUnit + Text(300075_text),
                                         MessageIcon::Exclamation);
-        run.ConsolidationEnd = kLastSlot;
+        Session.ConsolidationEnd = kLastSlot;
         return;
     }
     for (int t = reached + 1; t <= kLastSlot; ++t) {
@@ -134,7 +134,7 @@ void TheoryCurve(TimeSettlementRun& run) {
         Session.SuddenPercent(t) = 100;
         Session.SuddenSettlement(t) = Session.Sc;
     }
-    run.ConsolidationEnd = reached;
+    Session.ConsolidationEnd = reached;
 }
 
 }  // namespace lithmark

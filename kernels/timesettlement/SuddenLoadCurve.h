@@ -1,7 +1,7 @@
 // The curve of settlement against time for a load applied suddenly, by three methods.
 //
 // Each fills Session.SuddenPercent (per cent of Sc) and Session.SuddenSettlement (cm) at the times 1 to 70 since
-// loading, and run.ConsolidationEnd.
+// loading, and Session.ConsolidationEnd.
 #pragma once
 
 #include <optional>

@@ -104,7 +104,7 @@ void ParameterBlock(const TimeSettlementRun& run) {
     if (Session.ProblemType == 7) OedometerRows();
     if (Session.ProblemType == 8) TheoryRows(run);
     AddParameter();
-    AddParameter(300062_text, "Tb", Session.TimeUnit, run.ConsolidationEnd, Session.FmtTime);
+    AddParameter(300062_text, "Tb", Session.TimeUnit, Session.ConsolidationEnd, Session.FmtTime);
     AddParameter();
     ReportParameters();
 }

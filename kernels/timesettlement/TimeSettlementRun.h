@@ -25,7 +25,6 @@ struct TimeSettlementRun {
     Array<Single> TimeFactor{0, kLastSlot};     // problem 8: Tv
     Array<Integer> FormulaCase{0, kLastSlot};   // problem 8: 1 root, 2 exponential
     Array<std::string> MeasureMark{0, kLastSlot};
-    Single ConsolidationEnd;  // time units
     Single EstMix;            // problem 8: modulus weighted by load parts, kN/m2
 };
 

@@ -1,0 +1,143 @@
+#include "cli/Project.h"
+
+#include <filesystem>
+
+#include "base/Utf8.h"
+#include "cli/Failures.h"
+#include "core/Catalogue.h"
+#include "core/SessionFields.h"
+#include "core/StartSession.h"
+#include "files/GloableVariable.h"
+#include "files/ProblemData.h"
+#include "files/ProjectFiles.h"
+#include "files/SettingsFiles.h"
+#include "kernels/RunKernel.h"
+#include "services/FileDialogs.h"
+#include "services/ProjectStore.h"
+#include "services/SharedServices.h"
+
+namespace lithmark {
+
+namespace {
+
+void SetLanguage(const std::string& lang) {
+    if (lang.empty()) {
+        SharedServices().LoadLanguage();
+        return;
+    }
+    LanguageTexts().SetCurrent(lang == "de"    ? Language::German
+                               : lang == "ar"  ? Language::Arabic
+                               : lang == "ids" ? Language::Ids
+                                               : Language::English);
+}
+
+[[noreturn]] void FailFile(const std::string& path, TextId text) {
+    throw CommandFailure(ExitStatus::FileTrouble, Text(text, {{"|1", path}}));
+}
+
+// The messages of a failed read are the line for standard error.
+[[noreturn]] void FailRead(const std::string& path) {
+    const auto& host = static_cast<const ConsoleHost&>(CurrentHost());
+    if (host.Messages().empty()) FailFile(path, 902002_text);
+    throw CommandFailure(ExitStatus::FileTrouble, ReplaceAll(host.Messages().back().Text, "\n", " "));
+}
+
+}  // namespace
+
+void StartCommand(const CommonOptions& options, ConsoleHost& host) {
+    SetCurrentHost(&host);
+    SharedServices().SetProgramNumber(6);
+    if (!options.Settings.empty()) {
+        if (!std::filesystem::is_directory(options.Settings)) FailFile(options.Settings, 902003_text);
+        SharedServices().UseSettingsDirectory(options.Settings);
+    }
+    SetLanguage(options.Lang);
+    StartSession();
+    const Directories directories = SharedServices().GetDirectories();
+    Session.ProgramDir = directories.ProgramDir;
+    Session.DataDir = directories.DataDir;
+    Session.CompressFlag = directories.CompressFlag;
+    LoadUnits();
+    LoadNumberFormats();
+    const CompanyLines company = SharedServices().GetFirmaData();
+    Session.FirmaLine1 = company.Line1;
+    Session.FirmaLine2 = company.Line2;
+    LoadPreferences();
+    if (!host.Messages().empty()) FailRead(Session.ProgramDir);
+}
+
+bool ReadProject(const std::string& path) {
+    if (UpperAscii(std::filesystem::path(path).extension().string()) != ".PO3") FailFile(path, 902004_text);
+    Session.ProjectFile = path;
+    FileDialogs().SplitProjectPath(path, Session.DataDir, Session.ProjectName);
+    Session.WorkDir = Session.DataDir;
+    Session.WorkName = Session.ProjectName;
+    const std::string stem = Session.DataDir + Session.ProjectName;
+    if (!ProjectStore().UnpackProject(stem, ".po3")) FailRead(path);
+    switch (ReadProjectFile()) {
+        case ReadOutcome::Missing:
+            FailFile(path, 902005_text);
+        case ReadOutcome::Failed:
+            FailRead(path);
+        case ReadOutcome::Read:
+            break;
+    }
+    if (ReadOrderFile() == ReadOutcome::Failed) FailRead(path);
+    const ProblemRow* problem = FindProblem(Session.ProblemType);
+    if (!problem) FailFile(path, 902006_text);
+    SetProblemDefaults();
+    const ReadOutcome outcome = ReadProblemData();
+    if (outcome == ReadOutcome::Failed) FailRead(path);
+    return outcome == ReadOutcome::Read;
+}
+
+void ApplySets(const std::vector<std::string>& sets) {
+    for (const std::string& pair : sets) {
+        const auto equals = pair.find('=');
+        const std::string name = pair.substr(0, equals);
+        const auto fail = [&](TextId text) {
+            throw CommandFailure(ExitStatus::BadCommandLine, Text(text, {{"|1", pair}}));
+        };
+        if (equals == std::string::npos || name.empty()) fail(902007_text);
+        switch (SetSessionField(name, pair.substr(equals + 1))) {
+            case SetFieldOutcome::Done:
+                break;
+            case SetFieldOutcome::NoSuchField:
+                fail(902008_text);
+                break;
+            case SetFieldOutcome::NoSuchElement:
+                fail(902009_text);
+                break;
+            case SetFieldOutcome::BadValue:
+                fail(902010_text);
+                break;
+        }
+    }
+}
+
+void SetDerivedFields() {
+    Session.A0 = Session.A;
+}
+
+void OpenProjectForRun(const CommonOptions& options) {
+    if (!ReadProject(options.Project)) {
+        const ProblemRow* problem = FindProblem(Session.ProblemType);
+        FailFile(DataFileName(Session.WorkDir, Session.WorkName, problem->Extension), 902005_text);
+    }
+    ApplySets(options.Sets);
+    SetDerivedFields();
+}
+
+void RunKernelOfProblem() {
+    Session.CalcAborted = false;
+    Session.ResultText.clear();
+    RunProblemKernel();
+}
+
+std::string AbortedLine(const ConsoleHost& host) {
+    std::string line = Text(902011_text, {{"|1", Session.ProjectFile}});
+    if (!host.Messages().empty()) line += " " + host.Messages().back().Text;
+    return ReplaceAll(ReplaceAll(line, "\r", ""), "\n", " ");
+}
+
+}  // namespace lithmark
