@@ -1,0 +1,143 @@
+// How long the parts of a run of the rectangular raft take, and how much memory the whole takes.
+//
+// The argument is the number of nodes along one side, always odd: 11 (121 nodes), 21 (441), 41 (1681), 81 (6561).
+// `peak_MB` is the peak of a process of its own that does nothing but the run, less what such a process takes before
+// it; `of_matrices` sets it against two matrices of n by n.
+#include <benchmark/benchmark.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <filesystem>
+
+#include "core/Session.h"
+#include "kernels/raft/BasRectangularRigidRaft.h"
+#include "kernels/raft/LayerFactors.h"
+#include "kernels/raft/RectangularNumerical.h"
+#include "services/NumericLib.h"
+
+namespace lithmark {
+namespace {
+
+enum Kind { kElastic, kUniformClay, kThickClay, kPunch, kPunchOnClay };
+
+// 10 m by 10 m under 20 MN with both eccentricities, on 8 m of soil.
+void SetProblem(int side, Kind kind) {
+    ResetSession();
+    Session.ProblemType = kind == kElastic || kind == kPunch ? 9 : 10;
+    Session.LoadType = 2;
+    Session.Q = 20000;
+    Session.A = Session.B = 10;
+    Session.h = kind == kThickClay ? 40 : 8;
+    Session.Es = 5000;
+    Session.Nue = 0.25;
+    Session.Cc = 0.16;
+    Session.eo = 0.85;
+    Session.Po = 51.82;
+    Session.Gamma = 8.69;
+    Session.SoilPropertyType = kind == kThickClay || kind == kPunchOnClay ? 2 : 1;
+    Session.Exz_x = 0.5;
+    Session.Exz_y = 0.25;
+    Session.AnalysisType = kind == kPunch || kind == kPunchOnClay;
+    Session.PrefDx = Session.PrefDy = 10.0 / (side - 1);
+    static const std::string dir = (std::filesystem::temp_directory_path() / "lithmark-bench").string();
+    std::filesystem::create_directories(dir);
+    Session.WorkDir = dir + "/";
+    Session.WorkName = "bench";
+}
+
+void Run() {
+    SessionRecord& s = Session;
+    ComputeRectangularRaft(s.z, s.Q, s.A, s.B, s.h, s.eo, s.Po, s.Cc, s.Es, s.SoilPropertyType, s.Exz_x, s.Exz_y,
+                           s.Gamma, s.AnalysisType, s.SettlementAt);
+}
+
+void CountNodes(benchmark::State& state) {
+    state.counters["nodes"] = static_cast<double>(state.range(0) * state.range(0));
+}
+
+Matrix<Single> ElasticFlexibility(const RectangularMesh& mesh) {
+    const Grid grid(mesh);
+    Array<Single> diagonal(1, mesh.Nodes());
+    for (int r = 1; r <= mesh.Nodes(); ++r)
+        diagonal(r) = mesh.NodeElems(r) / mesh.NodeArea(r) *
+                      RectCornerLayer(mesh.ElemHalfX, mesh.ElemHalfY, Session.h, Session.Nue) / Session.Es;
+    OffsetFactors factors(
+        grid, [](Single dx, Single dy) -> Single { return PointLayer(dx, dy, Session.h, Session.Nue) / Session.Es; },
+        false);
+    Matrix<Single> matrix;
+    FillFlexibility(grid, factors, diagonal, matrix);
+    return matrix;
+}
+
+void MeshAndFlexibility(benchmark::State& state) {
+    for (auto _ : state) {
+        SetProblem(static_cast<int>(state.range(0)), kElastic);
+        const RectangularMesh mesh = BuildRectangularMesh(Session.A, Session.B, Session.PrefDx, Session.PrefDy);
+        benchmark::DoNotOptimize(ElasticFlexibility(mesh));
+    }
+    CountNodes(state);
+}
+
+void Inverse(benchmark::State& state) {
+    SetProblem(static_cast<int>(state.range(0)), kElastic);
+    const RectangularMesh mesh = BuildRectangularMesh(Session.A, Session.B, Session.PrefDx, Session.PrefDy);
+    const Matrix<Single> flexibility = ElasticFlexibility(mesh);
+    for (auto _ : state) {
+        Matrix<Single> inverse;
+        NumericLib::Invert(mesh.Nodes(), flexibility, inverse);
+        benchmark::DoNotOptimize(inverse);
+    }
+    CountNodes(state);
+}
+
+void WholeRun(benchmark::State& state, Kind kind) {
+    for (auto _ : state) {
+        SetProblem(static_cast<int>(state.range(0)), kind);
+        Run();
+        if (Session.CalcAborted) return state.SkipWithError("the run failed");
+    }
+    CountNodes(state);
+}
+
+double PeakOf(bool run, int side, Kind kind) {
+    const pid_t child = fork();
+    if (child == 0) {
+        SetProblem(side, kind);
+        if (run) Run();
+        _exit(Session.CalcAborted ? 1 : 0);
+    }
+    int status = 0;
+    rusage usage{};
+    wait4(child, &status, 0, &usage);
+    return status == 0 ? usage.ru_maxrss * 1024.0 : -1;
+}
+
+void PeakMemory(benchmark::State& state, Kind kind) {
+    const int side = static_cast<int>(state.range(0));
+    const double nodes = static_cast<double>(side) * side;
+    double peak = 0;
+    for (auto _ : state) {
+        const double before = PeakOf(false, side, kind), after = PeakOf(true, side, kind);
+        if (before < 0 || after < 0) return state.SkipWithError("the run failed");
+        peak = after - before;
+    }
+    CountNodes(state);
+    state.counters["peak_MB"] = peak / 1e6;
+    state.counters["of_matrices"] = peak / (2 * nodes * nodes * sizeof(Single));
+}
+
+#define SIDES ->Arg(11)->Arg(21)->Arg(41)->Arg(81)->Unit(benchmark::kMillisecond)
+// Memory first: a child inherits what its parent has taken.
+BENCHMARK_CAPTURE(PeakMemory, elastic, kElastic)->Arg(41)->Arg(81)->Unit(benchmark::kMillisecond)->Iterations(1);
+BENCHMARK_CAPTURE(PeakMemory, thick_clay, kThickClay)->Arg(41)->Arg(81)->Unit(benchmark::kMillisecond)->Iterations(1);
+BENCHMARK(MeshAndFlexibility) SIDES;
+BENCHMARK(Inverse) SIDES;
+BENCHMARK_CAPTURE(WholeRun, elastic, kElastic) SIDES;
+BENCHMARK_CAPTURE(WholeRun, uniform_clay, kUniformClay) SIDES;
+BENCHMARK_CAPTURE(WholeRun, thick_clay, kThickClay) SIDES;
+BENCHMARK_CAPTURE(WholeRun, punch, kPunch) SIDES;
+BENCHMARK_CAPTURE(WholeRun, punch_on_clay, kPunchOnClay) SIDES;
+
+}  // namespace
+}  // namespace lithmark
