@@ -15,7 +15,6 @@ namespace lithmark {
 namespace {
 
 constexpr std::string_view kArchiveStart = "PK\x03\x04";
-constexpr zip_uint64_t kMostBytes = zip_uint64_t{1} << 30;
 
 struct Discard {
     void operator()(zip_t* archive) const { zip_discard(archive); }
@@ -102,7 +101,7 @@ std::string BuildArchive(const std::string& name, const ProjectFiles& files) {
     return bytes;
 }
 
-ProjectFiles ReadArchive(std::string_view archive) {
+ProjectFiles ReadArchive(std::string_view archive, std::uint64_t mostBytes) {
     const Source whole = MemorySource(archive);
     if (!whole) Fail(FailureKind::OutOfMemory);
     const Archive opened = OpenArchive(whole.get(), ZIP_RDONLY | ZIP_CHECKCONS);
@@ -118,7 +117,7 @@ ProjectFiles ReadArchive(std::string_view archive) {
             FailDamaged({});
         const std::string name = status.name;
         const std::string extension = CheckedExtension(name);
-        if (status.size > kMostBytes || (total += status.size) > kMostBytes) FailDamaged(name);
+        if (status.size > mostBytes || (total += status.size) > mostBytes) FailDamaged(name);
         if (!files.emplace(extension, EntryBytes(opened.get(), index, name, status.size)).second) FailDamaged(name);
     }
     if (!files.contains("PO3")) FailDamaged({});

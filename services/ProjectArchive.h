@@ -1,6 +1,7 @@
 // The packed form of a project: a ZIP archive of its files.
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <string>
 #include <string_view>
@@ -18,8 +19,8 @@ std::string BuildArchive(const std::string& name, const ProjectFiles& files);
 
 // The files of an archive. What the entries are called ahead of their extensions does not matter, so a packed project
 // can be renamed like any file. DamagedArchive when a checksum or a length is wrong, when an entry is no project file,
-// stands twice or tries to leave the folder, when the project file itself is missing, or when more than 1 GiB would
+// stands twice or tries to leave the folder, when the project file itself is missing, or when more than `mostBytes`
 // come out.
-ProjectFiles ReadArchive(std::string_view archive);
+ProjectFiles ReadArchive(std::string_view archive, std::uint64_t mostBytes = std::uint64_t{1} << 30);
 
 }  // namespace lithmark

@@ -1,0 +1,331 @@
+#include <gmock/gmock.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <zip.h>
+
+#include <map>
+#include <random>
+
+#include "services/LanguageTexts.h"
+#include "services/ProjectArchive.h"
+#include "services/ProjectStore.h"
+#include "support/Files.h"
+#include "support/ScriptedHost.h"
+
+using namespace lithmark;
+using namespace lithmark::tests;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+namespace {
+
+using Files = std::map<std::string, std::string>;  // by name
+
+constexpr long kOn = 7, kOff = 0, kNoSetting = 2;
+
+// A project of text and record files, and files beside it that are none of its business.
+const Files kProject = {{"Raft1.PO3", "Version 9\r\n9\r\n0\r\n"},
+                        {"Raft1.AUF", "Auftrag\r\nDatum\r\nProjekt\r\n"},
+                        {"Raft1.RDE", "7854\r\n5\r\n"},
+                        {"Raft1.TO1", std::string(100000, '1')},
+                        {"Raft1.PC1", std::string("\0\0\3\0BP1", 7)},
+                        {"Raft1.PH1", ""}};
+const Files kBeside = {{"Raft1.txt", "notes"}, {"Raft10.RDE", "another project"}, {"raft1.RDE", "a third"}};
+
+class ProjectStoreTest : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        LanguageTexts().SetCurrent(Language::English);
+        Write(kProject);
+        Write(kBeside);
+    }
+    void TearDown() override { ProjectStore().BetweenSteps = nullptr; }
+
+    void Write(const Files& files) {
+        for (const auto& [name, bytes] : files) WriteBytes(folder / name, bytes);
+    }
+    // What lies in the folder, without what lies beside the project.
+    Files Content() const {
+        Files files;
+        for (const std::string& name : folder.Names())
+            if (!kBeside.contains(name)) files[name] = ReadBytes(folder / name);
+        return files;
+    }
+    bool Pack(long flags = kOn, const std::string& next = "") {
+        return ProjectStore().PackProject(folder / "Raft1", flags, next, ".po3");
+    }
+    bool Unpack() { return ProjectStore().UnpackProject(folder / "Raft1", ".po3"); }
+    void ExpectBesideUntouched() const {
+        for (const auto& [name, bytes] : kBeside) EXPECT_EQ(ReadBytes(folder / name), bytes) << name;
+    }
+
+    TestFolder folder;
+    ScriptedHost host;
+};
+
+// An archive with entries of any names, as an attacker or another program might make it.
+std::string RawArchive(const std::vector<std::pair<std::string, std::string>>& entries) {
+    const TestFolder folder;
+    zip_t* archive = zip_open((folder / "a.zip").c_str(), ZIP_CREATE, nullptr);
+    for (const auto& [name, bytes] : entries)
+        zip_file_add(archive, name.c_str(), zip_source_buffer(archive, bytes.data(), bytes.size(), 0), 0);
+    EXPECT_EQ(zip_close(archive), 0);
+    return ReadBytes(folder / "a.zip");
+}
+
+// --- packing and unpacking -----------------------------------------------------------------------------------------
+
+TEST_F(ProjectStoreTest, APackedProjectIsOneFileUnderTheProjectsName) {
+    EXPECT_TRUE(Pack());
+    EXPECT_EQ(Content().size(), 1u);
+    EXPECT_TRUE(IsArchiveFile(folder / "Raft1.PO3"));
+    EXPECT_LT(ReadBytes(folder / "Raft1.PO3").size(), 2000u);  // the mesh of equal digits shrinks
+    ExpectBesideUntouched();
+}
+
+TEST_F(ProjectStoreTest, UnpackingBringsEveryByteBack) {
+    EXPECT_TRUE(Pack());
+    EXPECT_TRUE(Unpack());
+    EXPECT_EQ(Content(), kProject);
+    ExpectBesideUntouched();
+    EXPECT_THAT(host.Messages, IsEmpty());
+}
+
+TEST_F(ProjectStoreTest, NothingIsPackedWhenPackingIsOffOrNeverWasSet) {
+    EXPECT_TRUE(Pack(kOff));
+    EXPECT_TRUE(Pack(kNoSetting));
+    EXPECT_EQ(Content(), kProject);
+}
+
+TEST_F(ProjectStoreTest, TheProjectThatIsOpenedNextIsNotPacked) {
+    EXPECT_TRUE(Pack(kOn, folder / "Raft1.PO3"));
+    EXPECT_TRUE(Pack(kOn, folder / "Raft1.po3"));
+    EXPECT_TRUE(Pack(kOn, folder.Dir() + "./Raft1.PO3"));
+    EXPECT_EQ(Content(), kProject);
+    EXPECT_TRUE(Pack(kOn, folder / "Raft2.PO3"));
+    EXPECT_EQ(Content().size(), 1u);
+}
+
+TEST_F(ProjectStoreTest, WithoutAProjectThereIsNothingToPackOrUnpack) {
+    const Files before = Content();
+    EXPECT_TRUE(ProjectStore().PackProject(folder.Dir(), kOn, "", ".po3"));
+    EXPECT_TRUE(ProjectStore().PackProject("", kOn, "", ".po3"));
+    EXPECT_TRUE(ProjectStore().PackProject(folder / "Raft2", kOn, "", ".po3"));
+    EXPECT_TRUE(ProjectStore().UnpackProject(folder / "Raft2", ".po3"));
+    EXPECT_TRUE(Unpack());  // not packed
+    EXPECT_EQ(Content(), before);
+    EXPECT_THAT(host.Messages, IsEmpty());
+}
+
+TEST_F(ProjectStoreTest, PackingTwiceAndUnpackingTwiceAreHarmless) {
+    EXPECT_TRUE(Pack());
+    const Files packed = Content();
+    EXPECT_TRUE(Pack());
+    EXPECT_EQ(Content(), packed);
+    EXPECT_TRUE(Unpack());
+    EXPECT_TRUE(Unpack());
+    EXPECT_EQ(Content(), kProject);
+}
+
+TEST_F(ProjectStoreTest, FilesOfAnyLetterCaseArePackedAndComeBackInUpperCase) {
+    std::filesystem::rename(folder / "Raft1.PO3", folder / "Raft1.po3");
+    std::filesystem::rename(folder / "Raft1.TO1", folder / "Raft1.To1");
+    EXPECT_TRUE(Pack());
+    EXPECT_THAT(Content(), SizeIs(1));
+    EXPECT_TRUE(Unpack());
+    Files expected = kProject;
+    expected["Raft1.po3"] = expected["Raft1.PO3"];
+    expected.erase("Raft1.PO3");
+    EXPECT_EQ(Content(), expected);
+}
+
+TEST_F(ProjectStoreTest, APackedProjectCanBeRenamedLikeAnyFile) {
+    EXPECT_TRUE(Pack());
+    std::filesystem::rename(folder / "Raft1.PO3", folder / "Raft.v2.PO3");
+    EXPECT_TRUE(ProjectStore().UnpackProject(folder / "Raft.v2", ".po3"));
+    const Files content = Content();
+    EXPECT_THAT(content, SizeIs(kProject.size()));
+    EXPECT_EQ(content.at("Raft.v2.TO1"), kProject.at("Raft1.TO1"));
+}
+
+TEST_F(ProjectStoreTest, AFileSavedBesideAPackedProjectIsKept) {
+    EXPECT_TRUE(Pack());
+    WriteBytes(folder / "Raft1.RDE", "newer");
+    WriteBytes(folder / "Raft1.AUF", "older");
+    const auto packed = std::filesystem::last_write_time(folder / "Raft1.PO3");
+    std::filesystem::last_write_time(folder / "Raft1.RDE", packed + std::chrono::seconds(5));
+    std::filesystem::last_write_time(folder / "Raft1.AUF", packed - std::chrono::seconds(5));
+    EXPECT_TRUE(Unpack());
+    EXPECT_EQ(ReadBytes(folder / "Raft1.RDE"), "newer");
+    EXPECT_EQ(ReadBytes(folder / "Raft1.AUF"), kProject.at("Raft1.AUF"));
+}
+
+TEST_F(ProjectStoreTest, ALinkIsTheUsersOwnAndStays) {
+    WriteBytes(folder / "elsewhere", "shared");
+    std::filesystem::create_symlink("elsewhere", folder / "Raft1.BAU");
+    EXPECT_TRUE(Pack());
+    EXPECT_TRUE(std::filesystem::is_symlink(folder / "Raft1.BAU"));
+    EXPECT_EQ(ReadBytes(folder / "Raft1.BAU"), "shared");
+}
+
+TEST_F(ProjectStoreTest, WhatAnOldCrashLeftBehindIsTidiedUp) {
+    EXPECT_TRUE(Pack());
+    WriteBytes(folder / ".lithmark-1-1.tmp", "old");
+    WriteBytes(folder / ".lithmark-1-2.tmp", "in use");
+    std::filesystem::last_write_time(folder / ".lithmark-1-1.tmp",
+                                     std::filesystem::file_time_type::clock::now() - std::chrono::hours(25));
+    EXPECT_TRUE(Unpack());
+    EXPECT_FALSE(std::filesystem::exists(folder / ".lithmark-1-1.tmp"));
+    EXPECT_TRUE(std::filesystem::exists(folder / ".lithmark-1-2.tmp"));
+}
+
+// --- damage --------------------------------------------------------------------------------------------------------
+
+TEST_F(ProjectStoreTest, ADamagedArchiveIsToldAndLeftAlone) {
+    EXPECT_TRUE(Pack());
+    const std::string whole = ReadBytes(folder / "Raft1.PO3");
+    std::string flipped = whole;
+    flipped[60] = static_cast<char>(flipped[60] ^ 0x10);
+    for (const std::string& damaged : {whole.substr(0, whole.size() / 2), whole.substr(0, 4), flipped}) {
+        host.Messages.clear();
+        WriteBytes(folder / "Raft1.PO3", damaged);
+        EXPECT_FALSE(Unpack());
+        ASSERT_THAT(host.Messages, SizeIs(1));
+        EXPECT_THAT(host.LastMessage().Text, HasSubstr("packed project " + (folder / "Raft1.PO3") + " is damaged"));
+        EXPECT_EQ(Content(), (Files{{"Raft1.PO3", damaged}}));
+        EXPECT_TRUE(Pack());  // nor does the way out touch it
+        EXPECT_EQ(Content(), (Files{{"Raft1.PO3", damaged}}));
+    }
+}
+
+TEST_F(ProjectStoreTest, EntriesThatAreNoProjectFilesOrWouldLeaveTheFolderAreRefused) {
+    const std::pair<std::string, std::string> project{"Raft1.PO3", kProject.at("Raft1.PO3")};
+    const std::vector<std::pair<std::string, std::string>> bad[] = {{project, {"../Raft1.SSD", "evil"}},
+                                                                    {project, {"/tmp/Raft1.SSD", "evil"}},
+                                                                    {project, {"a\\..\\R.SSD", "evil"}},
+                                                                    {project, {"Raft1.exe", "evil"}},
+                                                                    {project, {"Raft1", "evil"}},
+                                                                    {project, {".bashrc", "evil"}},
+                                                                    {project, {"sub/", ""}},
+                                                                    {{"Raft1.SSD", "no project file"}},
+                                                                    {project, {"Raft2.PO3", "twice"}}};
+    for (const auto& entries : bad) {
+        SCOPED_TRACE(entries.back().first);
+        const std::string archive = RawArchive(entries);
+        WriteBytes(folder / "Raft1.PO3", archive);
+        host.Messages.clear();
+        EXPECT_FALSE(Unpack());
+        EXPECT_THAT(host.Messages, SizeIs(1));
+        EXPECT_EQ(ReadBytes(folder / "Raft1.PO3"), archive);
+        EXPECT_FALSE(std::filesystem::exists(folder / "Raft1.SSD"));
+        EXPECT_FALSE(
+            std::filesystem::exists(std::filesystem::path(folder.Dir()).parent_path().parent_path() / "Raft1.SSD"));
+    }
+}
+
+TEST_F(ProjectStoreTest, AnArchiveThatSwellsBeyondAllMeasureIsRefused) {
+    const std::string archive = BuildArchive("Raft1", {{"PO3", "p"}, {"TO1", std::string(999, '0')}});
+    EXPECT_EQ(KindOf([&] { ReadArchive(archive, 999); }), FailureKind::DamagedArchive);
+    EXPECT_EQ(ReadArchive(archive, 1000).size(), 2u);
+}
+
+// A reader of archives gives files or DamagedArchive, whatever the bytes.
+TEST_F(ProjectStoreTest, ArbitraryBytesNeverCrashTheUnpacking) {
+    const std::string whole = BuildArchive("Raft1", {{"PO3", "Version 9"}, {"SSD", std::string(500, '7')}});
+    std::mt19937 random(6);
+    int refused = 0;
+    for (int round = 0; round < 3000; ++round) {
+        std::string bytes = whole;
+        for (unsigned n = 1 + random() % 4; n > 0; --n) bytes[random() % bytes.size()] = static_cast<char>(random());
+        if (round % 3 == 0) bytes.resize(random() % bytes.size());
+        const auto kind = KindOf([&] { ReadArchive(bytes); });
+        EXPECT_TRUE(!kind || *kind == FailureKind::DamagedArchive) << round;
+        if (kind) ++refused;
+    }
+    EXPECT_GT(refused, 1000);
+}
+
+// --- whole or not at all -------------------------------------------------------------------------------------------
+
+// Runs an action in a process of its own that ends without a word after so many steps. True when it got to the end.
+bool RunsToTheEnd(int steps, const std::function<void()>& action) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        int left = steps;
+        ProjectStore().BetweenSteps = [&] {
+            if (left-- == 0) ::_exit(1);
+        };
+        action();
+        ::_exit(0);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    EXPECT_TRUE(WIFEXITED(status));
+    return WEXITSTATUS(status) == 0;
+}
+
+// Without the temporary files that a killed process cannot take away.
+Files WithoutTemporaries(Files files) {
+    std::erase_if(files, [](const auto& file) { return file.first.starts_with(".lithmark-"); });
+    return files;
+}
+
+TEST_F(ProjectStoreTest, AProcessThatDiesAtAnyStepOfPackingLosesNothing) {
+    int steps = 0;
+    bool ended = false;
+    for (; !ended; ++steps) {
+        SCOPED_TRACE(steps);
+        ended = RunsToTheEnd(steps, [this] { Pack(); });
+        if (!IsArchiveFile(folder / "Raft1.PO3")) {
+            EXPECT_EQ(WithoutTemporaries(Content()), kProject);
+        }
+        // Whatever stands there opens as the project it was.
+        ASSERT_TRUE(Unpack());
+        EXPECT_EQ(WithoutTemporaries(Content()), kProject);
+        ExpectBesideUntouched();
+    }
+    EXPECT_GE(steps, 8);  // archive written, in place, and five plain files gone, and the run that ends
+}
+
+TEST_F(ProjectStoreTest, AProcessThatDiesAtAnyStepOfUnpackingLosesNothing) {
+    int steps = 0;
+    bool ended = false;
+    for (; !ended; ++steps) {
+        SCOPED_TRACE(steps);
+        ASSERT_TRUE(Pack());
+        const std::string archive = ReadBytes(folder / "Raft1.PO3");
+        ended = RunsToTheEnd(steps, [this] { Unpack(); });
+        if (IsArchiveFile(folder / "Raft1.PO3")) {
+            EXPECT_EQ(ReadBytes(folder / "Raft1.PO3"), archive);
+        }
+        ASSERT_TRUE(Unpack());
+        EXPECT_EQ(WithoutTemporaries(Content()), kProject);
+        ExpectBesideUntouched();
+    }
+    EXPECT_GE(steps, 13);  // six files written, six in place, and the run that ends
+}
+
+TEST_F(ProjectStoreTest, AnArchiveThatReadsBackWronglyDoesNotTakeTheProjectsPlace) {
+    ProjectStore().BetweenSteps = [&] {
+        for (const std::string& name : folder.Names())
+            if (name.starts_with(".lithmark-")) WriteBytes(folder / name, "PK\x03\x04 a disk that forgets");
+    };
+    EXPECT_FALSE(Pack());
+    EXPECT_EQ(Content(), kProject);
+    EXPECT_THAT(host.Messages, SizeIs(1));
+}
+
+TEST_F(ProjectStoreTest, AFolderInTheWayOfAFileStopsTheUnpackingBeforeAnythingChanges) {
+    EXPECT_TRUE(Pack());
+    const std::string archive = ReadBytes(folder / "Raft1.PO3");
+    std::filesystem::create_directory(folder / "Raft1.RDE");
+    std::filesystem::last_write_time(folder / "Raft1.RDE",
+                                     std::filesystem::last_write_time(folder / "Raft1.PO3") - std::chrono::hours(1));
+    EXPECT_FALSE(Unpack());
+    EXPECT_THAT(folder.Names(), ElementsAre("Raft1.PO3", "Raft1.RDE", "Raft1.txt", "Raft10.RDE", "raft1.RDE"));
+    EXPECT_EQ(ReadBytes(folder / "Raft1.PO3"), archive);
+}
+
+}  // namespace
