@@ -83,7 +83,9 @@ TEST(Walls, OnlyTheNamedServicesUseALibraryBeyondTheStandardOne) {
 TEST(Walls, ServicesNeverReadTheStateRecord) {
     static const std::regex state(R"(\bSession\s*\.|core/Session\.h)");
     for (const auto& file : Sources())
-        if (file.Floor == "services") EXPECT_FALSE(std::regex_search(file.Text, state)) << file.Path;
+        if (file.Floor == "services") {
+            EXPECT_FALSE(std::regex_search(file.Text, state)) << file.Path;
+        }
 }
 
 TEST(Walls, NoFlagLoosensTheArithmetic) {
