@@ -81,10 +81,9 @@ void PorePressureMarch::Advance(int steps) {
             Product(cur_, next_);
             cur_.swap(next_);
         }
-        done += block;
         CheckFinite(cur_);
-        // The last step changed no digit, so none of the steps to come will.
-        if (cur_ == next_) return;
+        // Where the last step changed no digit, none of the steps to come will.
+        done = cur_ == next_ ? steps : done + block;
         SharedServices().ReportProgress(static_cast<double>(done) / steps);
     }
 }
