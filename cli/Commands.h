@@ -14,6 +14,25 @@ ExitStatus NewCommand(const CommonOptions& options, int problem, ConsoleHost& ho
 ExitStatus ShowCommand(const CommonOptions& options, ConsoleHost& host);
 ExitStatus ReportCommand(const CommonOptions& options, ConsoleHost& host);
 
+struct ChartOptions {
+    std::string Curve;           // "Tab1" to "Tab6"; empty: the dialog's first choice
+    std::string LoadUnit;        // "%" or "force"
+    std::string SettlementUnit;  // "%" or "length"
+};
+ExitStatus ChartCommand(const CommonOptions& options, const ChartOptions& chart, ConsoleHost& host);
+
+struct ContourCommandOptions {
+    std::string Result;  // "settlement" or "pressure"
+    int Size = 0;        // pixels of the plot's side; 0: the format's own
+};
+ExitStatus ContourCommand(const CommonOptions& options, const ContourCommandOptions& contour, ConsoleHost& host);
+
+struct StudyOptions {
+    std::vector<std::string> Vary;  // FIELD=FROM:TO:STEP
+    std::vector<std::string> Take;  // results; empty: all that are single numbers
+};
+ExitStatus StudyCommand(const CommonOptions& options, const StudyOptions& study, ConsoleHost& host);
+
 // The results of the run by the names of their fields, for the problem that was run.
 Json ResultsJson();
 // The messages of a run, in order.

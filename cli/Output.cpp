@@ -30,4 +30,9 @@ std::string FormatInForce(const std::string& asked, const std::string& output, c
     return ending.size() > 1 ? ending.substr(1) : fallback;
 }
 
+std::string CsvCell(const std::string& text) {
+    if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
+    return "\"" + ReplaceAll(text, "\"", "\"\"") + "\"";
+}
+
 }  // namespace lithmark

@@ -37,6 +37,9 @@ class CommandLine {
         create->add_option("--problem", problem_, Text(902022_text))->required()->check(CLI::Range(1, 11));
         Command("show", 902018_text, 902020_text, {}, ShowCommand);
         Command("report", 902019_text, 902020_text, {"txt", "json", "html", "pdf", "rtf"}, ReportCommand);
+        AddChart();
+        AddContour();
+        AddStudy();
     }
 
     ExitStatus Run(int argc, char** argv) {
@@ -59,6 +62,39 @@ class CommandLine {
 
     Runner NewRunner() {
         return [this](const CommonOptions& options, ConsoleHost& host) { return NewCommand(options, problem_, host); };
+    }
+
+    void AddChart() {
+        CLI::App* chart = Command(
+            "chart", 902033_text, 902020_text, {"json", "csv", "svg", "png", "pdf", "xlsx"},
+            [this](const CommonOptions& options, ConsoleHost& host) { return ChartCommand(options, chart_, host); });
+        chart->add_option("--curve", chart_.Curve, Text(902034_text))
+            ->check(CLI::IsMember({"Tab1", "Tab2", "Tab3", "Tab4", "Tab5", "Tab6"}));
+        chart->add_option("--load-unit", chart_.LoadUnit, Text(902035_text))->check(CLI::IsMember({"%", "force"}));
+        chart->add_option("--settlement-unit", chart_.SettlementUnit, Text(902036_text))
+            ->check(CLI::IsMember({"%", "length"}));
+    }
+
+    void AddContour() {
+        CLI::App* contour = Command("contour", 902037_text, 902020_text, {"json", "svg", "png", "pdf"},
+                                    [this](const CommonOptions& options, ConsoleHost& host) {
+                                        return ContourCommand(options, contour_, host);
+                                    });
+        contour->add_option("--result", contour_.Result, Text(902038_text))
+            ->check(CLI::IsMember({"settlement", "pressure"}));
+        contour->add_option("--size", contour_.Size, Text(902039_text))->check(CLI::Range(1, 8192));
+    }
+
+    void AddStudy() {
+        CLI::App* study = Command(
+            "study", 902040_text, 902020_text, {"csv", "json", "xlsx"},
+            [this](const CommonOptions& options, ConsoleHost& host) { return StudyCommand(options, study_, host); });
+        study->add_option("--vary", study_.Vary, Text(902041_text))
+            ->take_all()
+            ->allow_extra_args(false)
+            ->required()
+            ->type_name("FIELD=FROM:TO:STEP");
+        study->add_option("--take", study_.Take, Text(902042_text))->take_all()->type_name("RESULT");
     }
 
     // A command with the options that every command has; formats only where it has several.
@@ -84,6 +120,9 @@ class CommandLine {
 
     CLI::App app_;
     CommonOptions options_;
+    ChartOptions chart_;
+    ContourCommandOptions contour_;
+    StudyOptions study_;
     int problem_ = 0;
     Runner run_;
 };

@@ -255,4 +255,16 @@ ChartArguments BuildChart() {
     return chart;
 }
 
+std::string ColumnHead(const ChartArguments& chart, int column) {
+    std::string head;
+    for (int row = 0; row <= chart.HeaderRows; ++row) {
+        const std::string& part = chart.Header(row, column);
+        if (part.empty()) continue;
+        const bool divided = head.ends_with('-') && part.front() >= 'a' && part.front() <= 'z';
+        if (divided) head.pop_back();
+        head += (head.empty() || divided ? "" : " ") + part;
+    }
+    return head;
+}
+
 }  // namespace lithmark

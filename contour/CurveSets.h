@@ -6,6 +6,8 @@
 // CurveSettlementUnit.
 #pragma once
 
+#include <string>
+
 #include "services/Charting.h"
 
 namespace lithmark {
@@ -13,5 +15,9 @@ namespace lithmark {
 // The chart of Session.ProblemType and Session.CurveChoice from the results of the last run. Also fills Session's table
 // fields. Throws Failure: a result missing (SubscriptRange), per cent of a final settlement of 0 (DivisionByZero).
 ChartArguments BuildChart();
+
+// The head of a column on one line: title, symbol and unit joined by blanks, words that the narrow head divides made
+// whole again.
+std::string ColumnHead(const ChartArguments& chart, int column);
 
 }  // namespace lithmark

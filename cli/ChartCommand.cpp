@@ -1,0 +1,119 @@
+#include <vector>
+
+#include "cli/Commands.h"
+#include "cli/Output.h"
+#include "contour/CurveSets.h"
+#include "core/Session.h"
+#include "files/GloableVariable.h"
+#include "services/LanguageTexts.h"
+#include "services/SharedServices.h"
+#ifdef LITHMARK_RENDER
+#include "render/ChartDocument.h"
+#endif
+
+namespace lithmark {
+
+namespace {
+
+// Rows first..last of a table of texts, each of the columns 1 to the last.
+Json TableJson(const Matrix<std::string>& table, int firstRow, int lastRow) {
+    Json rows = Json::array();
+    for (int r = firstRow; r <= lastRow; ++r) {
+        Json row = Json::array();
+        for (int c = 1; c <= table.UpperCol(); ++c) row.push_back(table(r, c));
+        rows.push_back(row);
+    }
+    return rows;
+}
+
+Json ListFromOne(const Array<std::string>& items) {
+    Json list = Json::array();
+    for (int i = 1; i <= items.Upper(); ++i) list.push_back(items(i));
+    return list;
+}
+
+std::string ChartJson(const ChartArguments& chart) {
+    Json json = Json::object();
+    json["curves"] = ToJson(chart.Curves);
+    json["lastColumn"] = ToJson(chart.LastColumn);
+    json["headerRows"] = ToJson(chart.HeaderRows);
+    json["lastRow"] = ToJson(chart.LastRow);
+    json["xTitle"] = chart.XTitle;
+    json["yTitle"] = chart.YTitle;
+    json["legends"] = ListFromOne(chart.Legends);
+    json["tableTitle"] = chart.TableTitle;
+    json["cells"] = TableJson(chart.Cells, 1, chart.LastRow);
+    json["header"] = TableJson(chart.Header, 0, chart.HeaderRows);
+    json["flag"] = chart.Flag;
+    json["lineStyles"] = ListFromOne(chart.LineStyles);
+    json["xStart"] = ToJson(chart.XStart);
+    json["xEnd"] = ToJson(chart.XEnd);
+    json["projectText"] = chart.ProjectText;
+    json["chartTitle"] = chart.ChartTitle;
+    return JsonText(json);
+}
+
+// One head row (title, symbol and unit joined by blanks) and the data rows, lines ended by CR LF as RFC 4180 has it.
+std::string ChartCsv(const ChartArguments& chart) {
+    std::string csv;
+    for (int c = 1; c <= chart.LastColumn; ++c) {
+        csv += (c > 1 ? "," : "") + CsvCell(ColumnHead(chart, c));
+    }
+    csv += "\r\n";
+    for (int r = 1; r <= chart.LastRow; ++r) {
+        for (int c = 1; c <= chart.LastColumn; ++c) csv += (c > 1 ? "," : "") + CsvCell(chart.Cells(r, c));
+        csv += "\r\n";
+    }
+    return csv;
+}
+
+std::string ChartIn(const std::string& format, const ChartArguments& chart) {
+    if (format == "json") return ChartJson(chart);
+    if (format == "csv") return ChartCsv(chart);
+#ifdef LITHMARK_RENDER
+    if (format == "svg") return ChartSvg(chart);
+    if (format == "png") return ChartPng(chart);
+    if (format == "pdf") return ChartPdf(chart);
+    if (format == "xlsx") return ChartXlsx(chart);
+#endif
+    throw CommandFailure(ExitStatus::BadCommandLine, Text(902015_text, {{"|1", format}}));
+}
+
+// The curve asked for, held against the problem: the fixed set of problem 5, "Tab1" to "Tab4" of the time-settlement
+// problems, "Tab5" and "Tab6" of the rafts. Without one: the curve that the dialog would propose.
+void ChooseCurve(const ChartOptions& chart) {
+    const int problem = Session.ProblemType;
+    const auto fail = [](TextId text, const std::string& subject) {
+        throw CommandFailure(ExitStatus::BadCommandLine, Text(text, {{"|1", subject}}));
+    };
+    const bool time = problem >= 6 && problem <= 8;
+    const bool raft = problem == 9 || problem == 10;
+    if (problem != 5 && !time && !raft) fail(902030_text, std::to_string(problem));
+    Session.CurveChoice = chart.Curve.empty() ? (raft ? "Tab5" : "Tab1") : chart.Curve;
+    const bool raftCurve = Session.CurveChoice == "Tab5" || Session.CurveChoice == "Tab6";
+    if ((time && raftCurve) || (raft && !raftCurve) || (Session.CurveChoice == "Tab4" && !Session.Ms))
+        fail(902031_text, Session.CurveChoice);
+    Session.CurveLoadUnit = chart.LoadUnit == "%" ? "[%]" : Session.Force1Label;
+    Session.CurveSettlementUnit = chart.SettlementUnit == "%" ? "[%]" : Session.Len2Label;
+}
+
+}  // namespace
+
+ExitStatus ChartCommand(const CommonOptions& options, const ChartOptions& chartOptions, ConsoleHost& host) {
+    const std::string format = FormatInForce(options.Format, options.Output, "json");
+    OpenProjectForRun(options);
+    ChooseCurve(chartOptions);
+    RunKernelOfProblem();
+    if (Session.CalcAborted) throw CommandFailure(ExitStatus::Aborted, AbortedLine(host));
+    ChartArguments chart;
+    try {
+        chart = BuildChart();
+    } catch (const Failure& failure) {
+        FileError(failure);
+        throw CommandFailure(ExitStatus::Aborted, AbortedLine(host));
+    }
+    WriteOutput(options.Output, ChartIn(format, chart));
+    return ExitStatus::Done;
+}
+
+}  // namespace lithmark

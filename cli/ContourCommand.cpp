@@ -1,0 +1,111 @@
+#include "cli/Commands.h"
+#include "cli/Output.h"
+#include "contour/BasContour.h"
+#include "contour/RecordingSurface.h"
+#include "core/Session.h"
+#include "files/GloableVariable.h"
+#include "services/LanguageTexts.h"
+#include "services/SharedServices.h"
+#ifdef LITHMARK_RENDER
+#include "render/ContourDocument.h"
+#endif
+
+namespace lithmark {
+
+namespace {
+
+// The class, 1 to 10, whose colour a pixel has; 0 where nothing was filled.
+int ClassOfColor(const BasContour& plot, int color) {
+    for (int k = 1; k <= BasContour::kClasses; ++k)
+        if (plot.ClassColor(k) == color) return k;
+    return 0;
+}
+
+Json PixelsJson(BasContour& plot, int size) {
+    RecordingSurface surface(size, size);
+    plot.Redraw(surface, {.ColorContours = true, .Displaylines = false, .DrawGrid = false, .DisplayValues = false});
+    Json rows = Json::array();
+    for (int y = 0; y < size; ++y) {
+        Json row = Json::array();
+        for (int x = 0; x < size; ++x) row.push_back(ClassOfColor(plot, surface.ColorAt(x, y)));
+        rows.push_back(row);
+    }
+    return rows;
+}
+
+// The class of a drawn isoline is not in its colour over a fill, so the lines are drawn once more without one: there a
+// line has the colour of its class.
+Json IsolinesJson(BasContour& plot) {
+    RecordingSurface surface(1, 1);
+    plot.Redraw(surface, {.ColorContours = false, .Displaylines = true, .DrawGrid = false, .DisplayValues = false});
+    Json lines = Json::array();
+    for (const auto& line : surface.Lines) {
+        const int k = ClassOfColor(plot, line.Color);
+        if (line.Color == BasContour::kColorBoundary || k == 0) continue;
+        lines.push_back({k, Single(line.X1).Stored(), Single(line.Y1).Stored(), Single(line.X2).Stored(),
+                         Single(line.Y2).Stored()});
+    }
+    return lines;
+}
+
+std::string ContourJson(BasContour& plot, int size) {
+    RecordingSurface surface(1, 1);
+    plot.Redraw(surface, {});
+    Json json = Json::object();
+    json["ZMin"] = ToJson(plot.ZMin);
+    json["ZMax"] = ToJson(plot.ZMax);
+    json["ZStep"] = ToJson(plot.ZStep);
+    const WorldWindow& w = plot.Window;
+    json["window"] = {ToJson(w.XMin), ToJson(w.XMax), ToJson(w.YMin), ToJson(w.YMax)};
+    json["labels"] = Json::array();
+    for (const std::string& label : plot.ClassLabel) json["labels"].push_back(label);
+
+    Json boundary = Json::array(), values = Json::array(), mesh = Json::array();
+    for (const auto& line : surface.Lines)
+        if (line.Color == BasContour::kColorBoundary)
+            boundary.push_back({Single(line.X1).Stored(), Single(line.Y1).Stored(), Single(line.X2).Stored(),
+                                Single(line.Y2).Stored()});
+    for (const auto& text : surface.Texts)
+        values.push_back({Single(text.X).Stored(), Single(text.Y).Stored(), text.Text});
+    for (int e = 1; e <= plot.ElementCount; ++e) {
+        Json polygon = Json::array();
+        for (int j = 1; j <= plot.ElemNodeCount(e); ++j)
+            polygon.push_back({ToJson(plot.CtrX(plot.ElemNode(e, j))), ToJson(plot.CtrY(plot.ElemNode(e, j)))});
+        mesh.push_back(polygon);
+    }
+    json["boundary"] = boundary;
+    json["isolines"] = IsolinesJson(plot);
+    json["values"] = values;
+    json["mesh"] = mesh;
+    if (size > 0) json["pixels"] = PixelsJson(plot, size);
+    return json.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
+}
+
+std::string ContourIn(const std::string& format, BasContour& plot, int size) {
+    if (format == "json") return ContourJson(plot, size);
+#ifdef LITHMARK_RENDER
+    if (format == "svg") return ContourSvg(plot, size);
+    if (format == "png") return ContourPng(plot, size);
+    if (format == "pdf") return ContourPdf(plot, size);
+#endif
+    throw CommandFailure(ExitStatus::BadCommandLine, Text(902015_text, {{"|1", format}}));
+}
+
+}  // namespace
+
+ExitStatus ContourCommand(const CommonOptions& options, const ContourCommandOptions& contour, ConsoleHost& host) {
+    const std::string format = FormatInForce(options.Format, options.Output, "json");
+    OpenProjectForRun(options);
+    if (Session.ProblemType != 9 && Session.ProblemType != 10)
+        throw CommandFailure(ExitStatus::BadCommandLine,
+                             Text(902032_text, {{"|1", std::to_string(Session.ProblemType)}}));
+    RunKernelOfProblem();
+    if (Session.CalcAborted) throw CommandFailure(ExitStatus::Aborted, AbortedLine(host));
+    Session.ContourResult = contour.Result == "pressure" ? "Tab5" : "Tab6";
+    BasContour plot;
+    plot.Prepare();
+    WriteOutput(options.Output, ContourIn(format, plot, contour.Size));
+    return ExitStatus::Done;
+}
+
+}  // namespace lithmark
