@@ -15,6 +15,7 @@ void ZeroResults() {
          {&Session.LoadCurve, &Session.SuddenPercent, &Session.SuddenSettlement, &Session.SettlementSum,
           &Session.LoadChartTime, &Session.LoadChartNew, &Session.LoadChartPrev})
         curve->Redim(0, kLastSlot);
+    Session.ConsolidationEnd = 0;
 }
 
 // A month is a twelfth of 365 days, the year is rounded; kept: existing projects rely on both.

@@ -126,7 +126,7 @@ TEST_F(Curves, OedometerTimesGoByTheSquareOfTheThicknesses) {
     EXPECT_NEAR(day, 30.779, 0.001);
     EXPECT_NEAR(run.CurveTime(1), 0.25 * day, 1e-4);
     EXPECT_NEAR(run.CurveTime(10), 1440 * day, 0.1);
-    EXPECT_EQ(run.ConsolidationEnd, run.CurveTime(10));
+    EXPECT_EQ(Session.ConsolidationEnd, run.CurveTime(10));
 }
 
 TEST_F(Curves, OedometerWithOneSidedDrainageUsesTheWholeLayerAndNeverHalvesTheSpecimen) {
@@ -239,7 +239,7 @@ TEST_F(Curves, From97PerCentOnConsolidationIsComplete) {
     SetTimeFactors(0.3);
     const TimeSettlementRun run = Theory();
     // 1 - 0.666666 exp(-(3 Tv - 0.25)) reaches 0.97 at Tv = (ln(0.666666/0.03) + 0.25)/3 = 1.117: t = 4.
-    EXPECT_EQ(run.ConsolidationEnd, 4);
+    EXPECT_EQ(Session.ConsolidationEnd, 4);
     EXPECT_LT(Session.SuddenPercent(3), 97);
     EXPECT_GE(Session.SuddenPercent(4), 97);
     EXPECT_LT(Session.SuddenPercent(4), 100);
@@ -256,7 +256,7 @@ TEST_F(Curves, From97PerCentOnConsolidationIsComplete) {
 TEST_F(Curves, ALayerSoThinThatTheFirstTimeIsTheEnd) {
     SetTimeFactors(2);
     const TimeSettlementRun run = Theory();
-    EXPECT_EQ(run.ConsolidationEnd, 1);
+    EXPECT_EQ(Session.ConsolidationEnd, 1);
     EXPECT_LT(Session.SuddenPercent(1), 100);
     EXPECT_EQ(Session.SuddenPercent(2), 100);
 }
@@ -278,7 +278,7 @@ TEST_F(Curves, Below97PerCentAtSlot70IsToldAndTheRunGoesOn) {
 TEST_F(Curves, TheoryRunsAheadOfTheExactSeriesByAtMostFivePoints) {
     SetTimeFactors(0.03);
     const TimeSettlementRun run = Theory();
-    for (int t = 1; t <= run.ConsolidationEnd; ++t) {
+    for (int t = 1; t <= Session.ConsolidationEnd; ++t) {
         double exact = 1;
         for (int m = 0; m < 100; ++m) {
             const double M = (2 * m + 1) * M_PI / 2;
