@@ -28,8 +28,9 @@ std::string Title(const std::string& pattern, TextId forProject, TextId forData)
 }  // namespace
 
 bool FileDialogsService::OpenFileDialog(std::string& file, const std::string& startDir, std::string& outDir,
-                                        std::string& outName, const std::string& pattern) {
-    const auto chosen = CurrentHost().ChooseFileToOpen(Title(pattern, 124_text, 10016_text), startDir, pattern);
+                                        std::string& outName, const std::string& pattern, const std::string& title) {
+    const auto chosen =
+        CurrentHost().ChooseFileToOpen(title.empty() ? Title(pattern, 124_text, 10016_text) : title, startDir, pattern);
     if (!chosen) return false;
     file = MappedFileName(*chosen);
     SplitProjectPath(file, outDir, outName);
@@ -37,9 +38,9 @@ bool FileDialogsService::OpenFileDialog(std::string& file, const std::string& st
 }
 
 bool FileDialogsService::SaveFileDialog(std::string& file, const std::string& startDir, std::string& outDir,
-                                        std::string& outName, const std::string& extension) {
-    const auto chosen =
-        CurrentHost().ChooseFileToSave(Title(extension, 10339_text, 9_text), startDir, outName, extension);
+                                        std::string& outName, const std::string& extension, const std::string& title) {
+    const auto chosen = CurrentHost().ChooseFileToSave(title.empty() ? Title(extension, 10339_text, 9_text) : title,
+                                                       startDir, outName, extension);
     if (!chosen) return false;
     file = MappedFileName(HasExtension(*chosen, extension) ? *chosen : *chosen + "." + extension);
     SplitProjectPath(file, outDir, outName);

@@ -8,12 +8,13 @@ namespace lithmark {
 class FileDialogsService {
   public:
     // Asks for a file to open. `pattern` is such as "*.PO3". Gives the full path, its folder with a trailing separator
-    // and its bare name. False when cancelled, and then nothing is changed.
+    // and its bare name. False when cancelled, and then nothing is changed. Without a title the dialog has one that
+    // tells a project from the data of a problem.
     bool OpenFileDialog(std::string& file, const std::string& startDir, std::string& outDir, std::string& outName,
-                        const std::string& pattern);
+                        const std::string& pattern, const std::string& title = {});
     // Asks for a file to save, proposing `outName`. `extension` is such as "PO3" and is put behind a name without it.
     bool SaveFileDialog(std::string& file, const std::string& startDir, std::string& outDir, std::string& outName,
-                        const std::string& extension);
+                        const std::string& extension, const std::string& title = {});
 
     // The folder of a path, absolute and with a trailing separator, and its name without a project extension.
     void SplitProjectPath(const std::string& file, std::string& dir, std::string& name) const;

@@ -26,6 +26,7 @@ class Control {
     const std::string Name;
     std::string Caption;
     std::string Text;
+    std::string FontName;  // empty: the window's own
     bool Value = false;
     bool Visible = true;
     bool Enabled = true;

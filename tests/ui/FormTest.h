@@ -1,0 +1,74 @@
+// FormTest: what the tests of dialogs stand on. A fresh session in English with an open project "P1" in a folder of its
+// own, a settings directory of its own, no saved data, and the scripted host.
+#pragma once
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+
+#include "core/Session.h"
+#include "core/StartSession.h"
+#include "services/LanguageTexts.h"
+#include "services/SharedServices.h"
+#include "support/Files.h"
+#include "support/ScriptedHost.h"
+#include "ui/ProjectFlags.h"
+
+namespace lithmark::tests {
+
+class FormTest : public ::testing::Test {
+  protected:
+    FormTest() {
+        std::filesystem::create_directory(folder_ / "settings");
+        std::filesystem::create_directory(folder_ / "data");
+        SharedServices().UseSettingsDirectory(folder_ / "settings/");
+        SharedServices().DecimalSign = '.';
+        StartIn(Language::English);
+    }
+    ~FormTest() override {
+        SharedServices().UseSettingsDirectory("");
+        LanguageTexts().SetCurrent(Language::English);
+        ResetSession();
+        for (int entry = 0; entry < kProblemEntries; ++entry) SetProblemSaved(entry, false);
+    }
+
+    void StartIn(Language language) {
+        LanguageTexts().SetCurrent(language);
+        StartSession();
+        Session.ProgramDir = folder_ / "settings/";
+        Session.DataDir = DataDir();
+        Session.ProjectName = "P1";
+    }
+    std::string DataDir() const { return folder_ / "data/"; }
+    std::string DataFile(const std::string& name) const { return DataDir() + name; }
+    // Names of the files in the project's folder.
+    std::vector<std::string> DataFiles() const {
+        std::vector<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(DataDir()))
+            names.push_back(entry.path().filename());
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+
+    // Shows a form of type F and plays a script on it.
+    template <typename F>
+    void OnShown(std::function<void(F&)> script) {
+        F form;
+        host.OnForm<F>(std::move(script));
+        CurrentHost().ShowForm(form);
+    }
+
+    ScriptedHost host;
+
+  private:
+    TestFolder folder_;
+};
+
+// A data file's text: one value a line.
+inline std::string Lines(std::initializer_list<const char*> values) {
+    std::string text;
+    for (const char* value : values) text += std::string(value) + "\r\n";
+    return text;
+}
+
+}  // namespace lithmark::tests

@@ -1,0 +1,91 @@
+#include "ui/frmOptionDraw.h"
+
+#include "core/Session.h"
+#include "services/SharedServices.h"
+#include "ui/HelpText.h"
+
+namespace lithmark {
+
+namespace {
+
+constexpr Style kButton{1};
+constexpr const char* kPerCent = "[%]";
+constexpr int kContactPressure = 4, kRaftSettlement = 5, kCorrected = 3;
+constexpr int kCurveSets = 6;
+
+bool IsRaft() {
+    return Session.ProblemType == 9 || Session.ProblemType == 10;
+}
+
+std::string CurveSetName(int index) {
+    return "Tab" + std::to_string(index + 1);
+}
+
+}  // namespace
+
+frmOptionDraw::frmOptionDraw() : Form("frmOptionDraw") {
+    cmdok.OnClick = [this] { cmdok_Click(); };
+    CmdCancel.OnClick = [this] { CmdCancel_Click(); };
+    cmdHelp.OnClick = [this] { cmdHelp_Click(); };
+}
+
+void frmOptionDraw::Load() {
+    SharedServices().PrepareForm(*this);
+    // Every opening starts from the same choice.
+    Session.CurveChoice = CurveSetName(0);
+    Session.CurveLoadUnit = Session.Force1Label;
+    Session.CurveSettlementUnit = Session.Len2Label;
+    Session.DialogOk = false;
+
+    Caption = Text(400002_text);
+    SetCaptions({{fraSelectOption, 300072_text},
+                 {optDraw[0], 300019_text},
+                 {optDraw[1], 300052_text},
+                 {optDraw[2], 140188_text},
+                 {optDraw[kCorrected], 300054_text},
+                 {optDraw[kContactPressure], 300077_text},
+                 {optDraw[6], 40080_text},
+                 {fraLoadUnit, 300039_text},
+                 {fraSettlementUnit, 300040_text},
+                 {cmdok, 6_text, kButton},
+                 {CmdCancel, 7_text, kButton},
+                 {cmdHelp, 8_text, kButton}});
+    if (IsRaft()) optDraw[kRaftSettlement].Caption = Text(Session.ProblemType == 9 ? 140189_text : 140190_text);
+    SetCaptions({{optLoadUnit[0], kPerCent},
+                 {optLoadUnit[1], Session.Force1Label},
+                 {optSettlementUnit[0], kPerCent},
+                 {optSettlementUnit[1], Session.Len2Label}});
+
+    const bool raft = IsRaft();
+    Show({&optDraw[0], &optDraw[1], &optDraw[2]}, !raft);
+    optDraw[kCorrected].Visible = !raft && Session.Ms;
+    Show({&optDraw[kContactPressure], &optDraw[kRaftSettlement]}, raft);
+    optDraw[6].Visible = false;
+    Show({&fraLoadUnit, &optLoadUnit[0], &optLoadUnit[1], &fraSettlementUnit, &optSettlementUnit[0],
+          &optSettlementUnit[1]},
+         !raft);
+
+    SelectOption(optDraw[raft ? kContactPressure : 0]);
+    SelectOption(optLoadUnit[1]);
+    SelectOption(optSettlementUnit[1]);
+}
+
+void frmOptionDraw::cmdok_Click() {
+    if (const int index = optDraw.Selected(); index < kCurveSets) Session.CurveChoice = CurveSetName(index);
+    Session.CurveLoadUnit = optLoadUnit[0].Value ? std::string(kPerCent) : Session.Force1Label;
+    Session.CurveSettlementUnit = optSettlementUnit[0].Value ? std::string(kPerCent) : Session.Len2Label;
+    Session.DialogOk = true;
+    Unload();
+}
+
+void frmOptionDraw::cmdHelp_Click() {
+    ShowHelp(Text(400002_text), {{"Dieses Menü zeigt die verfügbaren Kurven der Ergebnisse an.",
+                                  "Wählen Sie eine der Kurven der Ergebnisse aus,",
+                                  "die Sie darstellen wollen. Dann, klicken Sie auf Schaltfläche 'OK'."},
+                                 {"This menu shows the available curves of results.",
+                                  "Select a curve of results to draw,", "then click on the button 'OK'."},
+                                 {"هذه القائمة تعرض المنحنيات المتاحة من النتائج.", "اختار منحنى من النتائج للعرض،",
+                                  "ثم انقر زر ،نعم،."}});
+}
+
+}  // namespace lithmark

@@ -1,0 +1,140 @@
+#include "ui/frmResultTools.h"
+
+#include "base/Utf8.h"
+#include "contour/CurveSets.h"
+#include "core/Session.h"
+#include "files/GloableVariable.h"
+#include "services/FileTools.h"
+#include "services/SharedServices.h"
+#include "ui/HelpText.h"
+#include "ui/frmOptionDraw.h"
+
+namespace lithmark {
+
+namespace {
+
+constexpr Style kButton{1}, kHeading{4};
+constexpr int kFontSize = 8;
+// What the text area holds at most; the ways out know no such limit.
+constexpr std::size_t kShownCharacters = 30000;
+constexpr int kConsolidationRate = 5;
+// Where the raft program is installed for the hand-over of a case; kept: installations rely on it.
+const std::string kRaftProgramDir = "F:\\KORVAN Setup\\";
+const std::string kRaftProgram = "verda.exe";
+
+struct ViewerRow {
+    int ProblemType;
+    TextId Caption;
+    bool Curves, HandOver;
+};
+constexpr ViewerRow kViewerRows[] = {
+    {1, 140185_text, false, false}, {2, 300100_text, false, false}, {3, 300001_text, false, false},
+    {4, 140186_text, false, false}, {5, 140187_text, true, false},  {6, 300047_text, true, false},
+    {7, 300048_text, true, false},  {8, 300033_text, true, false},  {9, 140189_text, true, true},
+    {10, 140190_text, true, true},  {11, 400190_text, true, true},
+};
+
+// Runs a step that leaves the program, and tells its failure.
+template <typename Step>
+void SendTo(Step&& step) {
+    try {
+        step();
+    } catch (const Failure& failure) {
+        FileError(failure);
+    }
+}
+
+std::string ReportFont() {
+    return Text(160017_text);
+}
+
+}  // namespace
+
+frmResultTools::frmResultTools() : Form("frmResultTools") {
+    cmdPrinter.OnClick = [this] { cmdPrinter_Click(); };
+    CmdTextEditor.OnClick = [this] { CmdTextEditor_Click(); };
+    CmdExcel.OnClick = [this] { CmdExcel_Click(); };
+    cmdWord.OnClick = [this] { cmdWord_Click(); };
+    cmdClipboard.OnClick = [this] { cmdClipboard_Click(); };
+    cmdVERDA.OnClick = [this] { cmdVERDA_Click(); };
+    cmdok.OnClick = [this] { cmdok_Click(); };
+    cmdHelp.OnClick = [this] { cmdHelp_Click(); };
+}
+
+void frmResultTools::Load() {
+    SharedServices().PrepareForm(*this);
+    SetCaptions({{fraResult, 140096_text, kHeading},
+                 {cmdPrinter, 10_text, kButton},
+                 {CmdTextEditor, 70033_text, kButton},
+                 {CmdExcel, 40086_text, kButton},
+                 {cmdWord, 90096_text, kButton},
+                 {cmdClipboard, 70034_text, kButton},
+                 {cmdVERDA, 400198_text, kButton},
+                 {cmdok, 6_text, kButton},
+                 {cmdHelp, 8_text, kButton}});
+    CmdExcel.Enabled = false;
+    cmdVERDA.Enabled = false;
+    for (const ViewerRow& row : kViewerRows) {
+        if (row.ProblemType != Session.ProblemType) continue;
+        Caption = Text(row.Caption);
+        CmdExcel.Enabled = row.Curves;
+        cmdVERDA.Enabled = row.HandOver;
+    }
+    txtResult.ReadOnly = true;
+    txtResult.FontName = ReportFont();
+    txtResult.Text = FirstCharacters(Session.ResultText, kShownCharacters);
+}
+
+void frmResultTools::cmdPrinter_Click() {
+    SendTo([] { CurrentHost().PrintText(Session.ResultText, ReportFont(), kFontSize, LanguageTexts().RightToLeft()); });
+}
+
+void frmResultTools::CmdTextEditor_Click() {
+    SendTo([] { FileTools().ShowTextEditor(Session.ProgramDir, Session.ResultText); });
+}
+
+void frmResultTools::CmdExcel_Click() {
+    SendTo([] {
+        if (Session.ProblemType != kConsolidationRate) {
+            frmOptionDraw choice;
+            CurrentHost().ShowForm(choice);
+            if (!Session.DialogOk) return;
+        }
+        CurrentHost().ShowChart(BuildChart());
+    });
+}
+
+void frmResultTools::cmdWord_Click() {
+    SendTo([] {
+        CurrentHost().OpenWordProcessor(Session.ResultText, ReportFont(), kFontSize, LanguageTexts().RightToLeft());
+    });
+}
+
+void frmResultTools::cmdClipboard_Click() {
+    SendTo([] { CurrentHost().SetClipboardText(Session.ResultText); });
+}
+
+void frmResultTools::cmdVERDA_Click() {
+    SendTo([] {
+        SharedServices().SetFileName(Session.DataDir + Session.ProjectName + ".PO1");
+        const std::string caseFile = SharedServices().GetFileName();
+        if (SharedServices().FileMissing(caseFile, false))
+            CurrentHost().StartProcess(Session.ProgramDir + kRaftProgram);
+        else
+            CurrentHost().StartProcess(kRaftProgramDir + kRaftProgram + " " + caseFile);
+    });
+}
+
+void frmResultTools::cmdHelp_Click() {
+    ShowHelp(Caption,
+             {{"Mit dem Menü können die Daten und Ergebnisse aufgelistet",
+               "werden, an den Drucker, Excel, Word and Zwischenablage",
+               "ausgegeben werden oder in VERDA-Text angezeigt werden.",
+               "Setzungen und Sohldrücke der Platte können als", "Isolinien gezeichnet werden."},
+              {"In the menu, data and results can be listed or sent", "to printer, Excel, Word, Clipboard and",
+               "VERDA-Text. Settlements and contact pressures", "of rafts can be displayed as contour lines."},
+              {"في هذه القائمة يمكن عرض المعطيات والنتائج أو إرسالها", "إلى الطابعة وإكسل وورد والحافظة وفيردا تكست.",
+               "ويمكن رسم هبوط اللبشة والإجهادات تحتها كخطوط كنتورية."}});
+}
+
+}  // namespace lithmark
