@@ -1,8 +1,8 @@
 // The problem data files: one text file for each problem family, a value a line, read and written by one row table.
 //
 // Both routines move data between Session and the file of Session.ProblemType under WorkDir and WorkName; no value is
-// checked beyond being what its field can hold. A failure goes through FileError and leaves the fields that were read
-// so far; Session.FileSaved stays false.
+// checked beyond being what its field can hold, and a table's count from 1 to 32767. A failure goes through FileError
+// and leaves the fields that were read so far; Session.FileSaved stays false.
 #pragma once
 
 #include <string_view>

@@ -72,7 +72,6 @@ void WriteProjectData() {
         Session.FileSaved = true;
     } catch (const Failure& failure) {
         FileError(failure);
-        return;
     }
     SharedServices().SetPointer(PointerShape::Default);
 }

@@ -12,32 +12,47 @@ namespace {
 
 constexpr int kFile = 1;
 
-// Reads a settings file; true when there was one. What `read` does not reach keeps its value; a failure is told.
+std::string SettingsFileName(const std::string& name) {
+    SharedServices().SetFileName(Session.ProgramDir + name);
+    return SharedServices().GetFileName();
+}
+
+// Reads the open settings file. What `read` does not reach keeps its value; a failure is told.
 template <typename Read>
-bool ReadSettings(const std::string& name, Read&& read) {
-    const std::string path = Session.ProgramDir + name;
-    if (SharedServices().FileMissing(path, true)) return false;
+void ReadOpenFile(Read&& read) {
     try {
-        if (OpenDataFile(path, FileMode::Input, kFile) != 0) return false;
         read();
         CloseDataFile(kFile);
     } catch (const Failure& failure) {
         FileError(failure);
     }
-    return true;
 }
 
-template <typename Write>
-void WriteSettings(const std::string& name, Write&& write) {
-    Session.FileSaved = false;
+// Reads a settings file that may as well not be there: one that is missing or cannot be opened is passed over without
+// a word.
+template <typename Read>
+void ReadOptionalSettings(const std::string& name, Read&& read) {
     try {
-        OpenDataFile(Session.ProgramDir + name, FileMode::Output, kFile);
+        if (OpenDataFile(SettingsFileName(name), FileMode::Input, kFile) != 0) return;
+    } catch (const Failure&) {
+        SharedServices().ClearFileStatus();
+        return;
+    }
+    ReadOpenFile(read);
+}
+
+// Writes a settings file; false when that failed, which is told.
+template <typename Write>
+bool WriteSettings(const std::string& name, Write&& write) {
+    try {
+        OpenDataFile(SettingsFileName(name), FileMode::Output, kFile);
         write();
         CloseDataFile(kFile);
-        Session.FileSaved = true;
     } catch (const Failure& failure) {
         FileError(failure);
+        return false;
     }
+    return true;
 }
 
 // The form of a label that no language changes: that of the row whose label text it is.
@@ -62,22 +77,22 @@ void LoadUnits() {
     Session.TempLabel = units.TempLabel;
 }
 
-void WriteUnits() {
+bool WriteUnits() {
     const auto pair = [](std::span<const UnitRow> units, const std::string& label, double factor) {
         WriteList(kFile, {CanonicalLabel(units, label), factor});
     };
-    OpenDataFile(Session.ProgramDir + "Units", FileMode::Output, kFile);
-    pair(LengthUnits(), Session.Len1Label, Session.Len1Factor);
-    pair(LengthUnits(), Session.Len2Label, Session.Len2Factor);
-    pair(ForceUnits(), Session.Force1Label, Session.Force1Factor);
-    pair(ForceUnits(), Session.Force2Label, Session.Force2Factor);
-    WriteList(kFile, {CanonicalLabel(TemperatureUnits(), Session.TempLabel)});
-    CloseDataFile(kFile);
+    return WriteSettings("Units", [&] {
+        pair(LengthUnits(), Session.Len1Label, Session.Len1Factor);
+        pair(LengthUnits(), Session.Len2Label, Session.Len2Factor);
+        pair(ForceUnits(), Session.Force1Label, Session.Force1Factor);
+        pair(ForceUnits(), Session.Force2Label, Session.Force2Factor);
+        WriteList(kFile, {CanonicalLabel(TemperatureUnits(), Session.TempLabel)});
+    });
 }
 
 void LoadNumberFormats() {
     SetDefaultNumberFormats();
-    ReadSettings("NOFORMAT", [] {
+    ReadOptionalSettings("NOFORMAT", [] {
         for (const NumberFormatRow& row : NumberFormats()) Session.*row.Field = ReadRawLine(kFile);
     });
     DeriveNumberFormats();
@@ -85,7 +100,7 @@ void LoadNumberFormats() {
 
 void LoadPreferences() {
     SetDefaultPreferences();
-    ReadSettings("Preferen.tol", [] {
+    ReadOptionalSettings("Preferen.tol", [] {
         Session.PrefDx = ReadSingle(kFile);
         Session.PrefDy = ReadSingle(kFile);
         Session.PrefDz = ReadSingle(kFile);
@@ -96,7 +111,8 @@ void LoadPreferences() {
 }
 
 void SavePreferences() {
-    WriteSettings("Preferen.tol", [] {
+    Session.FileSaved = false;
+    Session.FileSaved = WriteSettings("Preferen.tol", [] {
         WriteNumber(kFile, Session.PrefDx);
         WriteNumber(kFile, Session.PrefDy);
         WriteNumber(kFile, Session.PrefDz);
@@ -109,14 +125,21 @@ void SavePreferences() {
 void ReadDataDirSettings(std::string& dataDir) {
     dataDir = Session.ProgramDir;
     Session.CompressFlag = 2;
-    ReadSettings("STEU", [&] {
+    try {
+        if (OpenDataFile(SettingsFileName("STEU"), FileMode::Input, kFile) != 0) return;
+    } catch (const Failure& failure) {
+        FileError(failure);
+        return;
+    }
+    ReadOpenFile([&] {
         dataDir = ReadRawLine(kFile);
         Session.CompressFlag = ReadLong(kFile);
     });
 }
 
 void WriteDataDirSettings(const std::string& dataDir) {
-    WriteSettings("STEU", [&] {
+    Session.FileSaved = false;
+    Session.FileSaved = WriteSettings("STEU", [&] {
         WriteRawLine(kFile, dataDir);
         WriteNumber(kFile, Session.CompressFlag);
     });

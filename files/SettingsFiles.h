@@ -7,14 +7,14 @@ namespace lithmark {
 
 // Puts the units of the file "Units" into Session. Without the file the base units hold.
 void LoadUnits();
-// Writes Session's units in the form that no language changes. Throws Failure.
-void WriteUnits();
+// Writes Session's units in the form that no language changes; false after a failure, which went through FileError.
+bool WriteUnits();
 
-// The eighteen number formats of "NOFORMAT", a raw line each; defaults without the file, and for the lines that a short
-// file lacks, which is told.
+// The eighteen number formats of "NOFORMAT", a raw line each, and the two derived ones. A file that is missing or
+// cannot be opened gives the defaults without a word; so do, behind a message, the lines that a short file lacks.
 void LoadNumberFormats();
 
-// The six preferences of "Preferen.tol"; defaults without the file.
+// The six preferences of "Preferen.tol", in the same way.
 void LoadPreferences();
 // Writes them and sets Session.FileSaved; a failure goes through FileError.
 void SavePreferences();
