@@ -20,6 +20,7 @@ class RectangularRaft {
 
     void Run() {
         SharedServices().SetPointer(PointerShape::Hourglass);
+        SharedServices().ReportProgress(0);
         depthStep_ = Sqrt(Square(input_.B) + Square(input_.A)) / 2;
         PrepareNodes();
         if (input_.AnalysisType) {
@@ -31,6 +32,7 @@ class RectangularRaft {
         else
             SettleClay();
         TakeResults();
+        SharedServices().ReportProgress(1);
         ExportRaft(result_);
         WriteRaftReport(result_);
         SharedServices().SetPointer(PointerShape::Default);

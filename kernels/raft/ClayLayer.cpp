@@ -71,8 +71,8 @@ Single SearchLimitingDepth(ClayColumn& column, double tolerance, const MeanStres
         column.Add(meanStress(column.Top(), column.Bottom()));
         if (std::abs(previous - column.Settlement()) < tolerance) return column.Top();
         previous = column.Settlement();
-        // How deep it goes is not known; the call gives the user a way out.
-        if (steps % 64 == 0) SharedServices().ReportProgress(0);
+        // How deep it goes is not known.
+        if (steps % 64 == 0) SharedServices().ReportProgress(0.5 * steps / (steps + 1000.0));
     }
 }
 

@@ -125,7 +125,7 @@ void ClayPunchSettlement(const RectangularMesh& mesh, RaftInput& input, Single d
     Array<Single> meanStress;
     while (columns.front().Top() != input.h) {
         const Single z1 = columns.front().Top(), z2 = columns.front().Bottom();
-        SharedServices().ReportProgress(Quotient(z1, input.h));
+        SharedServices().ReportProgress(0.5 + 0.5 * Quotient(z1, input.h));
         const Single corner = cornerFactor(z1, z2);
         for (std::size_t i = 0; i < own.size(); ++i) own[i] = loads.Own[i] * corner;
         OffsetFactors factors(
