@@ -25,6 +25,7 @@ struct Grid {
     Array<Single> dz;     // interval, m
     Array<Single> Depth;  // of the layer's top, m
     Array<Integer> TopType, BottomType;
+    Integer Last = 0;  // node
 };
 
 // A month is a twelfth of 365 days, the year is rounded; kept: existing projects rely on both. 0 for any other word.
@@ -40,7 +41,6 @@ Single SecondsPerTimeUnit(const std::string& timeUnit) {
 Grid BuildGrid(const ConsolidationRateInput& in) {
     const int layers = in.NumLayers;
     Grid grid{{1, layers}, {1, layers}, {1, layers}, {1, layers}, {1, layers}};
-    Integer last = 0;
     for (int i = 1; i <= layers; ++i) {
         const Single depth = i == 1 ? in.z : Single(grid.Depth(i - 1) + in.hLayer(i - 1));
         grid.Depth(i) = depth;
@@ -51,9 +51,8 @@ Grid BuildGrid(const ConsolidationRateInput& in) {
         if (n % 2 != 0) n += 1;
         grid.n(i) = n;
         grid.dz(i) = in.hLayer(i) / n;
-        last += n;
+        grid.Last += n;
     }
-    Session.IsoLast = last;
     return grid;
 }
 
@@ -71,9 +70,8 @@ class NodePass {
         : in(input), grid(gridOfRun), c(secondsPerUnit), dt(timeStep) {}
 
     void Run() {
-        Session.IsoU0.Redim(0, Session.IsoLast);
-        Rows.Redim(0, Session.IsoLast);
-        Old.Redim(0, Session.IsoLast);
+        Rows.Redim(0, grid.Last);
+        Old.Redim(0, grid.Last);
         InitialPressure pressure(in);
         // A circular load starts each layer at its second node, which moves rows and pressures up by one index, and
         // goes down twice per node; kept: existing projects rely on it.
@@ -186,7 +184,6 @@ void AverageDegree(const ConsolidationRateInput& in, const Grid& grid) {
 // The first layer counts one interval more than it has, so the nodes of layer 2 are printed dz(1) - dz(2) deeper than
 // they lie; kept: existing projects rely on it. The entry IsoLast + 1 is never shown.
 void NodeDepths(const ConsolidationRateInput& in, const Grid& grid) {
-    Session.IsoZ.Redim(0, Session.IsoLast + 1);
     Session.IsoZ(0) = grid.Depth(1);
     int m = 1;
     for (int i = 1; i <= in.NumLayers; ++i) {
@@ -213,9 +210,12 @@ void Run(const ConsolidationRateInput& in) {
     const Single steps = Quotient(in.T, dt);
 
     SharedServices().SetPointer(PointerShape::Hourglass);
+    Session.IsoLast = grid.Last;
+    Session.IsoU0.Redim(0, grid.Last);
+    Session.IsoUf.Redim(0, grid.Last);
+    Session.IsoZ.Redim(0, grid.Last + 1);
     NodePass nodes(in, grid, c, dt);
     nodes.Run();
-    Session.IsoUf.Redim(0, Session.IsoLast);
     PorePressureMarch march(nodes.Rows, nodes.Old);
     if (steps > kMostSteps) {
         TellTooManySteps(in.TimeUnit);

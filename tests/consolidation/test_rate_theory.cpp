@@ -90,6 +90,39 @@ TEST_F(RateTheory, OneLayerDrainedAtBothFacesFollowsTerzaghiWithHalfTheThickness
     }
 }
 
+// The same scheme in 64 bits tells its own error from that of the stored 32 bits: one layer of n intervals, drained at
+// the top, impermeable below, the first step from half the pressure at the face.
+std::vector<double> WideScheme(int n, int steps) {
+    const double lambda = 1.0 / 6;
+    std::vector<double> cur(static_cast<std::size_t>(n) + 1, 100), next = cur;
+    cur[0] = 50;
+    const auto last = static_cast<std::size_t>(n);
+    for (int k = 0; k < steps; ++k) {
+        next[0] = 0;
+        for (std::size_t m = 1; m < last; ++m) next[m] = lambda * (cur[m - 1] + cur[m + 1]) + (1 - 2 * lambda) * cur[m];
+        next[last] = 2 * lambda * cur[last - 1] + (1 - 2 * lambda) * cur[last];
+        cur.swap(next);
+    }
+    return cur;
+}
+
+TEST_F(RateTheory, DifferenceToTheSchemeIn64BitsIsRounding) {
+    RateCase c = StepCase(100, 2);
+    for (const int steps : {2, 600, 12000, 30000}) {
+        c.T = StepOf(c) * steps;
+        Run(c);
+        const std::vector<double> wide = WideScheme(100, steps);
+        for (int m = 0; m <= 100; ++m)
+            EXPECT_NEAR(Session.IsoUf(m), wide[static_cast<std::size_t>(m)], Rounding(steps + 2))
+                << steps << " steps, node " << m;
+        const double Tv = steps / 6.0e4;
+        if (steps < 600) continue;
+        for (int m = 0; m <= 100; ++m)
+            EXPECT_NEAR(wide[static_cast<std::size_t>(m)], 100 * TerzaghiPressure(m / 100.0, Tv), kScheme)
+                << steps << " steps, node " << m;
+    }
+}
+
 // 500 m, 500 intervals, up to 31 500 steps: the limit of steps reaches Tv = 0.021 here, U = 2 sqrt(Tv/pi)
 // (Terzaghi 1943, for short times).
 TEST_F(RateTheory, ThickLayerFollowsTheRootLawOfShortTimes) {
