@@ -104,6 +104,20 @@ TEST_F(CircularLoad, LeavesOutOfItsShearsWhatIsStraightNorthOrSouth) {
     EXPECT_NEAR(SolveCircle(12, 0, y, z).Tau_yz, theory - missing, 0.001 * kP);
 }
 
+// Deliberate: for v an element less than a millimetre east or west counts as straight north or south, and its whole
+// outward displacement goes into v. By hand with two divisions: the centre 0.9 mm and 1.1 mm away, and four elements on
+// the edge.
+TEST_F(CircularLoad, TakesTheWholeDisplacementOfAnElementNearlyNorthForV) {
+    const double x = 0.0009, y = 0.0011, z = 0.002;
+    const auto load = [](double outer, double inner) { return kP * kPi * (outer * outer - inner * inner); };
+    const Theory centre = PointTheory(x, y, z, load(kRadius / 2, 0), kNue, kEs);
+    double expected = std::hypot(centre.u, centre.v);
+    for (const auto& [nodeX, nodeY] : {std::pair{kRadius, 0.0}, {0.0, kRadius}, {-kRadius, 0.0}, {0.0, -kRadius}})
+        expected += PointTheory(x - nodeX, y - nodeY, z, load(kRadius, kRadius / 2) / 4, kNue, kEs).v;
+    EXPECT_NEAR(SolveCircle(2, x, y, z).v, 100 * expected, 100 * std::abs(expected) * 1e-4);
+    EXPECT_GT(std::abs(centre.v / std::hypot(centre.u, centre.v) - 1), 0.1);
+}
+
 // Theory: far away the circle is a point load of p pi a2.
 TEST_F(CircularLoad, FarAwayIsAPointLoad) {
     const Theory theory = PointTheory(30, 40, 60, kP * kPi * kRadius * kRadius, kNue, kEs);

@@ -200,6 +200,10 @@ TEST(RectangularLoad, LeavesOutSidesOfUpToOneMillimetre) {
     const auto tau = [](double y) { return Solve(RectangleAt(0.5, y, 1.5, 4, 3)).Tau_xy; };
     EXPECT_NEAR(tau(1.5), tau(1.5 - 0.0009), 0.02);
     EXPECT_GT(std::abs(tau(1.5) - tau(1.5 - 0.0011)), 1);
+    // A rectangle just as wide, seen from its edge: nothing is left.
+    const Single limit = 0.001;
+    EXPECT_EQ(Solve(RectangleAt(limit / 2, 1, 1.5, limit, 3)).Tau_xy, 0);
+    EXPECT_NE(Solve(RectangleAt(0.0011 / 2, 1, 1.5, 0.0011, 3)).Tau_xy, 0);
 }
 
 // Two millimetres beside an edge, on the surface, the distance to the far corner rounds to the long side: R3 - Y is 0,
