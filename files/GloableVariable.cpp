@@ -1,16 +1,18 @@
 #include "files/GloableVariable.h"
 
+#include "services/FileNames.h"
 #include "services/SharedServices.h"
 
 namespace lithmark {
 
 int OpenDataFile(const std::string& name, FileMode mode, int fileNumber) {
     SharedServicesService& services = SharedServices();
-    services.SetCurrentFile(name);
+    const std::string path = MappedFileName(name);
+    services.SetCurrentFile(path);
     const bool reading = mode == FileMode::Input || mode == FileMode::RandomInput;
-    if (reading && services.FileMissing(name, false)) return -1;
+    if (reading && services.FileMissing(path, false)) return -1;
     services.ShowFileStatus(reading ? FileStatus::Reading : FileStatus::Writing);
-    OpenNumberedFile(fileNumber, name, mode);
+    OpenNumberedFile(fileNumber, path, mode);
     return 0;
 }
 

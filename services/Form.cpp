@@ -10,8 +10,8 @@ Form::Form(std::string name) : Name(std::move(name)) {}
 
 void Form::Unload() {
     if (unloaded_) return;
+    unloaded_ = true;  // first, so that an event that unloads again does nothing
     Unloading();
-    unloaded_ = true;
 }
 
 void Form::SelectOption(Control& option) {

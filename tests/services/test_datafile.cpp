@@ -410,6 +410,40 @@ TEST_F(DataFile, AFullDiskIsAFailureWhereTheFileIsClosedOrBefore) {
               FailureKind::DiskFull);
 }
 
+TEST_F(DataFile, ADiskThatFillsUpLeavesTheOldFileAndNothingElse) {
+    WriteBytes(folder / "A.SSD", "old");
+    EXPECT_TRUE(OnAFullDisk(100000, [&] {
+        StartWriting();
+        const auto kind = KindOf([] {
+            for (int i = 0; i < 100000; ++i) WriteRawLine(1, "many lines");
+            CloseNumberedFile(1);
+        });
+        DropNumberedFile(1);
+        return kind == FailureKind::WriteError;
+    }));
+    EXPECT_TRUE(OnAFullDisk(100, [&] {  // the disk is full only when the buffer goes out, at the close
+        StartWriting();
+        for (int i = 0; i < 100; ++i) WriteRawLine(1, "few lines");
+        return KindOf([] { CloseNumberedFile(1); }) == FailureKind::WriteError;
+    }));
+    EXPECT_EQ(ReadBytes(folder / "A.SSD"), "old");
+    EXPECT_THAT(folder.Names(), ElementsAre("A.SSD"));
+}
+
+TEST_F(DataFile, AProcessThatDiesWhileWritingLeavesTheOldFile) {
+    WriteBytes(folder / "A.SSD", "old");
+    EXPECT_FALSE(OnAFullDisk(RLIM_INFINITY, [&]() -> bool {
+        StartWriting();
+        for (int i = 0; i < 100000; ++i) WriteRawLine(1, "new");
+        ::_exit(9);
+    }));
+    EXPECT_EQ(ReadBytes(folder / "A.SSD"), "old");
+    StartWriting();
+    WriteRawLine(1, "new");
+    CloseNumberedFile(1);
+    EXPECT_EQ(ReadBytes(folder / "A.SSD"), "new\r\n");
+}
+
 TEST_F(DataFile, AFolderThatVanishesWhileWritingIsAFailureAtTheClose) {
     std::filesystem::create_directory(folder / "sub");
     StartWriting("sub/A.SSD");

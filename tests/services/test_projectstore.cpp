@@ -317,6 +317,15 @@ TEST_F(ProjectStoreTest, AnArchiveThatReadsBackWronglyDoesNotTakeTheProjectsPlac
     EXPECT_THAT(host.Messages, SizeIs(1));
 }
 
+TEST_F(ProjectStoreTest, AFullDiskLeavesThePlainFilesOrTheArchiveAsTheyWere) {
+    EXPECT_TRUE(OnAFullDisk(50, [this] { return !Pack() && host.Messages.size() == 1; }));
+    EXPECT_EQ(Content(), kProject);
+    EXPECT_TRUE(Pack());
+    const Files packed = Content();
+    EXPECT_TRUE(OnAFullDisk(50000, [this] { return !Unpack() && host.Messages.size() == 1; }));
+    EXPECT_EQ(Content(), packed);
+}
+
 TEST_F(ProjectStoreTest, AFolderInTheWayOfAFileStopsTheUnpackingBeforeAnythingChanges) {
     EXPECT_TRUE(Pack());
     const std::string archive = ReadBytes(folder / "Raft1.PO3");

@@ -2,11 +2,16 @@
 #pragma once
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <algorithm>
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <optional>
 #include <string>
@@ -68,6 +73,21 @@ inline std::optional<Failure> FailureOf(auto&& action) {
 inline std::optional<FailureKind> KindOf(auto&& action) {
     const auto failure = FailureOf(action);
     return failure ? std::optional(failure->Kind()) : std::nullopt;
+}
+
+// Runs an action in a process of its own in which no file can grow beyond so many bytes, as on a full disk. True when
+// the action says so there.
+inline bool OnAFullDisk(rlim_t bytes, const std::function<bool()>& action) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit limit{bytes, bytes};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+        ::_exit(action() ? 0 : 1);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
 }  // namespace lithmark::tests
