@@ -56,7 +56,6 @@ void FailWithSystemError(int error, FailureKind otherwise) {
 WrittenFile::WrittenFile(const std::string& path) : target_(RealTarget(path)) {
     struct stat status {};
     if (::stat(target_.c_str(), &status) == 0) {
-        if (S_ISDIR(status.st_mode)) Fail(FailureKind::NotAFile);
         if (::access(target_.c_str(), W_OK) != 0) FailWithSystemError(errno, FailureKind::WriteError);
         if (!S_ISREG(status.st_mode)) {
             descriptor_ = ::open(target_.c_str(), O_WRONLY | O_CLOEXEC);
