@@ -166,7 +166,7 @@ class Run {
             for (int r = 1; r <= m; ++r) {
                 Single s;
                 for (int k = 1; k <= clay_.M; ++k) {
-                    Single D = SumOfForces(sublayers[static_cast<std::size_t>(k - 1)], r, Session.NodeForce);
+                    Single D = SumOfUnitForces(sublayers[static_cast<std::size_t>(k - 1)], r, Session.NodeForce);
                     if (D < 0) D = 0;
                     s += clay_.LayerFactor * LogStressRatio(clay_.SubStress(k), D);
                 }

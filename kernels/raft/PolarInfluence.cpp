@@ -21,6 +21,10 @@ Single PolarInfluence::Distance(int t, int i) const {
     return Sqrt(Square(mesh_.NodeX(i) - mesh_.NodeX(t)) + Square(mesh_.NodeY(i) - mesh_.NodeY(t)));
 }
 
+Single PolarInfluence::UnitForce(int t, int i) const {
+    return t == i ? Own(RingOf(mesh_, i), Quotient(1, mesh_.NodeArea(i))) : Point(t, i);
+}
+
 HalfSpaceInfluence::HalfSpaceInfluence(const PolarMesh& mesh, Single nu, Single Es)
     : PolarInfluence(mesh), nu_(nu), Es_(Es), surface_(RingIntegrals(mesh, 0, 2)) {}
 
@@ -83,6 +87,12 @@ Single SumOfForces(const PolarInfluence& influence, int t, const Array<Single>& 
         sum += (i == t ? influence.Own(RingOf(mesh, i), Quotient(force(i), mesh.NodeArea(i)))
                        : influence.Point(t, i) * force(i)) *
                scale;
+    return sum;
+}
+
+Single SumOfUnitForces(const PolarInfluence& influence, int t, const Array<Single>& force) {
+    Single sum;
+    for (int i = 1; i <= influence.Mesh().NTotal; ++i) sum += influence.UnitForce(t, i) * force(i);
     return sum;
 }
 

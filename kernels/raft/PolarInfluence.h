@@ -25,6 +25,9 @@ class PolarInfluence {
     // On node t from a unit force at another node i. DivisionByZero when the two stand on one point.
     virtual double Point(int t, int i) const = 0;
 
+    // On node t from a unit force at node i, which may be t.
+    Single UnitForce(int t, int i) const;
+
     const PolarMesh& Mesh() const noexcept { return mesh_; }
 
   protected:
@@ -81,8 +84,11 @@ class MeanStressInfluence : public PolarInfluence {
     mutable std::vector<std::optional<Single>> factor_;  // per ring: factor of the own term, worked out at first use
 };
 
-// What forces on all nodes do to node t, times `scale`: a Single accumulated in node order.
+// What forces on all nodes do to node t, times `scale`: a Single accumulated in node order. The own term is that of the
+// pressure force/area.
 Single SumOfForces(const PolarInfluence& influence, int t, const Array<Single>& force, double scale = 1);
+// The same by the stored influences of unit forces, as the flexibility has them.
+Single SumOfUnitForces(const PolarInfluence& influence, int t, const Array<Single>& force);
 // What a uniform pressure on the whole raft does to node t, in the same way.
 Single SumOfPressure(const PolarInfluence& influence, int t, double pressure);
 

@@ -80,9 +80,7 @@ Matrix<Single> FoldToQuarter(const PolarFlexibility& flexibility) {
 void PolarFlexibility::Add(double factor, const PolarInfluence& influence,
                            const std::function<void(double)>& progress) {
     for (int c = 1; c <= mesh_.NRing; ++c) {
-        for (int r = 1; r <= mesh_.NTotal; ++r)
-            firstRay_(r, c) +=
-                factor * (r == c ? influence.Own(c, Quotient(1, mesh_.NodeArea(c))) : influence.Point(r, c));
+        for (int r = 1; r <= mesh_.NTotal; ++r) firstRay_(r, c) += factor * influence.UnitForce(r, c);
         progress(static_cast<double>(c) / mesh_.NRing);
     }
 }
