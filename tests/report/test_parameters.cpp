@@ -111,6 +111,12 @@ TEST_F(Parameters, WithAnEmptyTextAsValueAreLabelAndSymbol) {
     EXPECT_THAT(Report(), ElementsAre("Ratio         eo:", "Length        a:  [m] = 5.0"));
 }
 
+TEST_F(Parameters, WithAnEmptyTextAsValueDoNotWidenTheUnits) {
+    AddParameter("Ratio", "e", "", "");
+    AddParameter("Length", "a", "m", 5.0, "0.0");
+    EXPECT_THAT(Report(), ElementsAre("Ratio         e", "Length        a m = 5.0"));
+}
+
 TEST_F(Parameters, WithoutValueTakeNoPartInTheWidths) {
     AddParameter("a", "a long symbol", "[a long unit]");
     AddParameter("b", "c", "[m]", 1.0, "0");
