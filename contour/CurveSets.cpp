@@ -234,6 +234,8 @@ ChartArguments BuildChart() {
     else
         Fail(FailureKind::InvalidArgument);
 
+    chart.SettlementsDown =
+        Session.ProblemType != 5 && (choice == "Tab2" || choice == "Tab3" || choice == "Tab4" || choice == "Tab6");
     if (Session.ProblemType != 5 && raft && Session.LoadType == 3) {
         chart.XStart = -Session.A0;
         chart.XEnd = Session.A0;

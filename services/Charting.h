@@ -16,14 +16,15 @@ struct ChartArguments {
     Integer HeaderRows = 0;  // index of the last header row
     Integer LastRow = 0;
     std::string XTitle, YTitle;
-    Array<std::string> Legends;     // 0 .. Curves, from 1 in use
+    Array<std::string> Legends;  // 0 .. Curves, from 1 in use
     std::string TableTitle;
-    Matrix<std::string> Cells;      // rows 0 .. LastRow, columns 0 .. LastColumn; row and column 0 stay empty
-    Matrix<std::string> Header;     // rows 0 .. HeaderRows, columns 0 .. LastColumn
+    Matrix<std::string> Cells;   // rows 0 .. LastRow, columns 0 .. LastColumn; row and column 0 stay empty
+    Matrix<std::string> Header;  // rows 0 .. HeaderRows, columns 0 .. LastColumn
     bool Flag = false;
+    bool SettlementsDown = false;   // the y axis points down, since settlements are drawn
     Array<std::string> LineStyles;  // 0 .. Curves: "Solid line", "Points" or "LinesNoMarkers"
     Single XStart, XEnd;
-    std::string ProjectText;        // four lines, each ended by a line feed
+    std::string ProjectText;  // four lines, each ended by a line feed
     std::string ChartTitle;
     std::string CompanyLine1, CompanyLine2;
 };

@@ -1,0 +1,154 @@
+// Spreadsheets: a table, and for a chart a native scatter chart over it.
+#include <unistd.h>
+#include <xlsxwriter.h>
+
+#include <filesystem>
+
+#include "base/NumberText.h"
+#include "base/Utf8.h"
+#include "contour/CurveSets.h"
+#include "render/ChartDocument.h"
+#include "services/LanguageTexts.h"
+#include "services/SharedServices.h"
+#include "services/WrittenFile.h"
+
+namespace lithmark {
+
+namespace {
+
+// A workbook, written by way of a scratch file; Bytes closes it.
+class Workbook {
+  public:
+    Workbook() {
+        path_ = (std::filesystem::temp_directory_path() / "lithmark-XXXXXX").string();
+        const int descriptor = mkstemp(path_.data());
+        if (descriptor < 0) Fail(FailureKind::WriteError, path_);
+        close(descriptor);
+        book_ = workbook_new(path_.c_str());
+        if (!book_) Fail(FailureKind::OutOfMemory);
+        Bold = workbook_add_format(book_);
+        format_set_bold(Bold);
+        Head = workbook_add_format(book_);
+        format_set_bold(Head);
+        format_set_text_wrap(Head);
+        format_set_bottom(Head, LXW_BORDER_THIN);
+        format_set_align(Head, LXW_ALIGN_VERTICAL_TOP);
+    }
+    ~Workbook() {
+        if (book_) workbook_close(book_);
+        std::error_code ignored;
+        std::filesystem::remove(path_, ignored);
+    }
+    Workbook(const Workbook&) = delete;
+    Workbook& operator=(const Workbook&) = delete;
+
+    lxw_workbook* Book() { return book_; }
+
+    lxw_worksheet* AddSheet(const std::string& name) {
+        // A sheet's name has at most 31 characters and none of []:*?/\ .
+        std::string clean;
+        for (const char c : FirstCharacters(name, 31))
+            clean += std::string_view("[]:*?/\\'").find(c) == std::string_view::npos ? c : '_';
+        lxw_worksheet* sheet = workbook_add_worksheet(book_, clean.empty() ? nullptr : clean.c_str());
+        if (!sheet) Fail(FailureKind::WriteError);
+        if (LanguageTexts().RightToLeft()) worksheet_right_to_left(sheet);
+        return sheet;
+    }
+
+    std::string Bytes() {
+        const lxw_error error = workbook_close(book_);
+        book_ = nullptr;
+        if (error != LXW_NO_ERROR) Fail(FailureKind::WriteError, lxw_strerror(error));
+        return ReadWholeFile(path_);
+    }
+
+    lxw_format* Bold = nullptr;
+    lxw_format* Head = nullptr;
+
+  private:
+    lxw_workbook* book_ = nullptr;
+    std::string path_;
+};
+
+void WriteCell(lxw_worksheet* sheet, lxw_row_t row, lxw_col_t col, const std::string& cell, char decimalSign) {
+    if (const auto number = ParseNumber(cell, decimalSign))
+        worksheet_write_number(sheet, row, col, *number, nullptr);
+    else
+        worksheet_write_string(sheet, row, col, cell.c_str(), nullptr);
+}
+
+void AddScatterChart(Workbook& workbook, lxw_worksheet* sheet, const std::string& sheetName,
+                     const ChartArguments& arguments, lxw_row_t firstRow, lxw_row_t lastRow) {
+    lxw_chart* chart = workbook_add_chart(workbook.Book(), LXW_CHART_SCATTER_STRAIGHT_WITH_MARKERS);
+    for (int i = 1; i <= arguments.Curves; ++i) {
+        lxw_chart_series* series = chart_add_series(chart, nullptr, nullptr);
+        chart_series_set_categories(series, sheetName.c_str(), firstRow, 0, lastRow, 0);
+        const auto column = static_cast<lxw_col_t>(i);
+        chart_series_set_values(series, sheetName.c_str(), firstRow, column, lastRow, column);
+        chart_series_set_name(series, arguments.Legends(i).c_str());
+        const std::string& style = arguments.LineStyles(i);
+        if (style == "Points") {
+            lxw_chart_line line = {};
+            line.none = LXW_TRUE;
+            chart_series_set_line(series, &line);
+        }
+        chart_series_set_marker_type(series,
+                                     style == "LinesNoMarkers" ? LXW_CHART_MARKER_NONE : LXW_CHART_MARKER_CIRCLE);
+    }
+    chart_title_set_name(chart, arguments.ChartTitle.c_str());
+    chart_axis_set_name(chart->x_axis, arguments.XTitle.c_str());
+    chart_axis_set_name(chart->y_axis, arguments.YTitle.c_str());
+    chart_axis_set_min(chart->x_axis, arguments.XStart);
+    chart_axis_set_max(chart->x_axis, arguments.XEnd);
+    if (arguments.SettlementsDown) chart_axis_set_reverse(chart->y_axis);
+    chart_legend_set_position(chart, LXW_CHART_LEGEND_BOTTOM);
+    lxw_chart_options size = {};
+    size.x_scale = 1.6;
+    size.y_scale = 1.6;
+    worksheet_insert_chart_opt(sheet, 1, static_cast<lxw_col_t>(arguments.LastColumn + 1), chart, &size);
+}
+
+}  // namespace
+
+std::string ChartXlsx(const ChartArguments& chart) {
+    Workbook workbook;
+    const std::string sheetName = "Lithmark";
+    lxw_worksheet* sheet = workbook.AddSheet(sheetName);
+    lxw_row_t row = 0;
+    const auto text = [&](const std::string& line, lxw_format* format) {
+        if (!line.empty()) worksheet_write_string(sheet, row++, 0, line.c_str(), format);
+    };
+    text(chart.CompanyLine1, workbook.Bold);
+    text(chart.CompanyLine2, workbook.Bold);
+    for (const std::string& line : Split(chart.ProjectText, '\n')) text(line, nullptr);
+    ++row;
+    text(chart.TableTitle, workbook.Bold);
+    worksheet_set_column(sheet, 0, static_cast<lxw_col_t>(chart.LastColumn - 1), 18, nullptr);
+    for (int c = 1; c <= chart.LastColumn; ++c)
+        worksheet_write_string(sheet, row, static_cast<lxw_col_t>(c - 1), ColumnHead(chart, c).c_str(), workbook.Head);
+    const lxw_row_t firstRow = row + 1;
+    for (int r = 1; r <= chart.LastRow; ++r)
+        for (int c = 1; c <= chart.LastColumn; ++c)
+            WriteCell(sheet, firstRow + static_cast<lxw_row_t>(r - 1), static_cast<lxw_col_t>(c - 1), chart.Cells(r, c),
+                      SharedServices().DecimalSign);
+    AddScatterChart(workbook, sheet, sheetName, chart, firstRow, firstRow + static_cast<lxw_row_t>(chart.LastRow - 1));
+    return workbook.Bytes();
+}
+
+std::string TableXlsx(const std::string& sheetName, const std::vector<std::vector<std::string>>& table) {
+    Workbook workbook;
+    lxw_worksheet* sheet = workbook.AddSheet(sheetName);
+    for (std::size_t r = 0; r < table.size(); ++r)
+        for (std::size_t c = 0; c < table[r].size(); ++c) {
+            const auto row = static_cast<lxw_row_t>(r);
+            const auto col = static_cast<lxw_col_t>(c);
+            if (r == 0)
+                worksheet_write_string(sheet, row, col, table[r][c].c_str(), workbook.Head);
+            else
+                WriteCell(sheet, row, col, table[r][c], '.');
+        }
+    worksheet_freeze_panes(sheet, 1, 0);
+    return workbook.Bytes();
+}
+
+}  // namespace lithmark

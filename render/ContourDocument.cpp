@@ -1,0 +1,205 @@
+#include "render/ContourDocument.h"
+
+#include <QBuffer>
+#include <QPdfWriter>
+#include <QSvgGenerator>
+
+#include "core/Session.h"
+#include "core/Units.h"
+#include "render/RenderApplication.h"
+#include "services/LanguageTexts.h"
+
+namespace lithmark {
+
+namespace {
+
+constexpr int kUsualSize = 700;
+
+QRgb ColorOf(int number) {
+    return 0xFF000000u | kPalette[static_cast<std::size_t>(number) % kPalette.size()];
+}
+
+QString Q(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+QFont TextFont(double pixels, bool bold = false) {
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(static_cast<int>(pixels + 0.5));
+    font.setBold(bold);
+    return font;
+}
+
+// What is shown, with its unit.
+std::string PlotTitle() {
+    const bool pressure = Session.ContourResult == "Tab5";
+    const TextId title = pressure ? 90098_text : Session.ProblemType == 9 ? 90046_text : 140186_text;
+    return Text(title) + " " + (pressure ? UnitLabel(0) : Session.Len2Label);
+}
+
+// Measures of a plot of `side` pixels with its title and legend.
+struct Layout {
+    explicit Layout(int side) : Side(side), Margin(side / 30), Title(side / 14), Legend(side / 4) {}
+    int Width() const { return Side + Legend + 3 * Margin; }
+    int Height() const { return Side + Title + 2 * Margin; }
+    int Side, Margin, Title, Legend;
+};
+
+void DrawContour(QPainter& painter, BasContour& plot, const Layout& layout) {
+    painter.fillRect(QRect(0, 0, layout.Width(), layout.Height()), Qt::white);
+    painter.setPen(Qt::black);
+    painter.setFont(TextFont(layout.Title * 0.42, true));
+    const QRect title(layout.Margin, layout.Margin / 2, layout.Width() - 2 * layout.Margin, layout.Title);
+    painter.drawText(title, Qt::AlignCenter, Q(PlotTitle() + "   " + Session.ProjectName));
+
+    const QRectF area(layout.Margin, layout.Margin + layout.Title, layout.Side, layout.Side);
+    painter.save();
+    painter.setClipRect(area);
+    PainterSurface surface(painter, area, QSize(layout.Side, layout.Side), TextFont(layout.Side / 55.0));
+    plot.Redraw(surface, {});
+    painter.restore();
+    painter.setPen(QPen(QColor(0x88, 0x88, 0x88), 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(area);
+
+    const QRectF legend(area.right() + layout.Margin, area.top() + layout.Side * 0.1, layout.Legend * 1.6,
+                        layout.Side * 0.8);
+    PainterSurface legendSurface(painter, legend, QSize(layout.Legend, layout.Side), TextFont(layout.Side / 40.0));
+    plot.DrawLegend(legendSurface);
+}
+
+}  // namespace
+
+PainterSurface::PainterSurface(QPainter& painter, const QRectF& area, const QSize& pixels, const QFont& font)
+    : painter_(painter), area_(area), pixels_(pixels), font_(font) {}
+
+PixelExtent PainterSurface::Pixels() const {
+    return {0, 0, pixels_.width(), pixels_.height()};
+}
+
+void PainterSurface::Clear() {
+    painter_.fillRect(area_, Qt::white);
+    printed_.clear();
+    image_ = QImage(pixels_, QImage::Format_ARGB32_Premultiplied);
+    image_.fill(Qt::transparent);
+    imageUsed_ = false;
+}
+
+void PainterSurface::SetPixelScale() {
+    left_ = top_ = 0;
+    right_ = pixels_.width();
+    bottom_ = pixels_.height();
+}
+
+void PainterSurface::SetWorldScale(double left, double top, double right, double bottom) {
+    FlushPixels();
+    left_ = left;
+    top_ = top;
+    right_ = right;
+    bottom_ = bottom;
+}
+
+void PainterSurface::Pixel(int x, int y, int color) {
+    if (!image_.valid(x, y)) return;
+    reinterpret_cast<QRgb*>(image_.scanLine(y))[x] = ColorOf(color);
+    imageUsed_ = true;
+}
+
+void PainterSurface::FlushPixels() {
+    if (!imageUsed_) return;
+    painter_.drawImage(area_, image_);
+    imageUsed_ = false;
+}
+
+QPointF PainterSurface::At(double x, double y) const {
+    return {area_.left() + (x - left_) / (right_ - left_) * area_.width(),
+            area_.top() + (y - top_) / (bottom_ - top_) * area_.height()};
+}
+
+void PainterSurface::Line(double x1, double y1, double x2, double y2, int color) {
+    const double width = color == BasContour::kColorBoundary ? 2.5 : color == BasContour::kColorMesh ? 0.6 : 1.4;
+    painter_.setPen(QPen(QColor::fromRgb(ColorOf(color)), width));
+    painter_.drawLine(At(x1, y1), At(x2, y2));
+}
+
+void PainterSurface::Print(double x, double y, const std::string& text) {
+    painter_.setFont(font_);
+    const QPointF place = At(x, y);
+    const QFontMetricsF metrics(font_, painter_.device());
+    const QRectF box(place, QSizeF(metrics.horizontalAdvance(Q(text)) + 4, metrics.height()));
+    // A legend's label stands beside its box; on the plot the value gets a ground to be read on.
+    const bool legend = left_ == 0 && right_ == 1 && top_ == 0 && bottom_ == 1;
+    if (!legend) {
+        // Where values would cover each other the first one stands.
+        for (const QRectF& taken : printed_)
+            if (taken.intersects(box)) return;
+        printed_.push_back(box);
+        painter_.fillRect(box, QColor(255, 255, 255, 210));
+    }
+    painter_.setPen(Qt::black);
+    painter_.drawText(legend ? box.translated(0, -metrics.height()) : box, Qt::AlignCenter, Q(text));
+}
+
+void PainterSurface::FilledBox(double x1, double y1, double x2, double y2, int color) {
+    const QRectF box = QRectF(At(x1, y1), At(x2, y2)).normalized();
+    painter_.fillRect(box, QColor::fromRgb(ColorOf(color)));
+    painter_.setPen(QPen(Qt::black, 0.5));
+    painter_.setBrush(Qt::NoBrush);
+    painter_.drawRect(box);
+}
+
+std::string ContourSvg(BasContour& plot, int size) {
+    EnsureRenderApplication();
+    const Layout layout(size > 0 ? size : kUsualSize);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QSvgGenerator generator;
+        generator.setOutputDevice(&buffer);
+        generator.setSize(QSize(layout.Width(), layout.Height()));
+        generator.setViewBox(QRect(0, 0, layout.Width(), layout.Height()));
+        generator.setResolution(96);
+        generator.setTitle(Q(PlotTitle()));
+        QPainter painter(&generator);
+        DrawContour(painter, plot, layout);
+    }
+    return buffer.data().toStdString();
+}
+
+std::string ContourPng(BasContour& plot, int size) {
+    EnsureRenderApplication();
+    const Layout layout(size > 0 ? size : kUsualSize);
+    QImage image(layout.Width(), layout.Height(), QImage::Format_ARGB32_Premultiplied);
+    {
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        DrawContour(painter, plot, layout);
+    }
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return buffer.data().toStdString();
+}
+
+std::string ContourPdf(BasContour& plot, int size) {
+    EnsureRenderApplication();
+    const Layout layout(size > 0 ? size : kUsualSize);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter writer(&buffer);
+        writer.setPageSize(QPageSize(QPageSize::A4));
+        writer.setPageOrientation(QPageLayout::Landscape);
+        writer.setPageMargins(QMarginsF(10, 10, 10, 10), QPageLayout::Millimeter);
+        writer.setResolution(1200);
+        writer.setTitle(Q(PlotTitle()));
+        QPainter painter(&writer);
+        const double scale = std::min(static_cast<double>(writer.width()) / layout.Width(),
+                                      static_cast<double>(writer.height()) / layout.Height());
+        painter.scale(scale, scale);
+        DrawContour(painter, plot, layout);
+    }
+    return buffer.data().toStdString();
+}
+
+}  // namespace lithmark
