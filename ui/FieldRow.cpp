@@ -84,9 +84,13 @@ void StoredField::CheckFits(double value) const {
         static_cast<void>(Single(value));
 }
 
-double Limit::Shown(double factor) const {
-    if (shown_) return shown_();
-    return std::abs(base_) >= kNoLimit ? base_ : base_ * factor;
+double Limit::Shown(double factor, double none) const {
+    if (!shown_) return std::abs(base_) >= kNoLimit ? base_ : base_ * factor;
+    try {
+        return shown_();
+    } catch (const Failure&) {
+        return none;
+    }
 }
 
 std::string FieldName::Text() const {
@@ -117,7 +121,8 @@ void FieldRow::Show() const {
 bool FieldRow::Check(Form& form) const {
     if (!IsChecked()) return true;
     const double factor = FactorOf(In);
-    return SharedServices().CheckNumber(form, Box, kRealNumber, Upper.Shown(factor), Lower.Shown(factor), Name.Text());
+    return SharedServices().CheckNumber(form, Box, kRealNumber, Upper.Shown(factor, kNoLimit),
+                                        Lower.Shown(factor, -kNoLimit), Name.Text());
 }
 
 double FieldRow::Read() const {

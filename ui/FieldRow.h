@@ -42,20 +42,22 @@ class StoredField {
     std::variant<Single*, Integer*, Element> place_;
 };
 
-// A limit in base units, or one worked out from other boxes of the form, which is in the unit of the box. From 1E+38 on
-// a limit is none.
+inline constexpr double kNoLimit = 1e38;
+
+// A limit in base units, or one worked out from other boxes of the form, which is in the unit of the box. From kNoLimit
+// on a limit is none.
 class Limit {
   public:
     Limit(double base) : base_(base) {}
     Limit(std::function<double()> shown) : shown_(std::move(shown)) {}
-    // As the user types it in a box whose unit has this factor.
-    double Shown(double factor) const;
+    // As the user types it in a box whose unit has this factor. `none` while the boxes that the limit is worked out
+    // from hold no numbers; their own checks tell that.
+    double Shown(double factor, double none) const;
 
   private:
     double base_ = 0;
     std::function<double()> shown_;
 };
-inline constexpr double kNoLimit = 1e38;
 
 // How messages name a field: a text, a coordinate's name, or the caption that a label has at the time.
 class FieldName {

@@ -1,0 +1,282 @@
+// The result viewer: what it shows, which ways out it offers for a problem, and what goes out.
+#include <string>
+#include <vector>
+
+#include "FormTest.h"
+#include "base/Utf8.h"
+#include "ui/frmOptionDraw.h"
+#include "ui/frmResultTools.h"
+
+using namespace lithmark;
+using namespace lithmark::tests;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+namespace {
+
+const std::string kReport = "Stresses\r\n----\r\n";
+
+class Viewer : public FormTest {
+  protected:
+    Viewer() { Session.ResultText = kReport; }
+    void OnViewer(int problem, std::function<void(frmResultTools&)> script) {
+        Session.ProblemType = problem;
+        OnShown<frmResultTools>(std::move(script));
+    }
+    // Two nodes of a consolidation run: depth in m, pressures in kN/m2.
+    void TakeIsochrones() {
+        Session.IsoLast = 1;
+        for (auto* values : {&Session.IsoZ, &Session.IsoU0, &Session.IsoUf}) values->Redim(0, 1);
+        Session.IsoZ(1) = 4;
+        Session.IsoU0(0) = 100;
+        Session.IsoU0(1) = 100;
+        Session.IsoUf(1) = 37.25;
+    }
+    // A raft's middle row of two nodes.
+    void TakeRaft() {
+        Session.LoadType = 2;
+        Session.A = 6;
+        Session.RaftMidCount = 2;
+        for (auto* values :
+             {&Session.RaftMidX, &Session.RaftMidSettlement, &Session.RaftMidPressure, &Session.RaftMidFlexible})
+            values->Redim(1, 2);
+        Session.RaftMidX(2) = 6;
+        Session.RaftMidPressure(1) = 80;
+        Session.RaftMidPressure(2) = 120;
+        Session.RaftMeanPressure = 100;
+        Session.RaftMidSettlement(1) = 2;
+        Session.RaftMidSettlement(2) = 4;
+    }
+};
+
+// --- opening ---
+
+struct ViewerCase {
+    int Problem;
+    const char* Caption;
+    bool Curves, HandOver;
+};
+
+class ViewerOfProblem : public Viewer, public ::testing::WithParamInterface<ViewerCase> {};
+
+TEST_P(ViewerOfProblem, CaptionAndButtonsFollowTheProblem) {
+    const ViewerCase& expected = GetParam();
+    LanguageTexts().SetCurrent(Language::Ids);
+    OnViewer(expected.Problem, [&](frmResultTools& viewer) {
+        EXPECT_EQ(viewer.Caption, expected.Caption);
+        EXPECT_EQ(viewer.CmdExcel.Enabled, expected.Curves);
+        EXPECT_EQ(viewer.cmdVERDA.Enabled, expected.HandOver);
+        for (const Button* button : {&viewer.cmdPrinter, &viewer.CmdTextEditor, &viewer.cmdWord, &viewer.cmdClipboard,
+                                     &viewer.cmdok, &viewer.cmdHelp})
+            EXPECT_TRUE(button->Enabled) << button->Name;
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Problems, ViewerOfProblem,
+    ::testing::Values(ViewerCase{1, "T<140185>", false, false}, ViewerCase{2, "T<300100>", false, false},
+                      ViewerCase{3, "T<300001>", false, false}, ViewerCase{4, "T<140186>", false, false},
+                      ViewerCase{5, "T<140187>", true, false}, ViewerCase{6, "T<300047>", true, false},
+                      ViewerCase{7, "T<300048>", true, false}, ViewerCase{8, "T<300033>", true, false},
+                      ViewerCase{9, "T<140189>", true, true}, ViewerCase{10, "T<140190>", true, true},
+                      ViewerCase{11, "T<400190>", true, true}));
+
+TEST_F(Viewer, ButtonsOfAFormerProblemDoNotStay) {
+    frmResultTools viewer;
+    for (const int problem : {9, 1}) {
+        Session.ProblemType = problem;
+        host.OnForm([&](Form&) { EXPECT_EQ(viewer.cmdVERDA.Enabled, problem == 9); });
+        CurrentHost().ShowForm(viewer);
+    }
+}
+
+TEST_F(Viewer, TheReportIsShownReadOnlyInTheFontOfTheLanguage) {
+    OnViewer(1, [](frmResultTools& viewer) {
+        EXPECT_EQ(viewer.txtResult.Text, kReport);
+        EXPECT_TRUE(viewer.txtResult.ReadOnly);
+        EXPECT_EQ(viewer.txtResult.FontName, "DejaVu Sans Mono");
+        EXPECT_EQ(viewer.fraResult.Caption, "Results:");
+        EXPECT_EQ(viewer.cmdPrinter.Caption, "Send to &printer");
+    });
+}
+
+TEST_F(Viewer, ALongReportIsCutForTheEyeOnly) {
+    std::string report;
+    for (int i = 0; i < 30001; ++i) report += "ä";
+    Session.ResultText = report;
+    OnViewer(1, [&](frmResultTools& viewer) {
+        EXPECT_EQ(CharacterCount(viewer.txtResult.Text), 30000u);
+        EXPECT_EQ(viewer.txtResult.Text, report.substr(0, 60000));
+        Click(viewer, "cmdClipboard");
+        Click(viewer, "CmdTextEditor");
+        Click(viewer, "cmdPrinter");
+        Click(viewer, "cmdWord");
+    });
+    EXPECT_THAT(host.ClipboardTexts, ElementsAre(report));
+    EXPECT_THAT(host.EditorTexts, ElementsAre(report));
+    EXPECT_EQ(host.Printed.at(0).Text, report);
+    EXPECT_EQ(host.WordTexts.at(0).Text, report);
+    EXPECT_EQ(Session.ResultText, report);
+}
+
+TEST_F(Viewer, AReportOf30000CharactersIsShownWhole) {
+    Session.ResultText = std::string(30000, 'x');
+    OnViewer(1, [](frmResultTools& viewer) { EXPECT_EQ(viewer.txtResult.Text, Session.ResultText); });
+}
+
+TEST_F(Viewer, OkClosesIt) {
+    OnViewer(1, [](frmResultTools& viewer) {
+        Click(viewer, "cmdok");
+        EXPECT_TRUE(viewer.Unloaded());
+    });
+}
+
+// --- sending ---
+
+TEST_F(Viewer, PrinterAndWordProcessorGetFontSizeAndDirection) {
+    for (const Language language : {Language::English, Language::Arabic}) {
+        LanguageTexts().SetCurrent(language);
+        OnViewer(4, [](frmResultTools& viewer) {
+            Click(viewer, "cmdPrinter");
+            Click(viewer, "cmdWord");
+        });
+        for (const auto* sent : {&host.Printed, &host.WordTexts}) {
+            EXPECT_EQ(sent->back().Text, kReport);
+            EXPECT_EQ(sent->back().FontName, "DejaVu Sans Mono");
+            EXPECT_EQ(sent->back().FontSize, 8);
+            EXPECT_EQ(sent->back().RightToLeft, language == Language::Arabic);
+        }
+    }
+}
+
+// A host without printer, word processor, clipboard, text viewer and charts.
+struct BareHost : ScriptedHost {
+    void PrintText(const std::string& text, const std::string& font, int size, bool rightToLeft) override {
+        Host::PrintText(text, font, size, rightToLeft);
+    }
+    void OpenWordProcessor(const std::string& text, const std::string& font, int size, bool rightToLeft) override {
+        Host::OpenWordProcessor(text, font, size, rightToLeft);
+    }
+    void SetClipboardText(const std::string& text) override { Host::SetClipboardText(text); }
+    void ShowTextEditor(const std::string& text) override { Host::ShowTextEditor(text); }
+    void StartProcess(const std::string& commandLine) override { Host::StartProcess(commandLine); }
+    void ShowChart(const ChartArguments& chart) override { Host::ShowChart(chart); }
+};
+
+TEST_F(Viewer, AWayOutThatFailsIsToldAndTheViewerStays) {
+    BareHost bare;
+    TakeIsochrones();
+    Session.ProblemType = 5;
+    frmResultTools viewer;
+    viewer.Load();
+    int told = 0;
+    for (const char* button : {"cmdWord", "cmdPrinter", "cmdClipboard", "CmdTextEditor", "CmdExcel"}) {
+        Click(viewer, button);
+        EXPECT_EQ(static_cast<int>(bare.Messages.size()), ++told) << button;
+        EXPECT_FALSE(viewer.Unloaded());
+    }
+    Session.ProblemType = 9;
+    viewer.Load();
+    Click(viewer, "cmdVERDA");
+    EXPECT_EQ(static_cast<int>(bare.Messages.size()), ++told);
+}
+
+// --- hand-over to the raft program ---
+
+TEST_F(Viewer, WithoutARaftExportTheRaftProgramStartsFromTheProgramDirectory) {
+    OnViewer(9, [](frmResultTools& viewer) { Click(viewer, "cmdVERDA"); });
+    EXPECT_THAT(host.Processes, ElementsAre(Session.ProgramDir + "verda.exe"));
+}
+
+// Deliberate: the path is a fixed one here, unlike without an export.
+TEST_F(Viewer, WithARaftExportTheRaftProgramStartsOnItFromItsFixedPlace) {
+    WriteBytes(DataFile("P1.PO1"), "");
+    OnViewer(10, [](frmResultTools& viewer) { Click(viewer, "cmdVERDA"); });
+    EXPECT_THAT(host.Processes, ElementsAre("F:\\KORVAN Setup\\verda.exe " + DataFile("P1.PO1")));
+}
+
+TEST_F(Viewer, TheRaftExportOfAnotherProjectIsNotHandedOver) {
+    WriteBytes(DataFile("P2.PO1"), "");
+    OnViewer(9, [](frmResultTools& viewer) { Click(viewer, "cmdVERDA"); });
+    EXPECT_THAT(host.Processes, ElementsAre(Session.ProgramDir + "verda.exe"));
+}
+
+// --- curves ---
+
+TEST_F(Viewer, ProblemFiveHasOneSetOfCurvesAndAsksNothing) {
+    TakeIsochrones();
+    OnViewer(5, [](frmResultTools& viewer) { Click(viewer, "CmdExcel"); });
+    ASSERT_EQ(host.Charts.size(), 1u);
+    const ChartArguments& chart = host.Charts[0];
+    EXPECT_EQ(chart.Curves, 2);
+    EXPECT_EQ(chart.LastRow, 2);
+    EXPECT_EQ(chart.Cells(2, 1), "4.00");
+    EXPECT_EQ(chart.Cells(2, 3), "37.3");  // 37.25 half away from zero
+    EXPECT_EQ(chart.XStart, 0);
+    EXPECT_EQ(chart.XEnd, 4);
+    EXPECT_THAT(host.FormsShown, ElementsAre("frmResultTools"));
+}
+
+TEST_F(Viewer, OtherProblemsAskWhichCurve) {
+    TakeRaft();
+    OnViewer(9, [this](frmResultTools& viewer) {
+        host.OnForm<frmOptionDraw>([](frmOptionDraw& choice) { Click(choice, "cmdok"); });
+        Click(viewer, "CmdExcel");
+    });
+    ASSERT_EQ(host.Charts.size(), 1u);
+    EXPECT_EQ(host.Charts[0].ChartTitle, Text(300077_text));  // contact pressures
+    EXPECT_EQ(host.Charts[0].Cells(2, 3), "120.0");
+    EXPECT_EQ(host.Charts[0].XEnd, 6);
+}
+
+TEST_F(Viewer, ACancelledChoiceShowsNoCurve) {
+    Session.DialogOk = true;  // from another dialog
+    OnViewer(9, [this](frmResultTools& viewer) {
+        host.OnForm<frmOptionDraw>([](frmOptionDraw& choice) { Click(choice, "CmdCancel"); });
+        Click(viewer, "CmdExcel");
+    });
+    EXPECT_THAT(host.Charts, IsEmpty());
+    EXPECT_THAT(host.Messages, IsEmpty());
+}
+
+// Per cent of a final settlement of 0.
+TEST_F(Viewer, CurvesThatCannotBeBuiltAreToldOnce) {
+    Session.Sc = 0;
+    Session.TimePeriod = 5;
+    OnViewer(8, [this](frmResultTools& viewer) {
+        host.OnForm<frmOptionDraw>([](frmOptionDraw& choice) {
+            Click(choice, "optDraw(2)");
+            Click(choice, "optSettlementUnit(0)");
+            Click(choice, "cmdok");
+        });
+        Click(viewer, "CmdExcel");
+    });
+    EXPECT_EQ(host.Messages.size(), 1u);
+    EXPECT_THAT(host.Charts, IsEmpty());
+}
+
+// --- help ---
+
+TEST_F(Viewer, HelpTellsTheWaysOutInThreeLanguages) {
+    const auto helpOf = [this](Language language) {
+        LanguageTexts().SetCurrent(language);
+        OnViewer(2, [](frmResultTools& viewer) { Click(viewer, "cmdHelp"); });
+        EXPECT_EQ(host.HelpTexts.back().Title, Text(300100_text));
+        return host.HelpTexts.back().Text;
+    };
+    // The English "and" in the German text stays.
+    EXPECT_EQ(helpOf(Language::German),
+              "Mit dem Menü können die Daten und Ergebnisse aufgelistet\r"
+              "werden, an den Drucker, Excel, Word and Zwischenablage\r"
+              "ausgegeben werden oder in VERDA-Text angezeigt werden.\r"
+              "Setzungen und Sohldrücke der Platte können als\rIsolinien gezeichnet werden.");
+    EXPECT_EQ(helpOf(Language::English),
+              "In the menu, data and results can be listed or sent\rto printer, Excel, Word, Clipboard and\r"
+              "VERDA-Text. Settlements and contact pressures\rof rafts can be displayed as contour lines.");
+    const std::string arabic = helpOf(Language::Arabic);
+    EXPECT_EQ(std::count(arabic.begin(), arabic.end(), '\r'), 2);  // three lines
+    EXPECT_THAT(arabic, HasSubstr("الطابعة"));                     // the printer
+}
+
+}  // namespace
