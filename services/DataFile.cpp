@@ -40,9 +40,9 @@ class TextReader {
         NeedMore();
         const std::size_t end = LineEnd();
         const std::string_view line = Piece(end);
+        CheckIsText(line);
         position_ = end;
         SkipLineEnd();
-        CheckIsText(line);
         return line;
     }
 

@@ -165,6 +165,10 @@ TEST_F(DataFile, BinaryContentIsAFailureOfEveryReader) {
     CloseNumberedFile(1);
     Open(zeros);
     ExpectFailure([] { ReadListItem(1); }, FailureKind::ReadError, 1);
+    CloseNumberedFile(1);
+    Open("1\r\n" + zeros + "\r\n3\r\n");
+    ReadSingle(1);
+    ExpectFailure([] { ReadRawLine(1); }, FailureKind::ReadError, 2);
 }
 
 TEST_F(DataFile, DecodesUtf8WithAndWithoutMarkAndTheOlderCodePages) {
