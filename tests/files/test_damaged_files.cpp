@@ -188,6 +188,18 @@ TEST_F(Damaged, ACountBeyondTheRowsEndsAtTheEndOfTheFileWithATableOfThatSize) {
     EXPECT_EQ(Session.OedTime(12), 0.0);  // nothing of the old rows stays
 }
 
+TEST_F(Damaged, ATableThatBreaksOffHasNothingOfTheOldRowsBehindTheBreak) {
+    const DefaultFile& file = DefaultFiles()[3];
+    EXPECT_EQ(ReadContent(file, JoinLines(file.Lines, 22)), ReadOutcome::Failed);  // NLoad and one and a half rows
+    EXPECT_EQ(Session.LoadValue.Upper(), 5);
+    EXPECT_EQ(Session.LoadValue(2), 42.0);
+    EXPECT_EQ(Session.LoadTime(1), 1);
+    EXPECT_EQ(Session.LoadTime(2), 0);
+    EXPECT_EQ(Session.LoadValue(3), 0.0);
+    EXPECT_EQ(Session.NSts, 5);  // the tables behind it are the defaults
+    EXPECT_EQ(Session.StsValue(1), 49.0);
+}
+
 TEST_F(Damaged, ASmallerCountLeavesNothingOfTheOldRows) {
     StartProblem(6);
     Session.NLoad = 1;
