@@ -41,6 +41,12 @@ class Host {
     virtual bool AskYesNo(const std::string& title, const std::string& text);
     // Shows a form modally and returns when it is unloaded. The form's Load has not run yet.
     virtual void ShowForm(Form& form);
+    // Shows a loaded form in front of all windows without waiting for its end, and takes it away again. Whoever shows
+    // it calls the form's own events in between.
+    virtual void ShowSplash(Form&) {}
+    virtual void CloseSplash(Form&) {}
+    // Lets the windows react while the program waits; may rest for some milliseconds.
+    virtual void RunEvents() {}
     // Puts the input focus on a control of a shown form.
     virtual void SetFocus(Form& form, Control& control);
     // A help text in a window; a topic of the help pages.

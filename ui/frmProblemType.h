@@ -1,0 +1,56 @@
+// frmProblemType: the project's data (order, date, description) and the choice of its problem.
+#pragma once
+
+#include "ui/FieldForm.h"
+
+namespace lithmark {
+
+class MDITools;
+
+class frmProblemType : public FieldForm {
+  public:
+    // A save changes the frame's menu and title.
+    explicit frmProblemType(MDITools& frame);
+
+    FrameBox Frame3D1{*this, "Frame3D1"};
+    TextLabel lblAuftrag{*this, "lblAuftrag"};
+    TextBox txtAuftr{*this, "txtAuftr"};
+    TextLabel lblDatum{*this, "lblDatum"};
+    TextBox txtDatum{*this, "txtDatum"};
+    // Its text is a date as TextTools reads and writes it.
+    DatePicker DTPicker1{*this, "DTPicker1"};
+    TextLabel lblProjekt{*this, "lblProjekt"};
+    TextBox txtProj{*this, "txtProj"};
+    FrameBox frmSelectOption{*this, "frmSelectOption"};
+    TextLabel lblItem{*this, "lblItem"};
+    ComboBox cmbItem{*this, "cmbItem"};
+    Button cmdSave{*this, "cmdSave"}, cmdSaveAs{*this, "cmdSaveAs"}, cmdOpen{*this, "cmdOpen"},
+        CmdCancel{*this, "CmdCancel"}, cmdHelp{*this, "cmdHelp"};
+
+    void Load() override;
+    // Left without a save, the session keeps the project data that it had.
+    void Unloading() override;
+
+    void DTPicker1_Change();
+    // Stores the data and closes; a project without a name gets one first.
+    void cmdSave_Click();
+    void cmdSaveAs_Click();
+    void cmdOpen_Click();
+    void CmdCancel_Click();
+    void cmdHelp_Click();
+
+  private:
+    void ShowCaptions();
+    void ShowProjectFields();
+    void StoreProjectFields();
+
+    struct ProjectData {
+        int ProblemType = 1;
+        std::string Auftr, Datum, Proj;
+    };
+    MDITools& frame_;
+    ProjectData before_;
+    bool saved_ = false;
+};
+
+}  // namespace lithmark

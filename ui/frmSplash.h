@@ -1,0 +1,35 @@
+// frmSplash: the program's name and version during the start. It stays three seconds at least, unless the user sends it
+// away.
+#pragma once
+
+#include <functional>
+
+#include "ui/Controls.h"
+
+namespace lithmark {
+
+class frmSplash : public Form {
+  public:
+    // Milliseconds of a clock that never goes back.
+    explicit frmSplash(std::function<long long()> milliseconds);
+
+    PictureBox imgLogo{*this, "imgLogo"};
+    // Description, program, authors, two lines of the maker, version.
+    TextLabel lblPlatform{*this, "lblPlatform"}, Label1{*this, "Label1"}, Label3{*this, "Label3"},
+        Label4{*this, "Label4"}, Label5{*this, "Label5"}, lblVersion{*this, "lblVersion"};
+
+    // "Start Prog" once the program is ready: unloading then waits for the three seconds to end.
+    std::string Tag;
+
+    void Load() override;
+    void Unloading() override;
+    // A key, or a click on the form or on anything in it.
+    void Dismiss() { Unload(); }
+
+  private:
+    const std::function<long long()> milliseconds_;
+    long long loadedAt_ = 0;
+    bool waiting_ = false;
+};
+
+}  // namespace lithmark
