@@ -80,7 +80,7 @@ struct FieldRow {
     Control& Box;
     StoredField Field;
     Unit In;
-    const std::string& Format;  // a field of Session, so that a change of the formats is seen
+    const std::string& Format;  // a field of Session and no temporary, so that a change of the formats is seen
     Limit Lower, Upper;
     FieldName Name;
     CheckedWhen Checked = CheckedWhen::Always;

@@ -212,9 +212,18 @@ TEST_F(StressDialog, AHiddenLoadIsNotCheckedAndStoredAllTheSame) {
         EXPECT_TRUE(Session.DataValid);
         EXPECT_EQ(Session.B, -3);
         EXPECT_EQ(Session.LoadType, 3);
-        EXPECT_EQ(Session.A0, Session.A);
     });
     EXPECT_THAT(host.Messages, IsEmpty());
+}
+
+TEST_F(StressDialog, TheRadiusFollowsTheLengthAsItIsStored) {
+    OnStress(2, [](frmstress& form) {
+        Type(form, "txt_A", "8");
+        EXPECT_EQ(Session.A0, 5);
+        Click(form, "cmdSave");
+        EXPECT_EQ(Session.A, 8);
+        EXPECT_EQ(Session.A0, 8);
+    });
 }
 
 TEST_F(StressDialog, AHiddenLoadThatIsNoNumberLeavesItsFieldAsItWas) {
