@@ -90,20 +90,36 @@ TEST_F(RateTheory, OneLayerDrainedAtBothFacesFollowsTerzaghiWithHalfTheThickness
     }
 }
 
-// The same scheme in 64 bits tells its own error from that of the stored 32 bits: one layer of n intervals, drained at
-// the top, impermeable below, the first step from half the pressure at the face.
-std::vector<double> WideScheme(int n, int steps) {
+// The same scheme in 64 bits tells its own error from that of the stored 32 bits: one layer of dz = 1 m drained at the
+// top, with the initial pressures u0 at its nodes. The pressures after so many steps.
+std::vector<double> WideScheme(const std::vector<double>& u0, bool bottomDrained, double steps) {
     const double lambda = 1.0 / 6;
-    std::vector<double> cur(static_cast<std::size_t>(n) + 1, 100), next = cur;
-    cur[0] = 50;
-    const auto last = static_cast<std::size_t>(n);
-    for (int k = 0; k < steps; ++k) {
-        next[0] = 0;
-        for (std::size_t m = 1; m < last; ++m) next[m] = lambda * (cur[m - 1] + cur[m + 1]) + (1 - 2 * lambda) * cur[m];
-        next[last] = 2 * lambda * cur[last - 1] + (1 - 2 * lambda) * cur[last];
-        cur.swap(next);
-    }
+    const std::size_t last = u0.size() - 1;
+    const auto product = [&](const std::vector<double>& u) {
+        std::vector<double> v(last + 1, 0);
+        for (std::size_t m = 1; m < last; ++m) v[m] = lambda * (u[m - 1] + u[m + 1]) + (1 - 2 * lambda) * u[m];
+        if (!bottomDrained) v[last] = 2 * lambda * u[last - 1] + (1 - 2 * lambda) * u[last];
+        return v;
+    };
+    std::vector<double> cur = u0;
+    cur[0] /= 2;
+    if (bottomDrained) cur[last] /= 2;
+    const int whole = static_cast<int>(steps);
+    for (int k = 0; k < whole; ++k) cur = product(cur);
+    const std::vector<double> next = product(cur);
+    for (std::size_t m = 0; m <= last; ++m) cur[m] += (next[m] - cur[m]) * (steps - whole);
     return cur;
+}
+
+// Uc by the trapezoidal rule.
+double WideDegree(const std::vector<double>& u0, const std::vector<double>& uf) {
+    double S0 = 0, Sf = 0;
+    for (std::size_t m = 0; m < u0.size(); ++m) {
+        const double weight = m == 0 || m + 1 == u0.size() ? 0.5 : 1;
+        S0 += u0[m] * weight;
+        Sf += uf[m] * weight;
+    }
+    return (1 - Sf / S0) * 100;
 }
 
 TEST_F(RateTheory, DifferenceToTheSchemeIn64BitsIsRounding) {
@@ -111,7 +127,7 @@ TEST_F(RateTheory, DifferenceToTheSchemeIn64BitsIsRounding) {
     for (const int steps : {2, 600, 12000, 30000}) {
         c.T = StepOf(c) * steps;
         Run(c);
-        const std::vector<double> wide = WideScheme(100, steps);
+        const std::vector<double> wide = WideScheme(std::vector<double>(101, 100.0), false, steps);
         for (int m = 0; m <= 100; ++m)
             EXPECT_NEAR(Session.IsoUf(m), wide[static_cast<std::size_t>(m)], Rounding(steps + 2))
                 << steps << " steps, node " << m;
@@ -120,6 +136,58 @@ TEST_F(RateTheory, DifferenceToTheSchemeIn64BitsIsRounding) {
         for (int m = 0; m <= 100; ++m)
             EXPECT_NEAR(wide[static_cast<std::size_t>(m)], 100 * TerzaghiPressure(m / 100.0, Tv), kScheme)
                 << steps << " steps, node " << m;
+    }
+}
+
+// What thin layers cost: the least number of intervals, four over two drainage lengths, runs ahead of the theory.
+TEST_F(RateTheory, FourIntervalsRunAheadOfTheTheoryByUpTo4Points) {
+    RateCase c = StepCase(4, 1);
+    for (const auto& [Tv, ahead] : {std::pair{0.1, 3.7}, {0.2, 2.6}, {0.5, 1.2}, {0.85, 0.5}}) {
+        c.T = TimeOf(c, Tv, 2);
+        Run(c);
+        EXPECT_NEAR(Session.Uc - TerzaghiDegree(Tv), ahead, 0.05) << "Tv = " << Tv;
+        const std::vector<double> u0(5, 100.0);
+        EXPECT_NEAR(Session.Uc, WideDegree(u0, WideScheme(u0, true, StepsOf(c))), 1e-4);
+    }
+}
+
+// dz2 = h2/4 and equal Cv: lambda2 = (1/6)/dz2^2 passes 1/2 at dz2 = 0.577 m. Beyond, pressures leave the range from 0
+// to the initial one.
+TEST_F(RateTheory, SecondLayerThinnerThan2m31UnderALayerOf4mIsUnstable) {
+    RateCase c = StepCase(4, 2);
+    c.NumLayers = 2;
+    c.T = StepOf(c) * 200;
+    const auto range = [] {
+        double least = 0, most = 0;
+        for (const Single& uf : Session.IsoUf) {
+            least = std::min<double>(least, uf);
+            most = std::max<double>(most, uf);
+        }
+        return std::pair{least, most};
+    };
+    c.h(2) = 2.4;
+    Run(c);
+    EXPECT_GE(range().first, 0);
+    EXPECT_LE(range().second, 100);
+    c.h(2) = 2.2;
+    Run(c);
+    EXPECT_LT(range().first, -1000);
+    EXPECT_GT(range().second, 1000);
+}
+
+// What the circular load's numbering costs, against the same scheme with the pressures on the axis of the circle
+// (Boussinesq 1885; Love 1929) at the nodes that they belong to: a = 2 m, layer of 4 m from 1 m on, dz = 1 m.
+TEST_F(RateTheory, CircleRunsBehindTheSameLoadOnItsNodesByUpTo20PointsKept) {
+    std::vector<double> u0;
+    for (int m = 0; m <= 4; ++m) u0.push_back(150 * (1 - std::pow(1 + 4 / ((1.0 + m) * (1 + m)), -1.5)));
+    RateCase c;
+    c.Pressure = false;
+    c.LoadType = 3;
+    for (const auto& [T, behind] : {std::pair{0.01, 19.0}, {0.02, 17.0}, {0.03, 13.0}, {0.1, 2.0}}) {
+        c.T = T;
+        Run(c);
+        const double steps = T * c.Cv(1) * kYear * 6;
+        EXPECT_NEAR(WideDegree(u0, WideScheme(u0, true, steps)) - Session.Uc, behind, 0.6) << "T = " << T;
     }
 }
 
