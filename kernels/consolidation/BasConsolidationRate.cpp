@@ -120,7 +120,8 @@ class NodePass {
 
     static FivePointRow InteriorRow(Single lambda) { return {0, lambda, 1 - 2 * lambda, lambda, 0}; }
 
-    // Between the layers i and i + 1.
+    // Between the layers i and i + 1: the pressure that makes the flow continuous, u = (u(-1) + r u(+1))/(1 + r), with
+    // the values that the neighbours' own rows give them in the same step. r is the ratio of k/dz below to k/dz above.
     FivePointRow InterfaceRow(int i) const {
         const Single dz1 = grid.dz(i), dz2 = grid.dz(i + 1);
         const Single lambda1 = Lambda(i), lambda2 = Lambda(i + 1);
