@@ -79,6 +79,13 @@ void SetCaptions(std::initializer_list<CaptionRow> rows);
 // A caption that is no text by number: a unit, a symbol, a text put together.
 void SetCaptions(std::initializer_list<std::pair<Control&, std::string>> captions);
 
+// Selects a row of a list or tab strip; SubscriptRange for a row that it does not have.
+void SelectRow(Control& list, int row);
+
+// A picture file of the program's own, looked for in the program directory first, so that one put there by hand is
+// seen. Without the file the control shows none.
+void ShowProgramPicture(Control& picture, const std::string& file);
+
 // Shows or hides.
 void Show(std::initializer_list<Control*> controls, bool visible = true);
 void Hide(std::initializer_list<Control*> controls);

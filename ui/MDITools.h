@@ -20,6 +20,8 @@
 
 namespace lithmark {
 
+class frmSplash;
+
 // Whoever shows the frame.
 class FrameWindow {
   public:
@@ -64,6 +66,7 @@ class MDITools : public Form {
     MenuItem mnu_TBStyle{"mnu_TBStyle", ""};
     RecentFileTable RecentFiles;
     bool StatusBarVisible = true;
+    std::string HelpFile;
     bool Shown = false;
     bool Ended = false;  // ExitProgram ran
 
@@ -150,11 +153,10 @@ class MDITools : public Form {
     void AddToRecentFiles(const std::string& path);
     void SyncRecentFromMenu();
     void SyncRecentToMenu();
-    void ShowDialog(Form& form);
 
     FrameWindow* window_ = nullptr;
     std::function<long long()> clock_;
-    std::unique_ptr<Form> splash_;
+    std::unique_ptr<frmSplash> splash_;
 };
 
 }  // namespace lithmark

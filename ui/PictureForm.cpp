@@ -1,8 +1,6 @@
 #include "ui/PictureForm.h"
 
-#include "core/Session.h"
 #include "services/SharedServices.h"
-#include "services/TextTools.h"
 
 namespace lithmark {
 
@@ -19,9 +17,7 @@ PictureForm::PictureForm(std::string name, std::string picture, std::string sect
 
 void PictureForm::Load() {
     ProblemForm::Load();
-    // The program directory first, so that a picture put there by hand is seen.
-    if (!TextTools().LoadPictureFile(PctInvertedT, Session.ProgramDir + picture_))
-        TextTools().LoadPictureFile(PctInvertedT, SharedServices().ResourceDir() + picture_);
+    ShowProgramPicture(PctInvertedT, picture_);
     more_ = SharedServices().GetSetting(kApplicationTitle, section_, kStateKey, true);
     ShowState();
 }

@@ -29,7 +29,6 @@ class frmSplash : public Form {
   private:
     const std::function<long long()> milliseconds_;
     long long loadedAt_ = 0;
-    bool waiting_ = false;
 };
 
 }  // namespace lithmark

@@ -1,0 +1,79 @@
+#include "ui/frmDataDir.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "core/Session.h"
+#include "files/SettingsFiles.h"
+#include "services/FileNames.h"
+#include "services/SharedServices.h"
+#include "ui/CommonStep.h"
+
+namespace lithmark {
+
+namespace {
+
+constexpr Style kButton{1};
+constexpr long kPackingOn = 1 | 2 | 4, kPackingOff = 0;
+constexpr long kUnticked = 1;  // the flag that clears the box
+
+bool DirectoryExists(const std::string& path) {
+    std::error_code error;
+    return std::filesystem::is_directory(MappedFileName(path), error);
+}
+
+}  // namespace
+
+frmDataDir::frmDataDir() : FieldForm("frmDataDir") {
+    CmdBrowse.OnClick = [this] { CmdBrowse_Click(); };
+    cmdSave.OnClick = [this] { cmdSave_Click(); };
+    CmdCancel.OnClick = [this] { CmdCancel_Click(); };
+    cmdHelp.OnClick = [this] { cmdHelp_Click(); };
+    SetEnterRows({{&txtDataDir, {Press(cmdSave)}}});
+}
+
+void frmDataDir::Load() {
+    SharedServices().PrepareForm(*this);
+    Caption = Text(140161_text);
+    SetCaptions({{Frame3D1, 140161_text},
+                 {FraCompressFlag, 10271_text},
+                 {chkCompressFlag[0], 10271_text},
+                 {cmdSave, 111_text, kButton},
+                 {CmdCancel, 7_text, kButton},
+                 {cmdHelp, 8_text, kButton}});
+    CmdBrowse.Caption = "...";
+    ReadDataDirSettings(txtDataDir.Text);
+    // A stored "on" clears the box and a stored "off" ticks it, the reverse of what a save then writes. Kept: what the
+    // box shows for a settings file is relied on.
+    if (!SharedServices().FileMissing(Session.ProgramDir + "STEU", true))
+        chkCompressFlag[0].Value = (Session.CompressFlag & kUnticked) == 0;
+}
+
+void frmDataDir::CmdBrowse_Click() {
+    UnderCommonStep([&] {
+        if (const auto chosen = CurrentHost().BrowseFolder(txtDataDir.Text)) txtDataDir.Text = WithSeparator(*chosen);
+    });
+}
+
+void frmDataDir::cmdSave_Click() {
+    Session.FileSaved = false;
+    StoreDataDir();
+    if (Session.FileSaved) Unload();
+}
+
+void frmDataDir::StoreDataDir() {
+    const std::string& path = txtDataDir.Text;
+    if (!DirectoryExists(path)) {
+        SharedServices().ShowMessageBox(Text(160030_text), Text(190008_text, {{"|1", path}}), MessageIcon::Information);
+        CurrentHost().SetFocus(*this, txtDataDir);
+        return;
+    }
+    Session.CompressFlag = chkCompressFlag[0].Value ? kPackingOn : kPackingOff;
+    WriteDataDirSettings(path);
+}
+
+void frmDataDir::cmdHelp_Click() {
+    UnderCommonStep([] { SharedServices().ShowHelpTopic("7_2"); });
+}
+
+}  // namespace lithmark

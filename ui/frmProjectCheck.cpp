@@ -1,0 +1,53 @@
+#include "ui/frmProjectCheck.h"
+
+#include "core/Session.h"
+#include "services/SharedServices.h"
+#include "ui/HelpText.h"
+
+namespace lithmark {
+
+namespace {
+
+constexpr Style kButton{1};
+
+}  // namespace
+
+frmProjectCheck::frmProjectCheck(std::string title, std::string missing)
+    : Form("frmProjectCheck"), missing_(std::move(missing)) {
+    Caption = std::move(title);
+    cmdok.OnClick = [this] { cmdok_Click(); };
+    CmdCancel.OnClick = [this] { CmdCancel_Click(); };
+    cmdHelp.OnClick = [this] { cmdHelp_Click(); };
+}
+
+void frmProjectCheck::Load() {
+    SharedServices().PrepareForm(*this);
+    SetCaptions({{fraProjectCheck, 60001_text},
+                 {lblProjectCheck, 10018_text},
+                 {cmdok, 6_text, kButton},
+                 {CmdCancel, 7_text, kButton},
+                 {cmdHelp, 8_text, kButton}});
+    txtProjectCheck.Text = missing_;
+    txtProjectCheck.ReadOnly = true;
+}
+
+void frmProjectCheck::cmdok_Click() {
+    Session.DialogOk = true;
+    Unload();
+}
+
+void frmProjectCheck::CmdCancel_Click() {
+    Session.DialogOk = false;
+    Unload();
+}
+
+void frmProjectCheck::cmdHelp_Click() {
+    ShowHelp(Caption,
+             {{"Dieses Menü zeigt die Projektdaten an, die nicht eingegeben werden.",
+               "Diese Daten sind für die Berechnung wichtig."},
+              {"The menu shows the project data, that are not defined.", "These data are important for analysis."},
+              {"من خلال هذه القائمة يتم عرض معطيات المشروع التي لم تُعرف بعد.", "هذه المعطيات مطلوبة لإجراء الحسابات."}},
+             LastHelpLine::EndsInReturn);
+}
+
+}  // namespace lithmark

@@ -1,0 +1,36 @@
+#include "ui/frmSplash.h"
+
+#include "services/Host.h"
+#include "services/SharedServices.h"
+
+namespace lithmark {
+
+namespace {
+
+constexpr long long kShownMilliseconds = 3000;
+const std::string kSplashMayEnd = "Start Prog";
+
+}  // namespace
+
+frmSplash::frmSplash(std::function<long long()> milliseconds)
+    : Form("frmSplash"), milliseconds_(std::move(milliseconds)) {
+    for (Control* control : Controls()) control->OnClick = [this] { Dismiss(); };
+}
+
+void frmSplash::Load() {
+    SharedServices().PrepareForm(*this);
+    loadedAt_ = milliseconds_();
+    SetCaptions({{lblPlatform, 140123_text}, {Label1, 160030_text}, {Label4, 904010_text}, {Label5, 904011_text}});
+    Label3.Caption = Text(90_text) + LanguageTexts().AuthorsText();
+    lblVersion.Caption = Text(91_text, {{"|1", LanguageTexts().VersionText()}});
+    ShowProgramPicture(imgLogo, "Lithmark.bmp");
+}
+
+// A click while the program waits comes back here and changes nothing.
+void frmSplash::Unloading() {
+    if (Tag != kSplashMayEnd) return;
+    Tag.clear();
+    while (milliseconds_() - loadedAt_ <= kShownMilliseconds) CurrentHost().RunEvents();
+}
+
+}  // namespace lithmark
