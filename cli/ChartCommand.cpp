@@ -76,7 +76,7 @@ std::string ChartIn(const std::string& format, const ChartArguments& chart) {
     if (format == "pdf") return ChartPdf(chart);
     if (format == "xlsx") return ChartXlsx(chart);
 #endif
-    throw CommandFailure(ExitStatus::BadCommandLine, Text(902015_text, {{"|1", format}}));
+    FailFormat(format);
 }
 
 // The curve asked for, held against the problem: the fixed set of problem 5, "Tab1" to "Tab4" of the time-settlement
@@ -100,7 +100,7 @@ void ChooseCurve(const ChartOptions& chart) {
 }  // namespace
 
 ExitStatus ChartCommand(const CommonOptions& options, const ChartOptions& chartOptions, ConsoleHost& host) {
-    const std::string format = FormatInForce(options.Format, options.Output, "json");
+    const std::string format = FormatInForce(options, kChartFormats);
     OpenProjectForRun(options);
     ChooseCurve(chartOptions);
     RunKernelOfProblem();

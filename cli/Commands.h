@@ -14,6 +14,12 @@ ExitStatus NewCommand(const CommonOptions& options, int problem, ConsoleHost& ho
 ExitStatus ShowCommand(const CommonOptions& options, ConsoleHost& host);
 ExitStatus ReportCommand(const CommonOptions& options, ConsoleHost& host);
 
+// What each command writes, its usual format first.
+inline const std::vector<std::string> kReportFormats = {"txt", "json", "html", "pdf", "rtf"};
+inline const std::vector<std::string> kChartFormats = {"json", "csv", "svg", "png", "pdf", "xlsx"};
+inline const std::vector<std::string> kContourFormats = {"json", "svg", "png", "pdf"};
+inline const std::vector<std::string> kStudyFormats = {"csv", "json", "xlsx"};
+
 struct ChartOptions {
     std::string Curve;           // "Tab1" to "Tab6"; empty: the dialog's first choice
     std::string LoadUnit;        // "%" or "force"

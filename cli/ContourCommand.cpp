@@ -88,13 +88,13 @@ std::string ContourIn(const std::string& format, BasContour& plot, int size) {
     if (format == "png") return ContourPng(plot, size);
     if (format == "pdf") return ContourPdf(plot, size);
 #endif
-    throw CommandFailure(ExitStatus::BadCommandLine, Text(902015_text, {{"|1", format}}));
+    FailFormat(format);
 }
 
 }  // namespace
 
 ExitStatus ContourCommand(const CommonOptions& options, const ContourCommandOptions& contour, ConsoleHost& host) {
-    const std::string format = FormatInForce(options.Format, options.Output, "json");
+    const std::string format = FormatInForce(options, kContourFormats);
     OpenProjectForRun(options);
     if (Session.ProblemType != 9 && Session.ProblemType != 10)
         throw CommandFailure(ExitStatus::BadCommandLine,

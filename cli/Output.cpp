@@ -1,5 +1,6 @@
 #include "cli/Output.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 
@@ -24,10 +25,17 @@ void WriteOutput(const std::string& path, const std::string& bytes) {
     }
 }
 
-std::string FormatInForce(const std::string& asked, const std::string& output, const std::string& fallback) {
-    if (!asked.empty()) return asked;
-    const std::string ending = LowerAscii(std::filesystem::path(output).extension().string());
-    return ending.size() > 1 ? ending.substr(1) : fallback;
+std::string FormatInForce(const CommonOptions& options, const std::vector<std::string>& formats) {
+    if (!options.Format.empty()) return options.Format;
+    const std::string ending = LowerAscii(std::filesystem::path(options.Output).extension().string());
+    if (ending.size() < 2) return formats.front();
+    const std::string format = ending.substr(1);
+    if (std::find(formats.begin(), formats.end(), format) == formats.end()) FailFormat(format);
+    return format;
+}
+
+void FailFormat(const std::string& format) {
+    throw CommandFailure(ExitStatus::BadCommandLine, Text(902015_text, {{"|1", format}}));
 }
 
 std::string CsvCell(const std::string& text) {

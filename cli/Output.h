@@ -2,14 +2,21 @@
 #pragma once
 
 #include <string>
+#include <vector>
+
+#include "cli/Project.h"
 
 namespace lithmark {
 
 // Writes bytes to `path`, whole or not at all; an empty path means standard output. Throws CommandFailure.
 void WriteOutput(const std::string& path, const std::string& bytes);
 
-// The format in force: as asked, else told by the ending of the output, else `fallback`.
-std::string FormatInForce(const std::string& asked, const std::string& output, const std::string& fallback);
+// The format in force: as asked, else told by the ending of the output, else the first of `formats`. An ending that is
+// none of `formats` is a failure of the command line.
+std::string FormatInForce(const CommonOptions& options, const std::vector<std::string>& formats);
+
+// A format that this command, or this build of the program, does not write.
+[[noreturn]] void FailFormat(const std::string& format);
 
 // A cell of a comma-separated table, in double quotes where its content calls for them (RFC 4180).
 std::string CsvCell(const std::string& text);

@@ -1,6 +1,7 @@
 #include "cli/Project.h"
 
 #include <filesystem>
+#include <utility>
 
 #include "base/Utf8.h"
 #include "cli/Failures.h"
@@ -13,12 +14,16 @@
 #include "files/SettingsFiles.h"
 #include "kernels/RunKernel.h"
 #include "services/FileDialogs.h"
+#include "services/FileNames.h"
+#include "services/ProjectArchive.h"
 #include "services/ProjectStore.h"
 #include "services/SharedServices.h"
 
 namespace lithmark {
 
 namespace {
+
+const std::string kStandingExtension = ".po3";
 
 void SetLanguage(const std::string& lang) {
     if (lang.empty()) {
@@ -31,6 +36,9 @@ void SetLanguage(const std::string& lang) {
                                                : Language::English);
 }
 
+// The project that ReadProject found packed, without its extension; empty when it found none.
+std::string packedProject;
+
 [[noreturn]] void FailFile(const std::string& path, TextId text) {
     throw CommandFailure(ExitStatus::FileTrouble, Text(text, {{"|1", path}}));
 }
@@ -39,7 +47,7 @@ void SetLanguage(const std::string& lang) {
 [[noreturn]] void FailRead(const std::string& path) {
     const auto& host = static_cast<const ConsoleHost&>(CurrentHost());
     if (host.Messages().empty()) FailFile(path, 902002_text);
-    throw CommandFailure(ExitStatus::FileTrouble, ReplaceAll(host.Messages().back().Text, "\n", " "));
+    throw CommandFailure(ExitStatus::FileTrouble, host.Messages().back().Text);
 }
 
 }  // namespace
@@ -73,7 +81,9 @@ bool ReadProject(const std::string& path) {
     Session.WorkDir = Session.DataDir;
     Session.WorkName = Session.ProjectName;
     const std::string stem = Session.DataDir + Session.ProjectName;
-    if (!ProjectStore().UnpackProject(stem, ".po3")) FailRead(path);
+    const bool packed = IsArchiveFile(MappedFileName(stem + kStandingExtension));
+    if (!ProjectStore().UnpackProject(stem, kStandingExtension)) FailRead(path);
+    if (packed) packedProject = stem;
     switch (ReadProjectFile()) {
         case ReadOutcome::Missing:
             FailFile(path, 902005_text);
@@ -89,6 +99,12 @@ bool ReadProject(const std::string& path) {
     const ReadOutcome outcome = ReadProblemData();
     if (outcome == ReadOutcome::Failed) FailRead(path);
     return outcome == ReadOutcome::Read;
+}
+
+bool PackProjectAgain() {
+    constexpr long kPack = 1;
+    const std::string stem = std::exchange(packedProject, {});
+    return stem.empty() || ProjectStore().PackProject(stem, kPack, {}, kStandingExtension);
 }
 
 void ApplySets(const std::vector<std::string>& sets) {
@@ -137,7 +153,7 @@ void RunKernelOfProblem() {
 std::string AbortedLine(const ConsoleHost& host) {
     std::string line = Text(902011_text, {{"|1", Session.ProjectFile}});
     if (!host.Messages().empty()) line += " " + host.Messages().back().Text;
-    return ReplaceAll(ReplaceAll(line, "\r", ""), "\n", " ");
+    return line;
 }
 
 }  // namespace lithmark

@@ -27,6 +27,10 @@ void OpenProjectForRun(const CommonOptions& options);
 // Reads a project's files into Session, without --set. True when its data file exists.
 bool ReadProject(const std::string& path);
 
+// Packs the project again that ReadProject found packed: a command leaves a project as it found it. False after a
+// failure, which has been told.
+bool PackProjectAgain();
+
 // Puts FIELD=VALUE pairs into Session.
 void ApplySets(const std::vector<std::string>& sets);
 

@@ -28,13 +28,13 @@ std::string ReportIn(const std::string& format) {
     if (format == "pdf") return ReportPdf(Session.ResultText);
     if (format == "rtf") return ReportRtf(Session.ResultText);
 #endif
-    throw CommandFailure(ExitStatus::BadCommandLine, Text(902015_text, {{"|1", format}}));
+    FailFormat(format);
 }
 
 }  // namespace
 
 ExitStatus ReportCommand(const CommonOptions& options, ConsoleHost& host) {
-    const std::string format = FormatInForce(options.Format, options.Output, "txt");
+    const std::string format = FormatInForce(options, kReportFormats);
     OpenProjectForRun(options);
     RunKernelOfProblem();
     if (format == "json") WriteOutput(options.Output, JsonReport(host));

@@ -237,7 +237,7 @@ std::string StudyJson(const std::vector<Variation>& variations, const std::vecto
 }  // namespace
 
 ExitStatus StudyCommand(const CommonOptions& options, const StudyOptions& study, ConsoleHost&) {
-    const std::string format = FormatInForce(options.Format, options.Output, "csv");
+    const std::string format = FormatInForce(options, kStudyFormats);
     OpenProjectForRun(options);
     std::vector<Variation> variations;
     for (const std::string& vary : study.Vary) variations.push_back(ReadVariation(vary));
@@ -269,7 +269,7 @@ ExitStatus StudyCommand(const CommonOptions& options, const StudyOptions& study,
         return ExitStatus::Done;
     }
 #endif
-    FailCommandLine(902015_text, format);
+    FailFormat(format);
 }
 
 }  // namespace lithmark

@@ -36,7 +36,7 @@ class CommandLine {
         CLI::App* create = Command("new", 902017_text, 902021_text, {}, NewRunner());
         create->add_option("--problem", problem_, Text(902022_text))->required()->check(CLI::Range(1, 11));
         Command("show", 902018_text, 902020_text, {}, ShowCommand);
-        Command("report", 902019_text, 902020_text, {"txt", "json", "html", "pdf", "rtf"}, ReportCommand);
+        Command("report", 902019_text, 902020_text, kReportFormats, ReportCommand);
         AddChart();
         AddContour();
         AddStudy();
@@ -50,11 +50,20 @@ class CommandLine {
                 app_.exit(error);
                 return ExitStatus::Done;
             }
-            throw CommandFailure(ExitStatus::BadCommandLine, ReplaceAll(error.what(), "\n", " "));
+            throw CommandFailure(ExitStatus::BadCommandLine, error.what());
         }
         ConsoleHost host;
         StartCommand(options_, host);
-        return run_(options_, host);
+        ExitStatus status = ExitStatus::Done;
+        try {
+            status = run_(options_, host);
+        } catch (...) {
+            PackProjectAgain();
+            throw;
+        }
+        if (!PackProjectAgain()) throw CommandFailure(ExitStatus::FileTrouble, host.Messages().back().Text);
+        host.PrintMessages();
+        return status;
     }
 
   private:
@@ -66,7 +75,7 @@ class CommandLine {
 
     void AddChart() {
         CLI::App* chart = Command(
-            "chart", 902033_text, 902020_text, {"json", "csv", "svg", "png", "pdf", "xlsx"},
+            "chart", 902033_text, 902020_text, kChartFormats,
             [this](const CommonOptions& options, ConsoleHost& host) { return ChartCommand(options, chart_, host); });
         chart->add_option("--curve", chart_.Curve, Text(902034_text))
             ->check(CLI::IsMember({"Tab1", "Tab2", "Tab3", "Tab4", "Tab5", "Tab6"}));
@@ -76,7 +85,7 @@ class CommandLine {
     }
 
     void AddContour() {
-        CLI::App* contour = Command("contour", 902037_text, 902020_text, {"json", "svg", "png", "pdf"},
+        CLI::App* contour = Command("contour", 902037_text, 902020_text, kContourFormats,
                                     [this](const CommonOptions& options, ConsoleHost& host) {
                                         return ContourCommand(options, contour_, host);
                                     });
@@ -87,7 +96,7 @@ class CommandLine {
 
     void AddStudy() {
         CLI::App* study = Command(
-            "study", 902040_text, 902020_text, {"csv", "json", "xlsx"},
+            "study", 902040_text, 902020_text, kStudyFormats,
             [this](const CommonOptions& options, ConsoleHost& host) { return StudyCommand(options, study_, host); });
         study->add_option("--vary", study_.Vary, Text(902041_text))
             ->take_all()
@@ -134,7 +143,7 @@ class CommandLine {
 int main(int argc, char** argv) {
     using namespace lithmark;
     const auto fail = [](ExitStatus status, const std::string& line) {
-        std::fprintf(stderr, "lithmark-cli: %s\n", line.c_str());
+        std::fprintf(stderr, "lithmark-cli: %s\n", OneLine(line).c_str());
         return static_cast<int>(status);
     };
     try {

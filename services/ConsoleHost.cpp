@@ -19,7 +19,8 @@ extern "C" void OnInterrupt(int) {
     interrupted = 1;
 }
 
-// A text as one line: line ends become blanks, several of them one.
+}  // namespace
+
 std::string OneLine(const std::string& text) {
     std::string line;
     for (const char c : text) {
@@ -29,8 +30,6 @@ std::string OneLine(const std::string& text) {
     if (line.ends_with(' ')) line.pop_back();
     return line;
 }
-
-}  // namespace
 
 ConsoleHost::ConsoleHost() : ConsoleHost(stderr, ::isatty(STDERR_FILENO) != 0) {}
 

@@ -10,6 +10,9 @@
 
 namespace lithmark {
 
+// A text as one line: line ends and tabs become blanks, several of them one.
+std::string OneLine(const std::string& text);
+
 class ConsoleHost : public Host {
   public:
     struct Message {
