@@ -19,23 +19,24 @@
 namespace lithmark {
 namespace {
 
-enum Kind { kElastic, kUniformClay, kThickClay, kPunch, kPunchOnClay };
+enum Kind { kElastic, kUniformClay, kThinClay, kThickClay, kPunch, kPunchOnClay };
 
-// 10 m by 10 m under 20 MN with both eccentricities, on 8 m of soil.
+// 10 m by 10 m under 20 MN with both eccentricities; the soil 8 m thick, as clay by Cc 5 m (thin) or 40 m (six
+// sublayers).
 void SetProblem(int side, Kind kind) {
     ResetSession();
     Session.ProblemType = kind == kElastic || kind == kPunch ? 9 : 10;
     Session.LoadType = 2;
     Session.Q = 20000;
     Session.A = Session.B = 10;
-    Session.h = kind == kThickClay ? 40 : 8;
+    Session.h = kind == kThickClay ? 40 : kind == kThinClay ? 5 : 8;
     Session.Es = 5000;
     Session.Nue = 0.25;
     Session.Cc = 0.16;
     Session.eo = 0.85;
     Session.Po = 51.82;
     Session.Gamma = 8.69;
-    Session.SoilPropertyType = kind == kThickClay || kind == kPunchOnClay ? 2 : 1;
+    Session.SoilPropertyType = kind == kThinClay || kind == kThickClay || kind == kPunchOnClay ? 2 : 1;
     Session.Exz_x = 0.5;
     Session.Exz_y = 0.25;
     Session.AnalysisType = kind == kPunch || kind == kPunchOnClay;
@@ -135,6 +136,7 @@ BENCHMARK(MeshAndFlexibility) SIDES;
 BENCHMARK(Inverse) SIDES;
 BENCHMARK_CAPTURE(WholeRun, elastic, kElastic) SIDES;
 BENCHMARK_CAPTURE(WholeRun, uniform_clay, kUniformClay) SIDES;
+BENCHMARK_CAPTURE(WholeRun, thin_clay, kThinClay) SIDES;
 BENCHMARK_CAPTURE(WholeRun, thick_clay, kThickClay) SIDES;
 BENCHMARK_CAPTURE(WholeRun, punch, kPunch) SIDES;
 BENCHMARK_CAPTURE(WholeRun, punch_on_clay, kPunchOnClay) SIDES;

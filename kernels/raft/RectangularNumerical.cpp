@@ -67,7 +67,7 @@ class SublayerStress {
         // Factors are kept while they take less than a twentieth of what the two matrices take, or little anyway.
         const double perLayer = static_cast<double>(grid.DistancesX.Count()) * grid.DistancesY.Count();
         const double matrices = 2.0 * mesh.Nodes() * mesh.Nodes();
-        const bool keep = perLayer * clay.M <= std::max(0.05 * matrices, 1e6);
+        const bool keep = perLayer * clay.M <= std::max(0.05 * matrices, 2.5e5);
         for (int k = 1; k <= clay.M; ++k) {
             const Single z1 = SublayerTop(input, clay, k), z2 = z1 + clay.DepthStep;
             corner_.push_back(MeanCornerFactor(mesh.ElemHalfX, mesh.ElemHalfY, z1, z2));

@@ -258,6 +258,15 @@ TEST_F(ThinSprings, ExponentBalancesTheMoment) {
     EXPECT_EQ(none.b, 0);
 }
 
+// By hand: the moment that a = 0.0013 balances, with a tolerance that lets 0.0002 pass and 0.0003 not. The search goes
+// 0, 0.001, 0.002, back to 0.001 and half a step up.
+TEST_F(ThinSprings, StepIsHalvedWhereTheImbalanceChangesItsSign) {
+    // The imbalance is 6 m3 times sinh(0.0026) - sinh(2 a): 0.0024 for a difference of 0.0002.
+    const double moment = 3 * 2 * 0.5 * 50 * 3 * 2 * std::sinh(0.0026);
+    const ThinClayTilt tilt = Search(LoadCase::AlongX, moment, 0, 0.003);
+    EXPECT_EQ(tilt.a, Single(Single(0.001) + 0.0005));
+}
+
 // The search steps upward: a negative moment is found going back, by halved steps, as far as the first step reaches.
 TEST_F(ThinSprings, NegativeMomentIsHardlyFollowed) {
     const ThinClayTilt tilt = Search(LoadCase::AlongX, -200, 0, 1e-5);

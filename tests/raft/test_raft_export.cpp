@@ -225,6 +225,18 @@ TEST_F(RaftExport, NumericalClayLeavesPoissonsRatio) {
     EXPECT_EQ(Session.Nue, 0.25);
 }
 
+// A layer whose top is above the ground, which no dialog lets through: two layers are counted, the first has no values.
+TEST_F(RaftExport, LayerAboveTheGroundLeavesTheFirstLayerEmpty) {
+    RaftResult result;
+    result.Input.z = -1;
+    result.Input.h = 5;
+    result.Input.Es = 5000;
+    Session.ProblemType = 10;
+    ExportRaft(result);
+    const Layer clay{4, 5000, 5000, 18, "T/vi", 0, 30, 0, 2};
+    EXPECT_TRUE(HoldsRecords(Bytes("BAU"), SoilFile(0.25f, 0, {kNone, clay}, 0, 0, 0, 0)));
+}
+
 // --- node values ---
 
 TEST_F(RaftExport, NodeValuesHaveNoCount) {

@@ -413,6 +413,23 @@ TEST_F(RectangularNumerical, ThickClayAgreesWithAWideNewtonIteration) {
     ExpectPlate(ThickPlate(mesh_, input_, 2), 5e-3, 1e-4);
 }
 
+// A load near the edge lifts the other side: a negative stress increase settles nothing.
+TEST_F(RectangularNumerical, ThickClayUnderUpliftSettlesNothingThere) {
+    input_.SoilPropertyType = 2;
+    input_.h = 4;
+    input_.Exz_x = 2.2;
+    Mesh(1);
+    Session.PrefTol = 1e-6;
+    const ClayLayer clay = NumericalClay(input_, 3.5355339);
+    ASSERT_EQ(clay.M, 2);
+    SolveThickClay(Grid(mesh_), input_, clay);
+    ExpectBalance(1e-5);
+    const RigidPlate plate = ThickPlate(mesh_, input_, 2);
+    // The independent solution has uplift, or the case would prove nothing.
+    EXPECT_LT(*std::min_element(plate.Force.begin(), plate.Force.end()), -1);
+    ExpectPlate(plate, 5e-2, 1e-3);
+}
+
 // Under a small load the true law is the tangent one: the settlement is that of the linear system.
 TEST_F(RectangularNumerical, ThickClayUnderASmallLoadIsLinear) {
     input_.SoilPropertyType = 2;
