@@ -34,6 +34,7 @@ RectangularMesh BuildRectangularMesh(Single a, Single b, Single& dx, Single& dy)
     mesh.HalfB = b / 2;
     mesh.nx = Divide(a, dx);
     mesh.ny = Divide(b, dy);
+    if (mesh.nx < 0 || mesh.ny < 0) Fail(FailureKind::SubscriptRange);
     const Integer n = static_cast<long>(mesh.Columns()) * mesh.Rows();
     DrawLines(mesh.nx, dx, mesh.GridX, mesh.LineX);
     DrawLines(mesh.ny, dy, mesh.GridY, mesh.LineY);

@@ -46,6 +46,13 @@ TEST(RectangularMesh, SideShorterThanHalfAnElementDividesByZero) {
     EXPECT_EQ(KindOf([&] { build(0.251, 0.251); }), std::nullopt);
 }
 
+TEST(RectangularMesh, NegativeSideHasNoNodes) {
+    for (const auto& [a, b] : {std::pair(-5.0, 5.0), std::pair(5.0, -5.0), std::pair(-5.0, -5.0)}) {
+        Single dx = 0.5, dy = 0.5;
+        EXPECT_EQ(KindOf([&] { BuildRectangularMesh(a, b, dx, dy); }), FailureKind::SubscriptRange);
+    }
+}
+
 TEST(RectangularMesh, SizesStayWrittenWhenTheSecondSideFails) {
     Single dx = 0.4, dy = 0.5;
     EXPECT_EQ(KindOf([&] { BuildRectangularMesh(5, 0.1, dx, dy); }), FailureKind::DivisionByZero);
