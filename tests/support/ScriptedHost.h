@@ -75,11 +75,15 @@ class ScriptedHost : public Host {
     // The user ends a long run at its n-th report of progress, from 1.
     void CancelAtProgress(int report) { cancelAt_ = report; }
 
+    // What happens while the program lets the windows react.
+    std::function<void()> OnEvents;
+
     // --- the record ---
 
     std::vector<Message> Messages;
     std::vector<Message> Questions;  // with yes and no
     std::vector<std::string> FormsShown;
+    std::vector<std::string> SplashesShown, SplashesClosed;
     std::vector<FileQuestion> OpenQuestions, SaveQuestions;
     std::vector<std::string> FolderQuestions;  // the start folders
     std::vector<TableEdit> TablesShown;        // as the editor got them
@@ -131,6 +135,11 @@ class ScriptedHost : public Host {
         if (!form.Unloaded()) form.Activate();
         if (!form.Unloaded()) script(form);
         if (!form.Unloaded()) form.Unload();
+    }
+    void ShowSplash(Form& form) override { SplashesShown.push_back(form.Name); }
+    void CloseSplash(Form& form) override { SplashesClosed.push_back(form.Name); }
+    void RunEvents() override {
+        if (OnEvents) OnEvents();
     }
     void SetFocus(Form& form, Control& control) override { form.Focus = &control; }
     void ShowHelpText(const std::string& title, const std::string& text) override {

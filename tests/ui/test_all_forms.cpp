@@ -146,13 +146,21 @@ TEST_F(EveryForm, HasHelpUnderItsCaptionInThreeLanguages) {
     for (const Language language : {Language::German, Language::English, Language::Arabic}) {
         LanguageTexts().SetCurrent(language);
         ForEach([&](const FormRow& row, Form& form) {
-            const std::size_t shown = host.HelpTexts.size();
+            const std::size_t shown = host.HelpTexts.size(), pages = host.HelpTopics.size();
+            ++forms;
+            if (row.Help == HelpBy::Nothing) {
+                EXPECT_EQ(form.Find("cmdHelp"), nullptr);
+                return;
+            }
             Click(form, "cmdHelp");
+            if (row.Help == HelpBy::Page) {
+                EXPECT_EQ(host.HelpTopics.size(), pages + 1);
+                return;
+            }
             ASSERT_EQ(host.HelpTexts.size(), shown + 1);
             EXPECT_EQ(host.HelpTexts.back().Title, form.Caption);
             EXPECT_THAT(host.HelpTexts.back().Text, Not(IsEmpty()));
             texts[form.Name + std::to_string(row.ProblemType)].insert(host.HelpTexts.back().Text);
-            ++forms;
         });
     }
     EXPECT_EQ(forms, 3 * static_cast<int>(AllForms().size()));
