@@ -1,0 +1,299 @@
+#include "desktop/FormView.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QEventLoop>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScopedValueRollback>
+#include <QTabBar>
+
+#include "desktop/PictureView.h"
+#include "desktop/ReportView.h"
+#include "desktop/layouts/Layouts.h"
+#include "services/TextTools.h"
+#include "ui/FieldForm.h"
+#include "ui/ProblemForm.h"
+
+namespace lithmark {
+
+namespace {
+
+std::unordered_map<const Form*, FormView*>& OpenViews() {
+    static std::unordered_map<const Form*, FormView*> views;
+    return views;
+}
+
+QString Q(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+// Day 25569 of the text service is 1 January 1970.
+constexpr int kEpochDay = 25569;
+
+QDate DateOf(const std::string& text) {
+    const auto day = TextTools().ReadDate(text);
+    return day ? QDate(1970, 1, 1).addDays(*day - kEpochDay) : QDate();
+}
+
+}  // namespace
+
+FormView::FormView(Form& form, QWidget* parent) : QDialog(parent), form_(form) {
+    OpenViews()[&form] = this;
+    setObjectName(Q(form.Name));
+    setModal(true);
+    setLayoutDirection(form.RightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    BuildLayout(*this);
+    for (Control* control : form.Controls()) WidgetOf(*control);
+    Refresh();
+}
+
+FormView::~FormView() {
+    OpenViews().erase(&form_);
+}
+
+FormView* FormView::Of(const Form& form) {
+    const auto found = OpenViews().find(&form);
+    return found == OpenViews().end() ? nullptr : found->second;
+}
+
+void FormView::RunModal() {
+    if (form_.Unloaded()) return;
+    QEventLoop loop;
+    connect(this, &QDialog::finished, &loop, &QEventLoop::quit);
+    // A window destroyed from outside ends the loop too.
+    connect(this, &QObject::destroyed, &loop, &QEventLoop::quit);
+    open();
+    form_.Activate();
+    Refresh();
+    if (form_.Focus) FocusOn(*form_.Focus);
+    if (isVisible()) loop.exec();
+}
+
+void FormView::reject() {
+    for (const char* name : {"CmdCancel", "cmdCancel", "cmdok", "CmdOK", "cmdOK"})
+        if (Control* button = form_.Find(name); button && button->Visible && button->Enabled && button->OnClick) {
+            Act(button->OnClick);
+            return;
+        }
+    Act([this] { form_.Unload(); });
+}
+
+QWidget* FormView::WidgetOf(Control& control) {
+    QWidget*& widget = widgets_[&control];
+    if (!widget) widget = Make(control);
+    return widget;
+}
+
+QWidget* FormView::WidgetOf(const char* controlName) {
+    Control* control = form_.Find(controlName);
+    return control ? WidgetOf(*control) : nullptr;
+}
+
+QWidget* FormView::Make(Control& control) {
+    QWidget* widget = nullptr;
+    switch (control.Kind) {
+        case ControlKind::TextLabel: {
+            auto* label = new QLabel(this);
+            label->setTextInteractionFlags(Qt::NoTextInteraction);
+            widget = label;
+            break;
+        }
+        case ControlKind::TextBox: {
+            auto* box = new QLineEdit(this);
+            connect(box, &QLineEdit::textEdited, this, [this, &control](const QString& text) {
+                control.Text = text.toStdString();
+                Act(control.OnChange);
+            });
+            box->installEventFilter(this);
+            widget = box;
+            break;
+        }
+        case ControlKind::Option: {
+            auto* option = new QRadioButton(this);
+            option->setAutoExclusive(false);
+            connect(option, &QRadioButton::clicked, this, [this, &control] {
+                form_.SelectOption(control);
+                Act(control.OnClick);
+            });
+            widget = option;
+            break;
+        }
+        case ControlKind::CheckBox: {
+            auto* box = new QCheckBox(this);
+            connect(box, &QCheckBox::clicked, this, [this, &control](bool checked) {
+                control.Value = checked;
+                Act(control.OnClick);
+            });
+            widget = box;
+            break;
+        }
+        case ControlKind::ComboBox: {
+            auto* box = new QComboBox(this);
+            connect(box, &QComboBox::activated, this, [this, &control](int index) {
+                control.ListIndex = index;
+                Act(control.OnClick ? control.OnClick : control.OnChange);
+            });
+            widget = box;
+            break;
+        }
+        case ControlKind::Button: {
+            auto* button = new QPushButton(this);
+            button->setAutoDefault(false);
+            connect(button, &QPushButton::clicked, this, [this, &control] { Act(control.OnClick); });
+            widget = button;
+            break;
+        }
+        case ControlKind::Frame:
+            widget = new QGroupBox(this);
+            break;
+        case ControlKind::Picture:
+            widget = new PictureView(form_, control, this);
+            break;
+        case ControlKind::TextArea:
+            widget = new ReportView(this);
+            break;
+        case ControlKind::DatePicker: {
+            auto* picker = new QDateEdit(this);
+            picker->setCalendarPopup(true);
+            picker->setDisplayFormat(QStringLiteral("yyyy-MM-dd"));
+            connect(picker, &QDateEdit::dateChanged, this, [this, &control](QDate date) {
+                if (refreshing_) return;
+                control.Text = TextTools().LongDate(kEpochDay + static_cast<int>(QDate(1970, 1, 1).daysTo(date)));
+                Act(control.OnChange);
+            });
+            widget = picker;
+            break;
+        }
+        case ControlKind::Tab: {
+            auto* tabs = new QTabBar(this);
+            connect(tabs, &QTabBar::currentChanged, this, [this, &control](int index) {
+                if (refreshing_) return;
+                control.ListIndex = index;
+                Act(control.OnClick ? control.OnClick : control.OnChange);
+            });
+            widget = tabs;
+            break;
+        }
+    }
+    widget->setObjectName(Q(control.Name));
+    return widget;
+}
+
+void FormView::Act(const std::function<void()>& event) {
+    if (event) event();
+    Refresh();
+}
+
+void FormView::Refresh() {
+    if (form_.Unloaded()) {
+        done(QDialog::Accepted);
+        return;
+    }
+    const QScopedValueRollback<bool> guard(refreshing_, true);
+    const auto* problem = dynamic_cast<const ProblemForm*>(&form_);
+    setWindowTitle(Q(form_.Caption) + (problem ? QStringLiteral(" [*]") : QString()));
+    setWindowModified(problem && problem->Modified());
+    for (Control* control : form_.Controls()) Show(*control, *WidgetOf(*control));
+    RefreshLayout(*this);
+}
+
+void FormView::Show(Control& control, QWidget& widget) {
+    widget.setVisible(control.Visible);
+    widget.setEnabled(control.Enabled);
+    const QString caption = Q(control.Caption);
+    switch (control.Kind) {
+        case ControlKind::TextLabel:
+            static_cast<QLabel&>(widget).setText(caption);
+            break;
+        case ControlKind::TextBox: {
+            auto& box = static_cast<QLineEdit&>(widget);
+            if (box.text() != Q(control.Text)) box.setText(Q(control.Text));
+            box.setReadOnly(control.ReadOnly);
+            break;
+        }
+        case ControlKind::Option:
+            static_cast<QRadioButton&>(widget).setText(caption);
+            static_cast<QRadioButton&>(widget).setChecked(control.Value);
+            break;
+        case ControlKind::CheckBox:
+            static_cast<QCheckBox&>(widget).setText(caption);
+            static_cast<QCheckBox&>(widget).setChecked(control.Value);
+            break;
+        case ControlKind::ComboBox: {
+            auto& box = static_cast<QComboBox&>(widget);
+            QStringList items;
+            for (const std::string& item : control.Items) items.append(Q(item));
+            QStringList shown;
+            for (int i = 0; i < box.count(); ++i) shown.append(box.itemText(i));
+            if (items != shown) {
+                box.clear();
+                box.addItems(items);
+            }
+            box.setCurrentIndex(control.ListIndex);
+            break;
+        }
+        case ControlKind::Button:
+            static_cast<QPushButton&>(widget).setText(caption);
+            break;
+        case ControlKind::Frame:
+            static_cast<QGroupBox&>(widget).setTitle(caption);
+            break;
+        case ControlKind::Picture:
+            widget.update();
+            break;
+        case ControlKind::TextArea:
+            static_cast<ReportView&>(widget).ShowReport(control.Text, control.FontName, form_.RightToLeft);
+            break;
+        case ControlKind::DatePicker: {
+            const QDate date = DateOf(control.Text);
+            if (date.isValid()) static_cast<QDateEdit&>(widget).setDate(date);
+            break;
+        }
+        case ControlKind::Tab: {
+            auto& tabs = static_cast<QTabBar&>(widget);
+            while (tabs.count() > static_cast<int>(control.Items.size())) tabs.removeTab(tabs.count() - 1);
+            for (int i = 0; i < static_cast<int>(control.Items.size()); ++i) {
+                const QString item = Q(control.Items[static_cast<std::size_t>(i)]);
+                if (i < tabs.count())
+                    tabs.setTabText(i, item);
+                else
+                    tabs.addTab(item);
+            }
+            tabs.setCurrentIndex(control.ListIndex);
+            break;
+        }
+    }
+}
+
+void FormView::FocusOn(const Control& control) {
+    QWidget* widget = WidgetOf(const_cast<Control&>(control));
+    widget->setFocus(Qt::OtherFocusReason);
+    if (auto* box = qobject_cast<QLineEdit*>(widget)) box->selectAll();
+}
+
+// Enter in a text box belongs to the model: it moves on or presses a button.
+bool FormView::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            for (const auto& [control, widget] : widgets_) {
+                if (widget != watched || !control->OnEnter) continue;
+                Control* const from = control;
+                Act(from->OnEnter);
+                if (!form_.Unloaded() && form_.Focus && form_.Focus != from) FocusOn(*form_.Focus);
+                return true;
+            }
+        }
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+}  // namespace lithmark

@@ -1,0 +1,52 @@
+// FormView: a form model as a window. Every control of the model is a widget of the same name; user events go to the
+// model, and after each of them all widgets show what the model says.
+#pragma once
+
+#include <QDialog>
+#include <unordered_map>
+
+#include "services/Form.h"
+
+class QLabel;
+class QWidget;
+
+namespace lithmark {
+
+class FormView : public QDialog {
+  public:
+    // Builds the widgets in the layout of the form's name (layouts/Layouts.h). The form has been loaded.
+    FormView(Form& form, QWidget* parent);
+    ~FormView() override;
+
+    // Shows the window and returns when the form is unloaded.
+    void RunModal();
+
+    // The widget of a control, made at the first call.
+    QWidget* WidgetOf(Control& control);
+    QWidget* WidgetOf(const char* controlName);
+    // All widgets as the model says; closes the window when the form is unloaded.
+    void Refresh();
+    void FocusOn(const Control& control);
+    Form& Model() noexcept { return form_; }
+
+    // The view of a form that is shown, or null.
+    static FormView* Of(const Form& form);
+
+    // Escape and the window's own button: as the form's cancel button, or its OK button where it has no other.
+    void reject() override;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    QWidget* Make(Control& control);
+    void Show(Control& control, QWidget& widget);
+    // Runs an event of the model, then refreshes.
+    void Act(const std::function<void()>& event);
+
+    Form& form_;
+    std::unordered_map<Control*, QWidget*> widgets_;
+    bool refreshing_ = false;
+};
+
+}  // namespace lithmark
