@@ -1,0 +1,81 @@
+#include "desktop/ChartWindow.h"
+
+#include <qcustomplot.h>
+
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "core/Session.h"
+#include "files/GloableVariable.h"
+#include "render/ChartDocument.h"
+#include "services/LanguageTexts.h"
+#include "services/SharedServices.h"
+#include "services/WrittenFile.h"
+
+namespace lithmark {
+
+namespace {
+
+QString Q(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+}  // namespace
+
+ChartWindow::ChartWindow(const ChartArguments& chart, QWidget* parent) : QDialog(parent), chart_(chart) {
+    setObjectName(QStringLiteral("chartWindow"));
+    setWindowTitle(Q(chart.ChartTitle));
+    setLayoutDirection(LanguageTexts().RightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    auto* column = new QVBoxLayout(this);
+    auto* title = new QLabel(Q(chart.ChartTitle), this);
+    QFont font = title->font();
+    font.setBold(true);
+    font.setPointSizeF(font.pointSizeF() * 1.25);
+    title->setFont(font);
+    title->setAlignment(Qt::AlignCenter);
+    column->addWidget(title);
+
+    auto* plot = new QCustomPlot(this);
+    plot->setObjectName(QStringLiteral("plot"));
+    plot->setLayoutDirection(Qt::LeftToRight);
+    plot->setMinimumSize(640, 420);
+    FillPlot(*plot, chart);
+    plot->setInteractions(QCP::iRangeDrag | QCP::iRangeZoom);
+    column->addWidget(plot, 1);
+
+    auto* buttons = new QDialogButtonBox(this);
+    QPushButton* save = buttons->addButton(Q(Text(9_text, Style{3})), QDialogButtonBox::ActionRole);
+    save->setObjectName(QStringLiteral("cmdExport"));
+    connect(save, &QPushButton::clicked, this, [this] { Export(); });
+    QPushButton* whole = buttons->addButton(Q(Text(26_text)), QDialogButtonBox::ActionRole);
+    connect(whole, &QPushButton::clicked, this, [this, plot] {
+        FillPlot(*plot, chart_);
+        plot->replot();
+    });
+    buttons->addButton(Q(Text(6_text, Style{1})), QDialogButtonBox::AcceptRole);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    column->addWidget(buttons);
+    resize(860, 620);
+}
+
+void ChartWindow::Export() {
+    const QString file =
+        QFileDialog::getSaveFileName(this, windowTitle(), Q(Session.WorkDir + Session.WorkName + ".xlsx"),
+                                     QStringLiteral("Excel (*.xlsx);;PDF (*.pdf);;SVG (*.svg);;PNG (*.png)"));
+    if (file.isEmpty()) return;
+    const QString ending = QFileInfo(file).suffix().toLower();
+    try {
+        SharedServices().SetCurrentFile(file.toStdString());
+        WriteWholeFile(file.toStdString(), ending == QStringLiteral("pdf")   ? ChartPdf(chart_)
+                                           : ending == QStringLiteral("svg") ? ChartSvg(chart_)
+                                           : ending == QStringLiteral("png") ? ChartPng(chart_)
+                                                                             : ChartXlsx(chart_));
+    } catch (const Failure& failure) {
+        FileError(failure);
+    }
+}
+
+}  // namespace lithmark

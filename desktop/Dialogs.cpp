@@ -1,0 +1,148 @@
+#include "desktop/Dialogs.h"
+
+#include <QDateTime>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFormLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QShortcut>
+#include <QTableWidget>
+#include <QTextBrowser>
+#include <QVBoxLayout>
+
+#include "desktop/ReportView.h"
+#include "services/LanguageTexts.h"
+
+namespace lithmark {
+
+namespace {
+
+QString Q(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+// A dialog with a column for its content and buttons under it.
+class PlainDialog : public QDialog {
+  public:
+    PlainDialog(QWidget* parent, const QString& title, bool cancel) : QDialog(parent), Content(new QVBoxLayout) {
+        setWindowTitle(title);
+        setLayoutDirection(LanguageTexts().RightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+        auto* column = new QVBoxLayout(this);
+        column->addLayout(Content, 1);
+        auto* buttons = new QDialogButtonBox(this);
+        QPushButton* ok = buttons->addButton(Q(Text(6_text, Style{1})), QDialogButtonBox::AcceptRole);
+        ok->setDefault(true);
+        ok->setObjectName(QStringLiteral("cmdok"));
+        connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+        if (cancel) {
+            buttons->addButton(Q(Text(7_text, Style{1})), QDialogButtonBox::RejectRole);
+            connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+        }
+        column->addWidget(buttons);
+    }
+    QVBoxLayout* Content;
+};
+
+}  // namespace
+
+void ShowTextWindow(QWidget* parent, const QString& title, const QString& text) {
+    PlainDialog dialog(parent, title, false);
+    dialog.setObjectName(QStringLiteral("helpWindow"));
+    auto* label = new QLabel(text.trimmed(), &dialog);
+    label->setWordWrap(true);
+    label->setMinimumWidth(420);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    dialog.Content->addWidget(label);
+    dialog.exec();
+}
+
+void ShowManual(QWidget* parent, const QString&) {
+    ShowTextWindow(parent, Q(Text(160030_text)), Q(Text(903006_text)));
+}
+
+std::optional<CompanyLines> AskCompanyLines(QWidget* parent, const CompanyLines& lines) {
+    PlainDialog dialog(parent, Q(Text(140116_text)), true);
+    dialog.setObjectName(QStringLiteral("companyLines"));
+    auto* form = new QFormLayout;
+    auto* line1 = new QLineEdit(Q(lines.Line1), &dialog);
+    auto* line2 = new QLineEdit(Q(lines.Line2), &dialog);
+    line1->setObjectName(QStringLiteral("txtFirma1"));
+    line2->setObjectName(QStringLiteral("txtFirma2"));
+    line1->setMinimumWidth(360);
+    form->addRow(Q(Text(903007_text)), line1);
+    form->addRow(Q(Text(903008_text)), line2);
+    dialog.Content->addLayout(form);
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    return CompanyLines{line1->text().toStdString(), line2->text().toStdString()};
+}
+
+std::optional<Language> AskLanguage(QWidget* parent, Language current) {
+    PlainDialog dialog(parent, Q(Text(83_text)), true);
+    dialog.setObjectName(QStringLiteral("languageDialog"));
+    // Each language calls itself by its own name.
+    const std::pair<Language, QString> languages[] = {{Language::German, QStringLiteral("Deutsch")},
+                                                      {Language::English, QStringLiteral("English")},
+                                                      {Language::Arabic, QStringLiteral("العربية")}};
+    std::vector<QRadioButton*> options;
+    for (const auto& [language, name] : languages) {
+        auto* option = new QRadioButton(name, &dialog);
+        option->setChecked(language == current);
+        options.push_back(option);
+        dialog.Content->addWidget(option);
+    }
+    auto* note = new QLabel(Q(Text(903009_text)), &dialog);
+    note->setWordWrap(true);
+    note->setMinimumWidth(360);
+    dialog.Content->addSpacing(8);
+    dialog.Content->addWidget(note);
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    for (std::size_t i = 0; i < options.size(); ++i)
+        if (options[i]->isChecked()) return languages[i].first;
+    return std::nullopt;
+}
+
+void ShowFilesOfFolder(QWidget* parent, const QString& folder, const QString& extension) {
+    PlainDialog dialog(parent, folder, false);
+    const QFileInfoList files =
+        QDir(folder).entryInfoList({QStringLiteral("*.") + extension}, QDir::Files, QDir::Name | QDir::IgnoreCase);
+    auto* table = new QTableWidget(static_cast<int>(files.size()), 3, &dialog);
+    table->setObjectName(QStringLiteral("fileList"));
+    table->setHorizontalHeaderLabels({Q(Text(903010_text)), Q(Text(903011_text)), Q(Text(903012_text))});
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->verticalHeader()->hide();
+    for (int row = 0; row < table->rowCount(); ++row) {
+        const QFileInfo& file = files[row];
+        table->setItem(row, 0, new QTableWidgetItem(file.fileName()));
+        auto* size = new QTableWidgetItem(QString::number(file.size()));
+        size->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        table->setItem(row, 1, size);
+        table->setItem(row, 2, new QTableWidgetItem(file.lastModified().toString(QStringLiteral("yyyy-MM-dd HH:mm"))));
+    }
+    table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+    table->setMinimumSize(560, 320);
+    dialog.Content->addWidget(table);
+    dialog.exec();
+}
+
+void ShowReportWindow(QWidget* parent, const std::string& report) {
+    PlainDialog dialog(parent, Q(Text(160030_text)), false);
+    auto* find = new QLineEdit(&dialog);
+    find->setPlaceholderText(Q(Text(903000_text)));
+    auto* view = new ReportView(&dialog);
+    view->ShowReport(report, Text(160017_text), LanguageTexts().RightToLeft());
+    QObject::connect(find, &QLineEdit::returnPressed, view, [find, view] { view->FindNext(find->text()); });
+    auto* shortcut = new QShortcut(QKeySequence::Find, &dialog);
+    QObject::connect(shortcut, &QShortcut::activated, find, qOverload<>(&QWidget::setFocus));
+    dialog.Content->addWidget(find);
+    dialog.Content->addWidget(view, 1);
+    dialog.resize(760, 700);
+    dialog.exec();
+}
+
+}  // namespace lithmark

@@ -1,0 +1,23 @@
+// Small windows of the desktop's own: help, company lines, language, files of a folder, a report in a window.
+#pragma once
+
+#include <QString>
+#include <optional>
+#include <string>
+
+#include "services/Host.h"
+
+class QWidget;
+
+namespace lithmark {
+
+void ShowTextWindow(QWidget* parent, const QString& title, const QString& text);
+// The manual at a topic.
+void ShowManual(QWidget* parent, const QString& topic);
+std::optional<CompanyLines> AskCompanyLines(QWidget* parent, const CompanyLines& lines);
+std::optional<Language> AskLanguage(QWidget* parent, Language current);
+void ShowFilesOfFolder(QWidget* parent, const QString& folder, const QString& extension);
+// A report in a window of its own, with find.
+void ShowReportWindow(QWidget* parent, const std::string& report);
+
+}  // namespace lithmark

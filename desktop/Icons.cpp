@@ -1,0 +1,199 @@
+#include "desktop/Icons.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QPixmap>
+#include <functional>
+#include <map>
+
+namespace lithmark {
+
+namespace {
+
+const QColor kInk(0x2B, 0x3A, 0x4A), kBlue(0x1F, 0x77, 0xC4), kSand(0xE3, 0xC5, 0x8F), kClay(0xB9, 0x7A, 0x4F),
+    kGreen(0x2E, 0x8B, 0x57), kPaper(0xFF, 0xFF, 0xFF);
+
+// Drawings on a field of 24 by 24.
+using Drawing = std::function<void(QPainter&)>;
+
+void Paper(QPainter& p) {
+    QPainterPath page;
+    page.moveTo(6, 3);
+    page.lineTo(14, 3);
+    page.lineTo(18, 7);
+    page.lineTo(18, 21);
+    page.lineTo(6, 21);
+    page.closeSubpath();
+    p.setPen(QPen(kInk, 1.4));
+    p.setBrush(kPaper);
+    p.drawPath(page);
+    p.drawPolyline(QPolygonF({{14, 3}, {14, 7}, {18, 7}}));
+}
+
+void NewIcon(QPainter& p) {
+    Paper(p);
+    p.setPen(QPen(kGreen, 2.2));
+    p.drawLine(QPointF(12, 11), QPointF(12, 18));
+    p.drawLine(QPointF(8.5, 14.5), QPointF(15.5, 14.5));
+}
+
+void FolderIcon(QPainter& p) {
+    p.setPen(QPen(kInk, 1.4));
+    p.setBrush(kSand);
+    p.drawPolygon(QPolygonF({{3, 6}, {9, 6}, {11, 8}, {20, 8}, {20, 19}, {3, 19}}));
+    p.setBrush(kSand.lighter(112));
+    p.drawPolygon(QPolygonF({{5.5, 11}, {22, 11}, {20, 19}, {3, 19}}));
+}
+
+void SaveIcon(QPainter& p) {
+    p.setPen(QPen(kInk, 1.4));
+    p.setBrush(kBlue);
+    p.drawPolygon(QPolygonF({{4, 4}, {17, 4}, {20, 7}, {20, 20}, {4, 20}}));
+    p.setBrush(kPaper);
+    p.drawRect(QRectF(7.5, 13, 9, 7));
+    p.drawRect(QRectF(8, 4, 7, 5));
+}
+
+void LoadOnSoil(QPainter& p, bool circle) {
+    p.setPen(Qt::NoPen);
+    p.setBrush(kSand);
+    p.drawRect(QRectF(2, 12, 20, 5));
+    p.setBrush(kClay);
+    p.drawRect(QRectF(2, 17, 20, 5));
+    p.setPen(QPen(kBlue, 1.8));
+    p.setBrush(kBlue);
+    for (const double x : circle ? std::vector<double>{12} : std::vector<double>{7, 12, 17}) {
+        p.drawLine(QPointF(x, 2), QPointF(x, 10));
+        p.drawPolygon(QPolygonF({{x, 11.5}, {x - 2, 8}, {x + 2, 8}}));
+    }
+}
+
+void ListIcon(QPainter& p) {
+    Paper(p);
+    p.setPen(QPen(kBlue, 1.6));
+    for (const double y : {10.0, 13.0, 16.0}) p.drawLine(QPointF(8.5, y), QPointF(15.5, y));
+}
+
+void GearIcon(QPainter& p) {
+    p.translate(12, 12);
+    p.setPen(QPen(kInk, 3.4));
+    for (int i = 0; i < 8; ++i) {
+        p.drawLine(QPointF(0, -6), QPointF(0, -9));
+        p.rotate(45);
+    }
+    p.setPen(QPen(kInk, 1.4));
+    p.setBrush(kBlue.lighter(140));
+    p.drawEllipse(QPointF(0, 0), 6.4, 6.4);
+    p.setBrush(kPaper);
+    p.drawEllipse(QPointF(0, 0), 2.4, 2.4);
+}
+
+void RulerIcon(QPainter& p) {
+    p.setPen(QPen(kInk, 1.4));
+    p.setBrush(kSand);
+    p.drawRect(QRectF(2, 8, 20, 8));
+    for (int i = 1; i < 8; ++i) p.drawLine(QPointF(2 + 2.5 * i, 8), QPointF(2 + 2.5 * i, i % 2 == 0 ? 13 : 11));
+}
+
+void GlobeIcon(QPainter& p) {
+    p.setPen(QPen(kInk, 1.3));
+    p.setBrush(kBlue.lighter(165));
+    p.drawEllipse(QRectF(3, 3, 18, 18));
+    p.setBrush(Qt::NoBrush);
+    p.drawEllipse(QRectF(8, 3, 8, 18));
+    p.drawLine(QPointF(3, 12), QPointF(21, 12));
+    p.drawArc(QRectF(1.5, -7, 21, 15), 200 * 16, 140 * 16);
+    p.drawArc(QRectF(1.5, 16, 21, 15), 20 * 16, 140 * 16);
+}
+
+void CompanyIcon(QPainter& p) {
+    p.setPen(QPen(kInk, 1.4));
+    p.setBrush(kSand.lighter(115));
+    p.drawRect(QRectF(5, 3, 14, 18));
+    p.setPen(Qt::NoPen);
+    p.setBrush(kBlue);
+    for (const double y : {6.0, 10.0, 14.0})
+        for (const double x : {8.0, 13.5}) p.drawRect(QRectF(x, y, 2.6, 2.6));
+    p.setBrush(kInk);
+    p.drawRect(QRectF(10.4, 17, 3.2, 4));
+}
+
+void HelpIcon(QPainter& p, const QString& sign) {
+    p.setPen(QPen(kInk, 1.4));
+    p.setBrush(kBlue);
+    p.drawEllipse(QRectF(3, 3, 18, 18));
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(13);
+    font.setBold(true);
+    p.setFont(font);
+    p.setPen(Qt::white);
+    p.drawText(QRectF(3, 3, 18, 18), Qt::AlignCenter, sign);
+}
+
+QIcon Draw(const Drawing& drawing) {
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64}) {
+        QPixmap pixmap(size, size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.scale(size / 24.0, size / 24.0);
+        drawing(painter);
+        painter.end();
+        icon.addPixmap(pixmap);
+    }
+    return icon;
+}
+
+const std::map<std::string, Drawing>& Drawings() {
+    static const std::map<std::string, Drawing> drawings = {
+        {"mnuNewProject", NewIcon},
+        {"mnuOpenProject", FolderIcon},
+        {"mnuSaveProjectAs", SaveIcon},
+        {"mnuFileList", ListIcon},
+        {"mnuProblem(0)", ListIcon},
+        {"mnuFirmaData", CompanyIcon},
+        {"mnuDirOfData", FolderIcon},
+        {"mnuPreferences", GearIcon},
+        {"MnuLanguage", GlobeIcon},
+        {"mnuUnits", RulerIcon},
+        {"mnuHelpContents", [](QPainter& p) { HelpIcon(p, QStringLiteral("?")); }},
+        {"mnuAbout", [](QPainter& p) { HelpIcon(p, QStringLiteral("i")); }},
+    };
+    return drawings;
+}
+
+}  // namespace
+
+void DrawLogo(QPainter& painter, const QRectF& area) {
+    painter.save();
+    painter.translate(area.topLeft());
+    painter.scale(area.width() / 24, area.height() / 24);
+    painter.setPen(Qt::NoPen);
+    QPainterPath frame;
+    frame.addRoundedRect(QRectF(0, 0, 24, 24), 4, 4);
+    painter.setClipPath(frame, Qt::IntersectClip);
+    painter.fillRect(QRectF(0, 0, 24, 24), QColor(0xDF, 0xEC, 0xF7));
+    painter.fillRect(QRectF(0, 11, 24, 5), kSand);
+    painter.fillRect(QRectF(0, 16, 24, 4), kClay);
+    painter.fillRect(QRectF(0, 20, 24, 4), QColor(0x6B, 0x5B, 0x53));
+    painter.fillRect(QRectF(9.6, 3, 4.8, 5.5), kInk);
+    painter.fillRect(QRectF(5.5, 8.2, 13, 2.8), kInk);
+    painter.setPen(QPen(kBlue, 0.7));
+    painter.setBrush(Qt::NoBrush);
+    for (const double r : {4.5, 7.5, 10.5}) painter.drawArc(QRectF(12 - r, 11 - r, 2 * r, 2 * r), 180 * 16, 180 * 16);
+    painter.restore();
+}
+
+QIcon ProgramIcon() {
+    return Draw([](QPainter& p) { DrawLogo(p, QRectF(0, 0, 24, 24)); });
+}
+
+QIcon IconOf(const std::string& key) {
+    const auto found = Drawings().find(key);
+    if (found != Drawings().end()) return Draw(found->second);
+    if (key.starts_with("mnuProblem(")) return Draw([](QPainter& p) { LoadOnSoil(p, false); });
+    return {};
+}
+
+}  // namespace lithmark

@@ -1,0 +1,23 @@
+#include "desktop/Printing.h"
+
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+
+#include "render/ReportDocument.h"
+
+namespace lithmark {
+
+void PrintReport(QWidget* parent, const std::string& text, const std::string& fontName, int fontSize,
+                 bool rightToLeft) {
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setPageSize(QPageSize(QPageSize::A4));
+    printer.setPageMargins(QMarginsF(20, 20, 20, 20), QPageLayout::Millimeter);
+    QPrintPreviewDialog preview(&printer, parent);
+    preview.setObjectName(QStringLiteral("printPreview"));
+    preview.resize(900, 760);
+    QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, &preview,
+                     [&](QPrinter* target) { PaintReport(*target, text, fontName, fontSize, rightToLeft); });
+    preview.exec();
+}
+
+}  // namespace lithmark

@@ -1,0 +1,237 @@
+#include "desktop/QtHost.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QProcess>
+#include <QProgressDialog>
+#include <QThread>
+#include <QUrl>
+
+#include "desktop/ChartWindow.h"
+#include "desktop/Dialogs.h"
+#include "desktop/FormView.h"
+#include "desktop/Printing.h"
+#include "desktop/SplashView.h"
+#include "desktop/TableEditorDialog.h"
+#include "render/ReportDocument.h"
+#include "services/LanguageTexts.h"
+#include "services/WrittenFile.h"
+
+namespace lithmark {
+
+namespace {
+
+QString Q(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+// Runs a dialog and gives back the pointer that a long run may have set.
+class PlainPointer {
+  public:
+    PlainPointer() : hourglass_(QApplication::overrideCursor() != nullptr) {
+        if (hourglass_) QApplication::restoreOverrideCursor();
+    }
+    ~PlainPointer() {
+        if (hourglass_) QApplication::setOverrideCursor(Qt::WaitCursor);
+    }
+    PlainPointer(const PlainPointer&) = delete;
+    PlainPointer& operator=(const PlainPointer&) = delete;
+
+  private:
+    bool hourglass_;
+};
+
+}  // namespace
+
+QtHost::QtHost() = default;
+QtHost::~QtHost() = default;
+
+QWidget* QtHost::Parent() const {
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+    return frame_;
+}
+
+void QtHost::ShowMessage(const std::string& title, const std::string& text, MessageIcon icon) {
+    EndProgress();
+    // A failed run leaves the hourglass; nobody can work under it once its message is read.
+    SetPointer(PointerShape::Default);
+    QMessageBox box(Parent());
+    box.setObjectName(QStringLiteral("messageBox"));
+    box.setWindowTitle(Q(title.empty() ? Text(160030_text) : title));
+    box.setText(Q(text));
+    box.setIcon(icon == MessageIcon::Information   ? QMessageBox::Information
+                : icon == MessageIcon::Exclamation ? QMessageBox::Warning
+                : icon == MessageIcon::Critical    ? QMessageBox::Critical
+                                                   : QMessageBox::NoIcon);
+    box.addButton(Q(Text(6_text, Style{1})), QMessageBox::AcceptRole);
+    box.exec();
+}
+
+bool QtHost::AskYesNo(const std::string& title, const std::string& text) {
+    const PlainPointer plain;
+    QMessageBox box(Parent());
+    box.setObjectName(QStringLiteral("questionBox"));
+    box.setWindowTitle(Q(title));
+    box.setText(Q(text));
+    box.setIcon(QMessageBox::Question);
+    QPushButton* yes = box.addButton(Q(Text(903001_text)), QMessageBox::YesRole);
+    yes->setObjectName(QStringLiteral("cmdYes"));
+    box.addButton(Q(Text(903002_text)), QMessageBox::NoRole)->setObjectName(QStringLiteral("cmdNo"));
+    box.setDefaultButton(yes);
+    box.exec();
+    return box.clickedButton() == yes;
+}
+
+void QtHost::SetPointer(PointerShape shape) {
+    const bool hourglass = shape == PointerShape::Hourglass;
+    if (!hourglass) EndProgress();
+    if (hourglass == hourglass_) return;
+    hourglass_ = hourglass;
+    if (hourglass)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+void QtHost::ShowFileStatus(FileStatus status) {
+    if (!StatusNotice) return;
+    StatusNotice(status == FileStatus::Reading   ? Q(Text(903003_text))
+                 : status == FileStatus::Writing ? Q(Text(903004_text))
+                                                 : QString());
+}
+
+// The bar comes only for runs that take long enough to be waited for.
+bool QtHost::Progress(double fraction) {
+    if (!progress_) {
+        progress_ = std::make_unique<QProgressDialog>(Q(Text(903005_text)), Q(Text(7_text)), 0, 1000, Parent());
+        progress_->setWindowModality(Qt::WindowModal);
+        progress_->setWindowTitle(Q(Text(160030_text)));
+        progress_->setMinimumDuration(700);
+        progress_->setAutoClose(false);
+        progress_->setAutoReset(false);
+    }
+    progress_->setValue(static_cast<int>(fraction * 1000));
+    return !progress_->wasCanceled();
+}
+
+void QtHost::EndProgress() {
+    progress_.reset();
+}
+
+void QtHost::ShowForm(Form& form) {
+    const PlainPointer plain;
+    form.Reopen();
+    form.Load();
+    if (form.Unloaded()) return;
+    FormView view(form, Parent());
+    view.RunModal();
+    if (!form.Unloaded()) form.Unload();
+}
+
+void QtHost::ShowSplash(Form& form) {
+    splash_ = std::make_unique<SplashView>(form);
+    splash_->show();
+    RunEvents();
+}
+
+void QtHost::CloseSplash(Form&) {
+    splash_.reset();
+}
+
+void QtHost::RunEvents() {
+    QApplication::processEvents(QEventLoop::AllEvents, 20);
+    QThread::msleep(2);
+}
+
+void QtHost::SetFocus(Form& form, Control& control) {
+    form.Focus = &control;
+    if (FormView* view = FormView::Of(form)) view->FocusOn(control);
+}
+
+void QtHost::ShowHelpText(const std::string& title, const std::string& text) {
+    ShowTextWindow(Parent(), Q(title), Q(text).replace(QLatin1Char('\r'), QLatin1Char('\n')));
+}
+
+void QtHost::ShowHelpTopic(const std::string& topic) {
+    ShowManual(Parent(), Q(topic));
+}
+
+std::optional<std::string> QtHost::ChooseFileToOpen(const std::string& title, const std::string& startDir,
+                                                    const std::string& pattern) {
+    const PlainPointer plain;
+    // Letter case does not tell files apart: "*.po3" is found as well.
+    const QString filter = Q(pattern) + QLatin1Char(' ') + Q(pattern).toLower();
+    const QString file = QFileDialog::getOpenFileName(Parent(), Q(title), Q(startDir), filter);
+    if (file.isEmpty()) return std::nullopt;
+    return file.toStdString();
+}
+
+std::optional<std::string> QtHost::ChooseFileToSave(const std::string& title, const std::string& startDir,
+                                                    const std::string& name, const std::string& extension) {
+    const PlainPointer plain;
+    const QString file = QFileDialog::getSaveFileName(Parent(), Q(title), QDir(Q(startDir)).filePath(Q(name)),
+                                                      QStringLiteral("*.") + Q(extension));
+    if (file.isEmpty()) return std::nullopt;
+    return file.toStdString();
+}
+
+std::optional<std::string> QtHost::BrowseFolder(const std::string& start) {
+    const QString folder = QFileDialog::getExistingDirectory(Parent(), Q(Text(140161_text)), Q(start));
+    if (folder.isEmpty()) return std::nullopt;
+    return folder.toStdString();
+}
+
+std::optional<CompanyLines> QtHost::EditCompanyLines(const CompanyLines& lines) {
+    return AskCompanyLines(Parent(), lines);
+}
+
+std::optional<Language> QtHost::ChooseLanguage(Language current) {
+    return AskLanguage(Parent(), current);
+}
+
+bool QtHost::EditTable(TableEdit& table) {
+    return TableEditorDialog(table, Parent()).Run();
+}
+
+void QtHost::ShowFileList(const std::string& dir, const std::string& extension) {
+    ShowFilesOfFolder(Parent(), Q(dir), Q(extension));
+}
+
+void QtHost::ShowTextEditor(const std::string& text) {
+    ShowReportWindow(Parent(), text);
+}
+
+void QtHost::ShowChart(const ChartArguments& chart) {
+    const PlainPointer plain;
+    ChartWindow(chart, Parent()).exec();
+}
+
+void QtHost::PrintText(const std::string& text, const std::string& fontName, int fontSize, bool rightToLeft) {
+    const PlainPointer plain;
+    PrintReport(Parent(), text, fontName, fontSize, rightToLeft);
+}
+
+void QtHost::OpenWordProcessor(const std::string& text, const std::string&, int, bool) {
+    const QString path =
+        QDir::temp().filePath(Q(Text(160030_text)) + QStringLiteral("-%1.rtf").arg(QApplication::applicationPid()));
+    WriteWholeFile(path.toStdString(), ReportRtf(text));
+    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(path))) Fail(FailureKind::Other, path.toStdString());
+}
+
+void QtHost::SetClipboardText(const std::string& text) {
+    QApplication::clipboard()->setText(Q(text));
+}
+
+void QtHost::StartProcess(const std::string& commandLine) {
+    QStringList words = QProcess::splitCommand(Q(commandLine));
+    if (words.isEmpty()) return;
+    const QString program = words.takeFirst();
+    QProcess::startDetached(program, words);
+}
+
+}  // namespace lithmark
