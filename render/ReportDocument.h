@@ -8,11 +8,17 @@
 #include <string_view>
 #include <vector>
 
+class QPagedPaintDevice;
+
 namespace lithmark {
 
 std::string ReportHtml(const std::string& report);
 std::string ReportPdf(const std::string& report);
 std::string ReportRtf(const std::string& report);
+
+// Paints a report with page numbers on the pages of a printer or document.
+void PaintReport(QPagedPaintDevice& device, const std::string& report, const std::string& fontName, double pointSize,
+                 bool rightToLeft);
 
 // The report's lines without their line ends.
 std::vector<std::string> ReportLinesOf(const std::string& report);

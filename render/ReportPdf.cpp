@@ -38,11 +38,41 @@ void DrawTextLine(QPainter& painter, const QRectF& area, const QFont& font, cons
 
 }  // namespace
 
+void PaintReport(QPagedPaintDevice& device, const std::string& report, const std::string& fontName, double pointSize,
+                 bool rightToLeft) {
+    const std::vector<std::string> lines = ReportLinesOf(report);
+    QPainter painter(&device);
+    const double width = device.width(), height = device.height();
+    QFont font(QString::fromStdString(fontName));
+    font.setStyleHint(QFont::Monospace);
+    font.setPointSizeF(pointSize);
+    // A line wider than the page makes the whole report smaller, so that its columns stay in line.
+    std::size_t longest = 1;
+    for (const std::string& line : lines) longest = std::max(longest, CharacterCount(line));
+    const double needed = QFontMetricsF(font, &device).horizontalAdvance('0') * static_cast<double>(longest);
+    if (needed > width) font.setPointSizeF(pointSize * width / needed);
+
+    const QFontMetricsF metrics(font, &device);
+    const double step = metrics.height() * kLineSpacing / 1.1;
+    const double footer = 2 * step;
+    const auto linesPerPage = static_cast<std::size_t>(std::max(10.0, (height - footer) / step));
+    const std::vector<std::size_t> starts = PageStarts(lines, linesPerPage);
+    for (std::size_t page = 0; page < starts.size(); ++page) {
+        if (page > 0) device.newPage();
+        const std::size_t end = page + 1 < starts.size() ? starts[page + 1] : lines.size();
+        for (std::size_t i = starts[page]; i < end; ++i) {
+            const double top = static_cast<double>(i - starts[page]) * step;
+            DrawTextLine(painter, QRectF(0, top, width, step), font, lines[i], rightToLeft,
+                         rightToLeft ? Qt::AlignRight : Qt::AlignLeft);
+        }
+        const std::string number =
+            Text(902500_text, {{"|1", std::to_string(page + 1)}, {"|2", std::to_string(starts.size())}});
+        DrawTextLine(painter, QRectF(0, height - step, width, step), font, number, rightToLeft, Qt::AlignHCenter);
+    }
+}
+
 std::string ReportPdf(const std::string& report) {
     EnsureRenderApplication();
-    const bool rightToLeft = LanguageTexts().RightToLeft();
-    const std::vector<std::string> lines = ReportLinesOf(report);
-
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
@@ -53,35 +83,7 @@ std::string ReportPdf(const std::string& report) {
         writer.setResolution(600);
         writer.setTitle(QString::fromStdString(Text(160030_text) + " - " + Session.ProjectName));
         writer.setCreator(QString::fromStdString(Text(160030_text)));
-
-        QPainter painter(&writer);
-        const double width = writer.width(), height = writer.height();
-        QFont font(QString::fromStdString(Text(160017_text)));
-        font.setStyleHint(QFont::Monospace);
-        font.setPointSizeF(kPointSize);
-        // A line wider than the page makes the whole report smaller, so that its columns stay in line.
-        std::size_t longest = 1;
-        for (const std::string& line : lines) longest = std::max(longest, CharacterCount(line));
-        const double needed = QFontMetricsF(font, &writer).horizontalAdvance('0') * static_cast<double>(longest);
-        if (needed > width) font.setPointSizeF(kPointSize * width / needed);
-
-        const QFontMetricsF metrics(font, &writer);
-        const double step = metrics.height() * kLineSpacing / 1.1;
-        const double footer = 2 * step;
-        const auto linesPerPage = static_cast<std::size_t>(std::max(10.0, (height - footer) / step));
-        const std::vector<std::size_t> starts = PageStarts(lines, linesPerPage);
-        for (std::size_t page = 0; page < starts.size(); ++page) {
-            if (page > 0) writer.newPage();
-            const std::size_t end = page + 1 < starts.size() ? starts[page + 1] : lines.size();
-            for (std::size_t i = starts[page]; i < end; ++i) {
-                const double top = static_cast<double>(i - starts[page]) * step;
-                DrawTextLine(painter, QRectF(0, top, width, step), font, lines[i], rightToLeft,
-                             rightToLeft ? Qt::AlignRight : Qt::AlignLeft);
-            }
-            const std::string number =
-                Text(902500_text, {{"|1", std::to_string(page + 1)}, {"|2", std::to_string(starts.size())}});
-            DrawTextLine(painter, QRectF(0, height - step, width, step), font, number, rightToLeft, Qt::AlignHCenter);
-        }
+        PaintReport(writer, report, Text(160017_text), kPointSize, LanguageTexts().RightToLeft());
     }
     return bytes.toStdString();
 }
