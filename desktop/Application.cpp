@@ -1,0 +1,92 @@
+#include "desktop/Application.h"
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QStatusBar>
+#include <QStyleFactory>
+#include <QTranslator>
+
+#include "desktop/Icons.h"
+#include "desktop/MainWindow.h"
+#include "desktop/QtHost.h"
+#include "services/LanguageTexts.h"
+#include "services/SharedServices.h"
+#include "ui/MDITools.h"
+
+namespace lithmark {
+
+namespace {
+
+constexpr double kLeastPointSize = 10;
+
+// The words of Qt's own dialogs (files, printing) in the language of the program, where the system has them.
+void UseQtTexts(QApplication& application, Language language) {
+    const QString code = language == Language::German   ? QStringLiteral("de")
+                         : language == Language::Arabic ? QStringLiteral("ar")
+                                                        : QStringLiteral("en");
+    auto* translator = new QTranslator(&application);
+    if (translator->load(QStringLiteral("qtbase_") + code, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        application.installTranslator(translator);
+}
+
+// The one path that the command line may name; a path with blanks that came in pieces is put together again.
+std::string PathOf(const QStringList& arguments) {
+    return arguments.mid(1).join(QLatin1Char(' ')).toStdString();
+}
+
+}  // namespace
+
+void PrepareApplication(QApplication& application) {
+    application.setApplicationName(QString::fromStdString(kApplicationTitle));
+    application.setApplicationVersion(QStringLiteral(LITHMARK_VERSION));
+    application.setQuitOnLastWindowClosed(false);
+    if (QStyle* fusion = QStyleFactory::create(QStringLiteral("Fusion"))) QApplication::setStyle(fusion);
+    QFont font = QApplication::font();
+    if (font.pointSizeF() < kLeastPointSize) font.setPointSizeF(kLeastPointSize);
+    QApplication::setFont(font);
+    QPalette palette = QApplication::palette();
+    palette.setColor(QPalette::Highlight, QColor(0x1F, 0x77, 0xC4));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    QApplication::setPalette(palette);
+    QApplication::setWindowIcon(ProgramIcon());
+    SharedServices().DecimalSign = QLocale::system().decimalPoint() == QLatin1String(",") ? ',' : '.';
+}
+
+Language SystemLanguage() {
+    switch (QLocale::system().language()) {
+        case QLocale::German:
+            return Language::German;
+        case QLocale::Arabic:
+            return Language::Arabic;
+        default:
+            return Language::English;
+    }
+}
+
+int RunDesktop(int argc, char** argv) {
+    QApplication application(argc, argv);
+    PrepareApplication(application);
+    QtHost host;
+    SetCurrentHost(&host);
+    int code = 0;
+    {
+        MDITools frame;
+        MainWindow window(frame);
+        frame.SetWindow(&window);
+        host.SetFrame(&window);
+        host.StatusNotice = [&window](const QString& notice) { window.ShowNotice(notice); };
+        const std::string path = PathOf(QApplication::arguments());
+        frame.Start(path, SystemLanguage());
+        UseQtTexts(application, LanguageTexts().Current());
+        if (!path.empty() && !frame.ProjectOpen())
+            window.statusBar()->showMessage(QString::fromStdString(Text(903021_text, {{"|1", path}})));
+        if (!frame.Ended) code = QApplication::exec();
+        host.StatusNotice = nullptr;
+        frame.SetWindow(nullptr);
+    }
+    SetCurrentHost(nullptr);
+    return code;
+}
+
+}  // namespace lithmark

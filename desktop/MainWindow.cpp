@@ -1,0 +1,243 @@
+#include "desktop/MainWindow.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QContextMenuEvent>
+#include <QLabel>
+#include <QMenuBar>
+#include <QScreen>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QToolBar>
+
+#include "core/Session.h"
+#include "desktop/Icons.h"
+#include "desktop/ProjectView.h"
+#include "desktop/StartView.h"
+
+namespace lithmark {
+
+namespace {
+
+constexpr int kRightButton = 2;
+constexpr int kLongestPath = 64;
+
+QString Q(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+bool IsRecentFile(const std::string& key) {
+    return key.starts_with("MnuRecentFile");
+}
+
+// Entries that carry a state of their own: a bar or a part of the window that is shown or not.
+bool IsSwitch(const std::string& key) {
+    return key.starts_with("MnuVeiwToolBar") || key == "MnuStatusBar";
+}
+
+// A path is no caption: its "&" marks nothing. A long one keeps its name and the begin of its folder.
+QString PathCaption(const std::string& path) {
+    QString text = Q(path);
+    if (text.size() > kLongestPath) text = text.left(20) + QStringLiteral(" ... ") + text.right(kLongestPath - 25);
+    return text.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+}  // namespace
+
+MainWindow::MainWindow(MDITools& frame)
+    : frame_(frame), pages_(new QStackedWidget(this)), notice_(new QLabel(this)), place_(new QLabel(this)) {
+    setObjectName(QStringLiteral("MDITools"));
+    setCentralWidget(pages_);
+    statusBar()->addWidget(notice_, 1);
+    statusBar()->addPermanentWidget(place_);
+    notice_->setObjectName(QStringLiteral("notice"));
+    place_->setTextInteractionFlags(Qt::NoTextInteraction);
+    resize(1000, 700);
+}
+
+// --- building ---
+
+void MainWindow::Build() {
+    built_ = true;
+    const Qt::LayoutDirection direction = frame_.RightToLeft ? Qt::RightToLeft : Qt::LeftToRight;
+    QApplication::setLayoutDirection(direction);
+    setLayoutDirection(direction);
+    for (const MenuItem* heading : frame_.Menu.Children("")) {
+        QMenu* menu = menuBar()->addMenu(Q(heading->Caption));
+        menus_[heading->Key] = menu;
+        BuildMenu(*menu, heading->Key);
+    }
+    BuildBars();
+    start_ = new StartView(frame_, pages_);
+    start_->OnCommand = [this](const std::string& key) { RunLater(key); };
+    project_ = new ProjectView(pages_);
+    project_->OnCommand = [this](const std::string& key) { RunLater(key); };
+    pages_->addWidget(start_);
+    pages_->addWidget(project_);
+}
+
+void MainWindow::BuildMenu(QMenu& menu, const std::string& parent) {
+    menu.setToolTipsVisible(true);
+    for (const MenuItem* item : frame_.Menu.Children(parent)) {
+        if (!frame_.Menu.Children(item->Key).empty()) {
+            QMenu* submenu = menu.addMenu(Q(item->Caption));
+            menus_[item->Key] = submenu;
+            BuildMenu(*submenu, item->Key);
+            continue;
+        }
+        QAction* action = item->Separator() ? menu.addSeparator() : menu.addAction(IconOf(item->Key), {});
+        action->setObjectName(Q(item->Key));
+        entries_.push_back({item->Key, action, false});
+        if (item->Separator()) continue;
+        if (!item->Shortcut.empty()) action->setShortcut(QKeySequence(Q(item->Shortcut)));
+        action->setMenuRole(QAction::NoRole);
+        connect(action, &QAction::triggered, this, [this, key = item->Key] { Run(key); });
+    }
+}
+
+void MainWindow::BuildBars() {
+    for (int i = 0; i < Toolbars::kCount; ++i) {
+        const Toolbar& bar = frame_.Bars[i];
+        auto* view = new QToolBar(Q(bar.Caption), this);
+        view->setObjectName(QStringLiteral("bar_") + Q(bar.Name));
+        view->setIconSize({24, 24});
+        for (const std::string& key : bar.Buttons) {
+            QAction* action = view->addAction(IconOf(key), {});
+            action->setObjectName(QStringLiteral("bar_") + Q(key));
+            entries_.push_back({key, action, true});
+            connect(action, &QAction::triggered, this, [this, key] { Run(key); });
+        }
+        addToolBar(Qt::TopToolBarArea, view);
+        bars_.push_back(view);
+    }
+}
+
+// --- showing ---
+
+void MainWindow::Refresh() {
+    if (frame_.Ended) return;
+    if (!built_ && !frame_.Menu.Children("").front()->Caption.empty()) Build();
+    setWindowTitle(Q(frame_.Caption));
+    if (built_) {
+        for (const auto& [key, menu] : menus_) {
+            const MenuItem& item = frame_.Menu[key];
+            menu->setTitle(Q(item.Caption));
+            menu->menuAction()->setEnabled(item.Enabled);
+            menu->menuAction()->setVisible(item.Visible);
+        }
+        for (const Entry& entry : entries_) ShowEntry(entry);
+        for (int i = 0; i < Toolbars::kCount; ++i)
+            bars_[static_cast<std::size_t>(i)]->setVisible(frame_.Bars[i].Visible);
+        ShowPage();
+    }
+    statusBar()->setVisible(frame_.StatusBarVisible);
+    if (frame_.Shown && !isVisible()) show();
+}
+
+void MainWindow::ShowEntry(const Entry& entry) {
+    const MenuItem& item = frame_.Menu[entry.Key];
+    const MenuItem* heading = frame_.Menu.Find(item.Parent);
+    entry.Action->setVisible(item.Visible);
+    if (item.Separator()) return;
+    entry.Action->setEnabled(item.Enabled && (heading == nullptr || heading->Enabled));
+    entry.Action->setText(IsRecentFile(entry.Key) ? PathCaption(item.Caption) : Q(item.Caption));
+    if (entry.InBar) {
+        QString tip = Q(item.Caption).remove(QLatin1Char('&'));
+        if (!item.Shortcut.empty()) tip += QStringLiteral(" (%1)").arg(Q(item.Shortcut));
+        entry.Action->setToolTip(tip);
+        return;
+    }
+    // A tick that says "the data exist" needs no empty box where they do not.
+    entry.Action->setCheckable(IsSwitch(entry.Key) || item.Checked());
+    entry.Action->setChecked(item.Checked());
+}
+
+void MainWindow::ShowPage() {
+    if (frame_.ProjectOpen()) {
+        const ProjectSummary summary = frame_.Summary();
+        project_->Show(summary);
+        pages_->setCurrentWidget(project_);
+        place_->setText(Q(summary.Directory));
+    } else {
+        start_->Show(frame_.RecentProjects());
+        pages_->setCurrentWidget(start_);
+        place_->clear();
+    }
+}
+
+void MainWindow::ShowNotice(const QString& notice) {
+    statusBar()->clearMessage();
+    notice_->setText(notice);
+    statusBar()->repaint();
+}
+
+QAction* MainWindow::MenuAction(const std::string& key) const {
+    for (const Entry& entry : entries_)
+        if (entry.Key == key && !entry.InBar) return entry.Action;
+    return nullptr;
+}
+
+// --- commands ---
+
+void MainWindow::RunLater(const std::string& key) {
+    QMetaObject::invokeMethod(
+        this, [this, key] { Run(key); }, Qt::QueuedConnection);
+}
+
+void MainWindow::Run(const std::string& key) {
+    statusBar()->clearMessage();
+    frame_.m_cMenu_Click(key);
+    Refresh();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (frame_.QueryUnload())
+        event->ignore();
+    else
+        event->accept();
+}
+
+void MainWindow::contextMenuEvent(QContextMenuEvent* event) {
+    const std::string key = frame_.PopupKey(kRightButton);
+    if (key.empty() || !built_) return;
+    const auto menu = menus_.find(frame_.Menu[key].Parent);
+    if (menu != menus_.end()) menu->second->popup(event->globalPos());
+}
+
+void MainWindow::EndProcess() {
+    hide();
+    QApplication::exit(0);
+}
+
+// --- place and bars ---
+
+std::optional<FormPosition> MainWindow::Position() const {
+    const QRect place = isMaximized() ? normalGeometry() : geometry();
+    return FormPosition{place.left(), place.top(), place.width(), place.height(), isMaximized()};
+}
+
+// A place that no screen shows any more is not taken.
+void MainWindow::SetPosition(const FormPosition& position) {
+    const QRect place(position.Left, position.Top, position.Width, position.Height);
+    bool seen = false;
+    for (const QScreen* screen : QApplication::screens())
+        seen = seen || screen->availableGeometry().intersected(place).width() >= 100;
+    if (seen && place.height() >= 100) setGeometry(place);
+    if (position.Maximized) setWindowState(windowState() | Qt::WindowMaximized);
+}
+
+std::string MainWindow::DockLayout() const {
+    return saveState().toBase64().toStdString();
+}
+
+void MainWindow::SetDockLayout(const std::string& layout) {
+    if (!layout.empty() && restoreState(QByteArray::fromBase64(QByteArray::fromStdString(layout)))) return;
+    for (QToolBar* bar : bars_) {
+        removeToolBar(bar);
+        addToolBar(Qt::TopToolBarArea, bar);
+        bar->show();
+    }
+    Refresh();
+}
+
+}  // namespace lithmark

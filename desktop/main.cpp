@@ -1,0 +1,5 @@
+#include "desktop/Application.h"
+
+int main(int argc, char** argv) {
+    return lithmark::RunDesktop(argc, argv);
+}
