@@ -7,6 +7,7 @@
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -70,10 +71,11 @@ void FormView::RunModal() {
     connect(this, &QDialog::finished, &loop, &QEventLoop::quit);
     // A window destroyed from outside ends the loop too.
     connect(this, &QObject::destroyed, &loop, &QEventLoop::quit);
+    const Control* const wanted = form_.Focus;
     open();
     form_.Activate();
     Refresh();
-    if (form_.Focus) FocusOn(*form_.Focus);
+    if (wanted) FocusOn(*wanted);
     if (isVisible()) loop.exec();
 }
 
@@ -148,6 +150,7 @@ QWidget* FormView::Make(Control& control) {
             auto* button = new QPushButton(this);
             button->setAutoDefault(false);
             connect(button, &QPushButton::clicked, this, [this, &control] { Act(control.OnClick); });
+            button->installEventFilter(this);
             widget = button;
             break;
         }
@@ -202,7 +205,24 @@ void FormView::Refresh() {
     setWindowTitle(Q(form_.Caption) + (problem ? QStringLiteral(" [*]") : QString()));
     setWindowModified(problem && problem->Modified());
     for (Control* control : form_.Controls()) Show(*control, *WidgetOf(*control));
-    RefreshLayout(*this);
+    if (AfterRefresh) AfterRefresh();
+    FitPictures();
+}
+
+void FormView::RefreshAll() {
+    for (const auto& [form, view] : OpenViews())
+        if (!form->Unloaded()) view->Refresh();
+}
+
+void FormView::FitPictures() {
+    int shown = 0;
+    for (const Control* control : form_.Controls())
+        if (control->Kind == ControlKind::Picture && control->Visible) ++shown;
+    const bool changed = picturesShown_ >= 0 && shown != picturesShown_;
+    picturesShown_ = shown;
+    if (!changed) return;
+    layout()->activate();
+    resize(sizeHint().width(), height());
 }
 
 void FormView::Show(Control& control, QWidget& widget) {
@@ -274,19 +294,26 @@ void FormView::Show(Control& control, QWidget& widget) {
 }
 
 void FormView::FocusOn(const Control& control) {
+    // What leads to the control, a tab for one, may have changed with the same event.
+    if (!refreshing_) Refresh();
     QWidget* widget = WidgetOf(const_cast<Control&>(control));
     widget->setFocus(Qt::OtherFocusReason);
     if (auto* box = qobject_cast<QLineEdit*>(widget)) box->selectAll();
 }
 
-// Enter in a text box belongs to the model: it moves on or presses a button.
+// Enter in a text box belongs to the model: it moves on or presses a button. On a button it clicks.
 bool FormView::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::KeyPress) {
+    if (event->type() == QEvent::FocusIn) {
+        if (Control* control = form_.Find(watched->objectName().toStdString())) form_.Focus = control;
+    } else if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            for (const auto& [control, widget] : widgets_) {
-                if (widget != watched || !control->OnEnter) continue;
-                Control* const from = control;
+            if (auto* button = qobject_cast<QPushButton*>(watched)) {
+                button->click();
+                return true;
+            }
+            Control* const from = form_.Find(watched->objectName().toStdString());
+            if (from && from->OnEnter) {
                 Act(from->OnEnter);
                 if (!form_.Unloaded() && form_.Focus && form_.Focus != from) FocusOn(*form_.Focus);
                 return true;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QDialog>
+#include <functional>
 #include <unordered_map>
 
 #include "services/Form.h"
@@ -29,8 +30,13 @@ class FormView : public QDialog {
     void FocusOn(const Control& control);
     Form& Model() noexcept { return form_; }
 
+    // What a layout does with its widgets after each refresh; may be empty.
+    std::function<void()> AfterRefresh;
+
     // The view of a form that is shown, or null.
     static FormView* Of(const Form& form);
+    // All shown forms as their models say, before something is shown over them.
+    static void RefreshAll();
 
     // Escape and the window's own button: as the form's cancel button, or its OK button where it has no other.
     void reject() override;
@@ -41,12 +47,15 @@ class FormView : public QDialog {
   private:
     QWidget* Make(Control& control);
     void Show(Control& control, QWidget& widget);
+    // The window grows and shrinks with its pictures.
+    void FitPictures();
     // Runs an event of the model, then refreshes.
     void Act(const std::function<void()>& event);
 
     Form& form_;
     std::unordered_map<Control*, QWidget*> widgets_;
     bool refreshing_ = false;
+    int picturesShown_ = -1;
 };
 
 }  // namespace lithmark

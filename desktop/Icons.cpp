@@ -54,7 +54,7 @@ void SaveIcon(QPainter& p) {
     p.drawRect(QRectF(8, 4, 7, 5));
 }
 
-void LoadOnSoil(QPainter& p, bool circle) {
+void LoadOnSoil(QPainter& p) {
     p.setPen(Qt::NoPen);
     p.setBrush(kSand);
     p.drawRect(QRectF(2, 12, 20, 5));
@@ -62,10 +62,39 @@ void LoadOnSoil(QPainter& p, bool circle) {
     p.drawRect(QRectF(2, 17, 20, 5));
     p.setPen(QPen(kBlue, 1.8));
     p.setBrush(kBlue);
-    for (const double x : circle ? std::vector<double>{12} : std::vector<double>{7, 12, 17}) {
+    for (const double x : {7.0, 12.0, 17.0}) {
         p.drawLine(QPointF(x, 2), QPointF(x, 10));
         p.drawPolygon(QPolygonF({{x, 11.5}, {x - 2, 8}, {x + 2, 8}}));
     }
+}
+
+// A settlement curve that runs out.
+void CurveIcon(QPainter& p) {
+    p.setPen(QPen(kInk, 1.4));
+    p.drawPolyline(QPolygonF({{21.5, 4}, {4, 4}, {4, 21.5}}));
+    QPainterPath curve(QPointF(4, 4));
+    curve.cubicTo(QPointF(6, 15), QPointF(12, 18), QPointF(21, 18.5));
+    p.setPen(QPen(kBlue, 2.2));
+    p.setBrush(Qt::NoBrush);
+    p.drawPath(curve);
+}
+
+void RaftIcon(QPainter& p) {
+    p.setPen(Qt::NoPen);
+    p.setBrush(kSand);
+    p.drawRect(QRectF(2, 13, 20, 9));
+    p.setBrush(kInk);
+    p.drawRect(QRectF(4, 9.5, 16, 3.5));
+    p.drawRect(QRectF(10, 3, 4, 7));
+    p.setPen(QPen(kBlue, 1.4));
+    for (const double x : {5.5, 9.5, 14.5, 18.5}) p.drawLine(QPointF(x, 14.5), QPointF(x, 19));
+}
+
+void ExitIcon(QPainter& p) {
+    p.setPen(QPen(kClay.darker(115), 2.4, Qt::SolidLine, Qt::RoundCap));
+    p.setBrush(Qt::NoBrush);
+    p.drawArc(QRectF(4.5, 5.5, 15, 15), 125 * 16, 290 * 16);
+    p.drawLine(QPointF(12, 3), QPointF(12, 12));
 }
 
 void ListIcon(QPainter& p) {
@@ -151,13 +180,21 @@ const std::map<std::string, Drawing>& Drawings() {
         {"mnuOpenProject", FolderIcon},
         {"mnuSaveProjectAs", SaveIcon},
         {"mnuFileList", ListIcon},
+        {"mnuFileExit", ExitIcon},
         {"mnuProblem(0)", ListIcon},
+        {"mnuProblem(4)", CurveIcon},
+        {"mnuProblem(5)", CurveIcon},
+        {"mnuProblem(6)", CurveIcon},
+        {"mnuProblem(7)", RaftIcon},
+        {"mnuProblem(8)", RaftIcon},
         {"mnuFirmaData", CompanyIcon},
         {"mnuDirOfData", FolderIcon},
         {"mnuPreferences", GearIcon},
         {"MnuLanguage", GlobeIcon},
         {"mnuUnits", RulerIcon},
         {"mnuHelpContents", [](QPainter& p) { HelpIcon(p, QStringLiteral("?")); }},
+        {"mnuShortDescription", ListIcon},
+        {"mnuNewVersion", [](QPainter& p) { HelpIcon(p, QStringLiteral("!")); }},
         {"mnuAbout", [](QPainter& p) { HelpIcon(p, QStringLiteral("i")); }},
     };
     return drawings;
@@ -192,7 +229,7 @@ QIcon ProgramIcon() {
 QIcon IconOf(const std::string& key) {
     const auto found = Drawings().find(key);
     if (found != Drawings().end()) return Draw(found->second);
-    if (key.starts_with("mnuProblem(")) return Draw([](QPainter& p) { LoadOnSoil(p, false); });
+    if (key.starts_with("mnuProblem(")) return Draw(LoadOnSoil);
     return {};
 }
 

@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QProcess>
 #include <QProgressDialog>
+#include <QPushButton>
 #include <QThread>
 #include <QUrl>
 
@@ -58,12 +59,14 @@ QWidget* QtHost::Parent() const {
 
 void QtHost::ShowMessage(const std::string& title, const std::string& text, MessageIcon icon) {
     EndProgress();
+    FormView::RefreshAll();
     // A failed run leaves the hourglass; nobody can work under it once its message is read.
     SetPointer(PointerShape::Default);
     QMessageBox box(Parent());
     box.setObjectName(QStringLiteral("messageBox"));
     box.setWindowTitle(Q(title.empty() ? Text(160030_text) : title));
     box.setText(Q(text));
+    box.setLayoutDirection(LanguageTexts().RightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     box.setIcon(icon == MessageIcon::Information   ? QMessageBox::Information
                 : icon == MessageIcon::Exclamation ? QMessageBox::Warning
                 : icon == MessageIcon::Critical    ? QMessageBox::Critical
@@ -78,11 +81,12 @@ bool QtHost::AskYesNo(const std::string& title, const std::string& text) {
     box.setObjectName(QStringLiteral("questionBox"));
     box.setWindowTitle(Q(title));
     box.setText(Q(text));
+    box.setLayoutDirection(LanguageTexts().RightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     box.setIcon(QMessageBox::Question);
-    QPushButton* yes = box.addButton(Q(Text(903001_text)), QMessageBox::YesRole);
+    QAbstractButton* yes = box.addButton(Q(Text(903001_text)), QMessageBox::YesRole);
     yes->setObjectName(QStringLiteral("cmdYes"));
     box.addButton(Q(Text(903002_text)), QMessageBox::NoRole)->setObjectName(QStringLiteral("cmdNo"));
-    box.setDefaultButton(yes);
+    box.setDefaultButton(qobject_cast<QPushButton*>(yes));
     box.exec();
     return box.clickedButton() == yes;
 }
@@ -128,6 +132,7 @@ void QtHost::ShowForm(Form& form) {
     form.Reopen();
     form.Load();
     if (form.Unloaded()) return;
+    FormView::RefreshAll();
     FormView view(form, Parent());
     view.RunModal();
     if (!form.Unloaded()) form.Unload();

@@ -1,6 +1,5 @@
 #include "desktop/layouts/Layouts.h"
 
-#include <QVBoxLayout>
 #include <map>
 #include <string>
 
@@ -17,25 +16,21 @@ const std::map<std::string, LayoutFunction>& LayoutsByName() {
         {"frmstress", LayoutStress},
         {"frmResultTools", LayoutResultTools},
         {"frmOptionDraw", LayoutOptionDraw},
+        {"frmProblemType", LayoutProblemType},
+        {"frmProjectCheck", LayoutProjectCheck},
+        {"frmAbout", LayoutAbout},
+        {"frmDataDir", LayoutDataDir},
+        {"frmUnits", LayoutUnits},
+        {"frmPreferences", LayoutPreferences},
     };
     return layouts;
-}
-
-void StackControls(FormView& view) {
-    auto* stack = new QVBoxLayout(&view);
-    for (Control* control : view.Model().Controls()) stack->addWidget(view.WidgetOf(*control));
 }
 
 }  // namespace
 
 void BuildLayout(FormView& view) {
     const auto found = LayoutsByName().find(view.Model().Name);
-    (found == LayoutsByName().end() ? StackControls : found->second)(view);
-}
-
-void RefreshLayout(FormView& view) {
-    // Hidden rows give their room back; the window keeps the size the user gave it unless it is too small.
-    if (view.layout()) view.layout()->activate();
+    (found == LayoutsByName().end() ? LayoutPlain : found->second)(view);
 }
 
 }  // namespace lithmark

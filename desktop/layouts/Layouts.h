@@ -5,13 +5,18 @@ namespace lithmark {
 
 class FormView;
 
-// The layout of the form's name; a form without one has its controls one under another.
+// The layout of the form's name; a form without one gets LayoutPlain.
 void BuildLayout(FormView& view);
-// After every refresh: what a layout shows or hides with its controls.
-void RefreshLayout(FormView& view);
 
 void LayoutStress(FormView& view);
 void LayoutResultTools(FormView& view);
 void LayoutOptionDraw(FormView& view);
+void LayoutProblemType(FormView& view);
+void LayoutProjectCheck(FormView& view);
+void LayoutAbout(FormView& view);
+void LayoutDataDir(FormView& view);
+void LayoutUnits(FormView& view);
+void LayoutPreferences(FormView& view);
+void LayoutPlain(FormView& view);
 
 }  // namespace lithmark
