@@ -103,12 +103,15 @@ class SublayerStress {
                 const Single g = OwnFactor(mesh, static_cast<int>(i) + 1, corner_[layer]);
                 own[i] = g * force[i];
             }
+            SharedServices().ReportProgress(0.9 + 0.1 * (passes_ + static_cast<double>(layer) / clay_.M) /
+                                                      (Session.PrefImax + 1.0));
             SuperposeAtAllNodes(grid_, point_[layer], own, force, increase);
             for (int r = 1; r <= mesh.Nodes(); ++r) {
                 const double d = std::max<double>(increase(r), 0);
                 settlement(r) += clay_.LayerFactor * LogStressRatio(clay_.SubStress(k), d);
             }
         }
+        ++passes_;
     }
 
   private:
@@ -123,6 +126,7 @@ class SublayerStress {
     const ClayLayer& clay_;
     std::vector<Single> corner_;
     std::deque<OffsetFactors> point_;
+    int passes_ = 0;  // calls of Settle so far
 };
 
 }  // namespace
