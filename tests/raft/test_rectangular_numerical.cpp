@@ -315,7 +315,7 @@ TEST_F(RectangularNumerical, ThinClayUnderACentralLoad) {
 }
 
 // With one eccentricity the moment balances. The sum of the forces does not: the mean stress at the centre is that of
-// the linear system. Kept: the deviation is what the method gives (4 % here).
+// the linear system. Kept: the deviation is what the method gives (3 % here).
 TEST_F(RectangularNumerical, ThinClayBalancesTheMomentOnly) {
     input_.SoilPropertyType = 2;
     input_.h = 2;
