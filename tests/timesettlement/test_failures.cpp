@@ -215,6 +215,20 @@ TEST_F(TimeFailure, TheoryWithAnUnknownTimeUnitStandsStillAndFailsOnTheMeasureme
     EXPECT_EQ(host.Messages.size(), 2u);
 }
 
+// As after a change of language: the file keeps the word of the one in which it was written.
+TEST_F(TimeFailure, TheoryWithAnUnknownTimeUnitAndNoMeasurementOnlyWarnsAndReportsNoSettlement) {
+    Start(8);
+    Session.TimeUnit = "Wochen";
+    Session.Ms = false;
+    Run();
+    EXPECT_FALSE(Session.CalcAborted);
+    ASSERT_EQ(host.Messages.size(), 1u);
+    EXPECT_THAT(host.Messages[0].Text, HasSubstr("Wochen"));
+    EXPECT_EQ(Session.SuddenPercent(70), 0);
+    EXPECT_EQ(Session.SettlementSum(70), 0);
+    EXPECT_EQ(Session.ConsolidationEnd, 70);
+}
+
 TEST_F(TimeFailure, TheoryWithoutThicknessIsADivisionByZero) {
     Start(8);
     Session.h = 0;
