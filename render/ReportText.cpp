@@ -63,6 +63,7 @@ std::string LabelUpTo(const std::vector<Word>& words, std::size_t i) {
 // For each line, how many lines from it on must stay on one page (at least 1).
 std::vector<std::size_t> KeepTogether(const std::vector<std::string>& lines) {
     std::vector<std::size_t> keep(lines.size(), 1);
+    std::size_t headEnd = 0;  // the second ruler of the last head; no head begins there
     for (std::size_t i = 0; i + 1 < lines.size(); ++i) {
         if (!IsRuler(lines[i])) {
             // A heading ends in a colon and stands behind an empty line.
@@ -72,8 +73,10 @@ std::vector<std::size_t> KeepTogether(const std::vector<std::string>& lines) {
         }
         // Title, ruler, head, ruler and two rows of a table; the section title above it belongs to them.
         std::size_t second = i + 1;
-        while (second < lines.size() && second <= i + 8 && !IsRuler(lines[second])) ++second;
-        if (second >= lines.size() || second > i + 8 || second == i + 1 || lines[i].size() == 10) continue;
+        while (second < lines.size() && second <= i + 8 && !lines[second].empty() && !IsRuler(lines[second])) ++second;
+        const bool head = second < lines.size() && IsRuler(lines[second]) && second > i + 1;
+        if (!head || lines[i].size() == 10 || (headEnd > 0 && i <= headEnd)) continue;
+        headEnd = second;
         std::size_t first = i > 0 ? i - 1 : i;
         while (first > 0 && !lines[first - 1].empty() && i - first < 4) --first;
         keep[first] = std::max(keep[first], second + 3 - first);

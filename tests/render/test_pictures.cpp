@@ -1,0 +1,204 @@
+// Charts and contours as pictures and documents. Reference pictures are small and compared with tolerance, never pixel
+// by pixel: fonts differ between machines. tests/renew-goldens renews them.
+#include <QImage>
+#include <QXmlStreamReader>
+#include <cmath>
+#include <cstdlib>
+
+#include "render/ChartDocument.h"
+#include "render/ContourDocument.h"
+#include "render/RenderCase.h"
+
+namespace lithmark::tests {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::HasSubstr;
+
+constexpr int kReferenceWidth = 200;
+constexpr double kTolerance = 4;  // mean difference of a colour, of 255
+
+QImage Image(const std::string& png) {
+    return QImage::fromData(QByteArray::fromStdString(png), "PNG");
+}
+
+// How much of a picture is not white.
+double Inked(const QImage& image) {
+    long inked = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) inked += image.pixel(x, y) != 0xFFFFFFFF;
+    return static_cast<double>(inked) / (image.width() * image.height());
+}
+
+double MeanDifference(const QImage& a, const QImage& b) {
+    double sum = 0;
+    for (int y = 0; y < a.height(); ++y)
+        for (int x = 0; x < a.width(); ++x) {
+            const QRgb p = a.pixel(x, y), q = b.pixel(x, y);
+            sum += std::abs(qRed(p) - qRed(q)) + std::abs(qGreen(p) - qGreen(q)) + std::abs(qBlue(p) - qBlue(q));
+        }
+    return sum / (3.0 * a.width() * a.height());
+}
+
+testing::AssertionResult MatchesPicture(const std::string& name, const std::string& png) {
+    const QImage image =
+        Image(png).convertToFormat(QImage::Format_RGB32).scaledToWidth(kReferenceWidth, Qt::SmoothTransformation);
+    const fs::path reference = fs::path(LITHMARK_SOURCE_DIR) / "tests/pictures" / name;
+    const fs::path actual = fs::path(LITHMARK_TEST_OUTPUT_DIR) / name;
+    fs::create_directories(actual.parent_path());
+    const QImage expected = QImage(QString::fromStdString(reference.string())).convertToFormat(QImage::Format_RGB32);
+    const bool sameSize = expected.size() == image.size();
+    const double difference = sameSize ? MeanDifference(expected, image) : 255;
+    if (std::getenv("LITHMARK_RENEW_GOLDENS")) {
+        if (difference > 0) {
+            image.save(QString::fromStdString(reference.string()));
+            return testing::AssertionSuccess() << "renewed " << name << ", difference " << difference;
+        }
+        return testing::AssertionSuccess();
+    }
+    if (difference <= kTolerance) return testing::AssertionSuccess();
+    image.save(QString::fromStdString(actual.string()));
+    return testing::AssertionFailure() << name << " differs by " << difference << " of 255 on average; see "
+                                       << actual.string();
+}
+
+class Pictures : public RenderTest {};
+class PictureGolden : public RenderTest {};
+
+TEST_F(PictureGolden, ChartsAndContoursLookAsTheyDid) {
+    RunExample("OfficeBuilding", Language::German);
+    EXPECT_TRUE(MatchesPicture("chart_tab4_de.png", ChartPng(Chart("Tab4"))));
+    RunExample("EccentricRaft", Language::Arabic);
+    EXPECT_TRUE(MatchesPicture("chart_tab6_ar.png", ChartPng(Chart("Tab6"))));
+    BasContour settlements = Contour("Tab6");
+    EXPECT_TRUE(MatchesPicture("contour_settlement_ar.png", ContourPng(settlements, 0)));
+    RunExample("SiloRaft");
+    BasContour pressures = Contour("Tab5");
+    EXPECT_TRUE(MatchesPicture("contour_pressure_en.png", ContourPng(pressures, 0)));
+}
+
+// The comparison itself: what a reader would see as another picture is beyond the tolerance.
+TEST_F(Pictures, TheToleranceTellsPicturesApart) {
+    RunExample("OfficeBuilding");
+    const auto small = [](const std::string& png) {
+        return Image(png)
+            .convertToFormat(QImage::Format_RGB32)
+            .scaledToWidth(kReferenceWidth, Qt::SmoothTransformation);
+    };
+    const QImage tab2 = small(ChartPng(Chart("Tab2"))), tab4 = small(ChartPng(Chart("Tab4")));
+    EXPECT_EQ(MeanDifference(tab2, tab2), 0);
+    EXPECT_GT(MeanDifference(tab2, tab4), kTolerance / 2);
+    EXPECT_GT(MeanDifference(tab2, QImage(tab2.size(), QImage::Format_RGB32)), 50);
+    RunExample("SiloRaft");
+    BasContour pressures = Contour("Tab5");
+    const QImage before = small(ContourPng(pressures, 0));
+    BasContour settlements = Contour("Tab6");
+    EXPECT_GT(MeanDifference(before, small(ContourPng(settlements, 0))), kTolerance);
+}
+
+TEST_F(Pictures, EveryCurveIsDrawnInItsColour) {
+    RunExample("EccentricRaft");
+    const QImage image = Image(ChartPng(Chart("Tab6")));
+    EXPECT_EQ(image.width(), 2040);
+    EXPECT_EQ(image.height(), 1360);
+    EXPECT_GT(Inked(image), 0.01);
+    EXPECT_LT(Inked(image), 0.2);
+    for (const QRgb color : {0xFF0072B2u, 0xFFD55E00u, 0xFF009E73u}) {
+        long pixels = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x) pixels += image.pixel(x, y) == color;
+        EXPECT_GT(pixels, 500) << std::hex << color;
+    }
+}
+
+// The settlement axis points down: a curve that grows runs downward.
+TEST_F(Pictures, SettlementsPointDown) {
+    RunExample("OfficeBuilding");
+    const QImage image = Image(ChartPng(Chart("Tab2")));
+    const auto meanRow = [&](int from, int to) {
+        double sum = 0;
+        long count = 0;
+        for (int x = from; x < to; ++x)
+            for (int y = 300; y < image.height() - 100; ++y)
+                if (image.pixel(x, y) == 0xFF0072B2u) {
+                    sum += y;
+                    ++count;
+                }
+        EXPECT_GT(count, 0);
+        return sum / static_cast<double>(count);
+    };
+    EXPECT_LT(meanRow(180, 300), meanRow(900, 1000));
+}
+
+TEST_F(Pictures, SvgIsWellFormedAndHoldsItsTexts) {
+    RunExample("OfficeBuilding");
+    const ChartArguments chart = Chart("Tab1");
+    RunExample("SquareRaft");
+    BasContour plot = Contour("Tab5");
+    for (const std::string& svg : {ChartSvg(chart), ContourSvg(plot, 0)}) {
+        QXmlStreamReader reader(QByteArray::fromStdString(svg));
+        int elements = 0;
+        QString texts;
+        while (!reader.atEnd()) {
+            reader.readNext();
+            elements += reader.isStartElement();
+            if (reader.isCharacters()) texts += reader.text();
+        }
+        EXPECT_FALSE(reader.hasError()) << reader.errorString().toStdString();
+        EXPECT_GT(elements, 50);
+        EXPECT_THAT(texts.toStdString(), testing::AnyOf(HasSubstr(chart.ChartTitle), HasSubstr("SquareRaft")));
+    }
+}
+
+TEST_F(Pictures, PdfOfAChartAndOfAContourIsOnePageAcross) {
+    RunExample("SquareRaft");
+    BasContour plot = Contour("Tab5");
+    for (const std::string& pdf : {ChartPdf(Chart("Tab5")), ContourPdf(plot, 0)}) {
+        EXPECT_TRUE(pdf.starts_with("%PDF-"));
+        EXPECT_THAT(pdf, HasSubstr("/Count 1"));
+        const auto box = pdf.find("/MediaBox [0 0 ");
+        ASSERT_NE(box, std::string::npos);
+        EXPECT_EQ(std::lround(std::stod(pdf.substr(box + 15))), 842);  // A4 across, in points
+    }
+}
+
+TEST_F(Pictures, AContourHasTheColoursOfItsClasses) {
+    RunExample("SquareRaft");
+    BasContour plot = Contour("Tab5");
+    for (const int size : {64, 700}) {
+        const QImage image = Image(ContourPng(plot, size));
+        EXPECT_GT(image.width(), size);
+        // Every class has its box in the legend.
+        for (int k = 1; k <= 10; ++k) {
+            const QRgb color = 0xFF000000u | kPalette[static_cast<std::size_t>(static_cast<int>(plot.ClassColor(k)))];
+            bool found = false;
+            for (int y = 0; y < image.height() && !found; ++y)
+                for (int x = size; x < image.width() && !found; ++x) found = image.pixel(x, y) == color;
+            EXPECT_TRUE(found) << "class " << k << " at " << size;
+        }
+    }
+}
+
+TEST_F(Pictures, AFlatFieldIsDrawnWithoutColours) {
+    RunExample("SquareRaft");
+    BasContour plot = Contour("Tab6");
+    plot.ZStep = 0;
+    const QImage image = Image(ContourPng(plot, 300));
+    const QRgb first = 0xFF000000u | kPalette[static_cast<std::size_t>(static_cast<int>(plot.ClassColor(1)))];
+    for (int y = 60; y < 280; ++y)
+        for (int x = 20; x < 290; ++x) ASSERT_NE(image.pixel(x, y), first) << x << "," << y;
+}
+
+// A chart of a single row or of equal values has ranges all the same.
+TEST_F(Pictures, DegenerateChartsAreDrawn) {
+    RunExample("OfficeBuilding");
+    ChartArguments chart = Chart("Tab2");
+    for (int r = 1; r <= chart.LastRow; ++r) chart.Cells(r, 2) = "5";
+    EXPECT_GT(Inked(Image(ChartPng(chart))), 0.005);
+    chart.LastRow = 1;
+    chart.XStart = chart.XEnd = 0;
+    EXPECT_GT(Inked(Image(ChartPng(chart))), 0.005);
+}
+
+}  // namespace
+}  // namespace lithmark::tests
