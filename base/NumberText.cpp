@@ -226,6 +226,7 @@ std::string FormatNumber(double value, std::string_view pattern, char decimalSig
     const Pattern p = ReadPattern(pattern);
     if (!p.hasDigits) return std::string(pattern);
     for (int i = 0; i < p.percents; ++i) value *= 100;
+    if (!std::isfinite(value)) detail::FailNotFinite(value);
 
     int exponent = 0;
     const int places = static_cast<int>(p.places.size());

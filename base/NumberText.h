@@ -23,7 +23,8 @@ std::string JsonNumber(double value);
 
 // A number by a pattern of "0" and "#" (digits), "." (decimal sign), "," (thousands), "%" and "E+00"; what stands in
 // front of and behind the digits is copied. Rounded half away from zero by the exact value; a negative value that
-// rounds to zero has no sign. A pattern without a digit place is copied as it stands. The value is finite.
+// rounds to zero has no sign. A pattern without a digit place is copied as it stands. Overflow for an infinity (also
+// one that the per cent makes), InvalidArgument for a value that is not a number.
 std::string FormatNumber(double value, std::string_view pattern, char decimalSign = '.');
 
 // The number that a text holds: blanks at the ends, a sign, digits with `decimalSign`, an exponent after E, e, D or d.

@@ -147,7 +147,9 @@ void OpenProjectForRun(const CommonOptions& options) {
 void RunKernelOfProblem() {
     Session.CalcAborted = false;
     Session.ResultText.clear();
-    RunProblemKernel();
+    if (RunProblemKernel()) return;
+    Session.CalcAborted = true;
+    SharedServices().ShowMessageBox(Text(160030_text), Text(902049_text), MessageIcon::Exclamation);
 }
 
 std::string AbortedLine(const ConsoleHost& host) {

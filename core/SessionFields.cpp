@@ -158,6 +158,41 @@ std::optional<int> TakeIndex(std::string_view& name) {
     return index;
 }
 
+// The tables by their counts.
+struct TableColumns {
+    Integer* Count;
+    std::vector<std::variant<Array<Single>*, Array<Integer>*>> Columns;
+};
+const std::vector<TableColumns>& Tables() {
+    static const std::vector<TableColumns> tables = {
+        {&Session.NLoad, {&Session.LoadTime, &Session.LoadValue}},
+        {&Session.NSts, {&Session.StsTime, &Session.StsValue}},
+        {&Session.NOed, {&Session.OedTime, &Session.OedSettlement}},
+        {&Session.NScA,
+         {&Session.ScA1, &Session.ScA2, &Session.ScA3, &Session.ScA4, &Session.ScA5, &Session.ScA6, &Session.ScA7,
+          &Session.ScA8, &Session.ScA9}},
+        {&Session.NScB, {&Session.ScB1, &Session.ScB2, &Session.ScB3, &Session.ScB4, &Session.ScB5}},
+    };
+    return tables;
+}
+
+// A table's count sizes its columns: rows that stay keep their values, new ones hold zeros. A table has at least a row.
+bool AssignField(Integer& field, std::string_view text) {
+    Integer value = field;
+    if (!Assign(value, text)) return false;
+    for (const TableColumns& table : Tables()) {
+        if (table.Count != &field) continue;
+        if (value < 1) return false;
+        for (const auto& column : table.Columns) std::visit([&](auto* items) { items->Grow(value); }, column);
+    }
+    field = value;
+    return true;
+}
+template <typename T>
+bool AssignField(T& field, std::string_view text) {
+    return Assign(field, text);
+}
+
 std::string ValueText(Single value) {
     return NumberToText(value);
 }
@@ -201,7 +236,7 @@ SetFieldOutcome SetSessionField(std::string_view name, std::string_view value) {
                 return Assign((*target)(*index), value) ? SetFieldOutcome::Done : SetFieldOutcome::BadValue;
             } else {
                 if (index) return SetFieldOutcome::NoSuchElement;
-                return Assign(*target, value) ? SetFieldOutcome::Done : SetFieldOutcome::BadValue;
+                return AssignField(*target, value) ? SetFieldOutcome::Done : SetFieldOutcome::BadValue;
             }
         },
         field->Ref);

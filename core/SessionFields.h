@@ -27,7 +27,8 @@ const SessionField* FindSessionField(std::string_view name);
 enum class SetFieldOutcome { Done, NoSuchField, NoSuchElement, BadValue };
 
 // Puts a text into a field, in base units with "." as decimal sign. "hLayer(2)" or "hLayer[2]" names an array's
-// element; flags take true, false, 1, 0, -1, #TRUE#, #FALSE#. Nothing changes unless the outcome is Done.
+// element; flags take true, false, 1, 0, -1, #TRUE#, #FALSE#. A table's count, at least 1, gives its columns that many
+// rows, new ones of zeros. Nothing changes unless the outcome is Done.
 SetFieldOutcome SetSessionField(std::string_view name, std::string_view value);
 
 // A field's value as text: numbers by the written-number rule, flags "#TRUE#" or "#FALSE#", arrays as

@@ -10,27 +10,27 @@
 
 namespace lithmark {
 
-void RunProblemKernel() {
+bool RunProblemKernel() {
     SessionRecord& p = Session;
     switch (static_cast<int>(p.ProblemType)) {
         case 1:
         case 2:
         case 3:
             ComputeSoilStress(p.x, p.y, p.z, p.Q, p.P, p.A, p.B, p.Nue, p.Es, p.LoadType);
-            break;
+            return true;
         case 4:
             ComputeConsolidation(p.x, p.y, p.z, p.Q, p.P, p.A, p.B, p.h, p.eo, p.Po, p.Gamma, p.Cc, p.Es, p.LoadType,
                                  p.SoilPropertyType);
-            break;
+            return true;
         case 5:
             ComputeConsolidationRate(p.x, p.y, p.z, p.Q, p.P, p.A, p.B, p.LoadType, p.U, p.T, p.NumLayers, p.hLayer,
                                      p.CvLayer, p.KLayer, p.DrainageCondition, p.Pressure, p.TimeUnit);
-            break;
+            return true;
         case 6:
         case 7:
         case 8:
             ComputeTimeSettlement();
-            break;
+            return true;
         case 9:
         case 10:
             if (p.LoadType == 2)
@@ -39,9 +39,9 @@ void RunProblemKernel() {
             else if (p.LoadType == 3)
                 ComputeCircularRaft(p.z, p.Q, p.A, p.h, p.eo, p.Po, p.Cc, p.Es, p.SoilPropertyType, p.Exz_x, p.Gamma,
                                     p.AnalysisType, p.SettlementAt);
-            break;
+            return p.LoadType == 2 || p.LoadType == 3;
         default:
-            break;
+            return false;
     }
 }
 

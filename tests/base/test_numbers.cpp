@@ -25,8 +25,16 @@ TEST(Single, RoundsToThe32BitValueWhenAssigned) {
 }
 
 TEST(Single, FailsOnValuesThatAreNotFinite) {
-    EXPECT_EQ(KindOf([] { Single s = 1e39; (void)s; }), FailureKind::Overflow);
-    EXPECT_EQ(KindOf([] { Single s = std::nan(""); (void)s; }), FailureKind::InvalidArgument);
+    EXPECT_EQ(KindOf([] {
+                  Single s = 1e39;
+                  (void)s;
+              }),
+              FailureKind::Overflow);
+    EXPECT_EQ(KindOf([] {
+                  Single s = std::nan("");
+                  (void)s;
+              }),
+              FailureKind::InvalidArgument);
     EXPECT_EQ(KindOf([] { Quotient(1, 0); }), FailureKind::DivisionByZero);
     EXPECT_EQ(KindOf([] { Ln(0); }), FailureKind::InvalidArgument);
     EXPECT_EQ(KindOf([] { Sqrt(-1); }), FailureKind::InvalidArgument);
@@ -38,9 +46,17 @@ TEST(Integer, RoundsHalvesToEvenAndFailsBeyond16Bits) {
     EXPECT_EQ(Integer::Rounded(2.5), 2);
     EXPECT_EQ(Integer::Rounded(3.5), 4);
     EXPECT_EQ(Integer::Rounded(-2.5), -2);
-    EXPECT_EQ(KindOf([] { Integer i = 32768; (void)i; }), FailureKind::Overflow);
+    EXPECT_EQ(KindOf([] {
+                  Integer i = 32768;
+                  (void)i;
+              }),
+              FailureKind::Overflow);
     EXPECT_EQ(KindOf([] { Integer::Rounded(32767.5); }), FailureKind::Overflow);
-    EXPECT_EQ(KindOf([] { Integer i = 32767; ++i; }), FailureKind::Overflow);
+    EXPECT_EQ(KindOf([] {
+                  Integer i = 32767;
+                  ++i;
+              }),
+              FailureKind::Overflow);
 }
 
 TEST(NumberToText, IsTheShortestTextWithoutALeadingZero) {
@@ -84,6 +100,13 @@ TEST(FormatNumber, KnowsTheOtherPlacesOfAPattern) {
     EXPECT_EQ(FormatNumber(1.5, "0.0", ','), "1,5");
     EXPECT_EQ(FormatNumber(7, "00.0"), "07.0");
     EXPECT_EQ(FormatNumber(7, "text"), "text");
+}
+
+TEST(FormatNumber, FailsOnValuesThatAreNotFinite) {
+    EXPECT_EQ(KindOf([] { FormatNumber(HUGE_VAL, "0.0"); }), FailureKind::Overflow);
+    EXPECT_EQ(KindOf([] { FormatNumber(-HUGE_VAL, "0.00E+00"); }), FailureKind::Overflow);
+    EXPECT_EQ(KindOf([] { FormatNumber(1e307, "0.0%"); }), FailureKind::Overflow);
+    EXPECT_EQ(KindOf([] { FormatNumber(std::nan(""), "0"); }), FailureKind::InvalidArgument);
 }
 
 TEST(ParseNumber, TakesPlainAndExponentFormsAndRefusesAnythingElse) {

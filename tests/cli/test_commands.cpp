@@ -126,6 +126,23 @@ TEST_F(CliCommands, AnAbortedRunLeavesNoOutputAndKeepsAnOlderOne) {
     EXPECT_FALSE(std::filesystem::exists(work / "other.txt"));
 }
 
+TEST_F(CliCommands, AProblemOrLoadWithoutACalculationIsToldAndNotReportedAsEmpty) {
+    ExpectFailure(Run({"report", New("Table", 11)}), 3, {"Table.PO3", "no calculation"});
+    const std::string raft = New("Raft", 9);
+    ExpectFailure(Run({"report", raft, "--set", "LoadType=1"}), 3, {"Raft.PO3", "no calculation"});
+    const CliResult json = Run({"report", raft, "--set", "LoadType=1", "--format", "json"});
+    EXPECT_EQ(json.Status, 3);
+    EXPECT_TRUE(Json::parse(json.Out)["aborted"].get<bool>());
+}
+
+TEST_F(CliCommands, ATableTakesTheRowsThatItsCountAsksFor) {
+    const std::string project = New("Building", 6, {"NLoad=6", "LoadTime(6)=15", "LoadValue(6)=100"});
+    const CliResult shown = Run({"show", project});
+    EXPECT_THAT(shown.Out, HasSubstr("NLoad = 6\n"));
+    EXPECT_THAT(shown.Out, HasSubstr("LoadTime = (1, 2, 4, 7, 12, 15)\n"));
+    EXPECT_THAT(shown.Out, HasSubstr("LoadValue = (19, 42, 83, 94, 100, 100)\n"));
+}
+
 TEST_F(CliCommands, AFolderWithoutWritingIsEnoughToRead) {
     const std::string project = New("Footing", 1), raft = New("Raft", 9, {"LoadType=2", "A=4", "B=4", "h=5"});
     asOrdinaryUser = true;

@@ -2,6 +2,7 @@
 
 #include <set>
 
+#include "core/Catalogue.h"
 #include "core/SessionFields.h"
 
 using namespace lithmark;
@@ -44,6 +45,32 @@ TEST_F(SessionFieldsTest, ABadNameOrValueChangesNothing) {
     EXPECT_EQ(SetSessionField("Pressure", "maybe"), SetFieldOutcome::BadValue);
     EXPECT_EQ(SetSessionField("Proj", "two\nlines"), SetFieldOutcome::BadValue);
     EXPECT_EQ(static_cast<double>(Session.Es), 0.0);
+}
+
+TEST_F(SessionFieldsTest, ACountSizesItsTable) {
+    Session.ProblemType = 6;
+    SetProblemDefaults();
+    EXPECT_EQ(SetSessionField("NLoad", "6"), SetFieldOutcome::Done);
+    EXPECT_EQ(SetSessionField("LoadTime(6)", "15"), SetFieldOutcome::Done);
+    EXPECT_EQ(Session.NLoad, 6);
+    EXPECT_EQ(SessionFieldText(FindSessionField("LoadTime")->Ref), "(1, 2, 4, 7, 12, 15)");
+    EXPECT_EQ(SessionFieldText(FindSessionField("LoadValue")->Ref), "(19, 42, 83, 94, 100, 0)");
+    EXPECT_EQ(SetSessionField("NSts", "2"), SetFieldOutcome::Done);
+    EXPECT_EQ(SessionFieldText(FindSessionField("StsTime")->Ref), "(1, 2)");
+    EXPECT_EQ(SessionFieldText(FindSessionField("StsValue")->Ref), "(49, 74)");
+    EXPECT_EQ(SetSessionField("NOed", "0"), SetFieldOutcome::BadValue);
+    EXPECT_EQ(Session.NOed, 10);
+    EXPECT_EQ(Session.OedTime.Upper(), 10);
+}
+
+// Every column of every table must follow its count: writing a data file takes a row of each.
+TEST_F(SessionFieldsTest, EveryColumnFollowsItsCount) {
+    for (const char* count : {"NLoad", "NSts", "NOed", "NScA", "NScB"})
+        EXPECT_EQ(SetSessionField(count, "3"), SetFieldOutcome::Done);
+    int columns = 0;
+    for (const auto& field : SessionFields())
+        if (SessionFieldText(field.Ref) == "(0, 0, 0)") ++columns;
+    EXPECT_EQ(columns, 20);
 }
 
 TEST_F(SessionFieldsTest, TextsFollowTheWrittenNumberRule) {
