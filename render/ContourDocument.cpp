@@ -105,8 +105,30 @@ void PainterSurface::Pixel(int x, int y, int color) {
     imageUsed_ = true;
 }
 
+namespace {
+
+// The rows of a triangle are rounded to whole pixels, so that two neighbours can leave a pixel between them. A pixel
+// with nothing in it between two filled ones takes the colour of the first.
+void ClosePinholes(QImage& image) {
+    const QImage before = image;
+    const auto at = [&](int x, int y) { return reinterpret_cast<const QRgb*>(before.constScanLine(y))[x]; };
+    for (int y = 1; y + 1 < image.height(); ++y) {
+        auto* row = reinterpret_cast<QRgb*>(image.scanLine(y));
+        for (int x = 1; x + 1 < image.width(); ++x) {
+            if (at(x, y) != 0) continue;
+            if (at(x - 1, y) != 0 && at(x + 1, y) != 0)
+                row[x] = at(x - 1, y);
+            else if (at(x, y - 1) != 0 && at(x, y + 1) != 0)
+                row[x] = at(x, y - 1);
+        }
+    }
+}
+
+}  // namespace
+
 void PainterSurface::FlushPixels() {
     if (!imageUsed_) return;
+    ClosePinholes(image_);
     painter_.drawImage(area_, image_);
     imageUsed_ = false;
 }

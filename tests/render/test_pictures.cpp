@@ -4,6 +4,7 @@
 #include <QXmlStreamReader>
 #include <cmath>
 #include <cstdlib>
+#include <numbers>
 
 #include "render/ChartDocument.h"
 #include "render/ContourDocument.h"
@@ -177,6 +178,29 @@ TEST_F(Pictures, AContourHasTheColoursOfItsClasses) {
             EXPECT_TRUE(found) << "class " << k << " at " << size;
         }
     }
+}
+
+// Neighbouring triangles of a round mesh leave single pixels between them; on paper that would be dust.
+TEST_F(Pictures, ARoundRaftIsFilledWithoutHoles) {
+    RunExample("SiloRaft");
+    BasContour plot = Contour("Tab5");
+    const int side = 700;
+    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    PainterSurface surface(painter, QRectF(0, 0, side, side), QSize(side, side), QFont());
+    plot.Redraw(surface, {.ColorContours = true, .Displaylines = false, .DrawGrid = false, .DisplayValues = false});
+    painter.end();
+    int holes = 0, inside = 0;
+    const double radius = side / 2.2 * std::cos(std::numbers::pi / 24) - 3;  // of the polygon, less its rim
+    for (int y = 0; y < side; ++y)
+        for (int x = 0; x < side; ++x) {
+            if (std::hypot(x - side / 2.0, y - side / 2.0) > radius) continue;
+            ++inside;
+            holes += image.pixel(x, y) == 0xFFFFFFFF;
+        }
+    EXPECT_GT(inside, 250000);
+    EXPECT_EQ(holes, 0);
 }
 
 TEST_F(Pictures, AFlatFieldIsDrawnWithoutColours) {
