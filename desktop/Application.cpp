@@ -73,6 +73,7 @@ int RunDesktop(int argc, char** argv) {
     {
         MDITools frame;
         MainWindow window(frame);
+        window.OnEnd = [] { QApplication::exit(0); };
         frame.SetWindow(&window);
         host.SetFrame(&window);
         host.StatusNotice = [&window](const QString& notice) { window.ShowNotice(notice); };

@@ -206,7 +206,7 @@ void MainWindow::contextMenuEvent(QContextMenuEvent* event) {
 
 void MainWindow::EndProcess() {
     hide();
-    QApplication::exit(0);
+    if (OnEnd) OnEnd();
 }
 
 // --- place and bars ---

@@ -31,6 +31,8 @@ class MainWindow : public QMainWindow, public FrameWindow {
     void SetDockLayout(const std::string& layout) override;
     void EndProcess() override;
 
+    // Ends the process once the program is ended; whoever runs it sets it.
+    std::function<void()> OnEnd;
     // What is being done, in the status bar; nothing for an empty text.
     void ShowNotice(const QString& notice);
     // The action of a menu entry; null for a heading.

@@ -1,0 +1,194 @@
+// All windows of the program in three languages as pictures, for people to look at:
+//
+//     QT_QPA_PLATFORM=offscreen screenshots OUTDIR
+#include <QApplication>
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTextStream>
+#include <QTimer>
+
+#include "core/Session.h"
+#include "core/StartSession.h"
+#include "desktop/Application.h"
+#include "desktop/FormView.h"
+#include "desktop/MainWindow.h"
+#include "desktop/QtHost.h"
+#include "desktop/SplashView.h"
+#include "kernels/stress/BasSoilStress.h"
+#include "services/LanguageTexts.h"
+#include "services/SharedServices.h"
+#include "services/WrittenFile.h"
+#include "ui/frmAbout.h"
+#include "ui/frmDataDir.h"
+#include "ui/frmOptionDraw.h"
+#include "ui/frmPreferences.h"
+#include "ui/frmProblemType.h"
+#include "ui/frmProjectCheck.h"
+#include "ui/frmResultTools.h"
+#include "ui/frmSplash.h"
+#include "ui/frmUnits.h"
+#include "ui/frmstress.h"
+
+namespace lithmark {
+namespace {
+
+class Gallery {
+  public:
+    Gallery(const QString& folder, const QString& language) : folder_(folder), language_(language) {}
+
+    void Take(QWidget& window, const QString& name) {
+        window.show();
+        for (int i = 0; i < 5; ++i) QApplication::processEvents();
+        const QString file = QDir(folder_).filePath(name + QLatin1Char('-') + language_ + QStringLiteral(".png"));
+        if (!window.grab().save(file)) failed_ = true;
+    }
+    void Take(Form& form, const QString& name, const std::function<void()>& change = {}) {
+        form.Reopen();
+        form.Load();
+        FormView view(form, nullptr);
+        view.show();
+        if (change) {
+            change();
+            view.Refresh();
+        }
+        Take(view, name);
+    }
+    // A window that waits for its answer: the picture is taken as soon as it is there, and Escape answers it.
+    void TakeModal(const QString& name, const std::function<void()>& show) {
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, [&] {
+            QWidget* modal = QApplication::activeModalWidget();
+            if (modal == nullptr) return;
+            timer.stop();
+            Take(*modal, name);
+            modal->close();
+        });
+        timer.start(30);
+        show();
+    }
+    bool Failed() const { return failed_; }
+
+  private:
+    const QString folder_, language_;
+    bool failed_ = false;
+};
+
+void WriteExample(const std::string& folder) {
+    WriteWholeFile(folder + "Crane.PO3", "Version 9\r\n1\r\n0\r\n");
+    WriteWholeFile(folder + "Crane.AUF", "GT-2026-01\r\n2026-03-02\r\nCrane runway, axis B\r\n");
+    WriteWholeFile(folder + "Crane.SSD", "1\r\n.5\r\n2\r\n850\r\n120\r\n4\r\n3\r\n.3\r\n12000\r\n2\r\n");
+    WriteWholeFile(folder + "Empty.PO3", "Version 9\r\n9\r\n0\r\n");
+}
+
+bool TakeAll(const QString& folder, Language language, const QString& code) {
+    const QTemporaryDir place;
+    const std::string settings = place.path().toStdString() + "/";
+    SharedServices().UseSettingsDirectory(settings);
+    WriteExample(settings);
+    Gallery gallery(folder, code);
+    QtHost host;
+    SetCurrentHost(&host);
+    MDITools frame;
+    MainWindow window(frame);
+    frame.SetClock([now = 0LL]() mutable { return now += 1000; });
+    frame.SetWindow(&window);
+    host.SetFrame(&window);
+    frame.Start("", language);
+    window.resize(1000, 660);
+    gallery.Take(window, QStringLiteral("start"));
+    frame.OpenFromCommandLine(settings + "Crane.PO3");
+    gallery.Take(window, QStringLiteral("project"));
+    window.hide();
+    frame.NewProjectState();
+    window.Refresh();
+    gallery.Take(window, QStringLiteral("start-recent"));
+    frame.OpenFromCommandLine(settings + "Crane.PO3");
+    window.hide();
+
+    frmSplash splash([] { return 0LL; });
+    splash.Load();
+    SplashView splashView(splash);
+    gallery.Take(splashView, QStringLiteral("splash"));
+    splashView.hide();
+
+    frmstress stress;
+    for (const int problem : {1, 2, 3}) {
+        Session.ProblemType = problem;
+        gallery.Take(stress, QStringLiteral("frmstress-%1").arg(problem));
+    }
+    for (const int load : {0, 2})
+        gallery.Take(stress, QStringLiteral("frmstress-load%1").arg(load), [&] {
+            stress.SelectOption(stress.optLoadType[load]);
+            stress.optLoadType_Click(load);
+        });
+    Session.ProblemType = 1;
+    stress.Reopen();
+    stress.Load();
+    stress.cmdSave_Click();
+    ComputeSoilStress(Session.x, Session.y, Session.z, Session.Q, Session.P, Session.A, Session.B, Session.Nue,
+                      Session.Es, Session.LoadType);
+    frmResultTools results;
+    gallery.Take(results, QStringLiteral("frmResultTools"));
+
+    frmProblemType problemType(frame);
+    gallery.Take(problemType, QStringLiteral("frmProblemType"));
+    frmProjectCheck check(MDITools::Title("Crane"), Text(140185_text) + "\r\n");
+    gallery.Take(check, QStringLiteral("frmProjectCheck"));
+    frmDataDir dataDir;
+    gallery.Take(dataDir, QStringLiteral("frmDataDir"));
+    frmUnits units;
+    gallery.Take(units, QStringLiteral("frmUnits"));
+    frmPreferences preferences;
+    gallery.Take(preferences, QStringLiteral("frmPreferences-0"));
+    gallery.Take(preferences, QStringLiteral("frmPreferences-1"), [&] { SelectRow(preferences.sstMainData, 1); });
+    frmAbout about;
+    gallery.Take(about, QStringLiteral("frmAbout"));
+    frmOptionDraw draw;
+    Session.ProblemType = 8;
+    gallery.Take(draw, QStringLiteral("frmOptionDraw"));
+    Session.ProblemType = 1;
+
+    gallery.TakeModal(QStringLiteral("message"), [&] {
+        stress.Reopen();
+        stress.Load();
+        stress.txt_Nue.Text = "0.6";
+        stress.cmdResult_Click();
+    });
+    gallery.TakeModal(QStringLiteral("question"), [&] { SharedServices().ConfirmQuit(); });
+    gallery.TakeModal(QStringLiteral("help"), [&] { stress.cmdHelp_Click(); });
+    gallery.TakeModal(QStringLiteral("language"), [&] { host.ChooseLanguage(language); });
+    gallery.TakeModal(QStringLiteral("company"), [&] { host.EditCompanyLines({"Baugrund Nord", "Hamburg"}); });
+    gallery.TakeModal(QStringLiteral("files"), [&] { host.ShowFileList(settings, "PO3"); });
+    gallery.TakeModal(QStringLiteral("editor"), [&] { host.ShowTextEditor(Session.ResultText); });
+    TableEdit table;
+    table.Title = Text(140187_text);
+    table.Columns = {{"t\n[1]\n[-]", TableEdit::Kind::Whole}, {"p\n[2]\n[%]", TableEdit::Kind::Real, 100, 0}};
+    table.Rows = {{"1", "19"}, {"2", "42"}, {"4", "83"}};
+    gallery.TakeModal(QStringLiteral("table"), [&] { host.EditTable(table); });
+
+    frame.SetWindow(nullptr);
+    SetCurrentHost(nullptr);
+    SharedServices().UseSettingsDirectory("");
+    ResetSession();
+    return !gallery.Failed();
+}
+
+}  // namespace
+}  // namespace lithmark
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    if (argc != 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
+        QTextStream(stderr) << "screenshots OUTDIR\n";
+        return 2;
+    }
+    lithmark::PrepareApplication(application);
+    lithmark::SharedServices().DecimalSign = '.';
+    const QString folder = QString::fromLocal8Bit(argv[1]);
+    using lithmark::Language;
+    bool good = true;
+    for (const auto& [language, code] :
+         {std::pair(Language::German, "de"), std::pair(Language::English, "en"), std::pair(Language::Arabic, "ar")})
+        good = lithmark::TakeAll(folder, language, QString::fromLatin1(code)) && good;
+    return good ? 0 : 1;
+}

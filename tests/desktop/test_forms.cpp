@@ -1,0 +1,283 @@
+// What holds for the windows of all forms, and how keys and clicks reach the model.
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabBar>
+#include <QTest>
+
+#include "../ui/AllForms.h"
+#include "../ui/FormTest.h"
+#include "desktop/FormView.h"
+#include "ui/FieldForm.h"
+
+namespace lithmark::tests {
+namespace {
+
+using ::testing::IsEmpty;
+
+constexpr Language kLanguages[] = {Language::German, Language::English, Language::Arabic};
+
+bool Holds(QLayout* layout, QWidget* widget) {
+    if (layout == nullptr) return false;
+    for (int i = 0; i < layout->count(); ++i) {
+        QLayoutItem* item = layout->itemAt(i);
+        if (item->widget() == widget || Holds(item->layout(), widget)) return true;
+    }
+    return false;
+}
+
+// A label or button that is smaller than its words.
+bool Clipped(const QWidget& widget) {
+    if (!widget.isVisible()) return false;
+    if (const auto* label = qobject_cast<const QLabel*>(&widget))
+        return label->wordWrap()
+                   ? label->height() < label->heightForWidth(label->width())
+                   : label->width() < label->sizeHint().width() || label->height() < label->sizeHint().height();
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
+        return button->width() < button->sizeHint().width() || button->height() < button->sizeHint().height();
+    if (const auto* group = qobject_cast<const QGroupBox*>(&widget))
+        return group->width() < group->fontMetrics().horizontalAdvance(group->title());
+    return false;
+}
+
+class FormViewTest : public FormTest {
+  protected:
+    void ForAllForms(const std::function<void(Form&, FormView&, const std::string&)>& look) {
+        for (const Language language : kLanguages)
+            for (const FormRow& row : AllForms()) {
+                StartIn(language);
+                Session.ProblemType = row.ProblemType;
+                const std::unique_ptr<Form> form = row.Make();
+                form->Reopen();
+                form->Load();
+                FormView view(*form, nullptr);
+                view.show();
+                QCoreApplication::processEvents();
+                look(*form, view,
+                     form->Name + " of problem " + std::to_string(row.ProblemType) + ", language " +
+                         std::to_string(static_cast<int>(language)));
+            }
+    }
+};
+
+TEST_F(FormViewTest, EveryControlHasAWidgetOfItsNameThatIsPlaced) {
+    std::vector<std::string> failing;
+    ForAllForms([&](Form& form, FormView& view, const std::string& name) {
+        for (const Control* control : form.Controls()) {
+            auto* widget = view.findChild<QWidget*>(QString::fromStdString(control->Name));
+            if (widget == nullptr || !Holds(widget->parentWidget()->layout(), widget))
+                failing.push_back(name + ": " + control->Name);
+        }
+    });
+    EXPECT_THAT(failing, IsEmpty());
+}
+
+TEST_F(FormViewTest, NoWordsAreClipped) {
+    std::vector<std::string> failing;
+    ForAllForms([&](Form& form, FormView& view, const std::string& name) {
+        for (const Control* control : form.Controls())
+            if (const auto* widget = view.findChild<QWidget*>(QString::fromStdString(control->Name));
+                widget != nullptr && Clipped(*widget))
+                failing.push_back(name + ": " + control->Name);
+    });
+    EXPECT_THAT(failing, IsEmpty());
+}
+
+TEST_F(FormViewTest, WidgetsShowWhatTheModelSays) {
+    std::vector<std::string> failing;
+    ForAllForms([&](Form& form, FormView& view, const std::string& name) {
+        EXPECT_EQ(view.layoutDirection(), form.RightToLeft ? Qt::RightToLeft : Qt::LeftToRight) << name;
+        for (const Control* control : form.Controls()) {
+            const auto* widget = view.findChild<QWidget*>(QString::fromStdString(control->Name));
+            if (widget->isHidden() == control->Visible || widget->isEnabledTo(&view) != control->Enabled)
+                failing.push_back(name + ": " + control->Name);
+        }
+    });
+    EXPECT_THAT(failing, IsEmpty());
+}
+
+// A visible box without a name is a riddle to a screen reader. A path or a report is named by its frame.
+TEST_F(FormViewTest, EveryFieldIsTheBuddyOfItsLabel) {
+    std::vector<std::string> failing;
+    ForAllForms([&](Form& form, FormView& view, const std::string& name) {
+        QList<QWidget*> named;
+        for (const QLabel* label : view.findChildren<QLabel*>())
+            if (label->buddy() != nullptr) named.append(label->buddy());
+        for (const Control* control : form.Controls()) {
+            if (control->Kind != ControlKind::TextBox || control->Name == "txtDataDir") continue;
+            if (!named.contains(view.findChild<QWidget*>(QString::fromStdString(control->Name))))
+                failing.push_back(name + ": " + control->Name);
+        }
+    });
+    EXPECT_THAT(failing, IsEmpty());
+}
+
+TEST_F(FormViewTest, TabFollowsTheWayOfTheEnterKey) {
+    ForAllForms([&](Form& form, FormView& view, const std::string& name) {
+        const auto* fields = dynamic_cast<const FieldForm*>(&form);
+        if (fields == nullptr) return;
+        // The place of each widget on the way of the Tab key.
+        std::vector<QWidget*> chain;
+        for (QWidget* w = view.nextInFocusChain(); w != &view && chain.size() < 1000; w = w->nextInFocusChain())
+            chain.push_back(w);
+        const auto placeOf = [&](const Control& control) {
+            auto* widget = view.findChild<QWidget*>(QString::fromStdString(control.Name));
+            return std::find(chain.begin(), chain.end(), widget) - chain.begin();
+        };
+        for (const EnterRow& row : fields->EnterRows())
+            for (const EnterStep& step : row.Steps)
+                EXPECT_GT(placeOf(*step.To), placeOf(*row.From)) << name << ": " << row.From->Name;
+    });
+}
+
+// --- one form, by hand ---
+
+class StressViewTest : public FormTest {
+  protected:
+    void Open() {
+        form_.Reopen();
+        form_.Load();
+        view_ = std::make_unique<FormView>(form_, nullptr);
+        view_->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(view_.get()));
+    }
+    QLineEdit& Box(const char* name) { return *view_->findChild<QLineEdit*>(QString::fromLatin1(name)); }
+    void Click(const char* name) {
+        auto* button = view_->findChild<QAbstractButton*>(QString::fromLatin1(name));
+        QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
+    }
+    void Type(const char* name, const char* text) {
+        Box(name).setFocus();
+        Box(name).selectAll();
+        QTest::keyClicks(&Box(name), QString::fromLatin1(text));
+    }
+
+    frmstress form_;
+    std::unique_ptr<FormView> view_;
+};
+
+TEST_F(StressViewTest, EnterMovesOnAndSelects) {
+    Open();
+    Box("txt_x").setFocus();
+    QTest::keyClick(&Box("txt_x"), Qt::Key_Return);
+    EXPECT_EQ(QApplication::focusWidget(), &Box("txt_y"));
+    EXPECT_EQ(Box("txt_y").selectedText(), Box("txt_y").text());
+    QTest::keyClick(&Box("txt_y"), Qt::Key_Enter);
+    EXPECT_EQ(QApplication::focusWidget(), &Box("txt_z"));
+    EXPECT_TRUE(view_->isVisible());
+}
+
+TEST_F(StressViewTest, AnOptionShowsItsFieldsAndGivesTheRoomOfTheOthersBack) {
+    Open();
+    Click("optLoadType(0)");
+    EXPECT_TRUE(form_.optLoadType[0].Value);
+    EXPECT_FALSE(form_.optLoadType[1].Value);
+    EXPECT_TRUE(Box("txt_Q").isVisible());
+    EXPECT_FALSE(Box("txt_A").isVisible());
+    QCoreApplication::processEvents();
+    const int oneRow = view_->findChild<QGroupBox*>("fraData")->sizeHint().height();
+    Click("optLoadType(1)");
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(Box("txt_B").isVisible());
+    EXPECT_GT(view_->findChild<QGroupBox*>("fraData")->sizeHint().height(), oneRow);
+}
+
+TEST_F(StressViewTest, EscapeClosesAndStoresNothing) {
+    Open();
+    const double before = Session.z;
+    Type("txt_z", "7");
+    EXPECT_EQ(form_.txt_z.Text, "7");
+    EXPECT_TRUE(view_->isWindowModified());
+    QTest::keyClick(view_.get(), Qt::Key_Escape);
+    EXPECT_TRUE(form_.Unloaded());
+    EXPECT_FALSE(view_->isVisible());
+    EXPECT_EQ(Session.z, before);
+    EXPECT_THAT(DataFiles(), IsEmpty());
+}
+
+TEST_F(StressViewTest, TheButtonOfTheWindowClosesAsEscapeDoes) {
+    Open();
+    Type("txt_z", "7");
+    view_->close();
+    EXPECT_TRUE(form_.Unloaded());
+    EXPECT_THAT(DataFiles(), IsEmpty());
+}
+
+TEST_F(StressViewTest, ABadValueIsToldAndTakesTheFocus) {
+    Open();
+    Type("txt_Nue", "0.6");
+    // As the desktop does when a service asks for the focus.
+    Click("cmdResult");
+    ASSERT_FALSE(host.Messages.empty());
+    EXPECT_EQ(form_.Focus, &form_.txt_Nue);
+    view_->FocusOn(*form_.Focus);
+    EXPECT_EQ(QApplication::focusWidget(), &Box("txt_Nue"));
+}
+
+TEST_F(StressViewTest, HidingThePictureMakesTheWindowNarrower) {
+    Open();
+    const bool shown = form_.PctInvertedT.Visible;
+    const int width = view_->width();
+    Click("CmdMoreLess");
+    EXPECT_NE(form_.PctInvertedT.Visible, shown);
+    QCoreApplication::processEvents();
+    if (shown)
+        EXPECT_LT(view_->width(), width);
+    else
+        EXPECT_GT(view_->width(), width);
+}
+
+TEST_F(FormViewTest, ABadValueOnTheOtherTabBringsThatTab) {
+    frmPreferences form;
+    form.Load();
+    FormView view(form, nullptr);
+    view.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
+    auto* tabs = view.findChild<QTabBar*>("sstMainData");
+    auto* dx = view.findChild<QLineEdit*>("txtDx");
+    auto* tol = view.findChild<QLineEdit*>("txtTol");
+    dx->setFocus();
+    dx->selectAll();
+    QTest::keyClicks(dx, "0.1");
+    tabs->setCurrentIndex(1);
+    EXPECT_TRUE(tol->isVisible());
+    EXPECT_FALSE(dx->isVisible());
+    QTest::mouseClick(view.findChild<QPushButton*>("cmdSave"), Qt::LeftButton);
+    ASSERT_FALSE(host.Messages.empty());
+    EXPECT_FALSE(form.Unloaded());
+    EXPECT_EQ(tabs->currentIndex(), 0);
+    EXPECT_TRUE(dx->isVisible());
+}
+
+TEST_F(FormViewTest, AListAndACheckBoxReachTheModel) {
+    frmUnits units;
+    units.Load();
+    FormView view(units, nullptr);
+    view.show();
+    auto* list = view.findChild<QComboBox*>("CboLength(0)");
+    const int last = list->count() - 1;
+    ASSERT_GT(last, 0);
+    list->setCurrentIndex(last);
+    emit list->activated(last);
+    EXPECT_EQ(units.CboLength[0].ListIndex, last);
+
+    frmDataDir dir;
+    dir.Load();
+    FormView dirView(dir, nullptr);
+    dirView.show();
+    auto* box = dirView.findChild<QCheckBox*>("chkCompressFlag(0)");
+    const bool before = dir.chkCompressFlag[0].Value;
+    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
+    EXPECT_NE(dir.chkCompressFlag[0].Value, before);
+}
+
+}  // namespace
+}  // namespace lithmark::tests

@@ -1,0 +1,135 @@
+// The frame's window: menu, bars, their layout, and its direction.
+#include <gmock/gmock.h>
+
+#include <QMenu>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QToolBar>
+
+#include "ScreenRun.h"
+
+namespace lithmark::tests {
+namespace {
+
+using ::testing::IsEmpty;
+
+class FrameViewTest : public ::testing::Test {
+  protected:
+    FrameViewTest() { std::filesystem::create_directory(folder_ / "settings"); }
+    std::string Settings() const { return folder_ / "settings/"; }
+    TestFolder folder_;
+};
+
+TEST_F(FrameViewTest, EveryEntryOfTheModelHasItsAction) {
+    ScreenRun run(Settings());
+    run.Start();
+    std::vector<std::string> failing;
+    for (const MenuItem& item : run.Frame().Menu.Items()) {
+        if (!run.Frame().Menu.Children(item.Key).empty()) continue;
+        const QAction* action = run.Window().MenuAction(item.Key);
+        if (action == nullptr || action->isVisible() != item.Visible || action->isSeparator() != item.Separator() ||
+            (!item.Separator() && item.Visible &&
+             action->isEnabled() != (item.Enabled && run.Frame().Menu[item.Parent].Enabled)) ||
+            action->shortcut().toString().toStdString() != item.Shortcut)
+            failing.push_back(item.Key);
+    }
+    EXPECT_THAT(failing, IsEmpty());
+    EXPECT_EQ(run.Window().menuBar()->actions().size(), 5);
+}
+
+TEST_F(FrameViewTest, ABarIsHiddenByItsEntryAndStaysHiddenAtTheNextStart) {
+    {
+        ScreenRun run(Settings());
+        run.Start();
+        EXPECT_TRUE(Child<QToolBar>(run.Window(), "bar_mnuHelp").isVisible());
+        run.Menu("MnuVeiwToolBar(3)");
+        EXPECT_FALSE(Child<QToolBar>(run.Window(), "bar_mnuHelp").isVisible());
+        run.In("questionBox", [](QWidget& box) { ClickOn(box, "cmdYes"); });
+        run.Menu("mnuFileExit");
+    }
+    ScreenRun run(Settings());
+    run.Start();
+    EXPECT_FALSE(Child<QToolBar>(run.Window(), "bar_mnuHelp").isVisible());
+    EXPECT_FALSE(run.Window().MenuAction("MnuVeiwToolBar(3)")->isChecked());
+    EXPECT_TRUE(Child<QToolBar>(run.Window(), "bar_mnuFile").isVisible());
+}
+
+TEST_F(FrameViewTest, BarsStayWhereTheyWereDockedUntilTheyAreReset) {
+    {
+        ScreenRun run(Settings());
+        run.Start();
+        auto& bar = Child<QToolBar>(run.Window(), "bar_mnuMainData");
+        run.Window().addToolBar(Qt::LeftToolBarArea, &bar);
+        run.In("questionBox", [](QWidget& box) { ClickOn(box, "cmdYes"); });
+        run.Menu("mnuFileExit");
+    }
+    ScreenRun run(Settings());
+    run.Start();
+    auto& bar = Child<QToolBar>(run.Window(), "bar_mnuMainData");
+    EXPECT_EQ(run.Window().toolBarArea(&bar), Qt::LeftToolBarArea);
+    run.Menu("mnuResetToolbar");
+    EXPECT_EQ(run.Window().toolBarArea(&bar), Qt::TopToolBarArea);
+    EXPECT_TRUE(bar.isVisible());
+}
+
+TEST_F(FrameViewTest, ADamagedLayoutOfTheBarsGivesTheUsualOne) {
+    ScreenRun run(Settings());
+    run.Start();
+    run.Window().SetDockLayout("no layout");
+    for (const char* name : {"bar_mnuFile", "bar_mnuMainProblem", "bar_mnuMainData", "bar_mnuHelp"})
+        EXPECT_EQ(run.Window().toolBarArea(&Child<QToolBar>(run.Window(), name)), Qt::TopToolBarArea) << name;
+}
+
+TEST_F(FrameViewTest, TheWindowComesBackWhereItWas) {
+    {
+        ScreenRun run(Settings());
+        run.Start();
+        run.Window().setGeometry(40, 50, 760, 620);
+        run.In("questionBox", [](QWidget& box) { ClickOn(box, "cmdYes"); });
+        run.Menu("mnuFileExit");
+    }
+    ScreenRun run(Settings());
+    run.Start();
+    EXPECT_EQ(run.Window().size(), QSize(760, 620));
+}
+
+TEST_F(FrameViewTest, APlaceOutsideAllScreensIsNotTaken) {
+    ScreenRun run(Settings());
+    run.Start();
+    run.Window().SetPosition({100000, 100000, 700, 500, false});
+    EXPECT_LT(run.Window().geometry().left(), 50000);
+}
+
+TEST_F(FrameViewTest, ArabicRunsFromRightToLeft) {
+    ScreenRun run(Settings(), {}, Language::Arabic);
+    run.Start();
+    EXPECT_EQ(run.Window().layoutDirection(), Qt::RightToLeft);
+    EXPECT_EQ(QApplication::layoutDirection(), Qt::RightToLeft);
+    // The menu bar begins at the right.
+    const QList<QAction*> heads = run.Window().menuBar()->actions();
+    EXPECT_GT(run.Window().menuBar()->actionGeometry(heads.front()).left(),
+              run.Window().menuBar()->actionGeometry(heads.back()).left());
+}
+
+TEST_F(FrameViewTest, TheStatusBarTellsWhatIsBeingDone) {
+    ScreenRun run(Settings());
+    run.Start();
+    CurrentHost().ShowFileStatus(FileStatus::Reading);
+    EXPECT_EQ(Child<QLabel>(run.Window(), "notice").text(), "Reading ...");
+    CurrentHost().ShowFileStatus(FileStatus::None);
+    EXPECT_EQ(Child<QLabel>(run.Window(), "notice").text(), "");
+}
+
+TEST_F(FrameViewTest, TheRightButtonBringsTheMenuOfTheMoment) {
+    ScreenRun run(Settings());
+    run.Start();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(300, 300), QPoint(300, 300));
+    QApplication::sendEvent(&run.Window(), &event);
+    auto* popup = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(popup, nullptr);
+    EXPECT_TRUE(popup->actions().contains(run.Window().MenuAction("mnuOpenProject")));
+    popup->close();
+}
+
+}  // namespace
+}  // namespace lithmark::tests
