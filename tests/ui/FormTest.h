@@ -41,6 +41,7 @@ class FormTest : public ::testing::Test {
     }
     std::string DataDir() const { return folder_ / "data/"; }
     std::string DataFile(const std::string& name) const { return DataDir() + name; }
+    std::string SettingsFile(const std::string& name) const { return Session.ProgramDir + name; }
     // Names of the files in the project's folder.
     std::vector<std::string> DataFiles() const {
         std::vector<std::string> names;

@@ -61,7 +61,13 @@ class FrameTest : public FormTest {
         host.AnswerFileToOpen(DataFile(file));
         frame.m_cMenu_Click("mnuOpenProject");
     }
-    std::string SettingsFile(const std::string& name) const { return Session.ProgramDir + name; }
+    // The answer to the list of missing data that comes next.
+    void GoOn() {
+        host.OnForm<frmProjectCheck>([](frmProjectCheck& form) { Click(form, "cmdok"); });
+    }
+    void Stay() {
+        host.OnForm<frmProjectCheck>([](frmProjectCheck& form) { Click(form, "CmdCancel"); });
+    }
     bool Enabled(const char* key) { return frame.Menu[key].Enabled; }
     std::vector<int> VisibleProblems() {
         std::vector<int> entries;

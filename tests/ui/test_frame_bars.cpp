@@ -1,7 +1,6 @@
 // The frame's bars: what they hold, what is shown, what is kept.
 #include <map>
 #include <string>
-#include <vector>
 
 #include "FrameTest.h"
 

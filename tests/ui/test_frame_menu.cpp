@@ -13,7 +13,6 @@
 using namespace lithmark;
 using namespace lithmark::tests;
 using ::testing::ElementsAre;
-using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
 namespace {

@@ -1,5 +1,4 @@
 // The start and the end of the program.
-#include <map>
 #include <string>
 #include <vector>
 
