@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "core/Session.h"
+#include "core/TimeUnits.h"
 #include "kernels/consolidation/ConsolidationRateRun.h"
 #include "kernels/consolidation/InitialPressure.h"
 #include "kernels/consolidation/PorePressureMarch.h"
@@ -27,15 +28,6 @@ struct Grid {
     Array<Integer> TopType, BottomType;
     Integer Last = 0;  // node
 };
-
-// A month is a twelfth of 365 days, the year is rounded; kept: existing projects rely on both. 0 for any other word.
-Single SecondsPerTimeUnit(const std::string& timeUnit) {
-    if (timeUnit == Text(10001_text)) return 86400;
-    if (timeUnit == Text(10002_text)) return 604800;
-    if (timeUnit == Text(10003_text)) return 2628000;
-    if (timeUnit == Text(10004_text)) return 31540000;
-    return 0;
-}
 
 // Intervals of about 1 m, an even number of them and at least 4 in a layer.
 Grid BuildGrid(const ConsolidationRateInput& in) {
@@ -207,6 +199,7 @@ void Run(const ConsolidationRateInput& in) {
     const Grid grid = BuildGrid(in);
     const double CvMax = LargestCv(in);
     Session.PrefDz = grid.dz(1);
+    if (c == 0) FailTimeUnit(in.TimeUnit);
     const Single dt = Quotient(Square(Session.PrefDz) * 0.16666666666666666, CvMax * c);
     const Single steps = Quotient(in.T, dt);
 

@@ -1,5 +1,7 @@
 #include "kernels/raft/RaftEquilibrium.h"
 
+#include "services/LanguageTexts.h"
+
 namespace lithmark {
 
 namespace {
@@ -104,7 +106,10 @@ void PlaneSettlements(const RaftPlane& plane, const Array<Single>& u, const Arra
 Single PunchArcSine(Single w) {
     if (w == 1) return PI / 2;
     if (w == -1) return -PI / 2;
-    return std::atan(Quotient(w, Sqrt(-w * w + 1)));
+    const double square = -w * w + 1;
+    // Coordinates are rounded to millimetres, which can carry a node beyond the edge.
+    if (square < 0) Fail(FailureKind::InvalidArgument, Text(905000_text));
+    return std::atan(Quotient(w, Sqrt(square)));
 }
 
 }  // namespace lithmark

@@ -1,6 +1,7 @@
 #include "kernels/timesettlement/BasTimeSettlement.h"
 
 #include "core/Session.h"
+#include "core/TimeUnits.h"
 #include "kernels/timesettlement/SuddenLoadCurve.h"
 #include "kernels/timesettlement/TimeSettlementRun.h"
 #include "report/KernelRun.h"
@@ -16,15 +17,6 @@ void ZeroResults() {
           &Session.LoadChartTime, &Session.LoadChartNew, &Session.LoadChartPrev})
         curve->Redim(0, kLastSlot);
     Session.ConsolidationEnd = 0;
-}
-
-// A month is a twelfth of 365 days, the year is rounded; kept: existing projects rely on both.
-Single FindSecondsPerUnit() {
-    if (Session.TimeUnit == Text(10001_text)) return 86400;
-    if (Session.TimeUnit == Text(10002_text)) return 604800;
-    if (Session.TimeUnit == Text(10003_text)) return 2628000;
-    if (Session.TimeUnit == Text(10004_text)) return 31540000;
-    return 0;
 }
 
 // Stretches the load table to all slots, the load held flat between rows.
@@ -116,7 +108,7 @@ void ComputeTimeSettlement() {
         SharedServices().SetPointer(PointerShape::Hourglass);
         TimeSettlementRun run;
         ZeroResults();
-        run.SecondsPerUnit = FindSecondsPerUnit();
+        run.SecondsPerUnit = SecondsPerTimeUnit(Session.TimeUnit);
         BuildLoadCurve(run);
         BuildLoadChart(run);
         if (!BuildSuddenLoadCurve(run)) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/Session.h"
+#include "core/TimeUnits.h"
 #include "services/SharedServices.h"
 
 namespace lithmark {
@@ -77,6 +78,7 @@ bool DirectCurve(TimeSettlementRun& run) {
 bool OedometerCurve(TimeSettlementRun& run) {
     const int n = Session.NOed;
     const Single Hb = DrainageLength();
+    if (run.SecondsPerUnit == 0) FailTimeUnit(Session.TimeUnit);
     // The specimen's thickness is never halved, whatever its drainage; kept: existing projects rely on it.
     for (int i = 1; i <= n; ++i)
         run.CurveTime(i) = Quotient(Session.OedTime(i) * 60 * Square(Hb), Square(Session.Hm) * run.SecondsPerUnit);
