@@ -172,8 +172,9 @@ TEST_F(FrameProject, AFileOfAnotherExtensionOpensNothing) {
     EXPECT_THAT(Recent(), ElementsAre(DataFile("P1.PO3")));
     EXPECT_THAT(DataFiles(), ElementsAre("P1.AUF", "P1.PO3", "P1.SSD", "note.txt"));
 
-    Session.ProjectFile = DataFile("note.txt");
-    Session.ProjectName = "note";
+    WriteProject("P2", 4);
+    Session.ProjectFile = DataFile("P2.txt");
+    Session.ProjectName = "P2";
     frame.OpenProject();
     EXPECT_EQ(Session.ProblemType, 1);
     EXPECT_EQ(frame.Caption, "Lithmark - [P1]");
