@@ -17,8 +17,8 @@ class Scene {
   public:
     Scene(QPainter& painter, const QRect& area)
         : Painter(painter),
-          scale_(std::min(area.width() / 11.5, area.height() / 10.0)),
-          origin_(area.left() + area.width() * 0.46, area.top() + area.height() * 0.36) {}
+          scale_(std::min(area.width() / 12.8, area.height() / 10.4)),
+          origin_(area.left() + area.width() * 0.48, area.top() + area.height() * 0.5 - 1.85 * scale_) {}
 
     QPointF At(double x, double y, double z) const {
         return origin_ + QPointF(y * scale_ - 0.5 * x * scale_, 0.38 * x * scale_ + z * scale_);
