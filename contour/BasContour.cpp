@@ -230,7 +230,8 @@ void BasContour::DrawMesh(Surface& surface, const ContourOptions& options) const
 }
 
 void BasContour::DrawLegend(Surface& picBox2) const {
-    picBox2.SetWorldScale(0, 0, 1, 1);
+    // Upwards: the lowest class at the bottom, a label's upper edge just below that of its box.
+    picBox2.SetWorldScale(0, 1, 1, 0);
     double y = 0;
     for (int i = 1; i <= kClasses; ++i, y += 0.1) {
         picBox2.FilledBox(0, y, 0.1, y + 0.1, ClassColor(i));

@@ -22,13 +22,18 @@ class RecordingSurface : public Surface {
         int Color;
     };
 
+    struct WorldScale {
+        double Left, Top, Right, Bottom;
+    };
+
     // width by height pixels, none filled.
     RecordingSurface(int width, int height) : extent_{0, 0, width, height} { Clear(); }
 
     std::vector<DrawnLine> Lines;
     std::vector<DrawnText> Texts;
     std::vector<DrawnBox> Boxes;
-    long PixelsOutside = 0;  // pixels set beyond the surface
+    long PixelsOutside = 0;        // pixels set beyond the surface
+    WorldScale Scale{0, 0, 0, 0};  // the world scale set last
 
     // The colour of a pixel, -1 where nothing was filled.
     int ColorAt(int x, int y) const { return pixels_[Index(x, y)]; }
@@ -41,7 +46,9 @@ class RecordingSurface : public Surface {
         pixels_.assign(static_cast<std::size_t>(extent_.Width) * static_cast<std::size_t>(extent_.Height), -1);
     }
     void SetPixelScale() override {}
-    void SetWorldScale(double, double, double, double) override {}
+    void SetWorldScale(double left, double top, double right, double bottom) override {
+        Scale = {left, top, right, bottom};
+    }
     void Pixel(int x, int y, int color) override {
         if (x < 0 || y < 0 || x >= extent_.Width || y >= extent_.Height)
             ++PixelsOutside;

@@ -150,7 +150,7 @@ void PainterSurface::Print(double x, double y, const std::string& text) {
     const QFontMetricsF metrics(font_, painter_.device());
     const QRectF box(place, QSizeF(metrics.horizontalAdvance(Q(text)) + 4, metrics.height()));
     // A legend's label stands beside its box; on the plot the value gets a ground to be read on.
-    const bool legend = left_ == 0 && right_ == 1 && top_ == 0 && bottom_ == 1;
+    const bool legend = left_ == 0 && right_ == 1 && top_ == 1 && bottom_ == 0;
     if (!legend) {
         // Where values would cover each other the first one stands.
         for (const QRectF& taken : printed_)
@@ -159,7 +159,7 @@ void PainterSurface::Print(double x, double y, const std::string& text) {
         painter_.fillRect(box, QColor(255, 255, 255, 210));
     }
     painter_.setPen(Qt::black);
-    painter_.drawText(legend ? box.translated(0, -metrics.height()) : box, Qt::AlignCenter, Q(text));
+    painter_.drawText(box, Qt::AlignCenter, Q(text));
 }
 
 void PainterSurface::FilledBox(double x1, double y1, double x2, double y2, int color) {

@@ -313,6 +313,26 @@ TEST_F(ContourEngine, AZoomedPlotFillsOnlyWhatItsWindowShows) {
     EXPECT_EQ(surface.PixelsOutside, 0);
 }
 
+TEST_F(ContourEngine, TheLegendRunsUpwardsWithEachLabelBesideItsBox) {
+    BasContour plot = GridPlot(2, 2, 1, 1, [](double x, double) { return x; });
+    RecordingSurface surface(20, 100);
+    plot.DrawLegend(surface);
+    ASSERT_EQ(surface.Boxes.size(), 10u);
+    ASSERT_EQ(surface.Texts.size(), 10u);
+    // The part of the surface's height that lies above a world coordinate.
+    const auto down = [&](double y) { return (y - surface.Scale.Top) / (surface.Scale.Bottom - surface.Scale.Top); };
+    EXPECT_EQ(surface.Scale.Left, 0);
+    EXPECT_EQ(surface.Scale.Right, 1);
+    for (std::size_t i = 0; i < 10; ++i) {
+        const double boxTop = 0.1 * static_cast<double>(9 - i);
+        EXPECT_NEAR(down(surface.Boxes[i].Y1), boxTop + 0.1, 1e-9);
+        EXPECT_NEAR(down(surface.Boxes[i].Y2), boxTop, 1e-9);
+        EXPECT_NEAR(down(surface.Texts[i].Y), boxTop + 0.02, 1e-9);
+        EXPECT_EQ(surface.Boxes[i].X2, 0.1);
+        EXPECT_EQ(surface.Texts[i].X, 0.15);
+    }
+}
+
 TEST_F(ContourEngine, TheLegendHasTenBoxesWithTheirLabels) {
     BasContour plot = GridPlot(2, 2, 1, 1, [](double x, double) { return x; });
     RecordingSurface surface(20, 100);
