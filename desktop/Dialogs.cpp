@@ -54,8 +54,10 @@ void ShowTextWindow(QWidget* parent, const QString& title, const QString& text) 
     PlainDialog dialog(parent, title, false);
     dialog.setObjectName(QStringLiteral("helpWindow"));
     auto* label = new QLabel(text.trimmed(), &dialog);
-    label->setWordWrap(true);
-    label->setMinimumWidth(420);
+    // The lines are as their author broke them; only a very long one is broken again.
+    const bool wide = label->sizeHint().width() > 700;
+    label->setWordWrap(wide);
+    label->setMinimumWidth(wide ? 560 : 320);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     dialog.Content->addWidget(label);
     dialog.exec();
@@ -124,6 +126,7 @@ void ShowFilesOfFolder(QWidget* parent, const QString& folder, const QString& ex
         table->setItem(row, 1, size);
         table->setItem(row, 2, new QTableWidgetItem(file.lastModified().toString(QStringLiteral("yyyy-MM-dd HH:mm"))));
     }
+    table->resizeColumnsToContents();
     table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     table->setMinimumSize(560, 320);
     dialog.Content->addWidget(table);

@@ -105,6 +105,9 @@ QWidget* FormView::Make(Control& control) {
         case ControlKind::TextLabel: {
             auto* label = new QLabel(this);
             label->setTextInteractionFlags(Qt::NoTextInteraction);
+            // A name or a unit of Latin letters stands at the side where the language begins, too.
+            label->setAlignment((form_.RightToLeft ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute |
+                                Qt::AlignVCenter);
             widget = label;
             break;
         }
@@ -139,6 +142,7 @@ QWidget* FormView::Make(Control& control) {
         }
         case ControlKind::ComboBox: {
             auto* box = new QComboBox(this);
+            box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
             connect(box, &QComboBox::activated, this, [this, &control](int index) {
                 control.ListIndex = index;
                 Act(control.OnClick ? control.OnClick : control.OnChange);
@@ -167,6 +171,7 @@ QWidget* FormView::Make(Control& control) {
             auto* picker = new QDateEdit(this);
             picker->setCalendarPopup(true);
             picker->setDisplayFormat(QStringLiteral("yyyy-MM-dd"));
+            picker->setLayoutDirection(Qt::LeftToRight);
             connect(picker, &QDateEdit::dateChanged, this, [this, &control](QDate date) {
                 if (refreshing_) return;
                 control.Text = TextTools().LongDate(kEpochDay + static_cast<int>(QDate(1970, 1, 1).daysTo(date)));

@@ -137,7 +137,10 @@ void MainWindow::Refresh() {
 void MainWindow::ShowEntry(const Entry& entry) {
     const MenuItem& item = frame_.Menu[entry.Key];
     const MenuItem* heading = frame_.Menu.Find(item.Parent);
-    entry.Action->setVisible(item.Visible);
+    // Without a project the bar does not show the problems: only one of them will be its own.
+    const bool otherProblem = entry.InBar && entry.Key.starts_with("mnuProblem") && entry.Key != "mnuProblem(0)" &&
+                              heading != nullptr && !heading->Enabled;
+    entry.Action->setVisible(item.Visible && !otherProblem);
     if (item.Separator()) return;
     entry.Action->setEnabled(item.Enabled && (heading == nullptr || heading->Enabled));
     entry.Action->setText(IsRecentFile(entry.Key) ? PathCaption(item.Caption) : Q(item.Caption));

@@ -32,7 +32,7 @@ class Scene {
     void Arrow(const QPointF& from, const QPointF& to, const QPen& pen) const {
         Line(from, to, pen);
         const double angle = std::atan2(to.y() - from.y(), to.x() - from.x());
-        const double size = 0.22 * scale_;
+        const double size = (pen.widthF() > 2 ? 0.5 : 0.22) * scale_;
         QPolygonF head;
         head << to << to - QPointF(size * std::cos(angle - 0.4), size * std::sin(angle - 0.4))
              << to - QPointF(size * std::cos(angle + 0.4), size * std::sin(angle + 0.4));

@@ -101,10 +101,8 @@ ProjectView::ProjectView(QWidget* parent) : QWidget(parent) {
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(12);
     const auto button = [&](const char* name, const std::string& caption) {
-        auto* made = new QPushButton(Q(caption), content);
+        QPushButton* made = PageButton(content, Q(caption), 48);
         made->setObjectName(QString::fromLatin1(name));
-        made->setIconSize({24, 24});
-        made->setMinimumHeight(46);
         buttons->addWidget(made, 1);
         return made;
     };

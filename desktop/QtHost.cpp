@@ -83,9 +83,9 @@ bool QtHost::AskYesNo(const std::string& title, const std::string& text) {
     box.setText(Q(text));
     box.setLayoutDirection(LanguageTexts().RightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     box.setIcon(QMessageBox::Question);
-    QAbstractButton* yes = box.addButton(Q(Text(903001_text)), QMessageBox::YesRole);
+    QAbstractButton* yes = box.addButton(Q(Text(903001_text, Style{1})), QMessageBox::YesRole);
     yes->setObjectName(QStringLiteral("cmdYes"));
-    box.addButton(Q(Text(903002_text)), QMessageBox::NoRole)->setObjectName(QStringLiteral("cmdNo"));
+    box.addButton(Q(Text(903002_text, Style{1})), QMessageBox::NoRole)->setObjectName(QStringLiteral("cmdNo"));
     box.setDefaultButton(qobject_cast<QPushButton*>(yes));
     box.exec();
     return box.clickedButton() == yes;

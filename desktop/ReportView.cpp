@@ -17,10 +17,12 @@ ReportView::ReportView(QWidget* parent) : QPlainTextEdit(parent) {
 void ReportView::ShowReport(const std::string& text, const std::string& fontName, bool rightToLeft) {
     if (text == shown_ && !document()->isEmpty()) return;
     shown_ = text;
-    QFont font(QString::fromStdString(fontName));
-    font.setStyleHint(QFont::Monospace);
-    font.setPointSizeF(10);
-    setFont(font);
+    if (!fontName.empty()) {
+        QFont font(QString::fromStdString(fontName));
+        font.setStyleHint(QFont::Monospace);
+        font.setPointSizeF(10);
+        setFont(font);
+    }
     std::string shown;
     for (const std::string& line : ReportLinesOf(text)) shown += (rightToLeft ? DisplayRightToLeft(line) : line) + "\n";
     QTextOption option(rightToLeft ? Qt::AlignRight | Qt::AlignAbsolute : Qt::AlignLeft);

@@ -27,21 +27,26 @@ void SplashView::paintEvent(QPaintEvent*) {
         const Control* control = form_.Find(name);
         return control ? QString::fromStdString(control->Caption) : QString();
     };
-    const auto line = [&](int y, double size, bool bold, const QColor& color, const QString& words) {
+    // One under another; a long line takes as many lines as it needs.
+    int y = 46;
+    const auto line = [&](double size, bool bold, const QColor& color, int gap, const QString& words) {
         QFont font = painter.font();
         font.setPointSizeF(size);
         font.setBold(bold);
         painter.setFont(font);
         painter.setPen(color);
-        painter.drawText(QRect(190, y, width() - 210, 64), Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, words);
+        const QRect place(190, y + gap, width() - 210, height());
+        QRect used;
+        painter.drawText(place, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, words, &used);
+        y = used.bottom() + 1;
     };
     const QColor soft(0xB9, 0xCC, 0xDD);
-    line(56, 24, true, Qt::white, text("Label1"));
-    line(104, 10, false, soft, text("lblPlatform"));
-    line(164, 10, false, Qt::white, text("lblVersion"));
-    line(200, 8.5, false, soft, text("Label3"));
-    line(220, 8.5, false, soft, text("Label4"));
-    line(240, 8.5, false, soft, text("Label5"));
+    line(24, true, Qt::white, 0, text("Label1"));
+    line(10, false, soft, 4, text("lblPlatform"));
+    line(10, false, Qt::white, 20, text("lblVersion"));
+    line(8.5, false, soft, 14, text("Label3"));
+    line(8.5, false, soft, 6, text("Label4"));
+    line(8.5, false, soft, 6, text("Label5"));
 }
 
 void SplashView::Dismiss() {

@@ -57,11 +57,10 @@ StartView::StartView(MDITools& frame, QWidget* parent) : QWidget(parent) {
     commands->setSpacing(12);
     for (const char* key : {"mnuNewProject", "mnuOpenProject"}) {
         const MenuItem& item = frame.Menu[key];
-        auto* button = new QPushButton(IconOf(key), PlainCaption(item.Caption), content);
+        QPushButton* button = PageButton(content, PlainCaption(item.Caption), 56);
+        button->setIcon(IconOf(key));
         button->setObjectName(QStringLiteral("start_") + QString::fromLatin1(key));
         button->setToolTip(Q(item.Shortcut));
-        button->setIconSize({28, 28});
-        button->setMinimumHeight(56);
         connect(button, &QPushButton::clicked, this, [this, key = std::string(key)] {
             if (OnCommand) OnCommand(key);
         });

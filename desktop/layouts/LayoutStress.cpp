@@ -25,6 +25,7 @@ void LayoutStress(FormView& view) {
     fields->addStretch(1);
 
     auto* columns = new QHBoxLayout;
+    columns->setSpacing(14);
     columns->addLayout(fields, 3);
     columns->addWidget(view.WidgetOf("PctInvertedT"), 2);
 

@@ -10,6 +10,13 @@
 
 namespace lithmark {
 
+namespace {
+
+// One width for all boxes and one for all units, so that they stand under each other from group to group.
+constexpr int kBoxWidth = 120, kUnitWidth = 64;
+
+}  // namespace
+
 void AddFieldLines(FormView& view, QGridLayout& grid, std::initializer_list<FieldLine> lines) {
     int row = grid.rowCount();
     for (const FieldLine& line : lines) {
@@ -32,13 +39,16 @@ void AddFieldLines(FormView& view, QGridLayout& grid, std::initializer_list<Fiel
         }
         if (auto* edit = qobject_cast<QLineEdit*>(box)) {
             edit->setAlignment(Qt::AlignRight | Qt::AlignAbsolute);
-            edit->setMinimumWidth(110);
+            edit->setFixedWidth(kBoxWidth);
             // Numbers run from left to right in every language.
             edit->setLayoutDirection(Qt::LeftToRight);
         }
         grid.addWidget(box, row, 2);
         if (line.Unit)
-            if (QWidget* unit = view.WidgetOf(line.Unit)) grid.addWidget(unit, row, 3);
+            if (QWidget* unit = view.WidgetOf(line.Unit)) {
+                unit->setMinimumWidth(kUnitWidth);
+                grid.addWidget(unit, row, 3);
+            }
         ++row;
     }
     grid.setColumnStretch(0, 1);
