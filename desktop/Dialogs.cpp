@@ -14,6 +14,7 @@
 #include <QTableWidget>
 #include <QTextBrowser>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/ReportView.h"
 #include "services/LanguageTexts.h"
@@ -57,7 +58,7 @@ void ShowTextWindow(QWidget* parent, const QString& title, const QString& text) 
     // The lines are as their author broke them; only a very long one is broken again.
     const bool wide = label->sizeHint().width() > 700;
     label->setWordWrap(wide);
-    label->setMinimumWidth(wide ? 560 : 320);
+    label->setMinimumWidth(wide ? 560 : std::max(320, label->sizeHint().width()));
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     dialog.Content->addWidget(label);
     dialog.exec();

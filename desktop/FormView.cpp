@@ -170,8 +170,9 @@ QWidget* FormView::Make(Control& control) {
         case ControlKind::DatePicker: {
             auto* picker = new QDateEdit(this);
             picker->setCalendarPopup(true);
-            picker->setDisplayFormat(QStringLiteral("yyyy-MM-dd"));
+            // Before the format, which a mirrored picker turns round.
             picker->setLayoutDirection(Qt::LeftToRight);
+            picker->setDisplayFormat(QStringLiteral("yyyy-MM-dd"));
             connect(picker, &QDateEdit::dateChanged, this, [this, &control](QDate date) {
                 if (refreshing_) return;
                 control.Text = TextTools().LongDate(kEpochDay + static_cast<int>(QDate(1970, 1, 1).daysTo(date)));
@@ -261,6 +262,7 @@ void FormView::Show(Control& control, QWidget& widget) {
             if (items != shown) {
                 box.clear();
                 box.addItems(items);
+                box.setMinimumWidth(box.sizeHint().width());
             }
             box.setCurrentIndex(control.ListIndex);
             break;

@@ -1,7 +1,7 @@
 #include "desktop/PageTools.h"
 
+#include <QBoxLayout>
 #include <QLabel>
-#include <QPushButton>
 
 #include "services/LanguageTexts.h"
 
@@ -20,13 +20,46 @@ QLabel* PageLabel(QWidget* parent, const QString& text, double size, bool bold) 
     return label;
 }
 
-QPushButton* PageButton(QWidget* parent, const QString& text, int height) {
-    auto* button = new QPushButton(text, parent);
-    // The style tears icon and words apart in a mirrored button.
-    button->setLayoutDirection(Qt::LeftToRight);
-    button->setIconSize({height / 2, height / 2});
-    button->setMinimumHeight(height);
-    return button;
+PageButton::PageButton(QWidget* parent, int height, bool centred)
+    : QPushButton(parent),
+      picture_(new QLabel(this)),
+      caption_(PageLabel(this, {}, 1, false)),
+      detail_(PageLabel(this, {}, 0.9, false)),
+      size_(height / 2) {
+    setMinimumHeight(height);
+    setFlat(!centred);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(12, 4, 12, 4);
+    row->setSpacing(10);
+    if (centred) row->addStretch(1);
+    row->addWidget(picture_);
+    auto* words = new QVBoxLayout;
+    words->setSpacing(0);
+    words->addWidget(caption_);
+    words->addWidget(detail_);
+    row->addLayout(words);
+    row->addStretch(1);
+    if (!centred) {
+        QFont font = caption_->font();
+        font.setBold(true);
+        caption_->setFont(font);
+    }
+    MakeQuiet(*detail_);
+    detail_->hide();
+    for (QLabel* label : {picture_, caption_, detail_}) label->setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void PageButton::Show(const QIcon& icon, const QString& caption, const QString& detail) {
+    picture_->setPixmap(icon.pixmap(size_));
+    caption_->setText(caption);
+    detail_->setText(detail);
+    detail_->setVisible(!detail.isEmpty());
+    setAccessibleName(caption);
+    setAccessibleDescription(detail);
+}
+
+QSize PageButton::sizeHint() const {
+    return layout()->sizeHint().expandedTo(minimumSize());
 }
 
 void MakeQuiet(QLabel& label) {

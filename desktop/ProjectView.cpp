@@ -3,7 +3,6 @@
 #include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -100,15 +99,16 @@ ProjectView::ProjectView(QWidget* parent) : QWidget(parent) {
 
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(12);
-    const auto button = [&](const char* name, const std::string& caption) {
-        QPushButton* made = PageButton(content, Q(caption), 48);
+    const auto button = [&](const char* name) {
+        auto* made = new PageButton(content, 48, true);
         made->setObjectName(QString::fromLatin1(name));
         buttons->addWidget(made, 1);
         return made;
     };
-    calculate_ = button("projectCalculate", Text(903020_text));
-    data_ = button("projectData", Text(400009_text));
-    data_->setIcon(IconOf(ProblemKey(0)));
+    calculate_ = button("projectCalculate");
+    calculateCaption_ = Q(Text(903020_text));
+    data_ = button("projectData");
+    data_->Show(IconOf(ProblemKey(0)), Q(Text(400009_text)));
     connect(calculate_, &QPushButton::clicked, this, [this] {
         if (OnCommand) OnCommand(ProblemKey(entry_));
     });
@@ -142,7 +142,7 @@ void ProjectView::Show(const ProjectSummary& summary) {
         style()->standardIcon(missing ? QStyle::SP_MessageBoxWarning : QStyle::SP_DialogApplyButton).pixmap(20));
     const QIcon icon = IconOf(ProblemKey(entry_));
     problemIcon_->setPixmap(icon.pixmap(40));
-    calculate_->setIcon(icon);
+    calculate_->Show(icon, calculateCaption_);
     calculate_->setEnabled(MDITools::DialogExists(entry_));
 }
 

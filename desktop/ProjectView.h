@@ -8,9 +8,10 @@
 #include "ui/MDITools.h"
 
 class QLabel;
-class QPushButton;
 
 namespace lithmark {
+
+class PageButton;
 
 class ProjectView : public QWidget {
   public:
@@ -21,7 +22,8 @@ class ProjectView : public QWidget {
 
   private:
     QLabel *name_, *directory_, *problem_, *order_, *date_, *project_, *state_, *stateIcon_, *problemIcon_;
-    QPushButton *calculate_, *data_;
+    PageButton *calculate_, *data_;
+    QString calculateCaption_;
     int entry_ = -1;
 };
 

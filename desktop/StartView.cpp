@@ -1,11 +1,7 @@
 #include "desktop/StartView.h"
 
-#include <QCommandLinkButton>
 #include <QFileInfo>
 #include <QLabel>
-#include <QPainter>
-#include <QPushButton>
-#include <QScreen>
 #include <QVBoxLayout>
 
 #include "desktop/Icons.h"
@@ -57,8 +53,8 @@ StartView::StartView(MDITools& frame, QWidget* parent) : QWidget(parent) {
     commands->setSpacing(12);
     for (const char* key : {"mnuNewProject", "mnuOpenProject"}) {
         const MenuItem& item = frame.Menu[key];
-        QPushButton* button = PageButton(content, PlainCaption(item.Caption), 56);
-        button->setIcon(IconOf(key));
+        auto* button = new PageButton(content, 56, true);
+        button->Show(IconOf(key), PlainCaption(item.Caption));
         button->setObjectName(QStringLiteral("start_") + QString::fromLatin1(key));
         button->setToolTip(Q(item.Shortcut));
         connect(button, &QPushButton::clicked, this, [this, key = std::string(key)] {
@@ -72,9 +68,8 @@ StartView::StartView(MDITools& frame, QWidget* parent) : QWidget(parent) {
     recentHead_ = PageLabel(content, Q(Text(903016_text)), 1.15, true);
     column->addWidget(recentHead_);
     for (int row = 0; row < kRecentRows; ++row) {
-        auto* button = new QCommandLinkButton(content);
+        auto* button = new PageButton(content, 46, false);
         button->setObjectName(QStringLiteral("recent(%1)").arg(row + 1));
-        button->setIcon(IconOf("mnuOpenProject"));
         connect(button, &QPushButton::clicked, this, [this, row] {
             if (OnCommand) OnCommand("MnuRecentFile(" + std::to_string(row + 1) + ")");
         });
@@ -94,14 +89,13 @@ StartView::StartView(MDITools& frame, QWidget* parent) : QWidget(parent) {
 
 void StartView::Show(const StartPage& page) {
     recentHead_->setVisible(!page.RecentProjects.empty());
-    for (QCommandLinkButton* button : recent_) button->hide();
+    for (PageButton* button : recent_) button->hide();
     for (const StartPage::RecentProject& project : page.RecentProjects) {
         if (project.Index < 1 || project.Index > kRecentRows) continue;
-        QCommandLinkButton* button = recent_[static_cast<std::size_t>(project.Index) - 1];
+        PageButton* button = recent_[static_cast<std::size_t>(project.Index) - 1];
         const QFileInfo file(Q(project.Path));
-        button->setText(file.completeBaseName().replace(QLatin1Char('&'), QLatin1String("&&")));
         // A path reads from left to right in every language.
-        button->setDescription(QChar(0x2066) + file.path() + QChar(0x2069));
+        button->Show(IconOf("mnuOpenProject"), file.completeBaseName(), QChar(0x2066) + file.path() + QChar(0x2069));
         button->setToolTip(Q(project.Path));
         button->show();
     }

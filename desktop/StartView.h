@@ -8,10 +8,11 @@
 
 #include "ui/MDITools.h"
 
-class QCommandLinkButton;
 class QLabel;
 
 namespace lithmark {
+
+class PageButton;
 
 class StartView : public QWidget {
   public:
@@ -23,7 +24,7 @@ class StartView : public QWidget {
 
   private:
     QLabel* recentHead_;
-    std::vector<QCommandLinkButton*> recent_;
+    std::vector<PageButton*> recent_;
 };
 
 }  // namespace lithmark

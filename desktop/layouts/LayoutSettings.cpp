@@ -36,7 +36,6 @@ void LayoutUnits(FormView& view) {
         auto* caption = qobject_cast<QLabel*>(view.WidgetOf(label));
         auto* box = qobject_cast<QComboBox*>(view.WidgetOf(list));
         caption->setBuddy(box);
-        box->setMinimumWidth(120);
         grid->addWidget(caption, row, 0);
         grid->addWidget(box, row, 1);
         ++row;
