@@ -208,7 +208,7 @@ void FormView::Refresh() {
     }
     const QScopedValueRollback<bool> guard(refreshing_, true);
     const auto* problem = dynamic_cast<const ProblemForm*>(&form_);
-    setWindowTitle(Q(form_.Caption) + (problem ? QStringLiteral(" [*]") : QString()));
+    setWindowTitle(Q(form_.Caption) + (problem ? QStringLiteral("[*]") : QString()));
     setWindowModified(problem && problem->Modified());
     for (Control* control : form_.Controls()) Show(*control, *WidgetOf(*control));
     if (AfterRefresh) AfterRefresh();
