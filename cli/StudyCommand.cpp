@@ -248,7 +248,8 @@ ExitStatus StudyCommand(const CommonOptions& options, const StudyOptions& study,
     RunOnAllCores(
         count, [&](int i) { Calculate(options, variations, runs[static_cast<std::size_t>(i)]); },
         [&](int done) {
-            cancelled = !CurrentHost().Progress(static_cast<double>(done) / count);
+            // The host says so once; what other cores finish afterwards does not take it back.
+            if (!CurrentHost().Progress(static_cast<double>(done) / count)) cancelled = true;
             return !cancelled;
         });
     if (cancelled) throw CommandFailure(ExitStatus::Aborted, Text(902011_text, {{"|1", options.Project}}));

@@ -34,7 +34,7 @@ class CliTest : public testing::Test {
         // Root may write everywhere, unless this one ability is taken from it.
         const bool dropped = asOrdinaryUser && geteuid() == 0;
         std::string line = dropped ? "setpriv --bounding-set=-dac_override --inh-caps=-dac_override env " : "";
-        line += "XDG_CONFIG_HOME=" + Quoted(settings_.Dir()) + " " + Quoted(LITHMARK_CLI);
+        line += runner + "XDG_CONFIG_HOME=" + Quoted(settings_.Dir()) + " " + Quoted(LITHMARK_CLI);
         for (const std::string& word : words) line += " " + Quoted(word);
         const std::string outFile = out.empty() ? output_ / "out" : out, errFile = output_ / "err";
         line += " >" + Quoted(outFile) + " 2>" + Quoted(errFile) + " </dev/null";
@@ -66,6 +66,7 @@ class CliTest : public testing::Test {
 
     TestFolder work;
     bool asOrdinaryUser = false;
+    std::string runner;  // a command that runs the program, with a blank at its end
 
   private:
     static std::string Quoted(const std::string& word) {

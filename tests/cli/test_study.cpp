@@ -142,6 +142,36 @@ TEST_F(CliStudy, SetsAndLanguageReachEveryRow) {
     EXPECT_NE(message("de"), message("en"));
 }
 
+TEST_F(CliStudy, CtrlCEndsAStudyWithoutAnOutput) {
+    const std::string project = Example("SquareRaft");
+    const auto names = work.Names();
+    runner = "timeout --preserve-status -s INT 2 env ";
+    const CliResult result =
+        Run({"study", project, "--vary", "Q=1:100000:1", "--take", "h", "--output", work / "study.csv"});
+    ExpectFailure(result, 3, {"SquareRaft"});
+    EXPECT_EQ(work.Names(), names);
+}
+
+TEST_F(CliStudy, ATerminalShowsTheProgress) {
+    const std::string project = Example("PointLoad");
+    const std::string line = std::string(LITHMARK_CLI) + " study " + project + " --vary z=1:5:1 --take s --output " +
+                             (work / "s.csv") + " --settings " + work.Dir();
+    const std::string shown = work / "shown";
+    ASSERT_EQ(std::system(("script -qec '" + line + "' /dev/null >" + shown + " </dev/null").c_str()), 0);
+    EXPECT_THAT(ReadBytes(shown), HasSubstr("] 80 %"));
+    EXPECT_THAT(ReadBytes(shown), testing::EndsWith("\r\x1B[K")) << "the bar is gone at the end";
+    EXPECT_EQ(LinesOf(ReadBytes(work / "s.csv")).size(), 6u);
+}
+
+TEST_F(CliStudy, AVaryThatIsNoWholeNumberFailsRowByRow) {
+    const Json study = Study(Example("PointLoad"), {"--vary", "LoadType=1:2:0.5", "--take", "s"});
+    ASSERT_EQ(study["rows"].size(), 3u);
+    EXPECT_EQ(study["rows"][0]["aborted"], false);
+    EXPECT_EQ(study["rows"][1]["aborted"], true);
+    EXPECT_THAT(study["rows"][1]["message"].get<std::string>(), HasSubstr("LoadType=1.5"));
+    EXPECT_EQ(study["rows"][2]["aborted"], false);
+}
+
 TEST_F(CliStudy, NoProgressIsShownWhereNoTerminalIs) {
     const CliResult result = Run({"study", Example("PointLoad"), "--vary", "z=1:5:1", "--take", "s"});
     EXPECT_EQ(result.Err, "");
