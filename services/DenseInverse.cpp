@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <atomic>
 #include <cmath>
+#include <cstddef>
 #include <cstring>
 #include <system_error>
 #include <thread>
@@ -56,20 +57,20 @@ template <int Bytes, int Height, int Columns>
     for (int k = 0; k < p.Depth; ++k, right += kStrip) {
         Vector b[vectors];
 #pragma GCC unroll 16
-        for (int v = 0; v < vectors; ++v) b[v] = *reinterpret_cast<const Vector*>(right + v * lanes);
+        for (std::ptrdiff_t v = 0; v < vectors; ++v) b[v] = *reinterpret_cast<const Vector*>(right + v * lanes);
 #pragma GCC unroll 16
         for (int i = 0; i < Height; ++i) {
             const Real a = left[static_cast<std::size_t>(i) * p.Depth + k];
 #pragma GCC unroll 16
-            for (int v = 0; v < vectors; ++v) sum[i][v] += a * b[v];
+            for (std::ptrdiff_t v = 0; v < vectors; ++v) sum[i][v] += a * b[v];
         }
     }
-    Real* target = p.Target + row * p.TargetStride + col;
+    Real* target = p.Target + static_cast<std::ptrdiff_t>(row) * p.TargetStride + col;
     if (row + Height <= p.Rows && col + Columns <= p.Cols) {
 #pragma GCC unroll 16
-        for (int i = 0; i < Height; ++i)
+        for (std::ptrdiff_t i = 0; i < Height; ++i)
 #pragma GCC unroll 16
-            for (int v = 0; v < vectors; ++v)
+            for (std::ptrdiff_t v = 0; v < vectors; ++v)
                 *reinterpret_cast<Vector*>(target + i * p.TargetStride + v * lanes) += sum[i][v];
     } else {
         Real part[Height][Columns];

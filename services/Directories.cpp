@@ -94,7 +94,7 @@ std::string SharedServicesService::ResourceDir() const {
 
 std::string SharedServicesService::ProgramDir() const {
     if (!settingsDir_.empty()) return settingsDir_;
-    const std::string program = ResourceDir();
+    std::string program = ResourceDir();
     if (IsWritable(program)) return program;
     const std::string user = UserSettingsDir();
     std::error_code error;  // a directory that cannot be made shows in the first write
@@ -115,7 +115,7 @@ void SharedServicesService::TellDamage(const std::string& file, const Failure& f
 
 Directories SharedServicesService::GetDirectories() {
     const std::string program = ProgramDir();
-    const Directories defaults{program, program, 2};
+    Directories defaults{program, program, 2};
     const std::string file = program + "STEU";
     if (FileMissing(file, true)) return defaults;
     try {
@@ -191,7 +191,7 @@ void SharedServicesService::StoreLanguage(Language language) {
 std::optional<SettingValue> SharedServicesService::StoredValue(const std::string& app, const std::string& section,
                                                                const std::string& key) {
     std::string damaged;
-    const auto value = ReadSetting(SettingsFile(), app, section, key, damaged);
+    auto value = ReadSetting(SettingsFile(), app, section, key, damaged);
     TellStoreSetAside(damaged);
     return value;
 }

@@ -82,7 +82,7 @@ std::string ListToolsService::GetRecentFile(const std::string& title, int index,
     if (index < 1 || index >= static_cast<int>(table.size())) return {};
     const RecentFile& row = table[static_cast<std::size_t>(index)];
     if (!row.Visible) return {};
-    const std::string path = row.Caption;
+    std::string path = row.Caption;
     if (!SharedServices().FileMissing(path, false)) return path;
     SharedServices().ShowMessageBox(Text(160030_text), Text(901007_text, {{"|1", path}}), MessageIcon::Information);
     std::vector<std::string> files = FilesOf(table);

@@ -43,7 +43,7 @@ Source MemorySource(std::string_view bytes) {
 
 // The extension of an entry that may come out.
 std::string CheckedExtension(const std::string& name) {
-    const std::string extension = UpperAscii(ExtensionOf(name));
+    std::string extension = UpperAscii(ExtensionOf(name));
     const auto known = ProjectExtensions();
     const bool leavesFolder = name.find_first_of(std::string_view("/\\\0", 3)) != std::string::npos;
     if (leavesFolder || std::find(known.begin(), known.end(), extension) == known.end()) FailDamaged(name);
@@ -83,7 +83,8 @@ std::string BuildArchive(const std::string& name, const ProjectFiles& files) {
     for (const auto& [extension, bytes] : files) {
         zip_source_t* content = zip_source_buffer(archive.get(), bytes.data(), bytes.size(), 0);
         if (content == nullptr) Fail(FailureKind::OutOfMemory);
-        if (zip_file_add(archive.get(), (stem + "." + extension).c_str(), content, ZIP_FL_ENC_UTF_8) < 0) {
+        const std::string entry = std::string(stem).append(".").append(extension);
+        if (zip_file_add(archive.get(), entry.c_str(), content, ZIP_FL_ENC_UTF_8) < 0) {
             zip_source_free(content);
             Fail(FailureKind::WriteError, zip_strerror(archive.get()));
         }

@@ -88,7 +88,7 @@ class RectangularRaft {
             h_ = input_.h;
             return AnalyticalClay(input_, depthStep_);
         }
-        const ClayLayer clay = NumericalClay(input_, depthStep_);
+        ClayLayer clay = NumericalClay(input_, depthStep_);
         const Grid grid(mesh_);
         if (clay.Thick)
             SolveThickClay(grid, input_, clay);

@@ -96,7 +96,7 @@ std::vector<MeshLib::ElementRecord> ElementRecords(const RaftResult& result) {
         record.Count = element.Count;
         record.Node[1] = element.Nodes[1];
         record.Node[2] = element.Nodes[0];
-        for (int k = 2; k < element.Count; ++k) record.Node[static_cast<std::size_t>(k + 1)] = element.Nodes[k];
+        for (int k = 2; k < element.Count; ++k) record.Node[static_cast<std::size_t>(k) + 1] = element.Nodes[k];
         records.push_back(record);
     }
     return records;
