@@ -13,6 +13,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScopedValueRollback>
+#include <QScreen>
+#include <QSet>
 #include <QTabBar>
 
 #include "desktop/PictureView.h"
@@ -54,6 +56,27 @@ FormView::FormView(Form& form, QWidget* parent) : QDialog(parent), form_(form) {
     BuildLayout(*this);
     for (Control* control : form.Controls()) WidgetOf(*control);
     Refresh();
+    NameFields();
+    // All words in full, as far as the screen goes; a layout may have chosen a size of its own.
+    if (!testAttribute(Qt::WA_Resized)) {
+        const QRect room = screen()->availableGeometry();
+        resize(sizeHint().boundedTo(room.size()));
+    }
+}
+
+void FormView::NameFields() {
+    QSet<QWidget*> labelled;
+    for (const QLabel* label : findChildren<QLabel*>())
+        if (label->buddy() != nullptr) labelled.insert(label->buddy());
+    QString before;
+    for (Control* control : form_.Controls()) {
+        const bool heading = control->Kind == ControlKind::TextLabel || control->Kind == ControlKind::Frame;
+        if (heading && !control->Caption.empty() && !control->Caption.starts_with('[')) before = Q(control->Caption);
+        const bool field = control->Kind == ControlKind::TextBox || control->Kind == ControlKind::ComboBox ||
+                           control->Kind == ControlKind::DatePicker || control->Kind == ControlKind::TextArea;
+        QWidget* widget = WidgetOf(*control);
+        if (field && !labelled.contains(widget)) widget->setAccessibleName(before);
+    }
 }
 
 FormView::~FormView() {

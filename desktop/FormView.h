@@ -47,6 +47,8 @@ class FormView : public QDialog {
   private:
     QWidget* Make(Control& control);
     void Show(Control& control, QWidget& widget);
+    // Gives every field without a label of its own the name of what stands before it, for screen readers.
+    void NameFields();
     // The window grows and shrinks with its pictures.
     void FitPictures();
     // Runs an event of the model, then refreshes.

@@ -179,10 +179,14 @@ std::optional<std::string> QtHost::ChooseFileToOpen(const std::string& title, co
 std::optional<std::string> QtHost::ChooseFileToSave(const std::string& title, const std::string& startDir,
                                                     const std::string& name, const std::string& extension) {
     const PlainPointer plain;
-    const QString file = QFileDialog::getSaveFileName(Parent(), Q(title), QDir(Q(startDir)).filePath(Q(name)),
-                                                      QStringLiteral("*.") + Q(extension));
-    if (file.isEmpty()) return std::nullopt;
-    return file.toStdString();
+    QFileDialog dialog(Parent(), Q(title), Q(startDir), QStringLiteral("*.") + Q(extension));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    // A name without its ending is the file with it: the question before an old file is replaced must name that one.
+    dialog.setDefaultSuffix(Q(extension));
+    if (!name.empty()) dialog.selectFile(Q(name));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+    return dialog.selectedFiles().front().toStdString();
 }
 
 std::optional<std::string> QtHost::BrowseFolder(const std::string& start) {

@@ -23,13 +23,11 @@ class PlainLayout {
         auto* buttons = new QHBoxLayout;
         buttons->addStretch(1);
         for (Control* control : view_.Model().Controls()) {
+            if (control->Kind == ControlKind::Button) continue;
             QWidget* widget = view_.WidgetOf(*control);
             switch (control->Kind) {
                 case ControlKind::Frame:
                     StartGroup(static_cast<QGroupBox*>(widget));
-                    break;
-                case ControlKind::Button:
-                    buttons->addWidget(widget);
                     break;
                 case ControlKind::Picture:
                     side->addWidget(widget);
@@ -46,6 +44,9 @@ class PlainLayout {
                     AddLine(widget);
             }
         }
+        // After the fields, as the Tab key goes.
+        for (Control* control : view_.Model().Controls())
+            if (control->Kind == ControlKind::Button) buttons->addWidget(view_.WidgetOf(*control));
         column_->addStretch(1);
         auto* columns = new QHBoxLayout;
         columns->addLayout(column_, 3);

@@ -1,6 +1,7 @@
 // What holds for the windows of all forms, and how keys and clicks reach the model.
 #include <gmock/gmock.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -104,16 +105,15 @@ TEST_F(FormViewTest, WidgetsShowWhatTheModelSays) {
     EXPECT_THAT(failing, IsEmpty());
 }
 
-// A visible box without a name is a riddle to a screen reader. A path or a report is named by its frame.
-TEST_F(FormViewTest, EveryFieldIsTheBuddyOfItsLabel) {
+// A box without a name is a riddle to a screen reader.
+TEST_F(FormViewTest, EveryFieldHasANameForAScreenReader) {
     std::vector<std::string> failing;
     ForAllForms([&](Form& form, FormView& view, const std::string& name) {
-        QList<QWidget*> named;
-        for (const QLabel* label : view.findChildren<QLabel*>())
-            if (label->buddy() != nullptr) named.append(label->buddy());
         for (const Control* control : form.Controls()) {
-            if (control->Kind != ControlKind::TextBox || control->Name == "txtDataDir") continue;
-            if (!named.contains(view.findChild<QWidget*>(QString::fromStdString(control->Name))))
+            if (control->Kind != ControlKind::TextBox && control->Kind != ControlKind::ComboBox) continue;
+            auto* widget = view.findChild<QWidget*>(QString::fromStdString(control->Name));
+            QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(widget);
+            if (interface == nullptr || interface->text(QAccessible::Name).isEmpty())
                 failing.push_back(name + ": " + control->Name);
         }
     });
@@ -136,6 +136,45 @@ TEST_F(FormViewTest, TabFollowsTheWayOfTheEnterKey) {
             for (const EnterStep& step : row.Steps)
                 EXPECT_GT(placeOf(*step.To), placeOf(*row.From)) << name << ": " << row.From->Name;
     });
+}
+
+// A form without a layout of its own: fields with their labels and units in a line, buttons after them.
+class UnplacedForm : public Form {
+  public:
+    UnplacedForm() : Form("unplaced") {
+        ok.Caption = "OK";
+        frame.Caption = "Load:";
+        name.Caption = "Width";
+        symbol.Caption = "b";
+        unit.Caption = "[m]";
+        second.Caption = "Depth";
+        check.Caption = "Deep";
+    }
+    Button ok{*this, "ok"};
+    FrameBox frame{*this, "frame"};
+    TextLabel name{*this, "name"}, symbol{*this, "symbol"};
+    TextBox box{*this, "box"};
+    TextLabel unit{*this, "unit"}, second{*this, "second"};
+    TextBox depth{*this, "depth"};
+    CheckBox check{*this, "check"};
+};
+
+TEST_F(FormViewTest, AFormWithoutALayoutOfItsOwnIsReadableToo) {
+    UnplacedForm form;
+    FormView view(form, nullptr);
+    view.show();
+    QCoreApplication::processEvents();
+    const auto at = [&](const char* name) {
+        auto* widget = view.findChild<QWidget*>(QString::fromLatin1(name));
+        return QRect(widget->mapTo(&view, QPoint()), widget->size());
+    };
+    EXPECT_LT(at("name").right(), at("symbol").left());
+    EXPECT_LT(at("symbol").right(), at("box").left());
+    EXPECT_LT(at("box").right(), at("unit").left());
+    EXPECT_EQ(at("name").center().y(), at("box").center().y());
+    EXPECT_GT(at("second").top(), at("box").bottom());
+    EXPECT_EQ(at("depth").left(), at("box").left());
+    EXPECT_GT(at("ok").top(), at("check").bottom());
 }
 
 // --- one form, by hand ---

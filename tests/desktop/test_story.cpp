@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 
@@ -113,6 +114,32 @@ TEST_F(StoryTest, FromANewProjectToItsReportAndBack) {
         QTest::keyClick(&viewer, Qt::Key_Escape);
     });
     run.Menu("mnuProblem(1)");
+}
+
+TEST_F(StoryTest, ANameWithoutItsEndingIsAskedAboutBeforeTheOldFileIsReplaced) {
+    WriteBytes(Data("Crane.PO3"), "Version 9\r\n1\r\n0\r\n");
+    ScreenRun run(Settings());
+    run.Start();
+    run.In("QFileDialog", [&](QWidget& dialog) { ChooseInFileDialog(dialog, Data("Crane")); });
+    // Qt's own question, which has no name.
+    run.In("", [](QWidget& box) {
+        auto* question = qobject_cast<QMessageBox*>(&box);
+        ASSERT_NE(question, nullptr);
+        EXPECT_THAT(question->text().toStdString(), HasSubstr("Crane.PO3"));
+        question->button(QMessageBox::No)->click();
+    });
+    run.In("QFileDialog", [](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    EXPECT_EQ(CurrentHost().ChooseFileToSave("Save", Data(""), "", "PO3"), std::nullopt);
+}
+
+TEST_F(StoryTest, TheWindowIsThereWithinASecond) {
+    QElapsedTimer clock;
+    clock.start();
+    ScreenRun run(Settings());
+    run.Start();
+    EXPECT_TRUE(run.Window().isVisible());
+    EXPECT_LT(clock.elapsed(), 1000);
+    RecordProperty("milliseconds", std::to_string(clock.elapsed()));
 }
 
 TEST_F(StoryTest, TheStartPageOpensARecentProject) {
