@@ -35,7 +35,8 @@ std::string ReportRtf(const std::string& report) {
     std::string rtf = "{\\rtf1\\ansi\\ansicpg1252\\uc1\\deff0{\\fonttbl{\\f0\\fmodern\\fprq1\\fcharset0 ";
     AppendRtf(rtf, Text(160017_text));
     rtf += ";}}\r\n\\paperw11906\\paperh16838\\margl1134\\margr1134\\margt1134\\margb1134\r\n";
-    const std::string paragraph = rightToLeft ? "\\pard\\rtlpar\\ql\\sl-226\\slmult0\\f0\\fs18\\rtlch\\af0\\afs18 "
+    // \ql and \qr are the page's left and right, whatever the paragraph's direction.
+    const std::string paragraph = rightToLeft ? "\\pard\\rtlpar\\qr\\sl-226\\slmult0\\f0\\fs18\\rtlch\\af0\\afs18 "
                                               : "\\pard\\ltrpar\\ql\\sl-226\\slmult0\\f0\\fs18\\ltrch ";
     const std::vector<std::string> lines = ReportLinesOf(report);
     const std::vector<std::size_t> starts = PageStarts(lines, kLinesPerPage);

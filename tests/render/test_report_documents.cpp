@@ -110,7 +110,7 @@ TEST_F(ReportDocuments, SignsOfTheFormatsThemselvesAreEscaped) {
 TEST_F(ReportDocuments, DirectionAndFontFollowTheLanguage) {
     FreshSession(Language::Arabic);
     EXPECT_THAT(ReportHtml("x\r\n"), HasSubstr("lang=\"ar\" dir=\"rtl\""));
-    EXPECT_THAT(ReportRtf("x\r\n"), HasSubstr("\\rtlpar"));
+    EXPECT_THAT(ReportRtf("x\r\n"), HasSubstr("\\rtlpar\\qr"));
     FreshSession(Language::German);
     EXPECT_THAT(ReportHtml("x\r\n"), HasSubstr("lang=\"de\" dir=\"ltr\""));
     EXPECT_THAT(ReportRtf("x\r\n"), HasSubstr("\\ltrpar"));
