@@ -1,0 +1,60 @@
+// Every output format, without a display.
+#include "cli/CliCase.h"
+
+namespace lithmark::tests {
+namespace {
+
+using testing::HasSubstr;
+
+class CliFormats : public CliTest {};
+
+TEST_F(CliFormats, EachFormatIsWhatItsNameSays) {
+    const std::string time = Example("OfficeBuilding"), raft = Example("SquareRaft");
+    struct Case {
+        std::vector<std::string> Words;
+        std::string Format, Begin;
+    };
+    const std::vector<Case> cases = {
+        {{"report", time}, "html", "<!DOCTYPE html>"},
+        {{"report", time}, "pdf", "%PDF-"},
+        {{"report", time}, "rtf", "{\\rtf1"},
+        {{"chart", time, "--curve", "Tab2"}, "svg", "<?xml"},
+        {{"chart", time, "--curve", "Tab2"}, "png", "\x89PNG"},
+        {{"chart", time, "--curve", "Tab2"}, "pdf", "%PDF-"},
+        {{"chart", time, "--curve", "Tab2"}, "xlsx", "PK"},
+        {{"contour", raft}, "svg", "<?xml"},
+        {{"contour", raft, "--result", "pressure"}, "png", "\x89PNG"},
+        {{"contour", raft, "--size", "300"}, "pdf", "%PDF-"},
+        {{"study", raft, "--vary", "Q=1000:2000:1000", "--take", "h"}, "xlsx", "PK"},
+    };
+    runner = "env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM ";
+    for (const Case& c : cases) {
+        const std::string output = work / (c.Words[0] + "." + c.Format);
+        SCOPED_TRACE(output);
+        std::vector<std::string> words = c.Words;
+        words.insert(words.end(), {"--output", output});
+        const CliResult result = Run(words);
+#ifdef LITHMARK_RENDER
+        EXPECT_EQ(result.Status, 0) << result.Err;
+        EXPECT_EQ(result.Out + result.Err, "");
+        EXPECT_TRUE(ReadBytes(output).starts_with(c.Begin));
+#else
+        ExpectFailure(result, 2, {c.Format});
+        EXPECT_FALSE(std::filesystem::exists(output));
+#endif
+    }
+}
+
+TEST_F(CliFormats, AProjectIsFoundFromItsOwnFolderAndUnderAnyLetterCase) {
+    const std::string project = Example("PointLoad");
+    const std::string report = Run({"report", project}).Out;
+    ASSERT_FALSE(report.empty());
+    runner = "cd '" + work.Dir() + "' && ";
+    EXPECT_EQ(Run({"report", "PointLoad.PO3"}).Out, report);
+    EXPECT_EQ(Run({"report", "./PointLoad.po3"}).Out, report);
+    EXPECT_EQ(Run({"new", "Here", "--problem", "4"}).Status, 0);
+    EXPECT_TRUE(std::filesystem::exists(work / "Here.CON"));
+}
+
+}  // namespace
+}  // namespace lithmark::tests
