@@ -2,7 +2,6 @@
 
 #include <qcustomplot.h>
 
-#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLabel>
 #include <QPushButton>
@@ -46,18 +45,23 @@ ChartWindow::ChartWindow(const ChartArguments& chart, QWidget* parent) : QDialog
     plot->setInteractions(QCP::iRangeDrag | QCP::iRangeZoom);
     column->addWidget(plot, 1);
 
-    auto* buttons = new QDialogButtonBox(this);
-    QPushButton* save = buttons->addButton(Q(Text(9_text, Style{3})), QDialogButtonBox::ActionRole);
-    save->setObjectName(QStringLiteral("cmdExport"));
-    connect(save, &QPushButton::clicked, this, [this] { Export(); });
-    QPushButton* whole = buttons->addButton(Q(Text(26_text)), QDialogButtonBox::ActionRole);
-    connect(whole, &QPushButton::clicked, this, [this, plot] {
+    auto* buttons = new QHBoxLayout;
+    const auto add = [&](const std::string& caption, const char* name, auto&& slot) {
+        auto* button = new QPushButton(Q(caption), this);
+        button->setObjectName(QString::fromLatin1(name));
+        button->setAutoDefault(false);
+        connect(button, &QPushButton::clicked, this, slot);
+        buttons->addWidget(button);
+        return button;
+    };
+    add(Text(9_text, Style{3}), "cmdExport", [this] { Export(); });
+    add(Text(26_text), "cmdOriginal", [this, plot] {
         FillPlot(*plot, chart_);
         plot->replot();
     });
-    buttons->addButton(Q(Text(6_text, Style{1})), QDialogButtonBox::AcceptRole);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    column->addWidget(buttons);
+    buttons->addStretch(1);
+    add(Text(6_text, Style{1}), "cmdok", [this] { accept(); })->setDefault(true);
+    column->addLayout(buttons);
     resize(860, 620);
 }
 

@@ -1,6 +1,5 @@
 #include "desktop/TableEditorDialog.h"
 
-#include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QPushButton>
 #include <QTableWidget>
@@ -38,27 +37,28 @@ TableEditorDialog::TableEditorDialog(TableEdit& table, QWidget* parent)
                 r, c, new QTableWidgetItem(Q(table.Rows[static_cast<std::size_t>(r)][static_cast<std::size_t>(c)])));
     grid_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
 
-    auto* buttons = new QDialogButtonBox(this);
-    const auto action = [&](TextId text, const char* name, auto&& slot) {
-        QPushButton* button = buttons->addButton(Q(Text(text)), QDialogButtonBox::ActionRole);
+    auto* buttons = new QHBoxLayout;
+    const auto add = [&](const std::string& caption, const char* name, auto&& slot) {
+        auto* button = new QPushButton(Q(caption), this);
         button->setObjectName(QString::fromLatin1(name));
         button->setAutoDefault(false);
         connect(button, &QPushButton::clicked, this, slot);
+        buttons->addWidget(button);
+        return button;
     };
-    action(903013_text, "cmdAddRow", [this] { AddRow(); });
-    action(903014_text, "cmdDeleteRow", [this] { DeleteRow(); });
-    action(8_text, "cmdHelp", [this] {
+    add(Text(903013_text), "cmdAddRow", [this] { AddRow(); });
+    add(Text(903014_text), "cmdDeleteRow", [this] { DeleteRow(); });
+    add(Text(8_text, Style{1}), "cmdHelp", [this] {
         SharedServices().SetHelpText(table_.Help);
         SharedServices().ShowHelpText(table_.Title);
     });
-    buttons->addButton(Q(Text(6_text, Style{1})), QDialogButtonBox::AcceptRole);
-    buttons->addButton(Q(Text(7_text, Style{1})), QDialogButtonBox::RejectRole);
-    connect(buttons, &QDialogButtonBox::accepted, this, &TableEditorDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    buttons->addStretch(1);
+    add(Text(6_text, Style{1}), "cmdok", [this] { accept(); })->setDefault(true);
+    add(Text(7_text, Style{1}), "CmdCancel", [this] { reject(); });
     auto* column = new QVBoxLayout(this);
     column->addWidget(grid_, 1);
-    column->addWidget(buttons);
-    resize(520, 460);
+    column->addLayout(buttons);
+    resize(560, 460);
 }
 
 bool TableEditorDialog::Run() {

@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
+#include <QTableWidget>
 #include <QToolBar>
 
 #include "ScreenRun.h"
@@ -118,6 +119,39 @@ TEST_F(FrameViewTest, TheStatusBarTellsWhatIsBeingDone) {
     EXPECT_EQ(Child<QLabel>(run.Window(), "notice").text(), "Reading ...");
     CurrentHost().ShowFileStatus(FileStatus::None);
     EXPECT_EQ(Child<QLabel>(run.Window(), "notice").text(), "");
+}
+
+TEST_F(FrameViewTest, TheTableEditorTakesWhatIsTypedAndRefusesWhatIsNoNumber) {
+    ScreenRun run(Settings());
+    run.Start();
+    TableEdit table;
+    table.Title = "Table";
+    table.Columns = {{"n", TableEdit::Kind::Whole, 10, 1}, {"p", TableEdit::Kind::Real, 100, 0}};
+    table.Rows = {{"1", "19"}, {"2", "42"}};
+    run.In("tableEditor", [&](QWidget& editor) {
+        auto& grid = Child<QTableWidget>(editor, "grid");
+        grid.setCurrentCell(1, 0);
+        ClickOn(editor, "cmdAddRow");
+        ASSERT_EQ(grid.rowCount(), 3);
+        grid.item(2, 0)->setText("3.5");
+        grid.item(2, 1)->setText("70");
+        run.In("messageBox", [](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); });
+        ClickOn(editor, "cmdok");
+        EXPECT_TRUE(editor.isVisible());
+        EXPECT_EQ(grid.currentRow(), 2);
+        EXPECT_EQ(grid.currentColumn(), 0);
+        grid.item(2, 0)->setText("3");
+        grid.setCurrentCell(0, 0);
+        ClickOn(editor, "cmdDeleteRow");
+        ClickOn(editor, "cmdok");
+    });
+    EXPECT_TRUE(CurrentHost().EditTable(table));
+    const std::vector<std::vector<std::string>> expected = {{"2", "42"}, {"3", "70"}};
+    EXPECT_EQ(table.Rows, expected);
+
+    run.In("tableEditor", [](QWidget& editor) { ClickOn(editor, "CmdCancel"); });
+    EXPECT_FALSE(CurrentHost().EditTable(table));
+    EXPECT_EQ(table.Rows, expected);
 }
 
 TEST_F(FrameViewTest, TheRightButtonBringsTheMenuOfTheMoment) {

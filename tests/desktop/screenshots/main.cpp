@@ -7,6 +7,8 @@
 #include <QTextStream>
 #include <QTimer>
 
+#include "contour/CurveSets.h"
+#include "core/Catalogue.h"
 #include "core/Session.h"
 #include "core/StartSession.h"
 #include "desktop/Application.h"
@@ -14,6 +16,7 @@
 #include "desktop/MainWindow.h"
 #include "desktop/QtHost.h"
 #include "desktop/SplashView.h"
+#include "kernels/RunKernel.h"
 #include "kernels/stress/BasSoilStress.h"
 #include "services/LanguageTexts.h"
 #include "services/SharedServices.h"
@@ -160,6 +163,15 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
     gallery.TakeModal(QStringLiteral("company"), [&] { host.EditCompanyLines({"Baugrund Nord", "Hamburg"}); });
     gallery.TakeModal(QStringLiteral("files"), [&] { host.ShowFileList(settings, "PO3"); });
     gallery.TakeModal(QStringLiteral("editor"), [&] { host.ShowTextEditor(Session.ResultText); });
+    Session.ProblemType = 8;
+    SetProblemDefaults();
+    RunProblemKernel();
+    Session.CurveLoadUnit = Session.Force1Label;
+    Session.CurveSettlementUnit = Session.Len2Label;
+    for (const char* curve : {"Tab1", "Tab3"}) {
+        Session.CurveChoice = curve;
+        gallery.TakeModal(QStringLiteral("chart-") + QLatin1String(curve), [&] { host.ShowChart(BuildChart()); });
+    }
     TableEdit table;
     table.Title = Text(140187_text);
     table.Columns = {{"t\n[1]\n[-]", TableEdit::Kind::Whole}, {"p\n[2]\n[%]", TableEdit::Kind::Real, 100, 0}};
