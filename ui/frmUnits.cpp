@@ -61,6 +61,7 @@ frmUnits::frmUnits() : Form("frmUnits") {
 
 void frmUnits::Load() {
     SharedServices().PrepareForm(*this);
+    Session.DialogOk = false;
     Caption = Text(17_text);
     SetCaptions({{lblLength[0], 10141_text},
                  {lblLength[1], 10142_text},

@@ -163,6 +163,12 @@ TEST_F(UnitsDialog, AFileThatCannotBeWrittenIsToldAndTheDialogStays) {
     EXPECT_FALSE(Session.DialogOk);
 }
 
+TEST_F(UnitsDialog, ADialogLeftWithoutASaveIsNotConfirmed) {
+    Session.DialogOk = true;  // from another dialog
+    OnShown<frmUnits>([](frmUnits& form) { Click(form, "CmdCancel"); });
+    EXPECT_FALSE(Session.DialogOk);
+}
+
 TEST_F(UnitsDialog, CancelChangesNothingAndHelpIsAPage) {
     OnShown<frmUnits>([](frmUnits& form) {
         Click(form, "cmdHelp");
