@@ -3,9 +3,9 @@
 #include "base/Utf8.h"
 #include "contour/CurveSets.h"
 #include "core/Session.h"
-#include "files/GloableVariable.h"
 #include "services/FileTools.h"
 #include "services/SharedServices.h"
+#include "ui/CommonStep.h"
 #include "ui/HelpText.h"
 #include "ui/frmOptionDraw.h"
 
@@ -33,16 +33,6 @@ constexpr ViewerRow kViewerRows[] = {
     {7, 300048_text, true, false},  {8, 300033_text, true, false},  {9, 140189_text, true, true},
     {10, 140190_text, true, true},  {11, 400190_text, true, true},
 };
-
-// Runs a step that leaves the program, and tells its failure.
-template <typename Step>
-void SendTo(Step&& step) {
-    try {
-        step();
-    } catch (const Failure& failure) {
-        FileError(failure);
-    }
-}
 
 std::string ReportFont() {
     return Text(160017_text);
@@ -86,15 +76,16 @@ void frmResultTools::Load() {
 }
 
 void frmResultTools::cmdPrinter_Click() {
-    SendTo([] { CurrentHost().PrintText(Session.ResultText, ReportFont(), kFontSize, LanguageTexts().RightToLeft()); });
+    UnderCommonStep(
+        [] { CurrentHost().PrintText(Session.ResultText, ReportFont(), kFontSize, LanguageTexts().RightToLeft()); });
 }
 
 void frmResultTools::CmdTextEditor_Click() {
-    SendTo([] { FileTools().ShowTextEditor(Session.ProgramDir, Session.ResultText); });
+    UnderCommonStep([] { FileTools().ShowTextEditor(Session.ProgramDir, Session.ResultText); });
 }
 
 void frmResultTools::CmdExcel_Click() {
-    SendTo([] {
+    UnderCommonStep([] {
         if (Session.ProblemType != kConsolidationRate) {
             frmOptionDraw choice;
             CurrentHost().ShowForm(choice);
@@ -105,17 +96,17 @@ void frmResultTools::CmdExcel_Click() {
 }
 
 void frmResultTools::cmdWord_Click() {
-    SendTo([] {
+    UnderCommonStep([] {
         CurrentHost().OpenWordProcessor(Session.ResultText, ReportFont(), kFontSize, LanguageTexts().RightToLeft());
     });
 }
 
 void frmResultTools::cmdClipboard_Click() {
-    SendTo([] { CurrentHost().SetClipboardText(Session.ResultText); });
+    UnderCommonStep([] { CurrentHost().SetClipboardText(Session.ResultText); });
 }
 
 void frmResultTools::cmdVERDA_Click() {
-    SendTo([] {
+    UnderCommonStep([] {
         SharedServices().SetFileName(Session.DataDir + Session.ProjectName + ".PO1");
         const std::string caseFile = SharedServices().GetFileName();
         if (SharedServices().FileMissing(caseFile, false))

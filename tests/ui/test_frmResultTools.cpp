@@ -1,4 +1,6 @@
 // The result viewer: what it shows, which ways out it offers for a problem, and what goes out.
+#include <new>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -180,6 +182,22 @@ TEST_F(Viewer, AWayOutThatFailsIsToldAndTheViewerStays) {
     viewer.Load();
     Click(viewer, "cmdVERDA");
     EXPECT_EQ(static_cast<int>(bare.Messages.size()), ++told);
+}
+
+// Failures of the machine and of its libraries are told like the program's own.
+TEST_F(Viewer, AWayOutThatBreaksDownIsToldToo) {
+    struct BreakingHost : ScriptedHost {
+        void PrintText(const std::string&, const std::string&, int, bool) override { throw std::bad_alloc(); }
+        void StartProcess(const std::string&) override { throw std::runtime_error("no process"); }
+    } breaking;
+    Session.ProblemType = 9;
+    frmResultTools viewer;
+    viewer.Load();
+    EXPECT_NO_THROW(Click(viewer, "cmdPrinter"));
+    EXPECT_EQ(breaking.LastMessage().Text, Text(900017_text));
+    EXPECT_NO_THROW(Click(viewer, "cmdVERDA"));
+    EXPECT_THAT(breaking.LastMessage().Text, HasSubstr("no process"));
+    EXPECT_FALSE(viewer.Unloaded());
 }
 
 // --- hand-over to the raft program ---
