@@ -49,8 +49,11 @@ void MDITools::Start(const std::string& commandLine, Language otherwise) {
         HelpFile = SharedServices().GetHelpFile("verda");
     });
     if (!prepared) {
+        // The user gets a frame that can be worked with, and no splash in front of it.
+        PassingOverErrors([&] { TakeSplashAway(); });
+        PassingOverErrors([&] { Load(); });
         Shown = true;
-        Refresh();
+        ShowTitle(Text(93_text));
         return;
     }
 
@@ -94,8 +97,12 @@ void MDITools::ShowSplash() {
 }
 
 void MDITools::CloseSplash() {
+    if (splash_ != nullptr) splash_->Tag = kSplashMayEnd;
+    TakeSplashAway();
+}
+
+void MDITools::TakeSplashAway() {
     if (splash_ == nullptr) return;
-    splash_->Tag = kSplashMayEnd;
     splash_->Unload();
     CurrentHost().CloseSplash(*splash_);
     splash_.reset();

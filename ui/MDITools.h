@@ -147,7 +147,10 @@ class MDITools : public Form {
   private:
     void Refresh();
     void ShowSplash();
+    // When the frame is ready: the splash has its three seconds first.
     void CloseSplash();
+    // Waits only when the splash is marked to.
+    void TakeSplashAway();
     void ResetToolbars();
     std::vector<std::string> MissingData();
     void AddToRecentFiles(const std::string& path);

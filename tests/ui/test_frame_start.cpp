@@ -100,6 +100,17 @@ TEST_F(FrameStart, AFailureBeforeTheFrameIsThereIsToldAndTheFrameShown) {
     EXPECT_THAT(host.LastMessage().Text, HasSubstr("no splash"));
 }
 
+TEST_F(FrameStart, AFailureBeforeTheFrameIsThereLeavesAFrameThatCanBeWorkedWith) {
+    host.OnEvents = [] { Fail(FailureKind::Other, "no splash"); };
+    Start();
+    EXPECT_THAT(host.SplashesClosed, ElementsAre("frmSplash"));
+    EXPECT_EQ(host.Pointer(), PointerShape::Default);
+    EXPECT_EQ(frame.Caption, "Lithmark - [Untitled]");
+    EXPECT_EQ(frame.Menu["mnuFile"].Caption, "&File");
+    EXPECT_FALSE(Enabled("mnuMainProblem"));
+    EXPECT_FALSE(Enabled("mnuHelpContents"));
+}
+
 TEST_F(FrameStart, AFailingLayoutOfTheBarsDoesNotStopTheStart) {
     window.OnDock = [] { Fail(FailureKind::Other, "no dock"); };
     Start();
