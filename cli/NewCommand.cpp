@@ -20,7 +20,8 @@ ExitStatus NewCommand(const CommonOptions& options, int problem, ConsoleHost& ho
     const auto fail = [&](ExitStatus status, TextId text, const std::string& subject) {
         throw CommandFailure(status, Text(text, {{"|1", subject}}));
     };
-    if (path.filename().empty()) fail(ExitStatus::BadCommandLine, 902012_text, options.Project);
+    if (path.filename().empty() || path.filename() == "." || path.filename() == "..")
+        fail(ExitStatus::BadCommandLine, 902012_text, options.Project);
     const fs::path dir = path.has_parent_path() ? path.parent_path() : fs::path(".");
     if (!fs::is_directory(dir)) fail(ExitStatus::FileTrouble, 902003_text, dir.string());
 

@@ -117,6 +117,7 @@ void ApplySets(const std::vector<std::string>& sets) {
         if (equals == std::string::npos || name.empty()) fail(902007_text);
         switch (SetSessionField(name, pair.substr(equals + 1))) {
             case SetFieldOutcome::Done:
+                if (!FindProblem(Session.ProblemType)) fail(902010_text);
                 break;
             case SetFieldOutcome::NoSuchField:
                 fail(902008_text);

@@ -47,6 +47,8 @@ TEST_F(CliCommands, NewRefusesAFolderThatIsNotThereAndAWrongProblem) {
     ExpectFailure(Run({"new", work / "nowhere/Footing", "--problem", "1"}), 1, {"nowhere"});
     ExpectFailure(Run({"new", work / "Footing", "--problem", "12"}), 2, {"12"});
     ExpectFailure(Run({"new", work / "Footing", "--problem", "1", "--set", "ProblemType=4"}), 2, {"ProblemType"});
+    for (const char* noName : {"", ".", ".."})
+        ExpectFailure(Run({"new", work / noName, "--problem", "1"}), 2, {"name"});
     EXPECT_TRUE(work.Names().empty());
 }
 
@@ -63,6 +65,8 @@ TEST_F(CliCommands, AWrongCommandLineIsToldInOneLine) {
     ExpectFailure(Run({"report", project, "--set", "Young=3"}), 2, {"Young"});
     ExpectFailure(Run({"report", project, "--set", "Es=stiff"}), 2, {"stiff"});
     ExpectFailure(Run({"report", project, "--set", "Es=1e39"}), 2, {"1e39"});
+    ExpectFailure(Run({"show", project, "--set", "ProblemType=12"}), 2, {"ProblemType=12"});
+    ExpectFailure(Run({"report", project, "--set", "ProblemType=0"}), 2, {"ProblemType=0"});
     EXPECT_THAT(work.Names(), ElementsAre("Footing.AUF", "Footing.PO3", "Footing.SSD"));
 }
 
