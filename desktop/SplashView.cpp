@@ -49,7 +49,9 @@ void SplashView::paintEvent(QPaintEvent*) {
     line(8.5, false, soft, 6, text("Label5"));
 }
 
+// While the program waits for the splash to end, a click changes nothing: without it the screen would be empty.
 void SplashView::Dismiss() {
+    if (form_.Unloaded()) return;
     hide();
     form_.Unload();
 }

@@ -8,6 +8,8 @@
 #include <QToolBar>
 
 #include "ScreenRun.h"
+#include "desktop/SplashView.h"
+#include "ui/frmSplash.h"
 
 namespace lithmark::tests {
 namespace {
@@ -152,6 +154,25 @@ TEST_F(FrameViewTest, TheTableEditorTakesWhatIsTypedAndRefusesWhatIsNoNumber) {
     run.In("tableEditor", [](QWidget& editor) { ClickOn(editor, "CmdCancel"); });
     EXPECT_FALSE(CurrentHost().EditTable(table));
     EXPECT_EQ(table.Rows, expected);
+}
+
+TEST_F(FrameViewTest, TheSplashGoesByAKeyOrAClickUntilTheProgramWaitsForIt) {
+    frmSplash form([] { return 0LL; });
+    for (const bool byKey : {true, false}) {
+        form.Reopen();
+        SplashView splash(form);
+        splash.show();
+        if (byKey)
+            QTest::keyClick(&splash, Qt::Key_Space);
+        else
+            QTest::mouseClick(&splash, Qt::LeftButton);
+        EXPECT_TRUE(form.Unloaded());
+        EXPECT_FALSE(splash.isVisible());
+    }
+    SplashView waiting(form);
+    waiting.show();
+    QTest::mouseClick(&waiting, Qt::LeftButton);
+    EXPECT_TRUE(waiting.isVisible());
 }
 
 TEST_F(FrameViewTest, TheRightButtonBringsTheMenuOfTheMoment) {
