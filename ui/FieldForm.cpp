@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "services/Host.h"
+#include "ui/CommonStep.h"
 
 namespace lithmark {
 
@@ -37,7 +38,7 @@ void FieldForm::FollowEnter(const std::vector<EnterStep>& steps) {
     for (const EnterStep& step : steps) {
         if (step.IfUsable != nullptr && !(step.IfUsable->Visible && step.IfUsable->Enabled)) continue;
         if (!step.Presses)
-            CurrentHost().SetFocus(*this, *step.To);
+            UnderCommonStep([&] { CurrentHost().SetFocus(*this, *step.To); });
         else if (step.To->Enabled && step.To->OnClick)
             step.To->OnClick();
         return;

@@ -2,6 +2,7 @@
 
 #include "services/LanguageTexts.h"
 #include "services/SharedServices.h"
+#include "ui/CommonStep.h"
 
 namespace lithmark {
 
@@ -15,8 +16,10 @@ std::string HelpText(const HelpLines& lines, LastHelpLine last) {
 }
 
 void ShowHelp(const std::string& title, const HelpLines& lines, LastHelpLine last) {
-    SharedServices().SetHelpText(HelpText(lines, last));
-    SharedServices().ShowHelpText(title);
+    UnderCommonStep([&] {
+        SharedServices().SetHelpText(HelpText(lines, last));
+        SharedServices().ShowHelpText(title);
+    });
 }
 
 }  // namespace lithmark

@@ -16,7 +16,7 @@ enum class LastHelpLine { EndsInNothing, EndsInReturn };
 // The lines of the language that text 140156 names, as one text.
 std::string HelpText(const HelpLines& lines, LastHelpLine last = LastHelpLine::EndsInNothing);
 
-// Shows them in the help box under a title.
+// Shows them in the help box under a title. A failure is told.
 void ShowHelp(const std::string& title, const HelpLines& lines, LastHelpLine last = LastHelpLine::EndsInNothing);
 
 }  // namespace lithmark

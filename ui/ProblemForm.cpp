@@ -1,11 +1,14 @@
 #include "ui/ProblemForm.h"
 
+#include <utility>
+
 #include "core/Catalogue.h"
 #include "core/Session.h"
 #include "files/GloableVariable.h"
 #include "files/ProblemData.h"
 #include "services/FileDialogs.h"
 #include "services/SharedServices.h"
+#include "ui/CommonStep.h"
 #include "ui/ProjectFlags.h"
 #include "ui/frmResultTools.h"
 
@@ -24,6 +27,12 @@ const ProblemRow& CurrentProblem() {
 // A run that failed and a file that is missing leave the hourglass; a form that waits for its user does not.
 void EndHourglass() {
     SharedServices().SetPointer(PointerShape::Default);
+}
+
+// Runs a command of the form; what goes wrong in it is told and leaves no hourglass.
+template <typename Command>
+void Run(Command&& command) {
+    if (!UnderCommonStep(std::forward<Command>(command))) EndHourglass();
 }
 
 }  // namespace
@@ -67,12 +76,7 @@ void ProblemForm::ShowData() {
 
 void ProblemForm::StoreData() {
     if (!CheckFields()) return;
-    try {
-        StoreFields();
-    } catch (const Failure& failure) {
-        FileError(failure);
-        return;
-    }
+    StoreFields();
     Session.A0 = Session.A;
     StoreChoices();
     Session.DataValid = true;
@@ -92,41 +96,49 @@ void ProblemForm::cmdHelp_Click() {
 }
 
 void ProblemForm::cmdSave_Click() {
-    Session.WorkDir = Session.DataDir;
-    Session.WorkName = Session.ProjectName;
-    SaveData();
-    // FileSaved alone may stand from an earlier save.
-    if (Session.DataValid && Session.FileSaved) SetProblemSaved(CurrentProblem().MenuEntry, true);
+    Run([&] {
+        Session.WorkDir = Session.DataDir;
+        Session.WorkName = Session.ProjectName;
+        SaveData();
+        // FileSaved alone may stand from an earlier save.
+        if (Session.DataValid && Session.FileSaved) SetProblemSaved(CurrentProblem().MenuEntry, true);
+    });
 }
 
 void ProblemForm::cmdSaveAs_Click() {
-    std::string file;
-    if (FileDialogs().SaveFileDialog(file, Session.DataDir, Session.WorkDir, Session.WorkName,
-                                     CurrentProblem().Extension, Caption))
-        SaveData();
+    Run([&] {
+        std::string file;
+        if (FileDialogs().SaveFileDialog(file, Session.DataDir, Session.WorkDir, Session.WorkName,
+                                         CurrentProblem().Extension, Caption))
+            SaveData();
+    });
 }
 
 void ProblemForm::cmdOpen_Click() {
-    std::string file;
-    if (!FileDialogs().OpenFileDialog(file, Session.DataDir, Session.WorkDir, Session.WorkName,
-                                      std::string("*.") + CurrentProblem().Extension, Caption))
-        return;
-    const ReadOutcome outcome = ReadProblemData();
-    EndHourglass();
-    // After a failure the boxes keep what the user typed.
-    if (outcome == ReadOutcome::Read) ShowOpened();
+    Run([&] {
+        std::string file;
+        if (!FileDialogs().OpenFileDialog(file, Session.DataDir, Session.WorkDir, Session.WorkName,
+                                          std::string("*.") + CurrentProblem().Extension, Caption))
+            return;
+        const ReadOutcome outcome = ReadProblemData();
+        EndHourglass();
+        // After a failure the boxes keep what the user typed.
+        if (outcome == ReadOutcome::Read) ShowOpened();
+    });
 }
 
 void ProblemForm::cmdResult_Click() {
-    Session.DataValid = false;
-    StoreData();
-    if (!Session.DataValid) return;
-    Session.CalcAborted = false;
-    Compute();
-    EndHourglass();
-    if (Session.CalcAborted) return;
-    frmResultTools viewer;
-    CurrentHost().ShowForm(viewer);
+    Run([&] {
+        Session.DataValid = false;
+        StoreData();
+        if (!Session.DataValid) return;
+        Session.CalcAborted = false;
+        Compute();
+        EndHourglass();
+        if (Session.CalcAborted) return;
+        frmResultTools viewer;
+        CurrentHost().ShowForm(viewer);
+    });
 }
 
 }  // namespace lithmark

@@ -34,7 +34,7 @@ class ProblemForm : public FieldForm {
     // Session into the controls: the fields, then ShowChoices.
     void ShowData();
     // Session takes the controls, and DataValid is set, unless a field is not valid; then nothing is stored. The caller
-    // has cleared DataValid.
+    // has cleared DataValid. Throws Failure, with nothing stored, when a value does not fit its field.
     void StoreData();
     void SaveData();
     void MarkSaved() { savedInputs_ = Inputs(); }

@@ -57,7 +57,7 @@ void frmDataDir::CmdBrowse_Click() {
 
 void frmDataDir::cmdSave_Click() {
     Session.FileSaved = false;
-    StoreDataDir();
+    UnderCommonStep([&] { StoreDataDir(); });
     if (Session.FileSaved) Unload();
 }
 

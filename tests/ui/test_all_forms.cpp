@@ -132,6 +132,38 @@ TEST_F(EveryForm, ShowsEachFieldOnceInABoxOfItsOwn) {
     });
 }
 
+// Nothing that a user does may end the program, whatever the machine refuses.
+TEST_F(EveryForm, TellsWhatFailsInItsEventsAndThrowsNothing) {
+    struct MessagesOnly : Host {
+        int Messages = 0;
+        void ShowMessage(const std::string&, const std::string&, MessageIcon) override { ++Messages; }
+    };
+    for (const FormRow& row : AllForms()) {
+        StartIn(Language::English);
+        Session.ProblemType = row.ProblemType;
+        const auto form = row.Make();
+        MessagesOnly bare;
+        SetCurrentHost(&bare);
+        form->Load();
+        for (Control* control : form->Controls()) {
+            if (!control->Visible || !control->Enabled) continue;
+            SCOPED_TRACE(form->Name + "." + control->Name);
+            if (control->Kind == ControlKind::Button) {
+                EXPECT_NO_THROW(control->OnClick());
+            }
+            if (control->OnEnter) {
+                EXPECT_NO_THROW(control->OnEnter());
+            }
+            form->Reopen();
+        }
+        // Help, folders, files and the viewer are all refused by this host.
+        if (row.Help != HelpBy::Nothing) {
+            EXPECT_GT(bare.Messages, 0) << form->Name;
+        }
+        SetCurrentHost(&host);
+    }
+}
+
 TEST_F(EveryForm, OpensUnchanged) {
     ForEach([](const FormRow&, Form& form) {
         if (const auto* problem = dynamic_cast<ProblemForm*>(&form)) {
