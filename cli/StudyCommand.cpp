@@ -135,9 +135,9 @@ void Calculate(const CommonOptions& options, const std::vector<Variation>& varia
     }
     run.Aborted = report["aborted"];
     run.Results = report["results"];
-    if (run.Aborted && !report["messages"].empty()) {
+    if (!report["messages"].empty()) {
         run.Message = report["messages"].back()["text"].get<std::string>();
-        run.Message = Trim(ReplaceAll(ReplaceAll(run.Message, "\r", ""), "\n", " "));
+        run.Message = OneLine(run.Message);
     }
 }
 
@@ -196,7 +196,7 @@ std::vector<std::vector<std::string>> StudyTable(const std::vector<Variation>& v
             const auto result = run.Aborted ? std::nullopt : TakeResult(run.Results, take);
             row.push_back(result ? JsonNumber(Single(*result)) : "");
         }
-        row.push_back(run.Aborted ? run.Message : "ok");
+        row.push_back(run.Aborted ? run.Message : run.Message.empty() ? "ok" : "ok: " + run.Message);
         table.push_back(std::move(row));
     }
     return table;

@@ -145,7 +145,7 @@ TEST_F(CliStudy, SetsAndLanguageReachEveryRow) {
 TEST_F(CliStudy, CtrlCEndsAStudyWithoutAnOutput) {
     const std::string project = Example("SquareRaft");
     const auto names = work.Names();
-    runner = "timeout --preserve-status -s INT 2 env ";
+    runner = "timeout --foreground --preserve-status -s INT 2 env ";
     const CliResult result =
         Run({"study", project, "--vary", "Q=1:100000:1", "--take", "h", "--output", work / "study.csv"});
     ExpectFailure(result, 3, {"SquareRaft"});
@@ -170,6 +170,21 @@ TEST_F(CliStudy, AVaryThatIsNoWholeNumberFailsRowByRow) {
     EXPECT_EQ(study["rows"][1]["aborted"], true);
     EXPECT_THAT(study["rows"][1]["message"].get<std::string>(), HasSubstr("LoadType=1.5"));
     EXPECT_EQ(study["rows"][2]["aborted"], false);
+}
+
+// Clay that is nearly impermeable does not reach 97 per cent in time: a warning, and results all the same.
+TEST_F(CliStudy, AWarningStandsBesideItsResults) {
+    const std::string project = Example("WaterTower");
+    const std::vector<std::string> words = {"--vary", "kf=1e-14:1e-8:9.99999e-9", "--take", "ConsolidationEnd"};
+    const Json study = Study(project, words);
+    ASSERT_EQ(study["rows"].size(), 2u);
+    EXPECT_EQ(study["rows"][0]["aborted"], false);
+    EXPECT_NE(study["rows"][0]["message"], "");
+    EXPECT_EQ(study["rows"][1]["message"], "");
+    const auto lines = LinesOf(Run(With({"study", project}, words)).Out);
+    ASSERT_EQ(lines.size(), 3u);
+    EXPECT_THAT(lines[1], HasSubstr(",ok: "));
+    EXPECT_TRUE(lines[2].ends_with(",ok\r")) << lines[2];
 }
 
 TEST_F(CliStudy, NoProgressIsShownWhereNoTerminalIs) {
