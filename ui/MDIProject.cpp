@@ -240,8 +240,10 @@ void MDITools::MnuRecentFile_Click(int index) {
         AddToRecentFiles(path);
         Menu["mnuSaveProjectAs"].Enabled = true;
     });
-    if (!done)
+    if (!done) {
         for (int i = 0; i < static_cast<int>(RecentFiles.size()); ++i) Menu.At(kRecentArray, i).Visible = false;
+        SyncRecentFromMenu();  // the start page offers none of them either
+    }
     Refresh();
 }
 

@@ -165,6 +165,17 @@ TEST_F(FrameFiles, AFailureAtARecentFileHidesThemAll) {
     EXPECT_FALSE(frame.Menu["MnuRecentFile(0)"].Visible);
 }
 
+// A row of the start page that is hidden in the menu would do nothing.
+TEST_F(FrameFiles, AfterAFailureAtARecentFileTheStartPageOffersNoneEither) {
+    WriteProject("P1", 1);
+    GoOn();
+    OpenByDialog("P1.PO3");
+    ASSERT_EQ(frame.RecentProjects().RecentProjects.size(), 1u);
+    host.OnForm([](Form&) { Fail(FailureKind::Other, "no window"); });
+    frame.m_cMenu_Click("MnuRecentFile(1)");
+    EXPECT_THAT(frame.RecentProjects().RecentProjects, IsEmpty());
+}
+
 TEST_F(FrameFiles, TheSeparatorAndEmptyRowsDoNothing) {
     frame.m_cMenu_Click("MnuRecentFile(0)");
     frame.m_cMenu_Click("MnuRecentFile(3)");
