@@ -8,6 +8,7 @@
 #include <QScreen>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolBar>
 
 #include "core/Session.h"
@@ -183,8 +184,7 @@ QAction* MainWindow::MenuAction(const std::string& key) const {
 // --- commands ---
 
 void MainWindow::RunLater(const std::string& key) {
-    QMetaObject::invokeMethod(
-        this, [this, key] { Run(key); }, Qt::QueuedConnection);
+    QTimer::singleShot(0, this, [this, key] { Run(key); });
 }
 
 void MainWindow::Run(const std::string& key) {
