@@ -24,16 +24,17 @@ enum class FailureKind {
     ReadError,
     WriteError,
     EndOfFile,
-    BadNumber,      // a line that should hold a number holds something else
-    BadFlag,        // a line that should hold #TRUE# or #FALSE# holds something else
-    BadWord,        // a line that should hold one of a set of words holds something else
-    BadCount,       // a table count below 1 or beyond what an Integer holds
-    DamagedArchive, // a packed project that cannot be unpacked
-    NoSuchForm,     // a menu entry without a dialog
+    BadNumber,       // a line that should hold a number holds something else
+    BadFlag,         // a line that should hold #TRUE# or #FALSE# holds something else
+    BadWord,         // a line that should hold one of a set of words holds something else
+    BadCount,        // a table count below 1 or beyond what an Integer holds
+    DamagedArchive,  // a packed project that cannot be unpacked
+    NoSuchForm,      // a menu entry without a dialog
     Other
 };
 
-// What went wrong and, for files, where. `detail` is technical text for a message's end (a file's item, a system error).
+// What went wrong and, for files, where. `detail` is technical text for a message's end (a file's item, a system
+// error).
 class Failure : public std::exception {
   public:
     explicit Failure(FailureKind kindOfFailure, std::string detailText = {}, long lineNumber = 0)

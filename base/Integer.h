@@ -16,7 +16,7 @@ class Integer {
     constexpr Integer() noexcept = default;
     // A whole number outside -32768..32767 is an Overflow.
     template <typename T>
-        requires std::is_integral_v<T>
+    requires std::is_integral_v<T>
     constexpr Integer(T value) : value_(static_cast<std::int16_t>(value)) {
         if (value < static_cast<T>(kMin < 0 && std::is_unsigned_v<T> ? 0 : kMin) || value > static_cast<T>(kMax))
             Fail(FailureKind::Overflow);

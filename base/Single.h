@@ -14,15 +14,17 @@ namespace lithmark {
 
 namespace detail {
 [[noreturn]] void FailNotFinite(double value);
-}
+
+#ifdef LITHMARK_WIDE_SINGLE
+using SingleStorage = double;
+#else
+using SingleStorage = float;
+#endif
+}  // namespace detail
 
 class Single {
   public:
-#ifdef LITHMARK_WIDE_SINGLE
-    using Storage = double;
-#else
-    using Storage = float;
-#endif
+    using Storage = detail::SingleStorage;
 
     constexpr Single() noexcept = default;
     // Implicit on purpose: assignment is where a quantity is rounded.
@@ -68,8 +70,12 @@ inline double Sqrt(double x) {
 double Power(double x, double e);
 
 // Whole powers as products in 64 bits.
-constexpr double Square(double x) noexcept { return x * x; }
-constexpr double Cube(double x) noexcept { return x * x * x; }
+constexpr double Square(double x) noexcept {
+    return x * x;
+}
+constexpr double Cube(double x) noexcept {
+    return x * x * x;
+}
 
 // Exponential function; Overflow when the result does not fit 64 bits.
 double Exp(double x);

@@ -8,7 +8,11 @@ namespace {
 char32_t Decode(std::string_view text, std::size_t& position, bool& valid) {
     const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
     const unsigned char first = byte(position);
-    const std::size_t length = first < 0x80 ? 1 : first >> 5 == 0x6 ? 2 : first >> 4 == 0xE ? 3 : first >> 3 == 0x1E ? 4 : 0;
+    const std::size_t length = first < 0x80         ? 1
+                               : first >> 5 == 0x6  ? 2
+                               : first >> 4 == 0xE  ? 3
+                               : first >> 3 == 0x1E ? 4
+                                                    : 0;
     constexpr char32_t kSmallest[] = {0, 0, 0x80, 0x800, 0x10000};
     if (length == 1) {
         ++position;

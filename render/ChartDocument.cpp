@@ -26,7 +26,7 @@ QString Q(const std::string& text) {
 
 QFont TextFont(double points, bool bold = false) {
     QFont font(QStringLiteral("DejaVu Sans"));
-    font.setPixelSize(static_cast<int>(points * 96 / 72 + 0.5));
+    font.setPixelSize(qRound(points * 96 / 72));
     font.setBold(bold);
     return font;
 }

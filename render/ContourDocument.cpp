@@ -25,7 +25,7 @@ QString Q(const std::string& text) {
 
 QFont TextFont(double pixels, bool bold = false) {
     QFont font(QStringLiteral("DejaVu Sans"));
-    font.setPixelSize(static_cast<int>(pixels + 0.5));
+    font.setPixelSize(qRound(pixels));
     font.setBold(bold);
     return font;
 }

@@ -13,7 +13,7 @@ void EnsureRenderApplication() {
     static char name[] = "lithmark";
     static char* argv[] = {name, nullptr};
     // Never deleted: pictures may be drawn until the process ends.
-    new QApplication(argc, argv);
+    [[maybe_unused]] static const QApplication* const application = new QApplication(argc, argv);
 }
 
 }  // namespace lithmark

@@ -30,8 +30,8 @@ Single ReadSingle(int fileNumber);
 Integer ReadInteger(int fileNumber);
 long ReadLong(int fileNumber);
 double ReadDouble(int fileNumber);
-bool ReadFlag(int fileNumber);             // #TRUE# or #FALSE#
-std::string ReadRawLine(int fileNumber);   // the rest of the line as it stands
+bool ReadFlag(int fileNumber);            // #TRUE# or #FALSE#
+std::string ReadRawLine(int fileNumber);  // the rest of the line as it stands
 // To the next comma or line end, without surrounding double quotes; between a pair of quotes a comma is text.
 std::string ReadListItem(int fileNumber);
 // The line, from 1, that the next value is read from.

@@ -12,10 +12,22 @@ namespace lithmark {
 
 class Form;
 
-enum class ControlKind { TextLabel, TextBox, Option, CheckBox, ComboBox, Button, Frame, Picture, TextArea, DatePicker, Tab };
+enum class ControlKind {
+    TextLabel,
+    TextBox,
+    Option,
+    CheckBox,
+    ComboBox,
+    Button,
+    Frame,
+    Picture,
+    TextArea,
+    DatePicker,
+    Tab
+};
 
-// One control. `Value` is the state of options and check boxes; `Items` and `ListIndex` (-1: nothing selected) belong to
-// combo boxes and tabs. A control's name carries its index where it stands in a control array: "optLoadType(1)".
+// One control. `Value` is the state of options and check boxes; `Items` and `ListIndex` (-1: nothing selected) belong
+// to combo boxes and tabs. A control's name carries its index where it stands in a control array: "optLoadType(1)".
 class Control {
   public:
     Control(Form& owner, ControlKind kind, std::string name);

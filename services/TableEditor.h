@@ -16,8 +16,8 @@ struct TableEdit {
         double Upper = 1e38, Lower = -1e38;
     };
     std::string Title, Help;
-    std::string RowHead;              // head of the editor's own column of row numbers
-    std::vector<Column> Columns;      // the columns 1, 2, ... that the user edits
+    std::string RowHead;                         // head of the editor's own column of row numbers
+    std::vector<Column> Columns;                 // the columns 1, 2, ... that the user edits
     std::vector<std::vector<std::string>> Rows;  // a text per column; the user may add and delete rows
 };
 

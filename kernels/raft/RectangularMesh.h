@@ -40,8 +40,8 @@ struct RectangularMesh {
 };
 
 // The mesh of a raft A by B. dx and dy are the wished element sizes and take the real ones. DivisionByZero when a side
-// is shorter than half its element size; SubscriptRange when a side and its element size differ in sign; Overflow, before
-// memory is taken, when the nodes are more than an Integer counts.
+// is shorter than half its element size; SubscriptRange when a side and its element size differ in sign; Overflow,
+// before memory is taken, when the nodes are more than an Integer counts.
 RectangularMesh BuildRectangularMesh(Single a, Single b, Single& dx, Single& dy);
 
 }  // namespace lithmark

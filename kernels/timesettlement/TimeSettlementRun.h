@@ -25,7 +25,7 @@ struct TimeSettlementRun {
     Array<Single> TimeFactor{0, kLastSlot};     // problem 8: Tv
     Array<Integer> FormulaCase{0, kLastSlot};   // problem 8: 1 root, 2 exponential
     Array<std::string> MeasureMark{0, kLastSlot};
-    Single EstMix;            // problem 8: modulus weighted by load parts, kN/m2
+    Single EstMix;  // problem 8: modulus weighted by load parts, kN/m2
 };
 
 // Starts a new Session.ResultText: heading, parameter block, tables T1 to T4. Throws Failure, also
