@@ -29,7 +29,7 @@ std::string FormatInForce(const CommonOptions& options, const std::vector<std::s
     if (!options.Format.empty()) return options.Format;
     const std::string ending = LowerAscii(std::filesystem::path(options.Output).extension().string());
     if (ending.size() < 2) return formats.front();
-    const std::string format = ending.substr(1);
+    std::string format = ending.substr(1);
     if (std::find(formats.begin(), formats.end(), format) == formats.end()) FailFormat(format);
     return format;
 }

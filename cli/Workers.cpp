@@ -69,6 +69,7 @@ WorkerResult RunWorker(const std::vector<std::string>& arguments) {
     std::vector<std::string> words = {"lithmark-cli"};
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<char*> argv;
+    argv.reserve(words.size() + 1);
     for (std::string& word : words) argv.push_back(word.data());
     argv.push_back(nullptr);
 
@@ -106,6 +107,7 @@ void RunOnAllCores(int count, const std::function<void(int)>& job, const std::fu
     };
     const int cores = static_cast<int>(std::max(1u, std::thread::hardware_concurrency()));
     std::vector<std::jthread> threads;
+    threads.reserve(static_cast<std::size_t>(cores));
     for (int i = 0; i < std::min(cores, count); ++i) threads.emplace_back(work);
 }
 

@@ -108,7 +108,7 @@ class CommandLine {
 
     // A command with the options that every command has; formats only where it has several.
     CLI::App* Command(const std::string& name, TextId description, TextId subject,
-                      const std::vector<std::string>& formats, Runner runner) {
+                      const std::vector<std::string>& formats, const Runner& runner) {
         CLI::App* command = app_.add_subcommand(name, Text(description));
         command->set_help_flag("--help", Text(902028_text));
         command->add_option("project", options_.Project, Text(subject))->required();
