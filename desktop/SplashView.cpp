@@ -49,11 +49,10 @@ void SplashView::paintEvent(QPaintEvent*) {
     line(8.5, false, soft, 6, text("Label5"));
 }
 
-// While the program waits for the splash to end, a click changes nothing: without it the screen would be empty.
+// Every control of the splash takes a click as the wish to go on.
 void SplashView::Dismiss() {
-    if (form_.Unloaded()) return;
     hide();
-    form_.Unload();
+    if (const Control* logo = form_.Find("imgLogo"); logo && logo->OnClick) logo->OnClick();
 }
 
 void SplashView::mousePressEvent(QMouseEvent*) {

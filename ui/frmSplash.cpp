@@ -26,11 +26,16 @@ void frmSplash::Load() {
     ShowProgramPicture(imgLogo, "Lithmark.bmp");
 }
 
-// A click while the program waits comes back here and changes nothing.
 void frmSplash::Unloading() {
     if (Tag != kSplashMayEnd) return;
     Tag.clear();
-    while (milliseconds_() - loadedAt_ <= kShownMilliseconds) CurrentHost().RunEvents();
+    dismissed_ = false;
+    while (!dismissed_ && milliseconds_() - loadedAt_ <= kShownMilliseconds) CurrentHost().RunEvents();
+}
+
+void frmSplash::Dismiss() {
+    dismissed_ = true;
+    Unload();
 }
 
 }  // namespace lithmark

@@ -18,17 +18,18 @@ class frmSplash : public Form {
     TextLabel lblPlatform{*this, "lblPlatform"}, Label1{*this, "Label1"}, Label3{*this, "Label3"},
         Label4{*this, "Label4"}, Label5{*this, "Label5"}, lblVersion{*this, "lblVersion"};
 
-    // "Start Prog" once the program is ready: unloading then waits for the three seconds to end.
+    // "Start Prog" once the program is ready: unloading then waits for the three seconds to end, or for the user.
     std::string Tag;
 
     void Load() override;
     void Unloading() override;
-    // A key, or a click on the form or on anything in it.
-    void Dismiss() { Unload(); }
+    // A key, or a click on the form or on anything in it: ends the form, and the wait too.
+    void Dismiss();
 
   private:
     const std::function<long long()> milliseconds_;
     long long loadedAt_ = 0;
+    bool dismissed_ = false;
 };
 
 }  // namespace lithmark
