@@ -2,14 +2,8 @@
 
 #include <qcustomplot.h>
 
-#include <QBuffer>
-#include <QImage>
-#include <QPainter>
-#include <QPdfWriter>
-#include <QSvgGenerator>
-
 #include "base/Utf8.h"
-#include "render/RenderApplication.h"
+#include "render/PictureFile.h"
 #include "services/LanguageTexts.h"
 
 namespace lithmark {
@@ -18,6 +12,7 @@ namespace {
 
 // The page of a chart in points of 1/96 inch: A4 across, without margins.
 constexpr int kWidth = 1020, kHeight = 680;
+constexpr QSize kSize(kWidth, kHeight);
 constexpr int kMargin = 24, kLine = 16, kTitle = 28;
 
 QString Q(const std::string& text) {
@@ -71,66 +66,16 @@ void DrawChart(QCPPainter& painter, const ChartArguments& chart) {
 }  // namespace
 
 std::string ChartSvg(const ChartArguments& chart) {
-    EnsureRenderApplication();
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    {
-        QSvgGenerator generator;
-        generator.setOutputDevice(&buffer);
-        generator.setSize(QSize(kWidth, kHeight));
-        generator.setViewBox(QRect(0, 0, kWidth, kHeight));
-        generator.setResolution(96);
-        generator.setTitle(Q(chart.ChartTitle));
-        QCPPainter painter;
-        painter.begin(&generator);
-        painter.setMode(QCPPainter::pmVectorized);
-        painter.setMode(QCPPainter::pmNoCaching);
-        DrawChart(painter, chart);
-        painter.end();
-    }
-    return buffer.data().toStdString();
+    return SvgOf(kSize, Q(chart.ChartTitle), [&](QCPPainter& painter) { DrawChart(painter, chart); });
 }
 
 std::string ChartPng(const ChartArguments& chart) {
-    EnsureRenderApplication();
     constexpr int kScale = 2;
-    QImage image(kWidth * kScale, kHeight * kScale, QImage::Format_ARGB32_Premultiplied);
-    {
-        QCPPainter painter;
-        painter.begin(&image);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.scale(kScale, kScale);
-        DrawChart(painter, chart);
-        painter.end();
-    }
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
-    return buffer.data().toStdString();
+    return PngOf(kSize, kScale, [&](QCPPainter& painter) { DrawChart(painter, chart); });
 }
 
 std::string ChartPdf(const ChartArguments& chart) {
-    EnsureRenderApplication();
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    {
-        QPdfWriter writer(&buffer);
-        writer.setPageSize(QPageSize(QPageSize::A4));
-        writer.setPageOrientation(QPageLayout::Landscape);
-        writer.setPageMargins(QMarginsF(10, 10, 10, 10), QPageLayout::Millimeter);
-        writer.setResolution(1200);
-        writer.setTitle(Q(chart.ChartTitle));
-        QCPPainter painter;
-        painter.begin(&writer);
-        painter.setMode(QCPPainter::pmVectorized);
-        painter.setMode(QCPPainter::pmNoCaching);
-        const double scale =
-            std::min(static_cast<double>(writer.width()) / kWidth, static_cast<double>(writer.height()) / kHeight);
-        painter.scale(scale, scale);
-        DrawChart(painter, chart);
-        painter.end();
-    }
-    return buffer.data().toStdString();
+    return PdfOf(kSize, Q(chart.ChartTitle), [&](QCPPainter& painter) { DrawChart(painter, chart); });
 }
 
 }  // namespace lithmark

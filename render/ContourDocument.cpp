@@ -1,12 +1,10 @@
 #include "render/ContourDocument.h"
 
-#include <QBuffer>
-#include <QPdfWriter>
-#include <QSvgGenerator>
+#include <qcustomplot.h>
 
 #include "core/Session.h"
 #include "core/Units.h"
-#include "render/RenderApplication.h"
+#include "render/PictureFile.h"
 #include "services/LanguageTexts.h"
 
 namespace lithmark {
@@ -39,7 +37,10 @@ std::string PlotTitle() {
 
 // Measures of a plot of `side` pixels with its title and legend.
 struct Layout {
-    explicit Layout(int side) : Side(side), Margin(side / 30), Title(side / 14), Legend(side / 4) {}
+    // 0 takes the usual side.
+    explicit Layout(int side)
+        : Side(side > 0 ? side : kUsualSize), Margin(Side / 30), Title(Side / 14), Legend(Side / 4) {}
+    QSize Size() const { return {Width(), Height()}; }
     int Width() const { return Side + Legend + 3 * Margin; }
     int Height() const { return Side + Title + 2 * Margin; }
     int Side, Margin, Title, Legend;
@@ -171,57 +172,18 @@ void PainterSurface::FilledBox(double x1, double y1, double x2, double y2, int c
 }
 
 std::string ContourSvg(BasContour& plot, int size) {
-    EnsureRenderApplication();
-    const Layout layout(size > 0 ? size : kUsualSize);
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    {
-        QSvgGenerator generator;
-        generator.setOutputDevice(&buffer);
-        generator.setSize(QSize(layout.Width(), layout.Height()));
-        generator.setViewBox(QRect(0, 0, layout.Width(), layout.Height()));
-        generator.setResolution(96);
-        generator.setTitle(Q(PlotTitle()));
-        QPainter painter(&generator);
-        DrawContour(painter, plot, layout);
-    }
-    return buffer.data().toStdString();
+    const Layout layout(size);
+    return SvgOf(layout.Size(), Q(PlotTitle()), [&](QPainter& painter) { DrawContour(painter, plot, layout); });
 }
 
 std::string ContourPng(BasContour& plot, int size) {
-    EnsureRenderApplication();
-    const Layout layout(size > 0 ? size : kUsualSize);
-    QImage image(layout.Width(), layout.Height(), QImage::Format_ARGB32_Premultiplied);
-    {
-        QPainter painter(&image);
-        painter.setRenderHint(QPainter::Antialiasing);
-        DrawContour(painter, plot, layout);
-    }
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
-    return buffer.data().toStdString();
+    const Layout layout(size);
+    return PngOf(layout.Size(), 1, [&](QPainter& painter) { DrawContour(painter, plot, layout); });
 }
 
 std::string ContourPdf(BasContour& plot, int size) {
-    EnsureRenderApplication();
-    const Layout layout(size > 0 ? size : kUsualSize);
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    {
-        QPdfWriter writer(&buffer);
-        writer.setPageSize(QPageSize(QPageSize::A4));
-        writer.setPageOrientation(QPageLayout::Landscape);
-        writer.setPageMargins(QMarginsF(10, 10, 10, 10), QPageLayout::Millimeter);
-        writer.setResolution(1200);
-        writer.setTitle(Q(PlotTitle()));
-        QPainter painter(&writer);
-        const double scale = std::min(static_cast<double>(writer.width()) / layout.Width(),
-                                      static_cast<double>(writer.height()) / layout.Height());
-        painter.scale(scale, scale);
-        DrawContour(painter, plot, layout);
-    }
-    return buffer.data().toStdString();
+    const Layout layout(size);
+    return PdfOf(layout.Size(), Q(PlotTitle()), [&](QPainter& painter) { DrawContour(painter, plot, layout); });
 }
 
 }  // namespace lithmark

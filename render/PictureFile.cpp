@@ -1,0 +1,80 @@
+#include "render/PictureFile.h"
+
+#include <qcustomplot.h>
+
+#include <QBuffer>
+#include <QImage>
+#include <QPdfWriter>
+#include <QSvgGenerator>
+#include <algorithm>
+
+#include "render/RenderApplication.h"
+
+namespace lithmark {
+
+namespace {
+
+// Lines and texts stay such, instead of becoming pixels.
+void DrawAsVectors(QPaintDevice& device, const QSizeF& extent, const QSize& size, const Draw& draw) {
+    QCPPainter painter;
+    painter.begin(&device);
+    painter.setMode(QCPPainter::pmVectorized);
+    painter.setMode(QCPPainter::pmNoCaching);
+    const double scale = std::min(extent.width() / size.width(), extent.height() / size.height());
+    painter.scale(scale, scale);
+    draw(painter);
+    painter.end();
+}
+
+}  // namespace
+
+std::string SvgOf(const QSize& size, const QString& title, const Draw& draw) {
+    EnsureRenderApplication();
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QSvgGenerator generator;
+        generator.setOutputDevice(&buffer);
+        generator.setSize(size);
+        generator.setViewBox(QRect(QPoint(0, 0), size));
+        generator.setResolution(96);
+        generator.setTitle(title);
+        DrawAsVectors(generator, size, size, draw);
+    }
+    return buffer.data().toStdString();
+}
+
+std::string PngOf(const QSize& size, int scale, const Draw& draw) {
+    EnsureRenderApplication();
+    QImage image(size * scale, QImage::Format_ARGB32_Premultiplied);
+    {
+        QCPPainter painter;
+        painter.begin(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.scale(scale, scale);
+        draw(painter);
+        painter.end();
+    }
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return buffer.data().toStdString();
+}
+
+std::string PdfOf(const QSize& size, const QString& title, const Draw& draw) {
+    EnsureRenderApplication();
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter writer(&buffer);
+        writer.setPageSize(QPageSize(QPageSize::A4));
+        writer.setPageOrientation(QPageLayout::Landscape);
+        writer.setPageMargins(QMarginsF(10, 10, 10, 10), QPageLayout::Millimeter);
+        writer.setResolution(1200);
+        writer.setTitle(title);
+        DrawAsVectors(writer, QSizeF(writer.width(), writer.height()), size, draw);
+    }
+    return buffer.data().toStdString();
+}
+
+}  // namespace lithmark
