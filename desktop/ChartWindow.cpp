@@ -10,19 +10,12 @@
 #include "core/Session.h"
 #include "files/GloableVariable.h"
 #include "render/ChartDocument.h"
+#include "render/QtText.h"
 #include "services/LanguageTexts.h"
 #include "services/SharedServices.h"
 #include "services/WrittenFile.h"
 
 namespace lithmark {
-
-namespace {
-
-QString Q(const std::string& text) {
-    return QString::fromStdString(text);
-}
-
-}  // namespace
 
 ChartWindow::ChartWindow(const ChartArguments& chart, QWidget* parent) : QDialog(parent), chart_(chart) {
     setObjectName(QStringLiteral("chartWindow"));

@@ -17,15 +17,12 @@
 #include <algorithm>
 
 #include "desktop/ReportView.h"
+#include "render/QtText.h"
 #include "services/LanguageTexts.h"
 
 namespace lithmark {
 
 namespace {
-
-QString Q(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 // A dialog with a column for its content and buttons under it.
 class PlainDialog : public QDialog {

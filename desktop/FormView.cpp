@@ -20,6 +20,7 @@
 #include "desktop/PictureView.h"
 #include "desktop/ReportView.h"
 #include "desktop/layouts/Layouts.h"
+#include "render/QtText.h"
 #include "services/TextTools.h"
 #include "ui/FieldForm.h"
 #include "ui/ProblemForm.h"
@@ -31,10 +32,6 @@ namespace {
 std::unordered_map<const Form*, FormView*>& OpenViews() {
     static std::unordered_map<const Form*, FormView*> views;
     return views;
-}
-
-QString Q(const std::string& text) {
-    return QString::fromStdString(text);
 }
 
 // Day 25569 of the text service is 1 January 1970.

@@ -15,6 +15,7 @@
 #include "desktop/Icons.h"
 #include "desktop/ProjectView.h"
 #include "desktop/StartView.h"
+#include "render/QtText.h"
 
 namespace lithmark {
 
@@ -22,10 +23,6 @@ namespace {
 
 constexpr int kRightButton = 2;
 constexpr int kLongestPath = 64;
-
-QString Q(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 bool IsRecentFile(const std::string& key) {
     return key.starts_with("MnuRecentFile");

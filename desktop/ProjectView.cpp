@@ -8,6 +8,7 @@
 
 #include "desktop/Icons.h"
 #include "desktop/PageTools.h"
+#include "render/QtText.h"
 #include "services/LanguageTexts.h"
 
 namespace lithmark {
@@ -15,10 +16,6 @@ namespace lithmark {
 namespace {
 
 constexpr int kColumnWidth = 680;
-
-QString Q(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 QLabel* ValueLabel(QWidget* parent, const char* name) {
     QLabel* label = PageLabel(parent, {}, 1.05, false);

@@ -19,6 +19,7 @@
 #include "desktop/Printing.h"
 #include "desktop/SplashView.h"
 #include "desktop/TableEditorDialog.h"
+#include "render/QtText.h"
 #include "render/ReportDocument.h"
 #include "services/LanguageTexts.h"
 #include "services/WrittenFile.h"
@@ -26,10 +27,6 @@
 namespace lithmark {
 
 namespace {
-
-QString Q(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 // Runs a dialog and gives back the pointer that a long run may have set.
 class PlainPointer {

@@ -6,6 +6,7 @@
 
 #include "desktop/Icons.h"
 #include "desktop/PageTools.h"
+#include "render/QtText.h"
 #include "services/LanguageTexts.h"
 
 namespace lithmark {
@@ -14,10 +15,6 @@ namespace {
 
 constexpr int kColumnWidth = 560;
 constexpr int kRecentRows = 4;
-
-QString Q(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 QWidget* Logo(QWidget* parent, int size) {
     auto* logo = new QLabel(parent);

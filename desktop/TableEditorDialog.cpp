@@ -8,18 +8,11 @@
 
 #include "base/NumberText.h"
 #include "base/Utf8.h"
+#include "render/QtText.h"
 #include "services/LanguageTexts.h"
 #include "services/SharedServices.h"
 
 namespace lithmark {
-
-namespace {
-
-QString Q(const std::string& text) {
-    return QString::fromStdString(text);
-}
-
-}  // namespace
 
 TableEditorDialog::TableEditorDialog(TableEdit& table, QWidget* parent)
     : QDialog(parent), table_(table), grid_(new QTableWidget(this)) {

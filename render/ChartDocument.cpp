@@ -4,6 +4,7 @@
 
 #include "base/Utf8.h"
 #include "render/PictureFile.h"
+#include "render/QtText.h"
 #include "services/LanguageTexts.h"
 
 namespace lithmark {
@@ -14,10 +15,6 @@ namespace {
 constexpr int kWidth = 1020, kHeight = 680;
 constexpr QSize kSize(kWidth, kHeight);
 constexpr int kMargin = 24, kLine = 16, kTitle = 28;
-
-QString Q(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 QFont TextFont(double points, bool bold = false) {
     QFont font(QStringLiteral("DejaVu Sans"));

@@ -6,6 +6,7 @@
 
 #include "base/NumberText.h"
 #include "render/ChartDocument.h"
+#include "render/QtText.h"
 #include "services/LanguageTexts.h"
 #include "services/SharedServices.h"
 
@@ -16,10 +17,6 @@ namespace {
 // Told apart on screen, in print and by readers who do not see every colour (Okabe and Ito 2008).
 constexpr std::array<QRgb, 4> kCurveColors = {0xFF0072B2, 0xFFD55E00, 0xFF009E73, 0xFFCC79A7};
 constexpr std::array<Qt::PenStyle, 4> kCurvePens = {Qt::SolidLine, Qt::DashLine, Qt::DashDotLine, Qt::DotLine};
-
-QString Q(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 double CellValue(const std::string& cell) {
     return ParseNumber(cell, SharedServices().DecimalSign).value_or(std::numeric_limits<double>::quiet_NaN());

@@ -5,6 +5,7 @@
 #include "core/Session.h"
 #include "core/Units.h"
 #include "render/PictureFile.h"
+#include "render/QtText.h"
 #include "services/LanguageTexts.h"
 
 namespace lithmark {
@@ -15,10 +16,6 @@ constexpr int kUsualSize = 700;
 
 QRgb ColorOf(int number) {
     return 0xFF000000u | kPalette[static_cast<std::size_t>(number) % kPalette.size()];
-}
-
-QString Q(const std::string& text) {
-    return QString::fromStdString(text);
 }
 
 QFont TextFont(double pixels, bool bold = false) {
