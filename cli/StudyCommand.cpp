@@ -103,23 +103,32 @@ class ScratchProject {
     ScratchProject& operator=(const ScratchProject&) = delete;
 
     // Copies what a calculation reads and gives the copy's project file.
-    std::string Copy() const {
-        const ProblemRow* problem = FindProblem(Session.ProblemType);
-        for (const std::string& extension : {std::string("PO3"), std::string("AUF"), std::string(problem->Extension)}) {
-            const fs::path from = DataFileName(Session.DataDir, Session.ProjectName, extension);
-            if (fs::exists(from)) fs::copy_file(from, dir_ / (Session.ProjectName + "." + extension));
-        }
-        return (dir_ / (Session.ProjectName + ".PO3")).string();
+    std::string Copy(const std::vector<fs::path>& files) const {
+        for (const fs::path& file : files) fs::copy_file(file, dir_ / file.filename());
+        return (dir_ / files.front().filename()).string();
     }
 
   private:
     fs::path dir_;
 };
 
-void Calculate(const CommonOptions& options, const std::vector<Variation>& variations, StudyRun& run) {
+// The project's files that a calculation reads, the project file first. Found once, ahead of the calculations: the
+// services that know the files' names belong to one thread.
+std::vector<fs::path> FilesOfProject() {
+    std::vector<fs::path> files;
+    const ProblemRow* problem = FindProblem(Session.ProblemType);
+    for (const std::string& extension : {std::string("PO3"), std::string("AUF"), std::string(problem->Extension)}) {
+        const fs::path file = DataFileName(Session.DataDir, Session.ProjectName, extension);
+        if (fs::exists(file)) files.push_back(file);
+    }
+    return files;
+}
+
+void Calculate(const CommonOptions& options, const std::vector<fs::path>& files,
+               const std::vector<Variation>& variations, StudyRun& run) {
     const ScratchProject scratch;
-    std::vector<std::string> arguments = {"report", scratch.Copy(), "--format",
-                                          "json",   "--settings",   Session.ProgramDir};
+    std::vector<std::string> arguments = {"report", scratch.Copy(files), "--format",
+                                          "json",   "--settings",        Session.ProgramDir};
     if (!options.Lang.empty()) arguments.insert(arguments.end(), {"--lang", options.Lang});
     const auto set = [&](const std::string& pair) {
         arguments.emplace_back("--set");
@@ -239,6 +248,7 @@ std::string StudyJson(const std::vector<Variation>& variations, const std::vecto
 ExitStatus StudyCommand(const CommonOptions& options, const StudyOptions& study, ConsoleHost&) {
     const std::string format = FormatInForce(options, kStudyFormats);
     OpenProjectForRun(options);
+    const std::vector<fs::path> files = FilesOfProject();
     std::vector<Variation> variations;
     for (const std::string& vary : study.Vary) variations.push_back(ReadVariation(vary));
     std::vector<StudyRun> runs = Combinations(variations);
@@ -246,7 +256,15 @@ ExitStatus StudyCommand(const CommonOptions& options, const StudyOptions& study,
     const int count = static_cast<int>(runs.size());
     bool cancelled = false;
     RunOnAllCores(
-        count, [&](int i) { Calculate(options, variations, runs[static_cast<std::size_t>(i)]); },
+        count,
+        [&](int i) {
+            StudyRun& run = runs[static_cast<std::size_t>(i)];
+            try {
+                Calculate(options, files, variations, run);
+            } catch (const std::exception& error) {
+                run.Message = error.what();
+            }
+        },
         [&](int done) {
             // The host says so once; what other cores finish afterwards does not take it back.
             if (!CurrentHost().Progress(static_cast<double>(done) / count)) cancelled = true;

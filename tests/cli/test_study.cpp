@@ -142,6 +142,16 @@ TEST_F(CliStudy, SetsAndLanguageReachEveryRow) {
     EXPECT_NE(message("de"), message("en"));
 }
 
+// Two calculations that begin at the same moment once copied each other's files, in one study of some dozens.
+TEST_F(CliStudy, CalculationsSideBySideDoNotMixUpTheirFiles) {
+    const std::string project = Example("PointLoad");
+    for (int i = 0; i < 60; ++i) {
+        const Json study = Study(project, {"--vary", "z=1:2:1", "--take", "Sigma_z"});
+        ASSERT_EQ(study["rows"].size(), 2u);
+        for (const Json& row : study["rows"]) ASSERT_FALSE(row["aborted"].get<bool>()) << row["message"];
+    }
+}
+
 TEST_F(CliStudy, CtrlCEndsAStudyWithoutAnOutput) {
     const std::string project = Example("SquareRaft");
     const auto names = work.Names();
