@@ -4,7 +4,7 @@
 #include "core/Session.h"
 #include "core/StartSession.h"
 #include "kernels/consolidation/BasConsolidation.h"
-#include "kernels/raft/LayerFactors.h"
+#include "kernels/elastic/LayerFactors.h"
 #include "kernels/raft/SectorIntegral.h"
 
 namespace {

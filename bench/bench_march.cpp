@@ -7,7 +7,7 @@
 #include "core/StartSession.h"
 #include "kernels/consolidation/BasConsolidationRate.h"
 #include "kernels/consolidation/PorePressureMarch.h"
-#include "services/LanguageTexts.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include <cmath>
 
-#include "services/NumericLib.h"
+#include "services/numerics/NumericLib.h"
 
 namespace {
 

@@ -11,10 +11,10 @@
 #include <filesystem>
 
 #include "core/Session.h"
+#include "kernels/elastic/LayerFactors.h"
 #include "kernels/raft/BasRectangularRigidRaft.h"
-#include "kernels/raft/LayerFactors.h"
 #include "kernels/raft/RectangularNumerical.h"
-#include "services/NumericLib.h"
+#include "services/numerics/NumericLib.h"
 
 namespace lithmark {
 namespace {

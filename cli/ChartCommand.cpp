@@ -5,8 +5,8 @@
 #include "contour/CurveSets.h"
 #include "core/Session.h"
 #include "files/GloableVariable.h"
-#include "services/LanguageTexts.h"
 #include "services/SharedServices.h"
+#include "services/texts/LanguageTexts.h"
 #ifdef LITHMARK_RENDER
 #include "render/ChartDocument.h"
 #endif

@@ -4,8 +4,8 @@
 #include "contour/RecordingSurface.h"
 #include "core/Session.h"
 #include "files/GloableVariable.h"
-#include "services/LanguageTexts.h"
 #include "services/SharedServices.h"
+#include "services/texts/LanguageTexts.h"
 #ifdef LITHMARK_RENDER
 #include "render/ContourDocument.h"
 #endif

@@ -7,7 +7,7 @@
 #include "base/Utf8.h"
 #include "cli/Failures.h"
 #include "services/SharedServices.h"
-#include "services/WrittenFile.h"
+#include "services/storage/WrittenFile.h"
 
 namespace lithmark {
 

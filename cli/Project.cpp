@@ -14,10 +14,10 @@
 #include "files/SettingsFiles.h"
 #include "kernels/RunKernel.h"
 #include "services/FileDialogs.h"
-#include "services/FileNames.h"
-#include "services/ProjectArchive.h"
 #include "services/ProjectStore.h"
 #include "services/SharedServices.h"
+#include "services/storage/FileNames.h"
+#include "services/storage/ProjectArchive.h"
 
 namespace lithmark {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "services/ConsoleHost.h"
+#include "services/host/ConsoleHost.h"
 
 namespace lithmark {
 

@@ -1,7 +1,7 @@
 #include "cli/Commands.h"
 #include "cli/Output.h"
 #include "core/Session.h"
-#include "services/LanguageTexts.h"
+#include "services/texts/LanguageTexts.h"
 #ifdef LITHMARK_RENDER
 #include "render/ReportDocument.h"
 #endif

@@ -34,9 +34,10 @@ if(LITHMARK_SANITIZE)
   endif()
 endif()
 
-# lithmark_floor(NAME LIBRARIES...): a static library of all .cpp files of the current folder.
-function(lithmark_floor name)
-  file(GLOB sources CONFIGURE_DEPENDS *.cpp)
+# lithmark_floor(NAME FOLDER LIBRARIES...): a static library of the .cpp files of a folder; it links what the folder
+# includes and no more, so that the linker keeps the walls too.
+function(lithmark_floor name folder)
+  file(GLOB sources CONFIGURE_DEPENDS ${folder}/*.cpp)
   if(sources)
     add_library(${name} STATIC ${sources})
     target_link_libraries(${name} PUBLIC lithmark_flags ${ARGN})

@@ -8,9 +8,9 @@
 #include "core/Session.h"
 #include "core/Units.h"
 #include "report/ToolLib.h"
-#include "services/LanguageTexts.h"
-#include "services/NumericLib.h"
 #include "services/SharedServices.h"
+#include "services/numerics/NumericLib.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 

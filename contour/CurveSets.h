@@ -8,7 +8,7 @@
 
 #include <string>
 
-#include "services/Charting.h"
+#include "services/host/Charting.h"
 
 namespace lithmark {
 

@@ -4,7 +4,7 @@
 #include <array>
 
 #include "core/Session.h"
-#include "services/LanguageTexts.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 

@@ -2,8 +2,8 @@
 
 #include "core/Session.h"
 #include "core/Units.h"
-#include "services/LanguageTexts.h"
 #include "services/TextTools.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 

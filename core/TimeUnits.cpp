@@ -1,6 +1,6 @@
 #include "core/TimeUnits.h"
 
-#include "services/LanguageTexts.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 

@@ -10,9 +10,9 @@
 #include "desktop/Icons.h"
 #include "desktop/MainWindow.h"
 #include "desktop/QtHost.h"
-#include "services/LanguageTexts.h"
 #include "services/SharedServices.h"
-#include "ui/MDITools.h"
+#include "services/texts/LanguageTexts.h"
+#include "ui/frame/MDITools.h"
 
 namespace lithmark {
 

@@ -11,9 +11,9 @@
 #include "files/GloableVariable.h"
 #include "render/ChartDocument.h"
 #include "render/QtText.h"
-#include "services/LanguageTexts.h"
 #include "services/SharedServices.h"
-#include "services/WrittenFile.h"
+#include "services/storage/WrittenFile.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 

@@ -3,7 +3,7 @@
 
 #include <QDialog>
 
-#include "services/Charting.h"
+#include "services/host/Charting.h"
 
 namespace lithmark {
 

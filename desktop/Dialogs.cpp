@@ -18,7 +18,7 @@
 
 #include "desktop/ReportView.h"
 #include "render/QtText.h"
-#include "services/LanguageTexts.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 

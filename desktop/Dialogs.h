@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "services/Host.h"
+#include "services/host/Host.h"
 
 class QWidget;
 

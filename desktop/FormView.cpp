@@ -22,8 +22,8 @@
 #include "desktop/layouts/Layouts.h"
 #include "render/QtText.h"
 #include "services/TextTools.h"
-#include "ui/FieldForm.h"
-#include "ui/ProblemForm.h"
+#include "ui/model/FieldForm.h"
+#include "ui/model/ProblemForm.h"
 
 namespace lithmark {
 

@@ -6,7 +6,7 @@
 #include <functional>
 #include <unordered_map>
 
-#include "services/Form.h"
+#include "services/host/Form.h"
 
 class QLabel;
 class QWidget;

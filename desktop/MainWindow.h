@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "ui/MDITools.h"
+#include "ui/frame/MDITools.h"
 
 class QAction;
 class QLabel;

@@ -3,7 +3,7 @@
 #include <QBoxLayout>
 #include <QLabel>
 
-#include "services/LanguageTexts.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 

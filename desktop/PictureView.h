@@ -3,7 +3,7 @@
 
 #include <QWidget>
 
-#include "services/Form.h"
+#include "services/host/Form.h"
 
 namespace lithmark {
 

@@ -9,7 +9,7 @@
 #include "desktop/Icons.h"
 #include "desktop/PageTools.h"
 #include "render/QtText.h"
-#include "services/LanguageTexts.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 

@@ -5,7 +5,7 @@
 #include <functional>
 #include <string>
 
-#include "ui/MDITools.h"
+#include "ui/frame/MDITools.h"
 
 class QLabel;
 

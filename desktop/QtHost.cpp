@@ -21,8 +21,8 @@
 #include "desktop/TableEditorDialog.h"
 #include "render/QtText.h"
 #include "render/ReportDocument.h"
-#include "services/LanguageTexts.h"
-#include "services/WrittenFile.h"
+#include "services/storage/WrittenFile.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 

@@ -4,7 +4,7 @@
 #include <QPointer>
 #include <memory>
 
-#include "services/Host.h"
+#include "services/host/Host.h"
 
 class QProgressDialog;
 class QWidget;

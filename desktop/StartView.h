@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "ui/MDITools.h"
+#include "ui/frame/MDITools.h"
 
 class QLabel;
 

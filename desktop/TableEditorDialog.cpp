@@ -9,8 +9,8 @@
 #include "base/NumberText.h"
 #include "base/Utf8.h"
 #include "render/QtText.h"
-#include "services/LanguageTexts.h"
 #include "services/SharedServices.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 

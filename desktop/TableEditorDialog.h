@@ -3,7 +3,7 @@
 
 #include <QDialog>
 
-#include "services/TableEditor.h"
+#include "services/host/TableEditor.h"
 
 class QTableWidget;
 

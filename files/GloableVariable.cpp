@@ -1,7 +1,7 @@
 #include "files/GloableVariable.h"
 
-#include "services/FileNames.h"
 #include "services/SharedServices.h"
+#include "services/storage/FileNames.h"
 
 namespace lithmark {
 

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "base/Failure.h"
-#include "services/DataFile.h"
+#include "services/storage/DataFile.h"
 
 namespace lithmark {
 

@@ -5,7 +5,7 @@
 #include "base/Utf8.h"
 #include "render/PictureFile.h"
 #include "render/QtText.h"
-#include "services/LanguageTexts.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "services/Charting.h"
+#include "services/host/Charting.h"
 
 class QCustomPlot;
 

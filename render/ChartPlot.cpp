@@ -7,8 +7,8 @@
 #include "base/NumberText.h"
 #include "render/ChartDocument.h"
 #include "render/QtText.h"
-#include "services/LanguageTexts.h"
 #include "services/SharedServices.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 

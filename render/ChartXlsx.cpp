@@ -8,9 +8,9 @@
 #include "base/Utf8.h"
 #include "contour/CurveSets.h"
 #include "render/ChartDocument.h"
-#include "services/LanguageTexts.h"
 #include "services/SharedServices.h"
-#include "services/WrittenFile.h"
+#include "services/storage/WrittenFile.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 

@@ -6,7 +6,7 @@
 #include "core/Units.h"
 #include "render/PictureFile.h"
 #include "render/QtText.h"
-#include "services/LanguageTexts.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 

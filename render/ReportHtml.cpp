@@ -1,7 +1,7 @@
 #include "base/Utf8.h"
 #include "core/Session.h"
 #include "render/ReportDocument.h"
-#include "services/LanguageTexts.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 

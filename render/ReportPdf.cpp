@@ -10,7 +10,7 @@
 #include "core/Session.h"
 #include "render/RenderApplication.h"
 #include "render/ReportDocument.h"
-#include "services/LanguageTexts.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 

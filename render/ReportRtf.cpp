@@ -1,6 +1,6 @@
 #include "base/Utf8.h"
 #include "render/ReportDocument.h"
-#include "services/LanguageTexts.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 

@@ -6,7 +6,7 @@
 
 #include "base/Utf8.h"
 #include "core/Units.h"
-#include "services/LanguageTexts.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 

@@ -9,10 +9,10 @@
 #include <system_error>
 
 #include "base/NumberText.h"
-#include "services/DataFile.h"
-#include "services/FileNames.h"
-#include "services/SettingsStore.h"
 #include "services/SharedServices.h"
+#include "services/storage/DataFile.h"
+#include "services/storage/FileNames.h"
+#include "services/storage/SettingsStore.h"
 
 namespace lithmark {
 

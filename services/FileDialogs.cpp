@@ -5,9 +5,9 @@
 #include <system_error>
 
 #include "base/Utf8.h"
-#include "services/FileNames.h"
-#include "services/Host.h"
-#include "services/LanguageTexts.h"
+#include "services/host/Host.h"
+#include "services/storage/FileNames.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 

@@ -1,6 +1,6 @@
 #include "services/FileTools.h"
 
-#include "services/Host.h"
+#include "services/host/Host.h"
 
 namespace lithmark {
 

@@ -7,10 +7,10 @@
 #include <utility>
 #include <vector>
 
-#include "services/FileNames.h"
-#include "services/ProjectArchive.h"
 #include "services/SharedServices.h"
-#include "services/WrittenFile.h"
+#include "services/storage/FileNames.h"
+#include "services/storage/ProjectArchive.h"
+#include "services/storage/WrittenFile.h"
 
 namespace lithmark {
 

@@ -5,8 +5,8 @@
 
 #include "base/NumberText.h"
 #include "base/Utf8.h"
-#include "services/DataFile.h"
-#include "services/FileNames.h"
+#include "services/storage/DataFile.h"
+#include "services/storage/FileNames.h"
 
 namespace lithmark {
 

@@ -8,9 +8,9 @@
 #include <string>
 
 #include "base/Failure.h"
-#include "services/Host.h"
-#include "services/LanguageTexts.h"
-#include "services/SettingsStore.h"
+#include "services/host/Host.h"
+#include "services/storage/SettingsStore.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 

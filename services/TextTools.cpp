@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "base/Utf8.h"
-#include "services/FileNames.h"
 #include "services/SharedServices.h"
+#include "services/storage/FileNames.h"
 
 namespace lithmark {
 

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "base/Failure.h"
-#include "services/Form.h"
+#include "services/host/Form.h"
 
 namespace lithmark {
 

@@ -1,7 +1,7 @@
 // frmAbout: the program's name and version.
 #pragma once
 
-#include "ui/Controls.h"
+#include "ui/model/Controls.h"
 
 namespace lithmark {
 

@@ -5,9 +5,9 @@
 
 #include "core/Session.h"
 #include "files/SettingsFiles.h"
-#include "services/FileNames.h"
 #include "services/SharedServices.h"
-#include "ui/CommonStep.h"
+#include "services/storage/FileNames.h"
+#include "ui/model/CommonStep.h"
 
 namespace lithmark {
 

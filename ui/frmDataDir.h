@@ -1,7 +1,7 @@
 // frmDataDir: the data directory and whether projects are packed, for the next start of the program.
 #pragma once
 
-#include "ui/FieldForm.h"
+#include "ui/model/FieldForm.h"
 
 namespace lithmark {
 

@@ -2,7 +2,7 @@
 // CurveLoadUnit and CurveSettlementUnit; Session.DialogOk tells that it was given.
 #pragma once
 
-#include "ui/Controls.h"
+#include "ui/model/Controls.h"
 
 namespace lithmark {
 

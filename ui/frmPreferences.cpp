@@ -5,7 +5,7 @@
 #include "core/Units.h"
 #include "files/SettingsFiles.h"
 #include "services/SharedServices.h"
-#include "ui/CommonStep.h"
+#include "ui/model/CommonStep.h"
 
 namespace lithmark {
 

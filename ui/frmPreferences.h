@@ -1,7 +1,7 @@
 // frmPreferences: resolution and iteration of the numerical calculations, for the whole installation.
 #pragma once
 
-#include "ui/FieldForm.h"
+#include "ui/model/FieldForm.h"
 
 namespace lithmark {
 

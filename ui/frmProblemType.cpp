@@ -7,10 +7,10 @@
 #include "services/FileDialogs.h"
 #include "services/SharedServices.h"
 #include "services/TextTools.h"
-#include "ui/CommonStep.h"
-#include "ui/HelpText.h"
-#include "ui/MDITools.h"
-#include "ui/ProjectFlags.h"
+#include "ui/frame/MDITools.h"
+#include "ui/model/CommonStep.h"
+#include "ui/model/HelpText.h"
+#include "ui/model/ProjectFlags.h"
 
 namespace lithmark {
 

@@ -1,7 +1,7 @@
 // frmProblemType: the project's data (order, date, description) and the choice of its problem.
 #pragma once
 
-#include "ui/FieldForm.h"
+#include "ui/model/FieldForm.h"
 
 namespace lithmark {
 

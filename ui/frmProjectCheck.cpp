@@ -2,7 +2,7 @@
 
 #include "core/Session.h"
 #include "services/SharedServices.h"
-#include "ui/HelpText.h"
+#include "ui/model/HelpText.h"
 
 namespace lithmark {
 

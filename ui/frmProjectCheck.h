@@ -2,7 +2,7 @@
 // answer.
 #pragma once
 
-#include "ui/Controls.h"
+#include "ui/model/Controls.h"
 
 namespace lithmark {
 

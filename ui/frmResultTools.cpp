@@ -5,9 +5,9 @@
 #include "core/Session.h"
 #include "services/FileTools.h"
 #include "services/SharedServices.h"
-#include "ui/CommonStep.h"
-#include "ui/HelpText.h"
 #include "ui/frmOptionDraw.h"
+#include "ui/model/CommonStep.h"
+#include "ui/model/HelpText.h"
 
 namespace lithmark {
 

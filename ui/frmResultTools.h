@@ -2,7 +2,7 @@
 // processor, the clipboard, a text viewer, as curves, and to the raft program.
 #pragma once
 
-#include "ui/Controls.h"
+#include "ui/model/Controls.h"
 
 namespace lithmark {
 

@@ -1,7 +1,7 @@
 #include "ui/frmSplash.h"
 
-#include "services/Host.h"
 #include "services/SharedServices.h"
+#include "services/host/Host.h"
 
 namespace lithmark {
 

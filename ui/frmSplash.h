@@ -4,7 +4,7 @@
 
 #include <functional>
 
-#include "ui/Controls.h"
+#include "ui/model/Controls.h"
 
 namespace lithmark {
 

@@ -2,7 +2,7 @@
 // are shown already keep theirs.
 #pragma once
 
-#include "ui/Controls.h"
+#include "ui/model/Controls.h"
 
 namespace lithmark {
 

@@ -2,7 +2,7 @@
 // point load, a rectangular or a circular load.
 #pragma once
 
-#include "ui/PictureForm.h"
+#include "ui/model/PictureForm.h"
 
 namespace lithmark {
 

@@ -3,9 +3,9 @@
 #include <cmath>
 
 #include "core/Session.h"
-#include "kernels/raft/LayerFactors.h"
-#include "kernels/raft/PolarMesh.h"
-#include "kernels/stress/RectangularLoad.h"
+#include "kernels/elastic/LayerFactors.h"
+#include "kernels/elastic/PolarMesh.h"
+#include "kernels/elastic/RectangularLoad.h"
 #include "report/KernelRun.h"
 #include "services/SharedServices.h"
 

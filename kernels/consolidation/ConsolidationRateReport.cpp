@@ -6,9 +6,9 @@
 #include "core/Session.h"
 #include "core/Units.h"
 #include "kernels/consolidation/ConsolidationRateRun.h"
-#include "kernels/stress/LoadRows.h"
+#include "report/LoadRows.h"
 #include "report/ToolLib.h"
-#include "services/LanguageTexts.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 

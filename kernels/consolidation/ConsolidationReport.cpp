@@ -2,7 +2,7 @@
 #include "core/Session.h"
 #include "core/Units.h"
 #include "kernels/consolidation/ConsolidationInput.h"
-#include "kernels/stress/LoadRows.h"
+#include "report/LoadRows.h"
 #include "report/ToolLib.h"
 
 namespace lithmark {

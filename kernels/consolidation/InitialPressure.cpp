@@ -3,8 +3,8 @@
 #include <cmath>
 
 #include "core/Session.h"
-#include "kernels/stress/CircularLoad.h"
-#include "kernels/stress/PointLoad.h"
+#include "kernels/elastic/CircularLoad.h"
+#include "kernels/elastic/PointLoad.h"
 
 namespace lithmark {
 

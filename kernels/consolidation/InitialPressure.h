@@ -3,8 +3,8 @@
 
 #include "base/Single.h"
 #include "kernels/consolidation/ConsolidationRateRun.h"
-#include "kernels/stress/CircleMesh.h"
-#include "kernels/stress/RectangularLoad.h"
+#include "kernels/elastic/CircleMesh.h"
+#include "kernels/elastic/RectangularLoad.h"
 
 namespace lithmark {
 

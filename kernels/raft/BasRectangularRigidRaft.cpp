@@ -1,7 +1,7 @@
 #include "kernels/raft/BasRectangularRigidRaft.h"
 
 #include "core/Session.h"
-#include "kernels/raft/LayerFactors.h"
+#include "kernels/elastic/LayerFactors.h"
 #include "kernels/raft/RaftRun.h"
 #include "kernels/raft/RectangularAnalytical.h"
 #include "kernels/raft/RectangularNumerical.h"

@@ -6,8 +6,8 @@
 #include "kernels/raft/ClayLayer.h"
 #include "kernels/raft/PolarSymmetry.h"
 #include "kernels/raft/RaftEquilibrium.h"
-#include "services/NumericLib.h"
 #include "services/SharedServices.h"
+#include "services/numerics/NumericLib.h"
 
 namespace lithmark {
 

@@ -3,17 +3,17 @@
 #include <memory>
 
 #include "core/Session.h"
+#include "kernels/elastic/PolarMesh.h"
 #include "kernels/raft/CircularPunch.h"
 #include "kernels/raft/ClayLayer.h"
 #include "kernels/raft/PolarInfluence.h"
-#include "kernels/raft/PolarMesh.h"
 #include "kernels/raft/PolarSymmetry.h"
 #include "kernels/raft/PolarSystem.h"
 #include "kernels/raft/RaftEquilibrium.h"
 #include "kernels/raft/ThickClay.h"
 #include "kernels/raft/ThinClay.h"
-#include "services/NumericLib.h"
 #include "services/SharedServices.h"
+#include "services/numerics/NumericLib.h"
 
 namespace lithmark {
 

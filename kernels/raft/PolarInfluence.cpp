@@ -1,6 +1,6 @@
 #include "kernels/raft/PolarInfluence.h"
 
-#include "kernels/raft/LayerFactors.h"
+#include "kernels/elastic/LayerFactors.h"
 #include "kernels/raft/SectorIntegral.h"
 
 namespace lithmark {

@@ -11,7 +11,7 @@
 
 #include "base/Array.h"
 #include "base/Single.h"
-#include "kernels/raft/PolarMesh.h"
+#include "kernels/elastic/PolarMesh.h"
 
 namespace lithmark {
 

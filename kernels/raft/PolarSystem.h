@@ -10,8 +10,8 @@
 
 #include "base/Array.h"
 #include "base/Single.h"
+#include "kernels/elastic/PolarMesh.h"
 #include "kernels/raft/PolarInfluence.h"
-#include "kernels/raft/PolarMesh.h"
 #include "kernels/raft/RaftEquilibrium.h"
 
 namespace lithmark {

@@ -1,6 +1,6 @@
 #include "kernels/raft/RaftEquilibrium.h"
 
-#include "services/LanguageTexts.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 

@@ -6,7 +6,7 @@
 #include "core/Session.h"
 #include "files/GloableVariable.h"
 #include "kernels/raft/RaftRun.h"
-#include "services/MeshLib.h"
+#include "services/numerics/MeshLib.h"
 
 namespace lithmark {
 

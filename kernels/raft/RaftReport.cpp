@@ -5,7 +5,7 @@
 #include "core/Units.h"
 #include "kernels/raft/RaftRun.h"
 #include "report/ToolLib.h"
-#include "services/LanguageTexts.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 

@@ -8,6 +8,7 @@
 #include "base/Array.h"
 #include "base/Integer.h"
 #include "base/Single.h"
+#include "kernels/raft/PlotElements.h"
 
 namespace lithmark {
 
@@ -17,12 +18,6 @@ struct RaftInput {
     Integer SoilPropertyType = 1;
     Single Exz_x, Exz_y, Gamma;
     bool AnalysisType = false, SettlementAt = false;
-};
-
-// One element of the plot mesh: corner count and corner nodes in the order of the mesh file.
-struct RaftElement {
-    int Count = 4;
-    int Nodes[4] = {0, 0, 0, 0};
 };
 
 // What a finished run hands to report and export; the node arrays and the middle row are Session's.

@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "core/Session.h"
-#include "kernels/raft/LayerFactors.h"
+#include "kernels/elastic/LayerFactors.h"
 #include "kernels/raft/RaftEquilibrium.h"
 #include "kernels/raft/RectangularInfluence.h"
 #include "services/SharedServices.h"

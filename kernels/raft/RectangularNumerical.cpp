@@ -4,12 +4,12 @@
 #include <deque>
 
 #include "core/Session.h"
-#include "kernels/raft/LayerFactors.h"
+#include "kernels/elastic/LayerFactors.h"
 #include "kernels/raft/RaftEquilibrium.h"
 #include "kernels/raft/ThickClay.h"
 #include "kernels/raft/ThinClay.h"
-#include "services/NumericLib.h"
 #include "services/SharedServices.h"
+#include "services/numerics/NumericLib.h"
 
 namespace lithmark {
 

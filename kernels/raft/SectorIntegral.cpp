@@ -1,6 +1,6 @@
 #include "kernels/raft/SectorIntegral.h"
 
-#include "services/NumericLib.h"
+#include "services/numerics/NumericLib.h"
 
 namespace lithmark {
 

@@ -1,8 +1,8 @@
 #include "kernels/raft/ThickClay.h"
 
 #include "core/Session.h"
-#include "services/NumericLib.h"
 #include "services/SharedServices.h"
+#include "services/numerics/NumericLib.h"
 
 namespace lithmark {
 

@@ -1,9 +1,9 @@
 #include "kernels/stress/BasSoilStress.h"
 
 #include "core/Session.h"
-#include "kernels/stress/CircularLoad.h"
-#include "kernels/stress/PointLoad.h"
-#include "kernels/stress/RectangularLoad.h"
+#include "kernels/elastic/CircularLoad.h"
+#include "kernels/elastic/PointLoad.h"
+#include "kernels/elastic/RectangularLoad.h"
 #include "kernels/stress/SoilStressReport.h"
 #include "report/KernelRun.h"
 #include "services/SharedServices.h"

@@ -4,7 +4,7 @@
 
 #include "base/Integer.h"
 #include "base/Single.h"
-#include "kernels/stress/SoilStressInput.h"
+#include "kernels/elastic/SoilStressInput.h"
 
 namespace lithmark {
 

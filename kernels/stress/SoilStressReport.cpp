@@ -5,10 +5,10 @@
 
 #include "core/Session.h"
 #include "core/Units.h"
-#include "kernels/stress/LoadRows.h"
 #include "kernels/stress/PrincipalValues.h"
+#include "report/LoadRows.h"
 #include "report/ToolLib.h"
-#include "services/LanguageTexts.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 

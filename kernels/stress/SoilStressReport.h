@@ -1,7 +1,7 @@
 // The report of the problems 1 to 3: stresses, strains and displacements in soil.
 #pragma once
 
-#include "kernels/stress/SoilStressInput.h"
+#include "kernels/elastic/SoilStressInput.h"
 
 namespace lithmark {
 

@@ -10,7 +10,7 @@
 #include "core/Units.h"
 #include "kernels/timesettlement/TimeSettlementRun.h"
 #include "report/ToolLib.h"
-#include "services/LanguageTexts.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 

@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "support/Places.h"
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -26,7 +28,7 @@ struct SourceFile {
 
 std::vector<SourceFile> Sources() {
     std::vector<SourceFile> files;
-    const fs::path root(LITHMARK_SOURCE_DIR);
+    const fs::path root(lithmark::tests::SourceDir());
     for (const auto& [floor, level] : kFloors) {
         if (!fs::exists(root / floor)) continue;
         for (const auto& entry : fs::recursive_directory_iterator(root / floor)) {
@@ -89,7 +91,7 @@ TEST(Walls, ServicesNeverReadTheStateRecord) {
 }
 
 TEST(Walls, NoFlagLoosensTheArithmetic) {
-    for (const auto& entry : fs::recursive_directory_iterator(LITHMARK_SOURCE_DIR)) {
+    for (const auto& entry : fs::recursive_directory_iterator(lithmark::tests::SourceDir())) {
         const auto path = entry.path().string();
         if (path.find("/build/") != std::string::npos || path.find("/.git") != std::string::npos) continue;
         const auto name = entry.path().filename().string();

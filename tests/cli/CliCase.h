@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "support/Files.h"
+#include "support/Places.h"
 
 namespace lithmark::tests {
 
@@ -34,7 +35,7 @@ class CliTest : public testing::Test {
         // Root may write everywhere, unless this one ability is taken from it.
         const bool dropped = asOrdinaryUser && geteuid() == 0;
         std::string line = dropped ? "setpriv --bounding-set=-dac_override --inh-caps=-dac_override env " : "";
-        line += runner + "XDG_CONFIG_HOME=" + Quoted(settings_.Dir()) + " " + Quoted(LITHMARK_CLI);
+        line += runner + "XDG_CONFIG_HOME=" + Quoted(settings_.Dir()) + " " + Quoted(CommandLineTool().string());
         for (const std::string& word : words) line += " " + Quoted(word);
         const std::string outFile = out.empty() ? output_ / "out" : out, errFile = output_ / "err";
         line += " >" + Quoted(outFile) + " 2>" + Quoted(errFile) + " </dev/null";
@@ -46,7 +47,7 @@ class CliTest : public testing::Test {
     // A copy of an example in the test's folder; gives its project file. Settings of the example come along.
     std::string Example(const std::string& name) const {
         namespace fs = std::filesystem;
-        const fs::path from = fs::path(LITHMARK_SOURCE_DIR) / "examples" / name;
+        const fs::path from = SourceDir() / "examples" / name;
         for (const auto& entry : fs::directory_iterator(from))
             if (entry.is_regular_file()) fs::copy_file(entry.path(), work / entry.path().filename().string());
         if (fs::exists(from / "settings"))

@@ -1,7 +1,7 @@
 // Projects made and shown, and how a command ends that cannot do its work.
 #include "cli/CliCase.h"
-#include "services/ProjectArchive.h"
 #include "services/ProjectStore.h"
+#include "services/storage/ProjectArchive.h"
 
 namespace lithmark::tests {
 namespace {

@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "cli/CliCase.h"
+#include "support/Places.h"
 
 namespace lithmark::tests {
 namespace {
@@ -164,7 +165,7 @@ TEST_F(CliStudy, CtrlCEndsAStudyWithoutAnOutput) {
 
 TEST_F(CliStudy, ATerminalShowsTheProgress) {
     const std::string project = Example("PointLoad");
-    const std::string line = std::string(LITHMARK_CLI) + " study " + project + " --vary z=1:5:1 --take s --output " +
+    const std::string line = CommandLineTool().string() + " study " + project + " --vary z=1:5:1 --take s --output " +
                              (work / "s.csv") + " --settings " + work.Dir();
     const std::string shown = work / "shown";
     ASSERT_EQ(std::system(("script -qec '" + line + "' /dev/null >" + shown + " </dev/null").c_str()), 0);

@@ -6,7 +6,7 @@
 
 #include "core/Session.h"
 #include "kernels/consolidation/BasConsolidationRate.h"
-#include "services/LanguageTexts.h"
+#include "services/texts/LanguageTexts.h"
 #include "support/ScriptedHost.h"
 #include "support/TestSession.h"
 

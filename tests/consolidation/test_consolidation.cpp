@@ -5,7 +5,7 @@
 #include <functional>
 
 #include "kernels/consolidation/BasConsolidation.h"
-#include "kernels/raft/PolarMesh.h"
+#include "kernels/elastic/PolarMesh.h"
 #include "support/ScriptedHost.h"
 #include "support/TestSession.h"
 

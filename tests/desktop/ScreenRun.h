@@ -25,11 +25,11 @@
 #include "core/Session.h"
 #include "desktop/MainWindow.h"
 #include "desktop/QtHost.h"
-#include "services/LanguageTexts.h"
 #include "services/SharedServices.h"
+#include "services/texts/LanguageTexts.h"
 #include "support/Files.h"
-#include "ui/MDITools.h"
-#include "ui/ProjectFlags.h"
+#include "ui/frame/MDITools.h"
+#include "ui/model/ProjectFlags.h"
 
 namespace lithmark::tests {
 

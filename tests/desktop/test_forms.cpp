@@ -17,7 +17,7 @@
 #include "../ui/AllForms.h"
 #include "../ui/FormTest.h"
 #include "desktop/FormView.h"
-#include "ui/FieldForm.h"
+#include "ui/model/FieldForm.h"
 
 namespace lithmark::tests {
 namespace {

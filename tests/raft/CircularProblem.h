@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "core/Session.h"
+#include "kernels/elastic/PolarMesh.h"
 #include "kernels/raft/CircularRaftRun.h"
-#include "kernels/raft/PolarMesh.h"
 #include "raft/RaftProblem.h"
 
 namespace lithmark::tests {

@@ -6,7 +6,8 @@
 #include <set>
 #include <utility>
 
-#include "kernels/raft/PolarMesh.h"
+#include "kernels/elastic/PolarMesh.h"
+#include "kernels/raft/PlotElements.h"
 
 namespace lithmark {
 namespace {

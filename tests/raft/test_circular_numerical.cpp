@@ -4,8 +4,8 @@
 #include <cmath>
 #include <memory>
 
+#include "kernels/elastic/LayerFactors.h"
 #include "kernels/raft/CircularPunch.h"
-#include "kernels/raft/LayerFactors.h"
 #include "kernels/raft/PolarInfluence.h"
 #include "raft/CircularProblem.h"
 

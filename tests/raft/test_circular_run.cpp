@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <string>
 
+#include "kernels/elastic/PolarMesh.h"
 #include "kernels/raft/BasCircularRigidRaft.h"
-#include "kernels/raft/PolarMesh.h"
 #include "raft/CircularProblem.h"
 #include "support/Files.h"
 #include "support/Golden.h"

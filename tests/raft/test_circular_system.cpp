@@ -3,12 +3,12 @@
 
 #include <cmath>
 
-#include "kernels/raft/LayerFactors.h"
+#include "kernels/elastic/LayerFactors.h"
 #include "kernels/raft/PolarInfluence.h"
 #include "kernels/raft/PolarSymmetry.h"
 #include "kernels/raft/PolarSystem.h"
 #include "raft/CircularProblem.h"
-#include "services/NumericLib.h"
+#include "services/numerics/NumericLib.h"
 
 namespace lithmark::tests {
 namespace {

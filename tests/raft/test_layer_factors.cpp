@@ -4,7 +4,7 @@
 #include <functional>
 #include <limits>
 
-#include "kernels/raft/LayerFactors.h"
+#include "kernels/elastic/LayerFactors.h"
 
 using namespace lithmark;
 

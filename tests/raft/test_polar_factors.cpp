@@ -3,9 +3,9 @@
 
 #include <limits>
 
+#include "kernels/elastic/LayerFactors.h"
+#include "kernels/elastic/PolarMesh.h"
 #include "kernels/raft/GridElements.h"
-#include "kernels/raft/LayerFactors.h"
-#include "kernels/raft/PolarMesh.h"
 #include "kernels/raft/PolarSymmetry.h"
 #include "kernels/raft/SectorIntegral.h"
 

@@ -7,7 +7,7 @@
 #include <map>
 #include <set>
 
-#include "kernels/raft/PolarMesh.h"
+#include "kernels/elastic/PolarMesh.h"
 #include "kernels/raft/RaftRun.h"
 #include "raft/ExportReader.h"
 #include "raft/RaftRunCase.h"

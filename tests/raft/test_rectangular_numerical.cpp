@@ -4,11 +4,11 @@
 #include <algorithm>
 #include <cmath>
 
-#include "kernels/raft/LayerFactors.h"
+#include "kernels/elastic/LayerFactors.h"
 #include "kernels/raft/RaftEquilibrium.h"
 #include "kernels/raft/RectangularNumerical.h"
 #include "raft/RaftProblem.h"
-#include "services/NumericLib.h"
+#include "services/numerics/NumericLib.h"
 #include "support/Files.h"
 
 namespace lithmark {

@@ -15,6 +15,7 @@
 #include "kernels/RunKernel.h"
 #include "services/SharedServices.h"
 #include "support/Files.h"
+#include "support/Places.h"
 #include "support/ScriptedHost.h"
 #include "support/TestSession.h"
 
@@ -25,7 +26,7 @@ class RenderTest : public testing::Test {
     // Runs a copy of an example in a language.
     void RunExample(const std::string& name, Language language = Language::English) {
         namespace fs = std::filesystem;
-        for (const auto& entry : fs::directory_iterator(fs::path(LITHMARK_SOURCE_DIR) / "examples" / name))
+        for (const auto& entry : fs::directory_iterator(SourceDir() / "examples" / name))
             if (entry.is_regular_file())
                 fs::copy_file(entry.path(), folder / entry.path().filename().string(),
                               fs::copy_options::overwrite_existing);

@@ -9,6 +9,7 @@
 #include "render/ChartDocument.h"
 #include "render/ContourDocument.h"
 #include "render/RenderCase.h"
+#include "support/Places.h"
 
 namespace lithmark::tests {
 namespace {
@@ -44,8 +45,8 @@ double MeanDifference(const QImage& a, const QImage& b) {
 testing::AssertionResult MatchesPicture(const std::string& name, const std::string& png) {
     const QImage image =
         Image(png).convertToFormat(QImage::Format_RGB32).scaledToWidth(kReferenceWidth, Qt::SmoothTransformation);
-    const fs::path reference = fs::path(LITHMARK_SOURCE_DIR) / "tests/pictures" / name;
-    const fs::path actual = fs::path(LITHMARK_TEST_OUTPUT_DIR) / name;
+    const fs::path reference = SourceDir() / "tests/pictures" / name;
+    const fs::path actual = TestOutputDir() / name;
     fs::create_directories(actual.parent_path());
     const QImage expected = QImage(QString::fromStdString(reference.string())).convertToFormat(QImage::Format_RGB32);
     const bool sameSize = expected.size() == image.size();

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "support/Golden.h"
+#include "support/Places.h"
 
 using namespace lithmark::tests;
 
@@ -39,7 +40,7 @@ TEST(MissingReference, FailsTheTestAndWritesWhatCame) {
     const testing::AssertionResult result = MatchesGolden("none/such.txt", "what came\r\nlone\rCR\r\n");
     EXPECT_FALSE(result);
     EXPECT_NE(std::string(result.message()).find("+ what came"), std::string::npos);
-    std::ifstream file(LITHMARK_TEST_OUTPUT_DIR "/none/such.txt", std::ios::binary);
+    std::ifstream file(lithmark::tests::TestOutputDir() / "none/such.txt", std::ios::binary);
     EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), "what came\nlone\\rCR\n");
 }
 

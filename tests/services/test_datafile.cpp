@@ -5,8 +5,8 @@
 #include <cmath>
 #include <random>
 
-#include "services/DataFile.h"
-#include "services/LanguageTexts.h"
+#include "services/storage/DataFile.h"
+#include "services/texts/LanguageTexts.h"
 #include "support/Files.h"
 
 using namespace lithmark;

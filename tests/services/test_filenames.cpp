@@ -1,8 +1,8 @@
 #include <gmock/gmock.h>
 
 #include "services/FileDialogs.h"
-#include "services/FileNames.h"
 #include "services/SharedServices.h"
+#include "services/storage/FileNames.h"
 #include "support/Files.h"
 #include "support/ScriptedHost.h"
 

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "base/Utf8.h"
-#include "services/LanguageTexts.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 namespace {

@@ -4,9 +4,9 @@
 #include <cstring>
 #include <random>
 
-#include "services/DenseInverse.h"
-#include "services/MeshLib.h"
-#include "services/NumericLib.h"
+#include "services/numerics/DenseInverse.h"
+#include "services/numerics/MeshLib.h"
+#include "services/numerics/NumericLib.h"
 #include "support/Files.h"
 
 using namespace lithmark;

@@ -6,9 +6,9 @@
 #include <map>
 #include <random>
 
-#include "services/LanguageTexts.h"
-#include "services/ProjectArchive.h"
 #include "services/ProjectStore.h"
+#include "services/storage/ProjectArchive.h"
+#include "services/texts/LanguageTexts.h"
 #include "support/Files.h"
 #include "support/ScriptedHost.h"
 

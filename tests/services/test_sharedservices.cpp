@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
-#include "services/DataFile.h"
 #include "services/SharedServices.h"
+#include "services/storage/DataFile.h"
 #include "support/Files.h"
 #include "support/ScriptedHost.h"
 

@@ -3,11 +3,11 @@
 
 #include <csignal>
 
-#include "services/ConsoleHost.h"
 #include "services/FileTools.h"
 #include "services/ListTools.h"
 #include "services/SharedServices.h"
 #include "services/TextTools.h"
+#include "services/host/ConsoleHost.h"
 #include "support/Files.h"
 #include "support/ScriptedHost.h"
 

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <numbers>
 
-#include "kernels/stress/CircleMesh.h"
+#include "kernels/elastic/CircleMesh.h"
 #include "support/Files.h"
 
 using namespace lithmark;

@@ -5,7 +5,7 @@
 #include <numbers>
 #include <tuple>
 
-#include "kernels/stress/CircularLoad.h"
+#include "kernels/elastic/CircularLoad.h"
 #include "stress/StressCase.h"
 #include "support/Files.h"
 

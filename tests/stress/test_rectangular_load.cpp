@@ -5,7 +5,7 @@
 #include <numbers>
 #include <tuple>
 
-#include "kernels/stress/RectangularLoad.h"
+#include "kernels/elastic/RectangularLoad.h"
 #include "stress/StressCase.h"
 #include "support/Files.h"
 

@@ -7,7 +7,7 @@
 
 #include "core/Units.h"
 #include "kernels/stress/BasSoilStress.h"
-#include "kernels/stress/LoadRows.h"
+#include "report/LoadRows.h"
 #include "report/ToolLib.h"
 #include "stress/StressCase.h"
 #include "support/Lines.h"

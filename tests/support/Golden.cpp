@@ -10,6 +10,8 @@
 #include <sstream>
 #include <vector>
 
+#include "support/Places.h"
+
 namespace lithmark::tests {
 
 namespace fs = std::filesystem;
@@ -114,7 +116,7 @@ std::string LineDifference(const std::string& expected, const std::string& actua
 }
 
 testing::AssertionResult MatchesGolden(const std::string& name, const std::string& actual) {
-    const fs::path golden = fs::path(LITHMARK_SOURCE_DIR) / "tests" / "goldens" / name;
+    const fs::path golden = SourceDir() / "tests" / "goldens" / name;
     const std::string came = GoldenForm(actual);
     const std::optional<std::string> expected = ReadAll(golden);
     if (expected == came) return testing::AssertionSuccess();
@@ -125,7 +127,7 @@ testing::AssertionResult MatchesGolden(const std::string& name, const std::strin
         WriteAll(golden, came);
         return testing::AssertionSuccess();
     }
-    const fs::path output = fs::path(LITHMARK_TEST_OUTPUT_DIR) / name;
+    const fs::path output = TestOutputDir() / name;
     WriteAll(output, came);
     WriteAll(output.string() + ".diff", difference);
     return testing::AssertionFailure() << (expected ? "differs from golden " : "no golden ") << name << " (- expected, "

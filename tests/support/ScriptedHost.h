@@ -21,7 +21,7 @@
 #include <utility>
 #include <vector>
 
-#include "services/Host.h"
+#include "services/host/Host.h"
 
 namespace lithmark::tests {
 

@@ -3,7 +3,7 @@
 
 #include "core/Session.h"
 #include "core/StartSession.h"
-#include "services/LanguageTexts.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark::tests {
 

@@ -9,7 +9,7 @@
 
 #include "core/Session.h"
 #include "kernels/timesettlement/BasTimeSettlement.h"
-#include "services/LanguageTexts.h"
+#include "services/texts/LanguageTexts.h"
 #include "support/ScriptedHost.h"
 #include "support/TestSession.h"
 

@@ -4,7 +4,7 @@
 #include <memory>
 #include <vector>
 
-#include "ui/MDITools.h"
+#include "ui/frame/MDITools.h"
 #include "ui/frmAbout.h"
 #include "ui/frmDataDir.h"
 #include "ui/frmOptionDraw.h"

@@ -8,11 +8,11 @@
 
 #include "core/Session.h"
 #include "core/StartSession.h"
-#include "services/LanguageTexts.h"
 #include "services/SharedServices.h"
+#include "services/texts/LanguageTexts.h"
 #include "support/Files.h"
 #include "support/ScriptedHost.h"
-#include "ui/ProjectFlags.h"
+#include "ui/model/ProjectFlags.h"
 
 namespace lithmark::tests {
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "FormTest.h"
-#include "ui/MDITools.h"
+#include "ui/frame/MDITools.h"
 #include "ui/frmProblemType.h"
 #include "ui/frmProjectCheck.h"
 

@@ -3,9 +3,9 @@
 
 #include "support/Files.h"
 #include "support/ScriptedHost.h"
-#include "ui/Controls.h"
-#include "ui/HelpText.h"
-#include "ui/ProjectFlags.h"
+#include "ui/model/Controls.h"
+#include "ui/model/HelpText.h"
+#include "ui/model/ProjectFlags.h"
 
 using namespace lithmark;
 using namespace lithmark::tests;

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "FormTest.h"
-#include "ui/FieldForm.h"
+#include "ui/model/FieldForm.h"
 
 using namespace lithmark;
 using namespace lithmark::tests;

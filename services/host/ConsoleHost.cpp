@@ -1,0 +1,88 @@
+#include "services/host/ConsoleHost.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <csignal>
+
+namespace lithmark {
+
+namespace {
+
+constexpr int kBarWidth = 40;
+constexpr int kExitAfterInterrupt = 130;  // 128 + SIGINT, as shells tell it
+
+volatile std::sig_atomic_t interrupted = 0;
+
+extern "C" void OnInterrupt(int) {
+    if (interrupted != 0) ::_exit(kExitAfterInterrupt);
+    interrupted = 1;
+}
+
+}  // namespace
+
+std::string OneLine(const std::string& text) {
+    std::string line;
+    for (const char c : text) {
+        const char plain = c == '\r' || c == '\n' || c == '\t' ? ' ' : c;
+        if (plain != ' ' || (!line.empty() && line.back() != ' ')) line += plain;
+    }
+    if (line.ends_with(' ')) line.pop_back();
+    return line;
+}
+
+ConsoleHost::ConsoleHost() : ConsoleHost(stderr, ::isatty(STDERR_FILENO) != 0) {}
+
+ConsoleHost::ConsoleHost(std::FILE* out, bool terminal) : out_(out), terminal_(terminal) {
+    interrupted = 0;
+    previousHandler_ = std::signal(SIGINT, OnInterrupt);
+}
+
+ConsoleHost::~ConsoleHost() {
+    ClearBar();
+    if (previousHandler_ != SIG_ERR) std::signal(SIGINT, previousHandler_);
+}
+
+void ConsoleHost::ShowMessage(const std::string& title, const std::string& text, MessageIcon) {
+    messages_.push_back({title, text});
+}
+
+void ConsoleHost::PrintMessages() {
+    ClearBar();
+    for (; printed_ < messages_.size(); ++printed_) {
+        const Message& message = messages_[printed_];
+        std::fprintf(out_, "%s: %s\n", OneLine(message.Title).c_str(), OneLine(message.Text).c_str());
+    }
+    std::fflush(out_);
+}
+
+bool ConsoleHost::Progress(double fraction) {
+    if (interrupted != 0) {
+        interrupted = 0;
+        ClearBar();
+        return false;
+    }
+    if (!terminal_) return true;
+    const int percent = static_cast<int>(std::clamp(fraction, 0.0, 1.0) * 100);
+    if (percent == 100) {
+        ClearBar();
+    } else if (percent != percentShown_) {
+        const int full = percent * kBarWidth / 100;
+        std::fprintf(out_, "\r[%s%s] %2d %%", std::string(static_cast<std::size_t>(full), '#').c_str(),
+                     std::string(static_cast<std::size_t>(kBarWidth - full), ' ').c_str(), percent);
+        std::fflush(out_);
+        percentShown_ = percent;
+        barShown_ = true;
+    }
+    return true;
+}
+
+void ConsoleHost::ClearBar() {
+    if (!barShown_) return;
+    std::fputs("\r\x1B[K", out_);
+    std::fflush(out_);
+    barShown_ = false;
+    percentShown_ = -1;
+}
+
+}  // namespace lithmark

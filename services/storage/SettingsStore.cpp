@@ -1,0 +1,65 @@
+#include "services/storage/SettingsStore.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <nlohmann/json.hpp>
+#include <system_error>
+
+#include "services/storage/WrittenFile.h"
+
+namespace lithmark {
+
+namespace {
+
+using Json = nlohmann::json;
+
+Json ReadStore(const std::string& file, std::string& damagedName) {
+    std::string content;
+    try {
+        content = ReadWholeFile(file);
+    } catch (const Failure&) {  // no file yet, or one that cannot be read: defaults serve
+        return Json::object();
+    }
+    Json store = Json::parse(content, nullptr, false);
+    if (store.is_object()) return store;
+    const std::string aside = file + ".damaged";
+    if (std::rename(file.c_str(), aside.c_str()) == 0) damagedName = aside;
+    return Json::object();
+}
+
+const Json* Member(const Json* object, const std::string& name) {
+    if (object == nullptr || !object->is_object()) return nullptr;
+    const auto found = object->find(name);
+    return found == object->end() ? nullptr : &*found;
+}
+
+Json& ObjectMember(Json& object, const std::string& name) {
+    Json& member = object[name];
+    if (!member.is_object()) member = Json::object();
+    return member;
+}
+
+}  // namespace
+
+std::optional<SettingValue> ReadSetting(const std::string& file, const std::string& app, const std::string& section,
+                                        const std::string& key, std::string& damagedName) {
+    const Json store = ReadStore(file, damagedName);
+    const Json* value = Member(Member(Member(&store, app), section), key);
+    if (value == nullptr) return std::nullopt;
+    if (value->is_boolean()) return value->get<bool>();
+    if (value->is_number_integer()) return value->get<long>();
+    if (value->is_string()) return value->get<std::string>();
+    return std::nullopt;
+}
+
+void WriteSetting(const std::string& file, const std::string& app, const std::string& section, const std::string& key,
+                  const SettingValue& value, std::string& damagedName) {
+    Json store = ReadStore(file, damagedName);
+    Json& place = ObjectMember(ObjectMember(store, app), section)[key];
+    std::visit([&](const auto& plain) { place = plain; }, value);
+    std::error_code error;  // a folder that cannot be made shows in the write
+    std::filesystem::create_directories(std::filesystem::path(file).parent_path(), error);
+    WriteWholeFile(file, store.dump(2, ' ', false, Json::error_handler_t::replace) + "\n");
+}
+
+}  // namespace lithmark

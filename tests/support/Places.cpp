@@ -1,0 +1,20 @@
+#include "support/Places.h"
+
+namespace lithmark::tests {
+
+const std::filesystem::path& SourceDir() {
+    static const std::filesystem::path path = LITHMARK_SOURCE_DIR;
+    return path;
+}
+
+const std::filesystem::path& TestOutputDir() {
+    static const std::filesystem::path path = LITHMARK_TEST_OUTPUT_DIR;
+    return path;
+}
+
+const std::filesystem::path& CommandLineTool() {
+    static const std::filesystem::path path = LITHMARK_CLI;
+    return path;
+}
+
+}  // namespace lithmark::tests

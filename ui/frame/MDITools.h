@@ -1,0 +1,165 @@
+// MDITools: the one main window. It starts the program, holds the menu and the bars, opens projects, shows the dialogs,
+// and ends the program.
+//
+// Every command runs to its end or tells its failure; none throws. What the window itself knows and does (where it
+// stands, how its bars are laid out, that it draws itself anew) it does through FrameWindow.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "services/ListTools.h"
+#include "services/host/Form.h"
+#include "texts/LanguageTable.h"
+#include "ui/frame/MenuTree.h"
+#include "ui/frame/Toolbars.h"
+
+namespace lithmark {
+
+class frmSplash;
+
+// Whoever shows the frame.
+class FrameWindow {
+  public:
+    virtual ~FrameWindow() = default;
+    // Title, menu, bars, status bar, summary or visibility of the frame changed.
+    virtual void Refresh() {}
+    virtual std::optional<FormPosition> Position() const { return std::nullopt; }
+    virtual void SetPosition(const FormPosition&) {}
+    // How the bars are docked, as a text of the window's own.
+    virtual std::string DockLayout() const { return {}; }
+    // Docks the bars as a layout says; the default order for an empty one.
+    virtual void SetDockLayout(const std::string& /*layout*/) {}
+    virtual void EndProcess() {}
+};
+
+// What the frame shows while no project is open. New and open are the entries mnuNewProject and mnuOpenProject.
+struct StartPage {
+    struct RecentProject {
+        int Index;  // of MnuRecentFile
+        std::string Path;
+    };
+    std::vector<RecentProject> RecentProjects;  // the newest first
+};
+
+// What the frame shows of the open project.
+struct ProjectSummary {
+    std::string Name, Directory;
+    std::string Problem;    // the text of its menu entry; empty for a number that the catalogue does not have
+    int ProblemEntry = -1;  // index of mnuProblem
+    std::string Order, Date, Project;
+    std::vector<std::string> MissingData;  // the texts of the problems whose data do not exist yet
+};
+
+class MDITools : public Form {
+  public:
+    MDITools();
+    ~MDITools() override;
+
+    MenuTree Menu;
+    Toolbars Bars;
+    // Carries its state from the settings to the settings; it does not stand in the menu.
+    MenuItem mnu_TBStyle{"mnu_TBStyle", ""};
+    RecentFileTable RecentFiles;
+    bool StatusBarVisible = true;
+    std::string HelpFile;
+    bool Shown = false;
+    bool Ended = false;  // ExitProgram ran
+
+    // The window that shows the frame; null for none.
+    void SetWindow(FrameWindow* window);
+    // Milliseconds of a clock that never goes back, for the splash.
+    void SetClock(std::function<long long()> milliseconds) { clock_ = std::move(milliseconds); }
+
+    // --- start and end ---
+
+    // Everything between the start of the process and the first command: splash, settings, bars, and the project that
+    // the command line names. `otherwise` is the language when none is stored.
+    void Start(const std::string& commandLine, Language otherwise = Language::English);
+    // Builds the menu and the bars in the language in force.
+    void Load() override;
+    // A path of a project file, quoted or not. One that cannot be resolved changes nothing.
+    void OpenFromCommandLine(std::string text);
+    // Asks, and ends the program on yes.
+    void mnuFileExit_Click();
+    // The window is to be closed; true when it must stay.
+    bool QueryUnload();
+    void ExitProgram();
+
+    // --- project ---
+
+    void NewProjectState();
+    // Shows the one problem entry of the project, beside the project's own.
+    void SetProblemMenu();
+    void OpenProject();
+    void CheckProjectFiles();
+    // Tells what is missing and asks whether to go on; without missing data asks for the end if `ask` is not 0.
+    void ProjectCheck(int ask, bool& ok);
+    void mnuNewProject_Click();
+    void mnuOpenProject_Click();
+    void mnuSaveProjectAs_Click();
+    void mnuFileList_Click();
+    void MnuRecentFile_Click(int index);
+    // "Lithmark - [name]".
+    void ShowTitle(const std::string& name);
+    static std::string Title(const std::string& name);
+
+    bool ProjectOpen() const;
+    StartPage RecentProjects() const;
+    // Of the open project.
+    ProjectSummary Summary();
+
+    // --- menu ---
+
+    // A click on an entry, by its place in the tree or its key. Headings, separators and unknown keys do nothing.
+    void m_cMenu_Click(int index);
+    void m_cMenu_Click(std::string_view key);
+    void mnuProblem_Click(int index);
+    // True when the dialog of an entry of mnuProblem exists.
+    static bool DialogExists(int entry);
+    // The entry whose menu pops up at the mouse for a button; empty for none.
+    std::string PopupKey(int mouseButton);
+
+    void mnuFirmaData_Click();
+    void mnuDirOfData_Click();
+    void mnuPreferences_Click();
+    void MnuLanguage_Click();
+    void mnuUnits_Click();
+    void mnuHelpContents_Click();
+    void mnuShortDescription_Click();
+    void mnuNewVersion_Click();
+    void mnuAbout_Click();
+
+    // --- bars ---
+
+    void LayoutToolbars();
+    void LoadBarSettings();
+    void SaveTBar();
+    // Shows or hides a bar by the tick of its entry.
+    void ToggleBar(int index);
+    void MnuVeiwToolBar_Click(int index);
+    void mnuResetToolbar_Click();
+
+  private:
+    void Refresh();
+    void ShowSplash();
+    // When the frame is ready: the splash has its three seconds first.
+    void CloseSplash();
+    // Waits only when the splash is marked to.
+    void TakeSplashAway();
+    void ResetToolbars();
+    std::vector<std::string> MissingData();
+    void AddToRecentFiles(const std::string& path);
+    void SyncRecentFromMenu();
+    void SyncRecentToMenu();
+
+    FrameWindow* window_ = nullptr;
+    std::function<long long()> clock_;
+    std::unique_ptr<frmSplash> splash_;
+};
+
+}  // namespace lithmark

@@ -1,0 +1,144 @@
+#include "ui/model/ProblemForm.h"
+
+#include <utility>
+
+#include "core/Catalogue.h"
+#include "core/Session.h"
+#include "files/GloableVariable.h"
+#include "files/ProblemData.h"
+#include "services/FileDialogs.h"
+#include "services/SharedServices.h"
+#include "ui/frmResultTools.h"
+#include "ui/model/CommonStep.h"
+#include "ui/model/ProjectFlags.h"
+
+namespace lithmark {
+
+namespace {
+
+constexpr Style kButton{1}, kDialogButton{3};
+
+const ProblemRow& CurrentProblem() {
+    const ProblemRow* row = FindProblem(Session.ProblemType);
+    if (row == nullptr) Fail(FailureKind::SubscriptRange);
+    return *row;
+}
+
+// A run that failed and a file that is missing leave the hourglass; a form that waits for its user does not.
+void EndHourglass() {
+    SharedServices().SetPointer(PointerShape::Default);
+}
+
+// Runs a command of the form; what goes wrong in it is told and leaves no hourglass.
+template <typename Command>
+void Run(Command&& command) {
+    if (!UnderCommonStep(std::forward<Command>(command))) EndHourglass();
+}
+
+}  // namespace
+
+ProblemForm::ProblemForm(std::string name, std::string okButton)
+    : FieldForm(std::move(name)), cmdok(*this, std::move(okButton)) {
+    cmdok.OnClick = [this] { cmdok_Click(); };
+    cmdHelp.OnClick = [this] { cmdHelp_Click(); };
+    cmdSave.OnClick = [this] { cmdSave_Click(); };
+    cmdSaveAs.OnClick = [this] { cmdSaveAs_Click(); };
+    cmdOpen.OnClick = [this] { cmdOpen_Click(); };
+    cmdResult.OnClick = [this] { cmdResult_Click(); };
+}
+
+void ProblemForm::Load() {
+    SharedServices().PrepareForm(*this);
+    SetProblemDefaults();
+    Session.WorkDir = Session.DataDir;
+    Session.WorkName = Session.ProjectName;
+    if (ProblemSaved(CurrentProblem().MenuEntry)) {
+        ReadProblemData();
+        EndHourglass();
+    }
+    ShowData();
+    ShowCaptions();
+    SetCaptions({{cmdok, 6_text, kButton},
+                 {cmdHelp, 8_text, kButton},
+                 {cmdSave, 111_text, kButton},
+                 {cmdSaveAs, 9_text, kDialogButton},
+                 {cmdOpen, 10016_text, kDialogButton},
+                 {cmdResult, 140096_text, kButton}});
+    ShowForProblem();
+    MarkSaved();
+}
+
+void ProblemForm::ShowData() {
+    ShowFields();
+    Session.A0 = Session.A;
+    ShowChoices();
+}
+
+void ProblemForm::StoreData() {
+    if (!CheckFields()) return;
+    StoreFields();
+    Session.A0 = Session.A;
+    StoreChoices();
+    Session.DataValid = true;
+}
+
+void ProblemForm::SaveData() {
+    Session.DataValid = false;
+    StoreData();
+    if (!Session.DataValid) return;
+    WriteProblemData();
+    EndHourglass();
+    if (Session.FileSaved) MarkSaved();
+}
+
+void ProblemForm::cmdHelp_Click() {
+    ShowHelp(Caption, Help());
+}
+
+void ProblemForm::cmdSave_Click() {
+    Run([&] {
+        Session.WorkDir = Session.DataDir;
+        Session.WorkName = Session.ProjectName;
+        SaveData();
+        // FileSaved alone may stand from an earlier save.
+        if (Session.DataValid && Session.FileSaved) SetProblemSaved(CurrentProblem().MenuEntry, true);
+    });
+}
+
+void ProblemForm::cmdSaveAs_Click() {
+    Run([&] {
+        std::string file;
+        if (FileDialogs().SaveFileDialog(file, Session.DataDir, Session.WorkDir, Session.WorkName,
+                                         CurrentProblem().Extension, Caption))
+            SaveData();
+    });
+}
+
+void ProblemForm::cmdOpen_Click() {
+    Run([&] {
+        std::string file;
+        if (!FileDialogs().OpenFileDialog(file, Session.DataDir, Session.WorkDir, Session.WorkName,
+                                          std::string("*.") + CurrentProblem().Extension, Caption))
+            return;
+        const ReadOutcome outcome = ReadProblemData();
+        EndHourglass();
+        // After a failure the boxes keep what the user typed.
+        if (outcome == ReadOutcome::Read) ShowOpened();
+    });
+}
+
+void ProblemForm::cmdResult_Click() {
+    Run([&] {
+        Session.DataValid = false;
+        StoreData();
+        if (!Session.DataValid) return;
+        Session.CalcAborted = false;
+        Compute();
+        EndHourglass();
+        if (Session.CalcAborted) return;
+        frmResultTools viewer;
+        CurrentHost().ShowForm(viewer);
+    });
+}
+
+}  // namespace lithmark
