@@ -21,6 +21,10 @@ void CloseDataFile(int fileNumber) {
     SharedServices().ClearFileStatus();
 }
 
+void CommitDataFiles(NumberedFileSet& files) {
+    files.Commit([](const std::string& path) { SharedServices().SetCurrentFile(path); });
+}
+
 void FileError(const Failure& failure) {
     SharedServices().ShowFileError(failure);
     DropNumberedFile(1);

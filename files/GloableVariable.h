@@ -15,6 +15,9 @@ int OpenDataFile(const std::string& name, FileMode mode, int fileNumber);
 // Closes a file, which puts a written one in its place, and clears the notice.
 void CloseDataFile(int fileNumber);
 
+// Puts the files of a set in place, as NumberedFileSet says. A failure is told for the file that it concerns.
+void CommitDataFiles(NumberedFileSet& files);
+
 // The common step after a failure, for kernels and file routines alike: tells it for the file last opened, drops the
 // open file under number 1, clears the notice.
 void FileError(const Failure& failure);

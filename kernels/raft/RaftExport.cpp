@@ -15,20 +15,31 @@ namespace {
 constexpr int kFile = 1;
 const std::string kVersion = "Version 9";
 
-// An open export file, in place once Close has been called; left open by a failure it is dropped by the shared failure
-// routine.
+bool exportOn = true;
+
+// An open export file, ready to take its place once Close has been called; left open by a failure it is dropped by the
+// shared failure routine. Nothing is opened or written while the export is off.
 class TextExport {
   public:
     explicit TextExport(const std::string& extension, FileMode mode = FileMode::Output) {
-        OpenDataFile(DataFileName(Session.WorkDir, Session.WorkName, extension), mode, kFile);
+        if (exportOn) OpenDataFile(DataFileName(Session.WorkDir, Session.WorkName, extension), mode, kFile);
     }
-    void Close() { CloseDataFile(kFile); }
+    void Close() {
+        if (exportOn) CloseDataFile(kFile);
+    }
 
-    void Put(Single value) { WriteNumber(kFile, value); }
-    void Put(Integer value) { WriteNumber(kFile, value); }
-    void Put(long value) { WriteNumber(kFile, value); }
+    template <typename Number>
+    void Put(Number value) {
+        if (exportOn) WriteNumber(kFile, value);
+    }
     void PutAll(const Array<Single>& values) {
         for (const Single value : values) Put(value);
+    }
+    void PutList(std::initializer_list<ListItem> items) {
+        if (exportOn) WriteList(kFile, items);
+    }
+    void PutLine(const std::string& text) {
+        if (exportOn) WriteRawLine(kFile, text);
     }
 };
 
@@ -40,7 +51,8 @@ class RecordExport : private TextExport {
 
     template <typename T>
     void Put(const T& value) {
-        PutRecord(kFile, ++record_, value);
+        ++record_;
+        if (exportOn) PutRecord(kFile, record_, value);
     }
     template <typename T>
     void Put(int times, const T& value) {
@@ -72,7 +84,7 @@ void WriteMesh(const RaftResult& result) {
 
 void WriteRunOptions(const RaftResult& result) {
     TextExport file("PO1");
-    WriteRawLine(kFile, kVersion);
+    file.PutLine(kVersion);
     file.Put(Integer(1));
     file.Put(Integer(result.Input.AnalysisType ? 19 : 7));
     for (int i = 0; i < 13; ++i) file.Put(Integer(2));
@@ -127,27 +139,27 @@ void WriteOutline(const RaftResult& result, const MeshLib::MeshValues& values) {
     const Single a = result.Input.A, b = result.Circular ? Session.B : result.Input.B, o = 0;
     TextExport file("PL8");
     file.Put(Integer(4));
-    const auto line = [o](Single x1, Single y1, Single x2, Single y2) {
-        WriteList(kFile, {false, x1, y1, x2, y2, o, o, false});
+    const auto line = [&file, o](Single x1, Single y1, Single x2, Single y2) {
+        file.PutList({false, x1, y1, x2, y2, o, o, false});
     };
     line(o, o, a, o);
     line(a, o, a, b);
     line(a, b, o, b);
     line(o, b, o, o);
-    WriteList(kFile, {Integer(0), Integer(0)});  // no inner lines
-    WriteList(kFile, {Integer(0), Integer(0)});  // no further tables
+    file.PutList({Integer(0), Integer(0)});  // no inner lines
+    file.PutList({Integer(0), Integer(0)});  // no further tables
     file.Put(values.EdgeCount);
-    WriteList(kFile, {values.OffsetX, values.OffsetY, values.Turn});
+    file.PutList({values.OffsetX, values.OffsetY, values.Turn});
     // A direction without a grid gets ten places of its own.
     const auto places = [](Integer intervals) { return intervals == 0 ? Integer(10) : intervals; };
-    WriteList(kFile, {places(result.NX), places(result.NY)});
-    const auto grid = [](Integer intervals, const Array<std::string>& texts) {
+    file.PutList({places(result.NX), places(result.NY)});
+    const auto grid = [&file](Integer intervals, const Array<std::string>& texts) {
         if (intervals != 0) {
-            for (const std::string& text : texts) WriteList(kFile, {text});
+            for (const std::string& text : texts) file.PutList({text});
             return;
         }
-        WriteList(kFile, {std::monostate{}});
-        for (int i = 1; i <= 10; ++i) WriteNumber(kFile, Integer(i));
+        file.PutList({std::monostate{}});
+        for (int i = 1; i <= 10; ++i) file.Put(Integer(i));
     };
     grid(result.NX, result.GridX);
     grid(result.NY, result.GridY);
@@ -311,9 +323,8 @@ void WriteNodeValues(const std::string& extension, const Array<Single>& values) 
     file.Close();
 }
 
-}  // namespace
-
-void ExportRaft(const RaftResult& result) {
+// All eleven files, in their order.
+void WriteFiles(const RaftResult& result) {
     WriteMesh(result);
     WriteRunOptions(result);
     WriteAreas();
@@ -331,6 +342,27 @@ void ExportRaft(const RaftResult& result) {
     WriteNodeValues("PH1", metres);
     WriteNodeValues("PH2", Session.NodePressure);
     WriteNodeValues("PW1", modulus);
+}
+
+}  // namespace
+
+void SetRaftExport(bool on) {
+    exportOn = on;
+}
+
+void ExportRaft(const RaftResult& result) {
+    NumberedFileSet files;
+    try {
+        WriteFiles(result);
+    } catch (const Failure&) {
+        // The failure of the file that could not be written is the one to be told.
+        try {
+            files.Commit([](const std::string&) {});
+        } catch (const Failure&) {
+        }
+        throw;
+    }
+    CommitDataFiles(files);
 }
 
 }  // namespace lithmark

@@ -32,8 +32,12 @@ struct RaftResult {
 
 // Appends the report of problems 9 and 10 to a new Session.ResultText.
 void WriteRaftReport(const RaftResult& result);
-// Writes the eleven export files of the project, in their order. Throws Failure; files finished earlier stay. Sets
-// Session.Nue to 0 or eo after an analytical run of problem 10 (see RaftExport.cpp).
+// Writes the eleven export files of the project, in their order. They come to the disk together and then take their
+// places; when one cannot be written, those finished before it take theirs, and the Failure is thrown. Sets Session.Nue
+// to 0 or eo after an analytical run of problem 10 (see RaftExport.cpp).
 void ExportRaft(const RaftResult& result);
+// Off: the runs that follow write no files. Nothing else changes: what would fail for its numbers fails all the same.
+// On at the start of the program.
+void SetRaftExport(bool on);
 
 }  // namespace lithmark

@@ -5,7 +5,10 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <type_traits>
+#include <utility>
+#include <vector>
 
 #include "base/NumberText.h"
 #include "base/Utf8.h"
@@ -115,6 +118,12 @@ std::map<int, NumberedFile>& OpenFiles() {
     return files;
 }
 
+// The files that a set holds back; nothing when no set stands.
+std::optional<std::vector<std::unique_ptr<WrittenFile>>>& HeldBack() {
+    static std::optional<std::vector<std::unique_ptr<WrittenFile>>> files;
+    return files;
+}
+
 TextReader& ReaderOf(int fileNumber) {
     const auto found = OpenFiles().find(fileNumber);
     if (found == OpenFiles().end() || !found->second.Reader) Fail(FailureKind::ReadError);
@@ -202,8 +211,26 @@ void OpenNumberedFile(int fileNumber, const std::string& path, FileMode mode) {
 
 void CloseNumberedFile(int fileNumber) {
     // The number is free again also when putting the file in place fails.
-    const auto node = OpenFiles().extract(fileNumber);
-    if (!node.empty() && node.mapped().Writer) node.mapped().Writer->Commit();
+    auto node = OpenFiles().extract(fileNumber);
+    if (node.empty() || !node.mapped().Writer) return;
+    if (HeldBack())
+        HeldBack()->push_back(std::move(node.mapped().Writer));
+    else
+        node.mapped().Writer->Commit();
+}
+
+NumberedFileSet::NumberedFileSet() {
+    if (HeldBack()) Fail(FailureKind::Other);
+    HeldBack().emplace();
+}
+
+NumberedFileSet::~NumberedFileSet() {
+    HeldBack().reset();
+}
+
+void NumberedFileSet::Commit(const std::function<void(const std::string& path)>& at) {
+    const auto files = std::exchange(*HeldBack(), {});
+    WrittenFile::CommitTogether(files, at);
 }
 
 void DropNumberedFile(int fileNumber) {

@@ -5,6 +5,7 @@
 // with the line number where one applies; who calls them goes through OpenDataFile and CloseDataFile (files/).
 #pragma once
 
+#include <functional>
 #include <initializer_list>
 #include <string>
 #include <variant>
@@ -23,6 +24,19 @@ void OpenNumberedFile(int fileNumber, const std::string& path, FileMode mode);
 void CloseNumberedFile(int fileNumber);
 void DropNumberedFile(int fileNumber);
 bool IsNumberedFileOpen(int fileNumber);
+
+// Output files that belong together. While one stands, a file that is closed is held back; Commit brings all of them to
+// the disk and then puts them in place, in the order in which they were closed. Files that no Commit put in place are
+// dropped. One set stands at a time.
+class NumberedFileSet {
+  public:
+    NumberedFileSet();
+    ~NumberedFileSet();
+    NumberedFileSet(const NumberedFileSet&) = delete;
+    NumberedFileSet& operator=(const NumberedFileSet&) = delete;
+    // `at` is told the path of the file that is worked on next, so that a failure can be told for it.
+    void Commit(const std::function<void(const std::string& path)>& at);
+};
 
 // Reading text files. A value ends at a comma or a line end; CR LF, LF and CR all end a line. Files that are not UTF-8
 // are taken as Windows-1252, or Windows-1256 while the language is Arabic.

@@ -9,6 +9,7 @@
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
+#include <set>
 #include <system_error>
 #include <utility>
 
@@ -39,6 +40,12 @@ std::string RealTarget(const std::string& path) {
     if (!std::filesystem::is_symlink(path, error)) return path;
     const auto real = std::filesystem::weakly_canonical(path, error);
     return error ? path : real.string();
+}
+
+// The folder that a path lies in, with its slash at the end; empty for the current one.
+std::string FolderOf(const std::string& path) {
+    const auto slash = path.rfind('/');
+    return slash == std::string::npos ? "" : path.substr(0, slash + 1);
 }
 
 }  // namespace
@@ -75,8 +82,7 @@ WrittenFile::~WrittenFile() {
 
 void WrittenFile::OpenTemporary() {
     static std::atomic<unsigned> counter = 0;
-    const auto slash = target_.rfind('/');
-    const std::string folder = slash == std::string::npos ? "" : target_.substr(0, slash + 1);
+    const std::string folder = FolderOf(target_);
     // The name is short whatever the target is called, so that long names can be written too.
     do {
         temporary_ =
@@ -110,19 +116,62 @@ void WrittenFile::Sync() {
     if (!temporary_.empty() && ::fsync(descriptor_) != 0) FailWithSystemError(errno, FailureKind::WriteError);
 }
 
+void WrittenFile::StartSync() {
+    Flush();
+#ifdef __linux__
+    // A hint: what goes wrong is met again by Sync.
+    if (!temporary_.empty()) ::sync_file_range(descriptor_, 0, 0, SYNC_FILE_RANGE_WRITE);
+#endif
+}
+
+void WrittenFile::Close() {
+    if (::close(std::exchange(descriptor_, -1)) != 0) FailWithSystemError(errno, FailureKind::WriteError);
+}
+
+void WrittenFile::TakePlace() {
+    if (temporary_.empty()) return;
+    if (std::rename(temporary_.c_str(), target_.c_str()) != 0) FailWithSystemError(errno, FailureKind::WriteError);
+    temporary_.clear();
+}
+
 void WrittenFile::Commit() {
+    const bool replaces = !temporary_.empty();
     try {
         Sync();
-        const bool replaces = !temporary_.empty();
-        if (::close(std::exchange(descriptor_, -1)) != 0) FailWithSystemError(errno, FailureKind::WriteError);
-        if (!replaces) return;
-        if (std::rename(temporary_.c_str(), target_.c_str()) != 0) FailWithSystemError(errno, FailureKind::WriteError);
+        Close();
+        TakePlace();
     } catch (...) {
         Drop();
         throw;
     }
-    temporary_.clear();
-    SyncFolderOf(target_);
+    if (replaces) SyncFolderOf(target_);
+}
+
+void WrittenFile::CommitTogether(std::span<const std::unique_ptr<WrittenFile>> files,
+                                 const std::function<void(const std::string& target)>& at) {
+    std::set<std::string> folders;
+    const auto each = [&](void (WrittenFile::*step)()) {
+        for (const auto& file : files) {
+            at(file->target_);
+            ((*file).*step)();
+        }
+    };
+    try {
+        each(&WrittenFile::StartSync);
+        each(&WrittenFile::Sync);
+        each(&WrittenFile::Close);
+        for (const auto& file : files) {
+            at(file->target_);
+            const bool replaces = !file->temporary_.empty();
+            file->TakePlace();
+            if (replaces) folders.insert(FolderOf(file->target_));
+        }
+    } catch (...) {
+        for (const auto& file : files) file->Drop();
+        for (const std::string& folder : folders) SyncFolderOf(folder);
+        throw;
+    }
+    for (const std::string& folder : folders) SyncFolderOf(folder);
 }
 
 void WrittenFile::Drop() noexcept {
@@ -183,9 +232,8 @@ void RemoveStaleTemporaries(const std::string& folder) noexcept {
 }
 
 void SyncFolderOf(const std::string& path) noexcept {
-    const auto slash = path.rfind('/');
-    const std::string folder = slash == std::string::npos ? "." : path.substr(0, slash + 1);
-    const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const std::string folder = FolderOf(path);
+    const int descriptor = ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descriptor < 0) return;
     ::fsync(descriptor);
     ::close(descriptor);

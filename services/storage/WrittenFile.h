@@ -7,6 +7,9 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -33,9 +36,18 @@ class WrittenFile {
     // Everything on the disk and in place. When it fails, the target is as it was.
     void Commit();
 
+    // The same for files that belong together: all of them come to the disk before the first takes its place, and each
+    // folder is brought to the disk once. `at` is told the target that is worked on next. After a failure the files
+    // that are in place stay so, and the targets of the others are as they were.
+    static void CommitTogether(std::span<const std::unique_ptr<WrittenFile>> files,
+                               const std::function<void(const std::string& target)>& at);
+
   private:
     void OpenTemporary();
     void Flush();
+    void StartSync();
+    void Close();
+    void TakePlace();
     void Drop() noexcept;
 
     std::string target_, temporary_, buffer_;

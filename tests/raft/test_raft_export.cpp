@@ -366,6 +366,59 @@ TEST_F(RaftExport, FailedWriteKeepsWhatStands) {
     EXPECT_EQ(folder_.Names(), ElevenFiles());  // nothing temporary is left
 }
 
+// What is put aside for its place at the end is told for the file that fails there.
+TEST_F(RaftExport, FailureAtTheEndIsToldForItsFile) {
+    std::filesystem::create_symlink("/dev/full", folder_ / "Raft1.PH2");
+    RunRectangle();
+    EXPECT_TRUE(Session.CalcAborted);
+    ASSERT_EQ(host_.Messages.size(), 1u);
+    EXPECT_THAT(host_.LastMessage().Text, testing::HasSubstr("PH2"));
+    EXPECT_EQ(folder_.Names(), std::vector<std::string>{"Raft1.PH2"});
+}
+
+// --- runs without files ---
+
+class RaftWithoutExport : public RaftExport {
+  protected:
+    RaftWithoutExport() { SetRaftExport(false); }
+    ~RaftWithoutExport() override { SetRaftExport(true); }
+};
+
+TEST_F(RaftWithoutExport, WritesNoFileAndChangesNoResult) {
+    for (const bool analytical : {false, true}) {
+        for (const int problem : {9, 10}) {
+            const auto result = [&](bool on) {
+                Fresh();
+                Session.ProblemType = problem;
+                Session.AnalysisType = analytical;
+                SetRaftExport(on);
+                Run();
+                return std::pair(Session.ResultText, Session.Nue);
+            };
+            const auto without = result(false);
+            EXPECT_TRUE(folder_.Names().empty());
+            EXPECT_EQ(without, result(true));
+            EXPECT_EQ(folder_.Names(), ElevenFiles());
+            for (const std::string& name : ElevenFiles()) std::filesystem::remove(folder_ / name);
+        }
+    }
+}
+
+TEST_F(RaftWithoutExport, NeedsNoFolder) {
+    Session.WorkDir = folder_ / "nowhere/";
+    Run();
+}
+
+// A number that fails on its way into a file fails without the file too: a pressure over a settlement of nothing.
+TEST_F(RaftWithoutExport, FailsWhereTheExportWould) {
+    RaftResult result;
+    for (Array<Single>* values : {&Session.NodeX, &Session.NodeY, &Session.NodeArea, &Session.NodeForce,
+                                  &Session.NodePressure, &Session.NodeSettlement})
+        values->Redim(1, 1);
+    Session.NodePressure(1) = 1e20;
+    EXPECT_EQ(tests::KindOf([&] { ExportRaft(result); }), FailureKind::Overflow);
+}
+
 TEST_F(RaftExport, MissingFolderFails) {
     Session.WorkDir = folder_ / "nowhere/";
     RunRectangle();

@@ -457,4 +457,71 @@ TEST_F(DataFile, AFolderThatVanishesWhileWritingIsAFailureAtTheClose) {
     EXPECT_FALSE(IsNumberedFileOpen(1));
 }
 
+// --- files that belong together ------------------------------------------------------------------------------------
+
+class DataFileSet : public DataFile {
+  protected:
+    void Write(const std::string& name, const std::string& text) {
+        StartWriting(name);
+        WriteRawLine(1, text);
+        CloseNumberedFile(1);
+    }
+    std::vector<std::string> told_;
+    void Commit(NumberedFileSet& set) {
+        set.Commit([this](const std::string& path) { told_.push_back(path); });
+    }
+};
+
+TEST_F(DataFileSet, NoneTakesItsPlaceBeforeAllAreWritten) {
+    WriteBytes(folder / "A.SSD", "old");
+    {
+        NumberedFileSet set;
+        Write("A.SSD", "new");
+        Write("B.SSD", "other");
+        EXPECT_EQ(ReadBytes(folder / "A.SSD"), "old");
+        EXPECT_FALSE(std::filesystem::exists(folder / "B.SSD"));
+        Commit(set);
+        EXPECT_EQ(ReadBytes(folder / "A.SSD"), "new\r\n");
+        EXPECT_EQ(ReadBytes(folder / "B.SSD"), "other\r\n");
+    }
+    EXPECT_THAT(folder.Names(), ElementsAre("A.SSD", "B.SSD"));
+    Write("A.SSD", "alone");  // without a set a file takes its place at once
+    EXPECT_EQ(ReadBytes(folder / "A.SSD"), "alone\r\n");
+}
+
+TEST_F(DataFileSet, WithoutACommitEverythingIsAsItWas) {
+    WriteBytes(folder / "A.SSD", "old");
+    {
+        const NumberedFileSet set;
+        Write("A.SSD", "new");
+        EXPECT_EQ(KindOf([] { NumberedFileSet second; }), FailureKind::Other);
+    }
+    EXPECT_EQ(ReadBytes(folder / "A.SSD"), "old");
+    EXPECT_THAT(folder.Names(), ElementsAre("A.SSD"));
+}
+
+// A disk that fills up is met before any file has taken its place.
+TEST_F(DataFileSet, ADiskThatFillsUpReplacesNoneOfThem) {
+    WriteBytes(folder / "A.SSD", "old");
+    EXPECT_TRUE(OnAFullDisk(100, [&] {
+        NumberedFileSet set;
+        Write("A.SSD", "new");
+        Write("B.SSD", std::string(200, 'x'));
+        const auto kind = KindOf([&] { Commit(set); });
+        return kind == FailureKind::WriteError && told_.back() == folder / "B.SSD";
+    }));
+    EXPECT_EQ(ReadBytes(folder / "A.SSD"), "old");
+    EXPECT_THAT(folder.Names(), ElementsAre("A.SSD"));
+}
+
+// The place of one is taken by something else meanwhile: the file before it is in place, the one behind it is dropped.
+TEST_F(DataFileSet, AFailureIsToldForItsFileAndKeepsWhatIsInPlace) {
+    NumberedFileSet set;
+    for (const std::string name : {"A.SSD", "B.SSD", "C.SSD"}) Write(name, "new");
+    std::filesystem::create_directories(folder / "B.SSD/inside");
+    EXPECT_EQ(KindOf([&] { Commit(set); }), FailureKind::NotAFile);
+    EXPECT_EQ(told_.back(), folder / "B.SSD");
+    EXPECT_THAT(folder.Names(), ElementsAre("A.SSD", "B.SSD"));
+}
+
 }  // namespace
