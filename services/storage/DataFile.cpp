@@ -111,6 +111,7 @@ class TextReader {
 struct NumberedFile {
     std::unique_ptr<TextReader> Reader;
     std::unique_ptr<WrittenFile> Writer;
+    std::string Path;
 };
 
 std::map<int, NumberedFile>& OpenFiles() {
@@ -118,9 +119,13 @@ std::map<int, NumberedFile>& OpenFiles() {
     return files;
 }
 
-// The files that a set holds back; nothing when no set stands.
-std::optional<std::vector<std::unique_ptr<WrittenFile>>>& HeldBack() {
-    static std::optional<std::vector<std::unique_ptr<WrittenFile>>> files;
+// The files that a set holds back, with the paths that they were opened under; nothing when no set stands.
+struct HeldFiles {
+    std::vector<std::string> Paths;
+    std::vector<std::unique_ptr<WrittenFile>> Files;
+};
+std::optional<HeldFiles>& HeldBack() {
+    static std::optional<HeldFiles> files;
     return files;
 }
 
@@ -202,6 +207,7 @@ void PutBytes(int fileNumber, int record, const std::string& bytes) {
 void OpenNumberedFile(int fileNumber, const std::string& path, FileMode mode) {
     if (IsNumberedFileOpen(fileNumber)) Fail(FailureKind::Other);
     NumberedFile file;
+    file.Path = path;
     if (mode == FileMode::Output || mode == FileMode::RandomOutput)
         file.Writer = std::make_unique<WrittenFile>(path);
     else
@@ -213,10 +219,12 @@ void CloseNumberedFile(int fileNumber) {
     // The number is free again also when putting the file in place fails.
     auto node = OpenFiles().extract(fileNumber);
     if (node.empty() || !node.mapped().Writer) return;
-    if (HeldBack())
-        HeldBack()->push_back(std::move(node.mapped().Writer));
-    else
+    if (HeldBack()) {
+        HeldBack()->Paths.push_back(node.mapped().Path);
+        HeldBack()->Files.push_back(std::move(node.mapped().Writer));
+    } else {
         node.mapped().Writer->Commit();
+    }
 }
 
 NumberedFileSet::NumberedFileSet() {
@@ -229,8 +237,8 @@ NumberedFileSet::~NumberedFileSet() {
 }
 
 void NumberedFileSet::Commit(const std::function<void(const std::string& path)>& at) {
-    const auto files = std::exchange(*HeldBack(), {});
-    WrittenFile::CommitTogether(files, at);
+    const HeldFiles held = std::exchange(*HeldBack(), {});
+    WrittenFile::CommitTogether(held.Files, [&](std::size_t i) { at(held.Paths[i]); });
 }
 
 void DropNumberedFile(int fileNumber) {

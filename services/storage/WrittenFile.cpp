@@ -11,7 +11,9 @@
 #include <filesystem>
 #include <set>
 #include <system_error>
+#include <thread>
 #include <utility>
+#include <vector>
 
 namespace lithmark {
 
@@ -113,15 +115,11 @@ void WrittenFile::Flush() {
 
 void WrittenFile::Sync() {
     Flush();
-    if (!temporary_.empty() && ::fsync(descriptor_) != 0) FailWithSystemError(errno, FailureKind::WriteError);
+    if (const int error = SyncError()) FailWithSystemError(error, FailureKind::WriteError);
 }
 
-void WrittenFile::StartSync() {
-    Flush();
-#ifdef __linux__
-    // A hint: what goes wrong is met again by Sync.
-    if (!temporary_.empty()) ::sync_file_range(descriptor_, 0, 0, SYNC_FILE_RANGE_WRITE);
-#endif
+int WrittenFile::SyncError() const noexcept {
+    return temporary_.empty() || ::fsync(descriptor_) == 0 ? 0 : errno;
 }
 
 void WrittenFile::Close() {
@@ -148,24 +146,38 @@ void WrittenFile::Commit() {
 }
 
 void WrittenFile::CommitTogether(std::span<const std::unique_ptr<WrittenFile>> files,
-                                 const std::function<void(const std::string& target)>& at) {
+                                 const std::function<void(std::size_t place)>& at) {
     std::set<std::string> folders;
-    const auto each = [&](void (WrittenFile::*step)()) {
-        for (const auto& file : files) {
-            at(file->target_);
-            ((*file).*step)();
+    const auto each = [&](const auto& step) {
+        for (std::size_t i = 0; i < files.size(); ++i) {
+            at(i);
+            step(i);
         }
     };
     try {
-        each(&WrittenFile::StartSync);
-        each(&WrittenFile::Sync);
-        each(&WrittenFile::Close);
-        for (const auto& file : files) {
-            at(file->target_);
-            const bool replaces = !file->temporary_.empty();
-            file->TakePlace();
-            if (replaces) folders.insert(FolderOf(file->target_));
+        each([&](std::size_t i) { files[i]->Flush(); });
+        // The disk brings in what several threads wait for in one go, which takes half the time of one after the other.
+        std::vector<int> errors(files.size());
+        {
+            std::vector<std::jthread> helpers;
+            for (std::size_t i = 0; i < files.size(); ++i) {
+                const auto sync = [&, i] { errors[i] = files[i]->SyncError(); };
+                try {
+                    helpers.emplace_back(sync);
+                } catch (const std::system_error&) {  // no thread to be had
+                    sync();
+                }
+            }
         }
+        each([&](std::size_t i) {
+            if (errors[i] != 0) FailWithSystemError(errors[i], FailureKind::WriteError);
+            files[i]->Close();
+        });
+        each([&](std::size_t i) {
+            const bool replaces = !files[i]->temporary_.empty();
+            files[i]->TakePlace();
+            if (replaces) folders.insert(FolderOf(files[i]->target_));
+        });
     } catch (...) {
         for (const auto& file : files) file->Drop();
         for (const std::string& folder : folders) SyncFolderOf(folder);

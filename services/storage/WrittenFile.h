@@ -37,15 +37,15 @@ class WrittenFile {
     void Commit();
 
     // The same for files that belong together: all of them come to the disk before the first takes its place, and each
-    // folder is brought to the disk once. `at` is told the target that is worked on next. After a failure the files
-    // that are in place stay so, and the targets of the others are as they were.
+    // folder is brought to the disk once. `at` is told the place in the list that is worked on next. After a failure
+    // the files that are in place stay so, and the targets of the others are as they were.
     static void CommitTogether(std::span<const std::unique_ptr<WrittenFile>> files,
-                               const std::function<void(const std::string& target)>& at);
+                               const std::function<void(std::size_t place)>& at);
 
   private:
     void OpenTemporary();
     void Flush();
-    void StartSync();
+    int SyncError() const noexcept;
     void Close();
     void TakePlace();
     void Drop() noexcept;
