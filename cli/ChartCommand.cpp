@@ -5,6 +5,7 @@
 #include "contour/CurveSets.h"
 #include "core/Session.h"
 #include "files/GloableVariable.h"
+#include "kernels/RunProject.h"
 #include "services/SharedServices.h"
 #include "services/texts/LanguageTexts.h"
 #ifdef LITHMARK_RENDER
@@ -103,7 +104,7 @@ ExitStatus ChartCommand(const CommonOptions& options, const ChartOptions& chartO
     const std::string format = FormatInForce(options, kChartFormats);
     OpenProjectForRun(options);
     ChooseCurve(chartOptions);
-    RunKernelOfProblem();
+    RunProject();
     if (Session.CalcAborted) throw CommandFailure(ExitStatus::Aborted, AbortedLine(host));
     ChartArguments chart;
     try {

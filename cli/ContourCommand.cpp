@@ -4,6 +4,7 @@
 #include "contour/RecordingSurface.h"
 #include "core/Session.h"
 #include "files/GloableVariable.h"
+#include "kernels/RunProject.h"
 #include "services/SharedServices.h"
 #include "services/texts/LanguageTexts.h"
 #ifdef LITHMARK_RENDER
@@ -99,7 +100,7 @@ ExitStatus ContourCommand(const CommonOptions& options, const ContourCommandOpti
     if (Session.ProblemType != 9 && Session.ProblemType != 10)
         throw CommandFailure(ExitStatus::BadCommandLine,
                              Text(902032_text, {{"|1", std::to_string(Session.ProblemType)}}));
-    RunKernelOfProblem();
+    RunProject();
     if (Session.CalcAborted) throw CommandFailure(ExitStatus::Aborted, AbortedLine(host));
     Session.ContourResult = contour.Result == "pressure" ? "Tab5" : "Tab6";
     BasContour plot;

@@ -6,7 +6,7 @@
 
 namespace lithmark {
 
-enum class ExitStatus { Done = 0, FileTrouble = 1, BadCommandLine = 2, Aborted = 3 };
+enum class ExitStatus { Done = 0, FileTrouble = 1, BadCommandLine = 2, Aborted = 3, Interrupted = 130 };
 
 class CommandFailure : public std::runtime_error {
   public:

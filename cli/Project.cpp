@@ -12,7 +12,7 @@
 #include "files/ProblemData.h"
 #include "files/ProjectFiles.h"
 #include "files/SettingsFiles.h"
-#include "kernels/RunKernel.h"
+#include "kernels/RunProject.h"
 #include "services/FileDialogs.h"
 #include "services/ProjectStore.h"
 #include "services/SharedServices.h"
@@ -132,10 +132,6 @@ void ApplySets(const std::vector<std::string>& sets) {
     }
 }
 
-void SetDerivedFields() {
-    Session.A0 = Session.A;
-}
-
 void OpenProjectForRun(const CommonOptions& options) {
     if (!ReadProject(options.Project)) {
         const ProblemRow* problem = FindProblem(Session.ProblemType);
@@ -143,14 +139,6 @@ void OpenProjectForRun(const CommonOptions& options) {
     }
     ApplySets(options.Sets);
     SetDerivedFields();
-}
-
-void RunKernelOfProblem() {
-    Session.CalcAborted = false;
-    Session.ResultText.clear();
-    if (RunProblemKernel()) return;
-    Session.CalcAborted = true;
-    SharedServices().ShowMessageBox(Text(160030_text), Text(902049_text), MessageIcon::Exclamation);
 }
 
 std::string AbortedLine(const ConsoleHost& host) {

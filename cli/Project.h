@@ -34,13 +34,6 @@ bool PackProjectAgain();
 // Puts FIELD=VALUE pairs into Session.
 void ApplySets(const std::vector<std::string>& sets);
 
-// A0 = A, as every dialog sets it before a run.
-void SetDerivedFields();
-
-// Runs the kernel of Session.ProblemType. Session.CalcAborted tells how it ended; without a kernel for the problem and
-// its load it is set, behind a message.
-void RunKernelOfProblem();
-
 // The line for standard error of an aborted run: the last message that the run gave.
 std::string AbortedLine(const ConsoleHost& host);
 

@@ -1,6 +1,7 @@
 #include "cli/Commands.h"
 #include "cli/Output.h"
 #include "core/Session.h"
+#include "kernels/RunProject.h"
 #include "services/texts/LanguageTexts.h"
 #ifdef LITHMARK_RENDER
 #include "render/ReportDocument.h"
@@ -36,7 +37,7 @@ std::string ReportIn(const std::string& format) {
 ExitStatus ReportCommand(const CommonOptions& options, ConsoleHost& host) {
     const std::string format = FormatInForce(options, kReportFormats);
     OpenProjectForRun(options);
-    RunKernelOfProblem();
+    RunProject();
     if (format == "json") WriteOutput(options.Output, JsonReport(host));
     if (Session.CalcAborted) throw CommandFailure(ExitStatus::Aborted, AbortedLine(host));
     if (format != "json") WriteOutput(options.Output, ReportIn(format));

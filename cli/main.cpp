@@ -8,6 +8,7 @@
 #include "base/Utf8.h"
 #include "cli/Commands.h"
 #include "services/SharedServices.h"
+#include "study/StudyFailure.h"
 
 namespace lithmark {
 
@@ -151,6 +152,9 @@ int main(int argc, char** argv) {
         return static_cast<int>(CommandLine().Run(argc, argv));
     } catch (const CommandFailure& failure) {
         return fail(failure.Status(), failure.what());
+    } catch (const StudyFailure& failure) {
+        const bool request = failure.Why() == StudyFailure::Cause::Request;
+        return fail(request ? ExitStatus::BadCommandLine : ExitStatus::FileTrouble, failure.what());
     } catch (const Failure& failure) {
         return fail(ExitStatus::FileTrouble, SharedServices().FailureText(failure));
     } catch (const std::exception& error) {

@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <unordered_map>
 
 #include "base/NumberText.h"
 #include "base/Utf8.h"
@@ -220,8 +221,13 @@ std::span<const SessionField> SessionFields() {
 }
 
 const SessionField* FindSessionField(std::string_view name) {
-    const auto found = std::find_if(kFields.begin(), kFields.end(), [&](const auto& f) { return f.Name == name; });
-    return found == kFields.end() ? nullptr : &*found;
+    static const auto byName = [] {
+        std::unordered_map<std::string_view, const SessionField*> fields;
+        for (const SessionField& field : kFields) fields.emplace(field.Name, &field);
+        return fields;
+    }();
+    const auto found = byName.find(name);
+    return found == byName.end() ? nullptr : found->second;
 }
 
 SetFieldOutcome SetSessionField(std::string_view name, std::string_view value) {

@@ -35,6 +35,7 @@ constexpr LanguageRow kRows[] = {
 #include "texts/tables/own_files.inc"
 #include "texts/tables/own_services.inc"
 #include "texts/tables/own_cli.inc"
+#include "texts/tables/own_study.inc"
 #include "texts/tables/own_render.inc"
 #include "texts/tables/own_desktop.inc"
 #include "texts/tables/own_ui.inc"

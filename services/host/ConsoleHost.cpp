@@ -35,12 +35,22 @@ ConsoleHost::ConsoleHost() : ConsoleHost(stderr, ::isatty(STDERR_FILENO) != 0) {
 
 ConsoleHost::ConsoleHost(std::FILE* out, bool terminal) : out_(out), terminal_(terminal) {
     interrupted = 0;
-    previousHandler_ = std::signal(SIGINT, OnInterrupt);
+    Catch(SIGINT);
 }
 
 ConsoleHost::~ConsoleHost() {
     ClearBar();
-    if (previousHandler_ != SIG_ERR) std::signal(SIGINT, previousHandler_);
+    for (const Handler& handler : handlers_) std::signal(handler.Signal, handler.Previous);
+}
+
+void ConsoleHost::Catch(int signal) {
+    const auto previous = std::signal(signal, OnInterrupt);
+    if (previous != SIG_ERR) handlers_.push_back({signal, previous});
+}
+
+void ConsoleHost::EndOnTermination() {
+    Catch(SIGTERM);
+    Catch(SIGHUP);
 }
 
 void ConsoleHost::ShowMessage(const std::string& title, const std::string& text, MessageIcon) {

@@ -22,7 +22,7 @@ class ConsoleHost : public Host {
     // Writes to standard error; the progress bar comes only where that is a terminal.
     ConsoleHost();
     ConsoleHost(std::FILE* out, bool terminal);
-    // Takes the bar away and gives Ctrl+C back its meaning.
+    // Takes the bar away and gives Ctrl+C and the signals of EndOnTermination back their meaning.
     ~ConsoleHost() override;
     ConsoleHost(const ConsoleHost&) = delete;
     ConsoleHost& operator=(const ConsoleHost&) = delete;
@@ -32,6 +32,9 @@ class ConsoleHost : public Host {
     // Prints the messages that have not been printed, each as one line. The caller decides when: a command that fails
     // has one line to say.
     void PrintMessages();
+
+    // From now on SIGTERM and SIGHUP end a long run as Ctrl+C does: for a command that has to clear up behind itself.
+    void EndOnTermination();
 
     void ShowMessage(const std::string& title, const std::string& text, MessageIcon icon) override;
     // False once after Ctrl+C. A second Ctrl+C before that ends the process at once.
@@ -46,7 +49,13 @@ class ConsoleHost : public Host {
     int percentShown_ = -1;
     std::size_t printed_ = 0;
     std::vector<Message> messages_;
-    void (*previousHandler_)(int) = nullptr;
+    struct Handler {
+        int Signal;
+        void (*Previous)(int);
+    };
+    void Catch(int signal);
+
+    std::vector<Handler> handlers_;
 };
 
 }  // namespace lithmark

@@ -18,7 +18,8 @@ namespace fs = std::filesystem;
 // Floors from the lowest up; cli and desktop share the top.
 const std::map<std::string, int> kFloors = {{"base", 0},  {"texts", 1},  {"services", 2}, {"core", 3},
                                             {"files", 4}, {"report", 5}, {"kernels", 6},  {"contour", 7},
-                                            {"ui", 8},    {"render", 9}, {"cli", 10},     {"desktop", 10}};
+                                            {"ui", 8},    {"study", 9},  {"render", 10},  {"cli", 11},
+                                            {"desktop", 11}};
 
 struct SourceFile {
     std::string Path;   // relative to the root

@@ -98,6 +98,7 @@ TEST_F(CliStudy, ResultsOfListsAreTakenByIndexAndByExtremes) {
     EXPECT_EQ(row[2].get<double>(), *std::min_element(pressures.begin(), pressures.end()));
     ExpectFailure(Run({"study", project, "--vary", "Q=1000:1000:1", "--take", "NodePressure(0)"}), 2,
                   {"NodePressure(0)"});
+    ExpectFailure(Run({"study", project, "--vary", "Q=1000:1000:1", "--take", "NodePressure"}), 2, {"NodePressure"});
     ExpectFailure(Run({"study", project, "--vary", "Q=1000:1000:1", "--take", "Moment"}), 2, {"Moment"});
 }
 
@@ -153,25 +154,35 @@ TEST_F(CliStudy, CalculationsSideBySideDoNotMixUpTheirFiles) {
     }
 }
 
-TEST_F(CliStudy, CtrlCEndsAStudyWithoutAnOutput) {
+// Ctrl+C and the signal of schedulers and shutdowns alike: the rows so far, and nothing in the folder for temporary
+// files.
+TEST_F(CliStudy, AnEndedStudyLeavesTheRowsSoFar) {
     const std::string project = Example("SquareRaft");
-    const auto names = work.Names();
-    runner = "timeout --foreground --preserve-status -s INT 2 env ";
-    const CliResult result =
-        Run({"study", project, "--vary", "Q=1:100000:1", "--take", "h", "--output", work / "study.csv"});
-    ExpectFailure(result, 3, {"SquareRaft"});
-    EXPECT_EQ(work.Names(), names);
+    for (const std::string signal : {"INT", "TERM"}) {
+        const TestFolder temporary;
+        runner = "TMPDIR=" + temporary.Dir() + " timeout --foreground --preserve-status -s " + signal + " 2 env ";
+        const CliResult result = Run(
+            {"study", project, "--vary", "Q=1:100000:1", "--take", "RaftMeanPressure", "--output", work / "study.csv"});
+        ExpectFailure(result, 130, {"SquareRaft"});
+        const auto lines = LinesOf(ReadBytes(work / "study.csv"));
+        ASSERT_GT(lines.size(), 2u);
+        EXPECT_LT(lines.size(), 100001u);
+        EXPECT_TRUE(lines.back().starts_with(std::to_string(lines.size() - 1) + ",")) << lines.back();
+        EXPECT_TRUE(lines.back().ends_with(",ok\r")) << lines.back();
+        EXPECT_THAT(temporary.Names(), testing::ElementsAre());
+    }
 }
 
 TEST_F(CliStudy, ATerminalShowsTheProgress) {
     const std::string project = Example("PointLoad");
-    const std::string line = CommandLineTool().string() + " study " + project + " --vary z=1:5:1 --take s --output " +
-                             (work / "s.csv") + " --settings " + work.Dir();
+    const std::string line = CommandLineTool().string() + " study " + project +
+                             " --vary z=1:20000:1 --take s --output " + (work / "s.csv") + " --settings " + work.Dir();
     const std::string shown = work / "shown";
     ASSERT_EQ(std::system(("script -qec '" + line + "' /dev/null >" + shown + " </dev/null").c_str()), 0);
-    EXPECT_THAT(ReadBytes(shown), HasSubstr("] 80 %"));
+    EXPECT_THAT(ReadBytes(shown), HasSubstr("##"));
+    EXPECT_THAT(ReadBytes(shown), HasSubstr(" %"));
     EXPECT_THAT(ReadBytes(shown), testing::EndsWith("\r\x1B[K")) << "the bar is gone at the end";
-    EXPECT_EQ(LinesOf(ReadBytes(work / "s.csv")).size(), 6u);
+    EXPECT_EQ(LinesOf(ReadBytes(work / "s.csv")).size(), 20001u);
 }
 
 TEST_F(CliStudy, AVaryThatIsNoWholeNumberFailsRowByRow) {

@@ -20,8 +20,8 @@ namespace {
 namespace fs = std::filesystem;
 using ::testing::IsEmpty;
 
-constexpr const char* kFloors[] = {"base",    "texts",   "services", "core",   "files",   "report",
-                                   "kernels", "contour", "ui",       "render", "desktop", "cli"};
+constexpr const char* kFloors[] = {"base",    "texts", "services", "core",   "files",   "report", "kernels",
+                                   "contour", "ui",    "study",    "render", "desktop", "cli"};
 
 struct Line {
     std::string File;  // relative to the source folder

@@ -1,0 +1,186 @@
+// Workers: rows in and outcomes out, a worker that dies, the end of a study, and what stays behind.
+#include <signal.h>
+
+#include <chrono>
+#include <filesystem>
+#include <thread>
+
+#include "study/OrderedRows.h"
+#include "study/StudyCase.h"
+#include "study/StudyFailure.h"
+#include "support/Files.h"
+
+namespace lithmark::tests {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+// Clay of many thin sublayers under a circle of 32401 nodes: problem 4 takes seconds for it.
+RowInput LongRow() {
+    return {{"LoadType", "3"}, {"x", "1"}, {"PrefND", "180"}, {"h", "200"}, {"PrefDz", "0.05"}};
+}
+
+class Workers : public testing::Test {
+  protected:
+    void SetUp() override { setenv("TMPDIR", scratch.Dir().c_str(), 1); }
+    void TearDown() override { unsetenv("TMPDIR"); }
+
+    TestFolder scratch;
+};
+
+TEST_F(Workers, EachRowIsWorkedOnTheProjectThatWasOpen) {
+    StartProblem(1);
+    Session.LoadType = 1;
+    WorkerPool pool(Session, TakesOf(1, {"Sigma_z"}), 3);
+    Session.Q = 1;  // what happens to the record afterwards is no matter of the pool
+    std::vector<RowInput> rows;
+    for (int i = 1; i <= 500; ++i) rows.push_back({{"Q", std::to_string(1000 * i)}});
+    const auto outcomes = OutcomesOf(pool, rows);
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        ASSERT_FALSE(outcomes[i].Aborted) << outcomes[i].Message();
+        // Boussinesq: proportional to the load.
+        ASSERT_NEAR(outcomes[i].Numbers[0] / outcomes[0].Numbers[0], static_cast<double>(i + 1), 1e-4);
+    }
+    EXPECT_EQ(Session.Q, 1.0);
+}
+
+TEST_F(Workers, AValueThatNoFieldHoldsAbortsItsRowAlone) {
+    StartProblem(1);
+    WorkerPool pool(Session, TakesOf(1, {"Sigma_z"}), 2);
+    const auto outcomes = OutcomesOf(pool, {{{"LoadType", "1.5"}}, {}, {{"Young", "1"}}, {{"hLayer(3)", "1"}}});
+    EXPECT_THAT(outcomes[0].Message(), HasSubstr("LoadType=1.5"));
+    EXPECT_FALSE(outcomes[1].Aborted);
+    EXPECT_THAT(outcomes[2].Message(), HasSubstr("Young=1"));
+    EXPECT_THAT(outcomes[3].Message(), HasSubstr("hLayer(3)=1"));
+    EXPECT_TRUE(outcomes[0].Aborted && outcomes[2].Aborted && outcomes[3].Aborted);
+}
+
+TEST_F(Workers, AWorkerThatDiesIsReplacedAndItsRowSaysSo) {
+    StartProblem(4);
+    WorkerPool pool(Session, TakesOf(4, {"s"}), 1);
+    pool.Add(0, {});
+    pool.Add(1, LongRow());
+    pool.Add(2, {});
+    std::vector<WorkerPool::Answer> answers;
+    while (answers.empty()) pool.Collect(answers, 100);
+    std::this_thread::sleep_for(std::chrono::milliseconds(200));  // into the long row
+    const auto before = pool.Processes();
+    ASSERT_EQ(before.size(), 1u);
+    kill(before.front(), SIGKILL);
+    while (pool.Unanswered() > 0) pool.Collect(answers, 100);
+    ASSERT_EQ(answers.size(), 3u);
+    EXPECT_EQ(answers[1].Row, 1u);
+    EXPECT_TRUE(answers[1].Outcome.Aborted);
+    EXPECT_THAT(answers[1].Outcome.Messages, ElementsAre(HasSubstr("signal 9")));
+    EXPECT_EQ(answers[2].Row, 2u);
+    EXPECT_FALSE(answers[2].Outcome.Aborted) << answers[2].Outcome.Message();
+    EXPECT_NE(pool.Processes(), before);
+}
+
+// Killed between two rows, a worker takes nothing with it: what it still held is worked by another.
+TEST_F(Workers, AWorkerThatDiesIdleCostsNoRow) {
+    StartProblem(1);
+    WorkerPool pool(Session, TakesOf(1, {"Sigma_z"}), 1);
+    ASSERT_FALSE(OutcomesOf(pool, {{}})[0].Aborted);
+    kill(pool.Processes().front(), SIGKILL);
+    for (const RowOutcome& outcome : OutcomesOf(pool, {{}, {}, {}})) EXPECT_FALSE(outcome.Aborted) << outcome.Message();
+}
+
+TEST_F(Workers, RowsThatAreAbandonedAreNeverAnswered) {
+    StartProblem(4);
+    WorkerPool pool(Session, TakesOf(4, {"s"}), 2);
+    for (Ticket row = 0; row < 4; ++row) pool.Add(row, LongRow());
+    std::vector<WorkerPool::Answer> answers;
+    pool.Collect(answers, 50);
+    pool.Abandon();
+    EXPECT_EQ(pool.Unanswered(), 0u);
+    pool.Add(7, {});
+    while (pool.Unanswered() > 0) pool.Collect(answers, 100);
+    ASSERT_EQ(answers.size(), 1u);
+    EXPECT_EQ(answers[0].Row, 7u);
+}
+
+TEST_F(Workers, TheEndOfThePoolLeavesNoProcessAndNoFolder) {
+    StartProblem(4);
+    std::vector<pid_t> processes;
+    {
+        WorkerPool pool(Session, TakesOf(4, {"s"}), 2);
+        pool.Add(0, LongRow());
+        pool.Add(1, LongRow());
+        std::vector<WorkerPool::Answer> answers;
+        pool.Collect(answers, 50);
+        processes = pool.Processes();
+        EXPECT_EQ(processes.size(), 2u);
+    }
+    for (const pid_t process : processes) EXPECT_EQ(kill(process, 0), -1);
+    EXPECT_THAT(scratch.Names(), ElementsAre());
+}
+
+TEST_F(Workers, WithoutAFolderForTemporaryFilesThePoolSaysSo) {
+    StartProblem(1);
+    setenv("TMPDIR", (scratch / "none").c_str(), 1);
+    try {
+        WorkerPool pool(Session, {}, 1);
+        FAIL();
+    } catch (const StudyFailure& failure) {
+        EXPECT_EQ(failure.Why(), StudyFailure::Cause::File);
+        EXPECT_THAT(failure.what(), HasSubstr(scratch / "none"));
+    }
+}
+
+// The study is killed: its workers see it, clear up and go.
+TEST_F(Workers, WorkersOutliveNoStudy) {
+    StartProblem(4);
+    const pid_t study = fork();
+    if (study == 0) {
+        WorkerPool pool(Session, TakesOf(4, {"s"}), 2);
+        std::vector<WorkerPool::Answer> answers;
+        pool.Add(0, LongRow());
+        pool.Add(1, {});
+        while (answers.empty()) pool.Collect(answers, 50);
+        raise(SIGKILL);
+    }
+    int status = 0;
+    waitpid(study, &status, 0);
+    for (int i = 0; i < 600 && !scratch.Names().empty(); ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    EXPECT_THAT(scratch.Names(), ElementsAre());
+}
+
+TEST_F(Workers, RowsComeInOrderAndFewAreHeld) {
+    StartProblem(1);
+    WorkerPool pool(Session, TakesOf(1, {"Sigma_z"}), 2);
+    std::uint64_t next = 0, furthest = 0, greatestHeld = 0;
+    OrderedRows rows;
+    rows.Count = 20000;
+    rows.Input = [&](std::uint64_t i) {
+        furthest = i;
+        return RowInput{{"z", std::to_string(i + 1)}};
+    };
+    rows.Ready = [&](std::uint64_t i, const RowOutcome& outcome) {
+        ASSERT_EQ(i, next++);
+        EXPECT_FALSE(outcome.Aborted);
+        greatestHeld = std::max(greatestHeld, furthest - i);
+    };
+    rows.GoOn = [](std::uint64_t) { return true; };
+    EXPECT_EQ(WorkInOrder(pool, rows), rows.Count);
+    EXPECT_EQ(next, rows.Count);
+    EXPECT_LT(greatestHeld, rows.Count / 2);
+}
+
+TEST_F(Workers, AnEndedStudyGivesTheRowsSoFar) {
+    StartProblem(1);
+    WorkerPool pool(Session, TakesOf(1, {"Sigma_z"}), 2);
+    std::uint64_t next = 0;
+    OrderedRows rows;
+    rows.Count = 100000000;
+    rows.Input = [](std::uint64_t) { return RowInput{}; };
+    rows.Ready = [&](std::uint64_t i, const RowOutcome&) { ASSERT_EQ(i, next++); };
+    rows.GoOn = [](std::uint64_t done) { return done < 1000; };
+    EXPECT_EQ(WorkInOrder(pool, rows), next);
+    EXPECT_LT(next, rows.Count);
+}
+
+}  // namespace
+}  // namespace lithmark::tests
