@@ -3,6 +3,7 @@
 #include "cli/Commands.h"
 #include "cli/Output.h"
 #include "contour/CurveSets.h"
+#include "core/Catalogue.h"
 #include "core/Session.h"
 #include "files/GloableVariable.h"
 #include "kernels/RunProject.h"
@@ -83,13 +84,13 @@ std::string ChartIn(const std::string& format, const ChartArguments& chart) {
 // The curve asked for, held against the problem: the fixed set of problem 5, "Tab1" to "Tab4" of the time-settlement
 // problems, "Tab5" and "Tab6" of the rafts. Without one: the curve that the dialog would propose.
 void ChooseCurve(const ChartOptions& chart) {
-    const int problem = Session.ProblemType;
+    const ProblemRow& problem = ProblemInForce();
     const auto fail = [](TextId text, const std::string& subject) {
         throw CommandFailure(ExitStatus::BadCommandLine, Text(text, {{"|1", subject}}));
     };
-    const bool time = problem >= 6 && problem <= 8;
-    const bool raft = problem == 9 || problem == 10;
-    if (problem != 5 && !time && !raft) fail(902030_text, std::to_string(problem));
+    const bool time = problem.Curves == CurveFamily::TimeSettlement, raft = problem.Curves == CurveFamily::MiddleRow;
+    if (!problem.Calculated || problem.Curves == CurveFamily::None)
+        fail(902030_text, std::to_string(problem.ProblemType));
     Session.CurveChoice = chart.Curve.empty() ? (raft ? "Tab5" : "Tab1") : chart.Curve;
     const bool raftCurve = Session.CurveChoice == "Tab5" || Session.CurveChoice == "Tab6";
     if ((time && raftCurve) || (raft && !raftCurve) || (Session.CurveChoice == "Tab4" && !Session.Ms))

@@ -2,6 +2,7 @@
 #include "cli/Output.h"
 #include "contour/BasContour.h"
 #include "contour/RecordingSurface.h"
+#include "core/Catalogue.h"
 #include "core/Session.h"
 #include "files/GloableVariable.h"
 #include "kernels/RunProject.h"
@@ -97,7 +98,7 @@ std::string ContourIn(const std::string& format, BasContour& plot, int size) {
 ExitStatus ContourCommand(const CommonOptions& options, const ContourCommandOptions& contour, ConsoleHost& host) {
     const std::string format = FormatInForce(options, kContourFormats);
     OpenProjectForRun(options);
-    if (Session.ProblemType != 9 && Session.ProblemType != 10)
+    if (!ProblemInForce().HasContours())
         throw CommandFailure(ExitStatus::BadCommandLine,
                              Text(902032_text, {{"|1", std::to_string(Session.ProblemType)}}));
     RunProject();

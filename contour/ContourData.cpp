@@ -65,7 +65,7 @@ void BasContour::ReadContourData() {
     const bool pressure = Session.ContourResult == "Tab5";
     const ProjectInput file(pressure ? "PH2" : "PH1");
     ZFormat = pressure ? Session.FmtStress : Session.FmtSettlement;
-    const double factor = pressure ? UnitFactor(0) : Session.Len2Factor;
+    const double factor = pressure ? FactorOf(Unit::Pressure) : Session.Len2Factor;
     for (int i = 1; i <= NodeCount; ++i) CtrZ(i) = ReadSingle(kFile) * factor;
 }
 

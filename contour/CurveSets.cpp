@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/NumberText.h"
+#include "core/Catalogue.h"
 #include "core/Session.h"
 #include "core/Units.h"
 #include "report/ToolLib.h"
@@ -145,7 +146,7 @@ std::string LengthCell(Single value) {
 }
 
 std::string StressCell(Single value) {
-    return FormatValue(value * UnitFactor(0), Session.FmtStress);
+    return FormatValue(value * FactorOf(Unit::Pressure), Session.FmtStress);
 }
 
 std::string SettlementCell(Single value) {
@@ -155,7 +156,7 @@ std::string SettlementCell(Single value) {
 // "Tab5": contact pressure along the middle row. The abscissa is "z" in the table and "x" on the axis; both stay.
 void PressureCurveSet(ChartArguments& chart) {
     const SessionRecord& p = Session;
-    const std::string stress = UnitLabel(0);
+    const std::string stress = LabelOf(Unit::Pressure);
     const Column place{400004_text, "z", p.Len1Label, [&](int i) { return LengthCell(p.RaftMidX(i)); }};
     const Column mean{160007_text, "qm", stress, [&](int) { return StressCell(p.RaftMeanPressure); }};
     const Column pressure{90098_text, "q", stress, [&](int i) { return StressCell(p.RaftMidPressure(i)); }};
@@ -169,7 +170,7 @@ void PressureCurveSet(ChartArguments& chart) {
 // "Tab6": settlements along the middle row, the straight line through them, and the flexible raft.
 void RaftSettlementCurveSet(ChartArguments& chart) {
     const SessionRecord& p = Session;
-    const TextId title = p.ProblemType == 9 ? 90046_text : 140186_text;
+    const TextId title = ProblemInForce().RaftSettlement;
     const Column place{400004_text, "x", p.Len1Label, [&](int i) { return LengthCell(p.RaftMidX(i)); }};
     const Column settlement{title, "s", p.Len2Label, [&](int i) { return SettlementCell(p.RaftMidSettlement(i)); }};
     const Column line{300080_text, "sm", p.Len2Label, nullptr};
@@ -194,7 +195,7 @@ void RaftSettlementCurveSet(ChartArguments& chart) {
 // Problem 5: pore water pressure over depth, at the start and at the time of the calculation.
 void IsochroneCurveSet(ChartArguments& chart) {
     const SessionRecord& p = Session;
-    const std::string stress = UnitLabel(0);
+    const std::string stress = LabelOf(Unit::Pressure);
     const Column depth{300018_text, "z", p.Len1Label, [&](int i) { return LengthCell(p.IsoZ(i - 1)); }};
     const Column start{300016_text, "u0", stress, [&](int i) { return StressCell(p.IsoU0(i - 1)); }};
     const Column end{300017_text, "uf", stress, [&](int i) { return StressCell(p.IsoUf(i - 1)); }};

@@ -10,6 +10,7 @@
 #include "base/Integer.h"
 #include "base/Single.h"
 #include "base/TextId.h"
+#include "core/Problems.h"
 
 namespace lithmark {
 
@@ -29,7 +30,7 @@ struct SessionRecord {
     std::string WorkDir;      // where the problem files are read and written
     std::string WorkName;
     long CompressFlag = 2;  // 7 packing on, 0 off, 2 no setting file exists
-    Integer ProblemType = 1;
+    Integer ProblemType = Problem::SoilStress;
     std::string Auftr, Datum, Proj;  // order, date, project description
     std::string FirmaLine1, FirmaLine2;
 
@@ -42,17 +43,17 @@ struct SessionRecord {
     Single P;              // uniform load
     Single A, B;           // length or radius, and width, of the loaded area
     Single A0;             // copy of A; the radius for circular loads
-    Integer LoadType = 0;  // 1 point, 2 rectangle, 3 circle
+    Integer LoadType = 0;  // LoadShape
     Single Nue, Es, h, eo, Po, Cc, Gamma;
-    Integer SoilPropertyType = 0;  // 1 by Es, 2 by eo, Cc and Po
+    Integer SoilPropertyType = 0;  // SoilDefinition
     Single Exz_x, Exz_y;           // eccentricity of the load on the raft
-    bool AnalysisType = false;     // true analytical, false numerical
-    bool SettlementAt = false;     // true centre and edge, false all nodes
+    bool AnalysisType = Analysis::Numerical;
+    bool SettlementAt = SettlementPlace::AllNodes;
 
     // Degree of consolidation for two layers.
     Integer NumLayers = 0;
     Array<Single> hLayer{1, 2}, CvLayer{1, 2}, KLayer{1, 2};
-    Integer DrainageCondition = 0;  // 1 bottom drained, 2 bottom impermeable
+    Integer DrainageCondition = 0;  // Drainage
     Single T;
     Single U;               // constant initial pore water pressure, kN/m2
     bool Pressure = false;  // true: constant initial pressure
@@ -64,8 +65,8 @@ struct SessionRecord {
     Integer DesignCode = 0;  // time of the measurement
     Integer TimePeriod = 0;  // time units that the report shows
     std::string StartDate;
-    Integer DrainageFaces = 0;  // 1 one-sided, 2 both faces
-    Integer CvChoice = 0;       // 1 CvTS from soil data, 3 given
+    Integer DrainageFaces = 0;  // Faces
+    Integer CvChoice = 0;       // CvFrom
     Integer NLoad = 0;
     Array<Integer> LoadTime;
     Array<Single> LoadValue;
@@ -74,7 +75,8 @@ struct SessionRecord {
     Integer NOed = 0;
     Array<Single> OedTime, OedSettlement;
     std::string OedUnit;
-    std::string MeasuredUnit;  // nothing ever sets it; kept: reports rely on its staying empty
+    std::string
+        MeasuredUnit;  // Deliberate: nothing sets it, so that readings count as per cent and stand without a unit.
 
     // Problem 11: stored and exported, never calculated.
     Single ScLoad;

@@ -24,7 +24,7 @@ constexpr std::array kLengthUnits = {
     UnitRow{43_text, 44_text, "[yd]", 1.09361329833771},
 };
 
-// "[kg]" and "[ton]" are rounded on purpose, unlike "[kgf]": existing projects rely on these factors.
+// Deliberate: "[kg]" and "[ton]" count 10 m/s2, unlike "[kgf]", as is usual on building sites.
 constexpr std::array kForceUnits = {
     UnitRow{45_text, 29_text, "[kN]", 1},
     UnitRow{46_text, 47_text, "[N]", 1000},
@@ -65,6 +65,37 @@ constexpr std::array kNumberFormats = {
     NumberFormatRow{&SessionRecord::FmtReserve5, "0.000"},
     NumberFormatRow{&SessionRecord::FmtDialogModulus, "0"},
 };
+
+// Selectors of UnitFactor and UnitLabel.
+constexpr long kPressure = 0, kUnitWeight = 3, kAreaPerTime = 10, kLengthPerTime = 11;
+
+// What a unit is made of: a unit group of its own, or a derived unit.
+struct UnitSource {
+    std::string SessionRecord::*Label = nullptr;
+    double SessionRecord::*Factor = nullptr;
+    long Selector = -1;
+};
+UnitSource SourceOf(Unit unit) {
+    switch (unit) {
+        case Unit::Length:
+            return {&SessionRecord::Len1Label, &SessionRecord::Len1Factor};
+        case Unit::Settlement:
+            return {&SessionRecord::Len2Label, &SessionRecord::Len2Factor};
+        case Unit::Force:
+            return {&SessionRecord::Force1Label, &SessionRecord::Force1Factor};
+        case Unit::Pressure:
+            return {.Selector = kPressure};
+        case Unit::UnitWeight:
+            return {.Selector = kUnitWeight};
+        case Unit::AreaPerTime:
+            return {.Selector = kAreaPerTime};
+        case Unit::LengthPerTime:
+            return {.Selector = kLengthPerTime};
+        case Unit::None:
+            break;
+    }
+    return {};
+}
 
 // A label without its first and last character, the brackets.
 std::string CutBrackets(const std::string& label) {
@@ -145,6 +176,18 @@ double UnitFactor(long selector) {
 
 std::string UnitLabel(long selector) {
     return "[" + DerivedUnit(selector) + "]";
+}
+
+double FactorOf(Unit unit) {
+    const UnitSource source = SourceOf(unit);
+    if (source.Factor) return Session.*source.Factor;
+    return source.Selector < 0 ? 1 : UnitFactor(source.Selector);
+}
+
+std::string LabelOf(Unit unit) {
+    const UnitSource source = SourceOf(unit);
+    if (source.Label) return Session.*source.Label;
+    return source.Selector < 0 ? "[-]" : UnitLabel(source.Selector);
 }
 
 std::string FormatValue(double value, const std::string& format) {

@@ -16,6 +16,13 @@ namespace lithmark {
 double UnitFactor(long selector);
 std::string UnitLabel(long selector);
 
+// What a quantity of the dialogs and reports is counted in.
+enum class Unit { None, Length, Settlement, Force, Pressure, UnitWeight, AreaPerTime, LengthPerTime };
+// Display units per base unit, and the label with its brackets, at this moment; 1 and "[-]" for None. As UnitFactor,
+// DivisionByZero when a length factor of 0 stands under the line.
+double FactorOf(Unit unit);
+std::string LabelOf(Unit unit);
+
 // A value by a number format. An empty format gives the plain text of the value as a Single. `format` is a pattern of
 // FormatNumber, or kLongDate, which takes the value as a day number (services/TextTools.h). The decimal sign is the
 // current one in both cases, so that a dialog can read back what it shows.

@@ -6,6 +6,9 @@
 #include <functional>
 #include <map>
 
+#include "core/Catalogue.h"
+#include "services/ListTools.h"
+
 namespace lithmark {
 
 namespace {
@@ -182,11 +185,6 @@ const std::map<std::string, Drawing>& Drawings() {
         {"mnuFileList", ListIcon},
         {"mnuFileExit", ExitIcon},
         {"mnuProblem(0)", ListIcon},
-        {"mnuProblem(4)", CurveIcon},
-        {"mnuProblem(5)", CurveIcon},
-        {"mnuProblem(6)", CurveIcon},
-        {"mnuProblem(7)", RaftIcon},
-        {"mnuProblem(8)", RaftIcon},
         {"mnuFirmaData", CompanyIcon},
         {"mnuDirOfData", FolderIcon},
         {"mnuPreferences", GearIcon},
@@ -229,8 +227,17 @@ QIcon ProgramIcon() {
 QIcon IconOf(const std::string& key) {
     const auto found = Drawings().find(key);
     if (found != Drawings().end()) return Draw(found->second);
-    if (key.starts_with("mnuProblem(")) return Draw(LoadOnSoil);
-    return {};
+    if (!key.starts_with("mnuProblem(")) return {};
+    const ProblemRow* problem = FirstProblemOf(ListTools().KeyIndex(key));
+    switch (problem == nullptr ? ProblemIcon::LoadOnSoil : problem->Icon) {
+        case ProblemIcon::Curve:
+            return Draw(CurveIcon);
+        case ProblemIcon::Raft:
+            return Draw(RaftIcon);
+        case ProblemIcon::LoadOnSoil:
+            break;
+    }
+    return Draw(LoadOnSoil);
 }
 
 }  // namespace lithmark

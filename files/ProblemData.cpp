@@ -74,23 +74,23 @@ const FileRows& RowsOf(int problemType) {
                "Gamma", "AnalysisType", "SettlementAt"})};
     static const FileRows layerTable = LayerTableRows();
     switch (problemType) {
-        case 1:
-        case 2:
-        case 3:
+        case Problem::SoilStress:
+        case Problem::SoilStrain:
+        case Problem::SoilDisplacement:
             return stress;
-        case 4:
+        case Problem::Consolidation:
             return consolidation;
-        case 5:
+        case Problem::ConsolidationRate:
             return rate;
-        case 6:
-        case 7:
-        case 8:
+        case Problem::TimeDirect:
+        case Problem::TimeOedometer:
+        case Problem::TimeTheory:
             return timeSettlement;
-        case 9:
+        case Problem::RaftDisplacement:
             return displacement;
-        case 10:
+        case Problem::RaftConsolidation:
             return raftConsolidation;
-        case 11:
+        case Problem::LayerTable:
             return layerTable;
         default:
             Fail(FailureKind::SubscriptRange);
@@ -203,9 +203,7 @@ void WriteRow(const FileRow& row) {
 }
 
 std::string NameOfDataFile() {
-    const ProblemRow* problem = FindProblem(Session.ProblemType);
-    if (!problem) Fail(FailureKind::SubscriptRange);
-    return DataFileName(Session.WorkDir, Session.WorkName, problem->Extension);
+    return DataFileName(Session.WorkDir, Session.WorkName, ProblemInForce().Extension);
 }
 
 }  // namespace
@@ -230,7 +228,7 @@ void WriteProblemData() {
     Session.FileSaved = false;
     try {
         const int problem = Session.ProblemType;
-        if (problem >= 6 && problem <= 8) WriteProjectFile(Session.WorkDir, Session.WorkName);
+        if (IsTimeSettlement(problem)) WriteProjectFile(Session.WorkDir, Session.WorkName);
         OpenDataFile(NameOfDataFile(), FileMode::Output, kFile);
         for (const FileRow& row : RowsOf(problem)) WriteRow(row);
         CloseDataFile(kFile);

@@ -2,6 +2,7 @@
 
 #include <qcustomplot.h>
 
+#include "core/Catalogue.h"
 #include "core/Session.h"
 #include "core/Units.h"
 #include "render/PictureFile.h"
@@ -28,8 +29,8 @@ QFont TextFont(double pixels, bool bold = false) {
 // What is shown, with its unit.
 std::string PlotTitle() {
     const bool pressure = Session.ContourResult == "Tab5";
-    const TextId title = pressure ? 90098_text : Session.ProblemType == 9 ? 90046_text : 140186_text;
-    return Text(title) + " " + (pressure ? UnitLabel(0) : Session.Len2Label);
+    const TextId title = pressure ? 90098_text : ProblemInForce().RaftSettlement;
+    return Text(title) + " " + (pressure ? LabelOf(Unit::Pressure) : Session.Len2Label);
 }
 
 // Measures of a plot of `side` pixels with its title and legend.

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "core/Problems.h"
 #include "core/Units.h"
 #include "report/ToolLib.h"
 #include "services/texts/LanguageTexts.h"
@@ -15,7 +16,7 @@ void AddLengthRow(const Label& label, const std::string& symbol, double value) {
 }
 
 void AddPressureRow(TextId label, Single P) {
-    AddParameter(label, "p", UnitLabel(0), P * UnitFactor(0), Session.FmtStress);
+    AddParameter(label, "p", LabelOf(Unit::Pressure), P * FactorOf(Unit::Pressure), Session.FmtStress);
 }
 
 }  // namespace
@@ -25,17 +26,22 @@ double ReportLength(Single length, LengthFactor factor) {
     return factor == LengthFactor::Once ? once : once * Session.Len1Factor;
 }
 
+void AddLoadTitle(Integer loadType, const LoadTitles& titles) {
+    if (loadType < LoadShape::Point || loadType > LoadShape::Circle) return;
+    AddParameter(titles[static_cast<std::size_t>(loadType - LoadShape::Point)]);
+}
+
 void AddLoadRows(Integer loadType, Single Q, Single P, Single A, Single B, LengthFactor aFactor) {
     switch (loadType) {
-        case 1:
+        case LoadShape::Point:
             AddParameter(400186_text, "Q", Session.Force1Label, Q * Session.Force1Factor, Session.FmtForce);
             break;
-        case 2:
+        case LoadShape::Rectangle:
             AddPressureRow(300002_text, P);
             AddLengthRow(400001_text, "a", ReportLength(A, aFactor));
             AddLengthRow(101_text, "b", ReportLength(B));
             break;
-        case 3:
+        case LoadShape::Circle:
             AddPressureRow(400127_text, P);
             AddLengthRow(400120_text, "a", ReportLength(A));
             break;

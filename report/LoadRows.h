@@ -2,16 +2,23 @@
 // to the units in force.
 #pragma once
 
+#include <array>
+
 #include "base/Integer.h"
 #include "base/Single.h"
+#include "base/TextId.h"
 
 namespace lithmark {
 
-// How often a length is multiplied by the unit factor. Some reports do it twice; kept: existing projects rely on it.
+// How often a length is multiplied by the unit factor. Deliberate: some reports do it twice.
 enum class LengthFactor { Once, Twice };
 
 // A length [m] in the unit in force, or multiplied by its factor once more.
 double ReportLength(Single length, LengthFactor factor = LengthFactor::Once);
+
+// The title row of a report by its load: point load, rectangle, circle. No row for any other load type.
+using LoadTitles = std::array<TextId, 3>;
+void AddLoadTitle(Integer loadType, const LoadTitles& titles);
 
 // Point load: Q. Rectangle: p, a, b; `aFactor` is for its a alone. Circle: p, a. No row for any other load type.
 void AddLoadRows(Integer loadType, Single Q, Single P, Single A, Single B, LengthFactor aFactor = LengthFactor::Once);

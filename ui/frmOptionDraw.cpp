@@ -1,5 +1,6 @@
 #include "ui/frmOptionDraw.h"
 
+#include "core/Catalogue.h"
 #include "core/Session.h"
 #include "services/SharedServices.h"
 #include "ui/model/HelpText.h"
@@ -12,10 +13,6 @@ constexpr Style kButton{1};
 constexpr const char* kPerCent = "[%]";
 constexpr int kContactPressure = 4, kRaftSettlement = 5, kCorrected = 3;
 constexpr int kCurveSets = 6;
-
-bool IsRaft() {
-    return Session.ProblemType == 9 || Session.ProblemType == 10;
-}
 
 std::string CurveSetName(int index) {
     return "Tab" + std::to_string(index + 1);
@@ -50,13 +47,13 @@ void frmOptionDraw::Load() {
                  {cmdok, 6_text, kButton},
                  {CmdCancel, 7_text, kButton},
                  {cmdHelp, 8_text, kButton}});
-    if (IsRaft()) optDraw[kRaftSettlement].Caption = Text(Session.ProblemType == 9 ? 140189_text : 140190_text);
+    const bool raft = IsRaft(Session.ProblemType);
+    if (raft) optDraw[kRaftSettlement].Caption = Text(ProblemInForce().MenuText);
     SetCaptions({{optLoadUnit[0], kPerCent},
                  {optLoadUnit[1], Session.Force1Label},
                  {optSettlementUnit[0], kPerCent},
                  {optSettlementUnit[1], Session.Len2Label}});
 
-    const bool raft = IsRaft();
     Show({&optDraw[0], &optDraw[1], &optDraw[2]}, !raft);
     optDraw[kCorrected].Visible = !raft && Session.Ms;
     Show({&optDraw[kContactPressure], &optDraw[kRaftSettlement]}, raft);

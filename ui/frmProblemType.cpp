@@ -1,7 +1,6 @@
 #include "ui/frmProblemType.h"
 
-#include <algorithm>
-
+#include "core/Catalogue.h"
 #include "core/Session.h"
 #include "files/ProjectFiles.h"
 #include "services/FileDialogs.h"
@@ -18,21 +17,13 @@ namespace {
 
 constexpr Style kButton{1}, kDialogButton{3}, kHeading{4};
 
-constexpr TextId kItems[] = {140185_text, 300100_text, 300001_text, 140186_text,
-                             140187_text, 140188_text, 140189_text, 140190_text};
-// The problem of each row; the last one has none in the list. Row 5 stands for the three time-settlement problems.
-constexpr int kProblemOfRow[] = {1, 2, 3, 4, 5, 6, 9, 10, 11};
-constexpr int kTimeSettlementRow = 5;
-
-bool IsTimeSettlement(int problemType) {
-    return problemType >= 6 && problemType <= 8;
+// The rows of the list are the problem menu's entries from 1 on; an entry whose problem is not calculated has no row.
+int RowOf(const ProblemRow& problem) {
+    return problem.MenuEntry - 1;
 }
 
-// -1 for a number that is no problem.
-int RowOf(int problemType) {
-    if (IsTimeSettlement(problemType)) return kTimeSettlementRow;
-    const auto row = std::find(std::begin(kProblemOfRow), std::end(kProblemOfRow), problemType);
-    return row == std::end(kProblemOfRow) ? -1 : static_cast<int>(row - std::begin(kProblemOfRow));
+const ProblemRow* ProblemOfRow(int row) {
+    return row < 0 ? nullptr : FirstProblemOf(row + 1);
 }
 
 }  // namespace
@@ -56,14 +47,14 @@ void frmProblemType::Load() {
         SharedServices().PrepareForm(*this);
         ShowCaptions();
         cmbItem.Items.clear();
-        for (const TextId item : kItems)
-            cmbItem.Items.push_back(std::to_string(cmbItem.Items.size() + 1) + "- " + Text(item));
+        for (int row = 0; const ProblemRow* problem = ProblemOfRow(row); ++row)
+            if (problem->Calculated) cmbItem.Items.push_back(std::to_string(row + 1) + "- " + Text(problem->MenuText));
         DTPicker1.Text = TextTools().LongDateOfToday();
 
         before_ = {Session.ProblemType, Session.Auftr, Session.Datum, Session.Proj};
         saved_ = false;
         Session.DialogOk = false;
-        Session.ProblemType = 1;
+        Session.ProblemType = Problem::SoilStress;
         Session.Auftr.clear();
         Session.Datum = TextTools().LongDateOfToday();
         Session.Proj.clear();
@@ -106,17 +97,18 @@ void frmProblemType::ShowProjectFields() {
     if (const auto day = TextTools().ReadDate(Session.Datum)) DTPicker1.Text = TextTools().LongDate(*day);
     cmbItem.ListIndex = -1;
     cmbItem.Text.clear();
-    if (const int row = RowOf(Session.ProblemType); row >= 0) SelectRow(cmbItem, row);
+    if (const ProblemRow* problem = FindProblem(Session.ProblemType)) SelectRow(cmbItem, RowOf(*problem));
 }
 
 void frmProblemType::StoreProjectFields() {
     Session.Auftr = txtAuftr.Text;
     Session.Datum = txtDatum.Text;
     Session.Proj = txtProj.Text;
-    const int row = cmbItem.ListIndex;
-    if (row < 0 || row >= static_cast<int>(std::size(kProblemOfRow))) return;
-    if (row == kTimeSettlementRow && IsTimeSettlement(Session.ProblemType)) return;
-    Session.ProblemType = kProblemOfRow[row];
+    const ProblemRow* chosen = ProblemOfRow(cmbItem.ListIndex);
+    if (chosen == nullptr) return;
+    // The row of several problems leaves the one that is in force.
+    const ProblemRow* current = FindProblem(Session.ProblemType);
+    if (current == nullptr || current->MenuEntry != chosen->MenuEntry) Session.ProblemType = chosen->ProblemType;
 }
 
 void frmProblemType::DTPicker1_Change() {

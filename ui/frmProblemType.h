@@ -1,6 +1,7 @@
 // frmProblemType: the project's data (order, date, description) and the choice of its problem.
 #pragma once
 
+#include "core/Problems.h"
 #include "ui/model/FieldForm.h"
 
 namespace lithmark {
@@ -45,7 +46,7 @@ class frmProblemType : public FieldForm {
     void StoreProjectFields();
 
     struct ProjectData {
-        int ProblemType = 1;
+        int ProblemType = Problem::SoilStress;
         std::string Auftr, Datum, Proj;
     };
     MDITools& frame_;

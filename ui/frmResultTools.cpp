@@ -2,6 +2,7 @@
 
 #include "base/Utf8.h"
 #include "contour/CurveSets.h"
+#include "core/Catalogue.h"
 #include "core/Session.h"
 #include "services/FileTools.h"
 #include "services/SharedServices.h"
@@ -17,22 +18,9 @@ constexpr Style kButton{1}, kHeading{4};
 constexpr int kFontSize = 8;
 // What the text area holds at most; the ways out know no such limit.
 constexpr std::size_t kShownCharacters = 30000;
-constexpr int kConsolidationRate = 5;
-// Where the raft program is installed for the hand-over of a case; kept: installations rely on it.
+// Deliberate: the one place where the raft program is installed for the hand-over of a case.
 const std::string kRaftProgramDir = "F:\\KORVAN Setup\\";
 const std::string kRaftProgram = "verda.exe";
-
-struct ViewerRow {
-    int ProblemType;
-    TextId Caption;
-    bool Curves, HandOver;
-};
-constexpr ViewerRow kViewerRows[] = {
-    {1, 140185_text, false, false}, {2, 300100_text, false, false}, {3, 300001_text, false, false},
-    {4, 140186_text, false, false}, {5, 140187_text, true, false},  {6, 300047_text, true, false},
-    {7, 300048_text, true, false},  {8, 300033_text, true, false},  {9, 140189_text, true, true},
-    {10, 140190_text, true, true},  {11, 400190_text, true, true},
-};
 
 std::string ReportFont() {
     return Text(160017_text);
@@ -62,14 +50,10 @@ void frmResultTools::Load() {
                  {cmdVERDA, 400198_text, kButton},
                  {cmdok, 6_text, kButton},
                  {cmdHelp, 8_text, kButton}});
-    CmdExcel.Enabled = false;
-    cmdVERDA.Enabled = false;
-    for (const ViewerRow& row : kViewerRows) {
-        if (row.ProblemType != Session.ProblemType) continue;
-        Caption = Text(row.Caption);
-        CmdExcel.Enabled = row.Curves;
-        cmdVERDA.Enabled = row.HandOver;
-    }
+    const ProblemRow* problem = FindProblem(Session.ProblemType);
+    if (problem != nullptr) Caption = Text(problem->Subject);
+    CmdExcel.Enabled = problem != nullptr && problem->Curves != CurveFamily::None;
+    cmdVERDA.Enabled = problem != nullptr && problem->HandsOver;
     txtResult.ReadOnly = true;
     txtResult.FontName = ReportFont();
     txtResult.Text = FirstCharacters(Session.ResultText, kShownCharacters);
@@ -86,7 +70,7 @@ void frmResultTools::CmdTextEditor_Click() {
 
 void frmResultTools::CmdExcel_Click() {
     UnderCommonStep([] {
-        if (Session.ProblemType != kConsolidationRate) {
+        if (ProblemInForce().Curves != CurveFamily::Isochrones) {
             frmOptionDraw choice;
             CurrentHost().ShowForm(choice);
             if (!Session.DialogOk) return;

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "core/Problems.h"
 #include "core/Session.h"
 #include "kernels/elastic/LayerFactors.h"
 #include "kernels/elastic/PolarMesh.h"
@@ -17,20 +18,20 @@ namespace {
 class MeanIncrease {
   public:
     explicit MeanIncrease(const ConsolidationInput& input) : in(input) {
-        if (in.LoadType == 2) rectangles = SplitRectangle(in.x, in.y, in.A, in.B);
-        if (in.LoadType == 3) mesh = BuildPolarMesh(Session.PrefND, Session.A0);
+        if (in.LoadType == LoadShape::Rectangle) rectangles = SplitRectangle(in.x, in.y, in.A, in.B);
+        if (in.LoadType == LoadShape::Circle) mesh = BuildPolarMesh(Session.PrefND, Session.A0);
     }
 
     // Into Session.Sigma_z.
     void Work(Single z1, Single z2) const {
         switch (in.LoadType) {
-            case 1:
+            case LoadShape::Point:
                 Session.Sigma_z = MeanPointFactor(in.x, in.y, z1, z2) * in.Q;
                 break;
-            case 2:
+            case LoadShape::Rectangle:
                 Session.Sigma_z = Rectangle(z1, z2);
                 break;
-            case 3:
+            case LoadShape::Circle:
                 Session.Sigma_z = Circle(z1, z2);
                 break;
             default:
@@ -101,8 +102,8 @@ void SolveByCompressionIndex(const ConsolidationInput& in, const MeanIncrease& i
 
 void SolveConsolidation(const ConsolidationInput& in) {
     const MeanIncrease increase(in);
-    if (in.SoilPropertyType == 1) SolveByModulus(in, increase);
-    if (in.SoilPropertyType == 2) SolveByCompressionIndex(in, increase);
+    if (in.SoilPropertyType == SoilDefinition::ByModulus) SolveByModulus(in, increase);
+    if (in.SoilPropertyType == SoilDefinition::ByCompressionIndex) SolveByCompressionIndex(in, increase);
 }
 
 void ComputeConsolidation(Single x, Single y, Single z, Single Q, Single P, Single A, Single B, Single h, Single eo,

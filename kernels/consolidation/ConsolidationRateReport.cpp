@@ -3,6 +3,7 @@
 #include <string>
 
 #include "base/NumberText.h"
+#include "core/Problems.h"
 #include "core/Session.h"
 #include "core/Units.h"
 #include "kernels/consolidation/ConsolidationRateRun.h"
@@ -14,29 +15,13 @@ namespace lithmark {
 
 namespace {
 
-void LoadTitleRow(int loadType) {
-    switch (loadType) {
-        case 1:
-            AddParameter(400171_text);
-            break;
-        case 2:
-            AddParameter(400174_text);
-            break;
-        case 3:
-            AddParameter(400177_text);
-            break;
-        default:
-            break;
-    }
-}
-
 void InitialPressureRows(const ConsolidationRateInput& in) {
     if (in.Pressure) {
         AddParameter(300012_text);
-        AddParameter(300008_text, "uo", UnitLabel(0), in.U * UnitFactor(0), Session.FmtStress);
+        AddParameter(300008_text, "uo", LabelOf(Unit::Pressure), in.U * FactorOf(Unit::Pressure), Session.FmtStress);
         return;
     }
-    LoadTitleRow(in.LoadType);
+    AddLoadTitle(in.LoadType, {400171_text, 400174_text, 400177_text});
     AddSection(140095_text);
     AddLoadRows(in.LoadType, in.Q, in.P, in.A, in.B, LengthFactor::Twice);
 }
@@ -53,22 +38,23 @@ void LayerRows(const ConsolidationRateInput& in) {
 }
 
 void PermeabilityRow(const ConsolidationRateInput& in, int i) {
-    AddParameter(10242_text, "k" + NumberToText(i), UnitLabel(11), in.KLayer(i) * UnitFactor(11),
-                 Session.FmtPermeability);
+    AddParameter(10242_text, "k" + NumberToText(i), LabelOf(Unit::LengthPerTime),
+                 in.KLayer(i) * FactorOf(Unit::LengthPerTime), Session.FmtPermeability);
 }
 
 void CvRow(const ConsolidationRateInput& in, int i) {
-    AddParameter(10243_text, "Cv" + NumberToText(i), UnitLabel(10), in.CvLayer(i) * UnitFactor(10), Session.FmtCv);
+    AddParameter(10243_text, "Cv" + NumberToText(i), LabelOf(Unit::AreaPerTime),
+                 in.CvLayer(i) * FactorOf(Unit::AreaPerTime), Session.FmtCv);
 }
 
 // The time factor is that of layer 1 alone, Tv = Cv t/H^2 with H the drainage length.
 void SoilRows(const ConsolidationRateInput& in, Single c) {
     AddSection(140162_text);
     Single H = 0;
-    if (in.DrainageCondition == 1) {
+    if (in.DrainageCondition == Drainage::BottomDrained) {
         AddParameter(300011_text);
         H = in.hLayer(1) / 2;
-    } else if (in.DrainageCondition == 2) {
+    } else if (in.DrainageCondition == Drainage::BottomImpermeable) {
         AddParameter(300010_text);
         H = in.hLayer(1);
     }
@@ -87,9 +73,9 @@ void IsochroneTable() {
     TableColumns(3, Session.IsoLast + 1, Text(300014_text));
     TableColumn(0, 13_text, Text(90000_text), "[-]");
     TableColumn(1, 300018_text, "z", Session.Len1Label);
-    TableColumn(2, 300016_text, "u0", UnitLabel(0));
-    TableColumn(3, 300017_text, "uf", UnitLabel(0));
-    const double pressureFactor = UnitFactor(0);
+    TableColumn(2, 300016_text, "u0", LabelOf(Unit::Pressure));
+    TableColumn(3, 300017_text, "uf", LabelOf(Unit::Pressure));
+    const double pressureFactor = FactorOf(Unit::Pressure);
     for (int m = 0; m <= Session.IsoLast; ++m) {
         Session.TableCells(m + 1, 0) = NumberToText(m);
         Session.TableCells(m + 1, 1) = FormatValue(Session.IsoZ(m) * Session.Len1Factor, Session.FmtLength);

@@ -1,4 +1,5 @@
 // The report of problem 4.
+#include "core/Problems.h"
 #include "core/Session.h"
 #include "core/Units.h"
 #include "kernels/consolidation/ConsolidationInput.h"
@@ -9,33 +10,17 @@ namespace lithmark {
 
 namespace {
 
-void AddTitleRow(int loadType) {
-    switch (loadType) {
-        case 1:
-            AddParameter(400180_text);
-            break;
-        case 2:
-            AddParameter(400181_text);
-            break;
-        case 3:
-            AddParameter(400182_text);
-            break;
-        default:
-            break;
-    }
-}
-
 void AddSoilRows(const ConsolidationInput& in) {
     const auto addStress = [](const Label& label, const char* symbol, Single value, const std::string& format) {
-        AddParameter(label, symbol, UnitLabel(0), value * UnitFactor(0), format);
+        AddParameter(label, symbol, LabelOf(Unit::Pressure), value * FactorOf(Unit::Pressure), format);
     };
-    if (in.SoilPropertyType == 1) addStress(90029_text, "Es", in.Es, Session.FmtModulus);
-    if (in.SoilPropertyType == 2) {
+    if (in.SoilPropertyType == SoilDefinition::ByModulus) addStress(90029_text, "Es", in.Es, Session.FmtModulus);
+    if (in.SoilPropertyType == SoilDefinition::ByCompressionIndex) {
         AddParameter(300004_text, "Cc", "[-]", in.Cc, Session.FmtRatio);
         AddParameter(10175_text, "eo", "[-]", in.eo, Session.FmtRatio);
         addStress(120001_text, "po", in.Po, Session.FmtStress);
         // In kN/m3 whatever the units are: the label changes, the number does not. Kept: existing projects rely on it.
-        AddParameter(10244_text, "Gamma_c", UnitLabel(3), in.Gamma, Session.FmtUnitWeight);
+        AddParameter(10244_text, "Gamma_c", LabelOf(Unit::UnitWeight), in.Gamma, Session.FmtUnitWeight);
         // The overburden once more, under a second symbol. Kept: existing reports have it.
         addStress(120001_text, "Gamma*z", in.Po, Session.FmtStress);
     }
@@ -45,7 +30,7 @@ void AddSoilRows(const ConsolidationInput& in) {
 
 void WriteConsolidationReport(const ConsolidationInput& in) {
     ReportHeading();
-    AddTitleRow(in.LoadType);
+    AddLoadTitle(in.LoadType, {400180_text, 400181_text, 400182_text});
     AddParameter(Ruler());
     ReportParameters();
 

@@ -1,5 +1,6 @@
 #include "kernels/raft/BasRectangularRigidRaft.h"
 
+#include "core/Problems.h"
 #include "core/Session.h"
 #include "kernels/elastic/LayerFactors.h"
 #include "kernels/raft/RaftRun.h"
@@ -11,8 +12,6 @@
 namespace lithmark {
 
 namespace {
-
-constexpr int kByModulus = 1, kByCompressionIndex = 2;  // SoilPropertyType
 
 class RectangularRaft {
   public:
@@ -27,7 +26,7 @@ class RectangularRaft {
             z_ = input_.z = 0;
             PunchForces(mesh_, input_, Session.NodeForce);
         }
-        if (Session.ProblemType == 9)
+        if (Session.ProblemType == Problem::RaftDisplacement)
             SettleElasticLayer();
         else
             SettleClay();
@@ -69,7 +68,7 @@ class RectangularRaft {
     }
 
     void SettleClay() {
-        if (input_.SoilPropertyType == kByModulus) {
+        if (input_.SoilPropertyType == SoilDefinition::ByModulus) {
             if (input_.AnalysisType) {
                 ConfinedPunchSettlement(mesh_, input_, Session.NodeForce, Session.NodeSettlement);
                 CompareHalfSpace(0);
@@ -77,7 +76,7 @@ class RectangularRaft {
             }
             SolveUniformClay(Grid(mesh_), input_);
             CompareClay({});
-        } else if (input_.SoilPropertyType == kByCompressionIndex) {
+        } else if (input_.SoilPropertyType == SoilDefinition::ByCompressionIndex) {
             CompareClay(SettleCompressibleClay());
         }
     }

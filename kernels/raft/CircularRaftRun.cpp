@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "core/Problems.h"
 #include "core/Session.h"
 #include "kernels/elastic/PolarMesh.h"
 #include "kernels/raft/CircularPunch.h"
@@ -18,9 +19,6 @@
 namespace lithmark {
 
 namespace {
-
-constexpr int kElasticLayer = 9;                        // ProblemType
-constexpr int kByModulus = 1, kByCompressionIndex = 2;  // SoilPropertyType
 
 // The shares of the progress: up to where each stage of a run brings it.
 constexpr double kFlexibilityDone = 0.3, kSolved = 0.9;
@@ -40,11 +38,11 @@ class Run {
         ShareMesh();
         if (input_.AnalysisType)
             AnalyticalSettlements();
-        else if (Session.ProblemType == kElasticLayer)
+        else if (Session.ProblemType == Problem::RaftDisplacement)
             SolveElasticLayer();
-        else if (input_.SoilPropertyType == kByModulus)
+        else if (input_.SoilPropertyType == SoilDefinition::ByModulus)
             SolveElasticClay();
-        else if (input_.SoilPropertyType == kByCompressionIndex)
+        else if (input_.SoilPropertyType == SoilDefinition::ByCompressionIndex)
             SolveCompressibleClay();
         CompareFlexible();
         ExtractMiddleLine(result);
@@ -70,11 +68,11 @@ class Run {
         input_.z = 0;
         const CircularPunchForces forces = PunchContactForces(mesh_, input_.Q, input_.Exz_x);
         Session.NodeForce = forces.NodeForce;
-        if (Session.ProblemType == kElasticLayer) {
+        if (Session.ProblemType == Problem::RaftDisplacement) {
             Session.NodeSettlement = PunchSettlements(mesh_, input_, forces.NodeForce, Session.Nue);
-        } else if (input_.SoilPropertyType == kByModulus) {
+        } else if (input_.SoilPropertyType == SoilDefinition::ByModulus) {
             Session.NodeSettlement = PunchSettlements(mesh_, input_, forces.NodeForce, 0);
-        } else if (input_.SoilPropertyType == kByCompressionIndex) {
+        } else if (input_.SoilPropertyType == SoilDefinition::ByCompressionIndex) {
             Session.NodeSettlement = PunchClaySettlements(mesh_, input_, forces);
             clay_ = AnalyticalClay(input_, mesh_.R);
         }
@@ -206,11 +204,11 @@ class Run {
     // The settlements of a perfectly flexible raft along the diameter.
     void CompareFlexible() const {
         const Single p = Session.RaftMeanPressure;
-        const bool elasticLayer = Session.ProblemType == kElasticLayer;
+        const bool elasticLayer = Session.ProblemType == Problem::RaftDisplacement;
         std::unique_ptr<PolarInfluence> elastic;
         if (elasticLayer && !input_.AnalysisType)
             elastic = std::make_unique<LayerInfluence>(mesh_, Session.Nue, input_.Es, input_.h);
-        else if (elasticLayer || (input_.AnalysisType && input_.SoilPropertyType == kByModulus))
+        else if (elasticLayer || (input_.AnalysisType && input_.SoilPropertyType == SoilDefinition::ByModulus))
             elastic = std::make_unique<HalfSpaceInfluence>(mesh_, elasticLayer ? Session.Nue : Single(0), input_.Es);
 
         for (int t = 1; t <= mesh_.NRing; ++t) {

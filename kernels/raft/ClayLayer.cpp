@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "core/Problems.h"
 #include "services/SharedServices.h"
 
 namespace lithmark {
@@ -82,7 +83,7 @@ void SettleToDepth(ClayColumn& column, Single limitingDepth, const MeanStress& m
 }
 
 Single FlexibleClaySettlement(const RaftInput& input, const ClayLayer& clay, const MeanStress& meanStress) {
-    if (input.SoilPropertyType == 2 && clay.Thick) {
+    if (input.SoilPropertyType == SoilDefinition::ByCompressionIndex && clay.Thick) {
         Single s;
         for (int k = 1; k <= clay.M; ++k) {
             const Single z1 = SublayerTop(input, clay, k);
@@ -92,7 +93,8 @@ Single FlexibleClaySettlement(const RaftInput& input, const ClayLayer& clay, con
         return s;
     }
     const Single d = meanStress(input.z, input.z + input.h);
-    if (input.SoilPropertyType == 2) return clay.C * LogStressRatio(clay.S0, d) * input.h * 100 / std::log(10.0);
+    if (input.SoilPropertyType == SoilDefinition::ByCompressionIndex)
+        return clay.C * LogStressRatio(clay.S0, d) * input.h * 100 / std::log(10.0);
     return Quotient(d * input.h * 100, input.Es);
 }
 

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "core/Problems.h"
 #include "core/Session.h"
 #include "files/GloableVariable.h"
 #include "kernels/raft/RaftRun.h"
@@ -217,7 +218,7 @@ struct SoilModel {
 constexpr double kStiff = 200000000;  // kN/m2, soil above the clay
 
 SoilLayer ClayOf(const RaftInput& input) {
-    const bool byModulus = input.SoilPropertyType == 1;
+    const bool byModulus = input.SoilPropertyType == SoilDefinition::ByModulus;
     const Single modulus = byModulus ? input.Es : input.Cc;
     return {input.z + input.h,
             modulus,
@@ -232,14 +233,15 @@ SoilLayer ClayOf(const RaftInput& input) {
 
 SoilModel NumericalModel(const RaftInput& input) {
     SoilModel model;
-    if (Session.ProblemType == 9) {
+    if (Session.ProblemType == Problem::RaftDisplacement) {
         model.Layers.push_back({input.h, input.Es, input.Es, input.Gamma, "G/ge", 30, 0, Session.Nue, 1});
         return model;
     }
     if (input.z != 0) {
         SoilLayer above;
         if (input.z > 0) {
-            const Single unitWeight = input.SoilPropertyType == 1 ? Single(18) : Single(input.Po / input.z);
+            const Single unitWeight =
+                input.SoilPropertyType == SoilDefinition::ByModulus ? Single(18) : Single(input.Po / input.z);
             above = {input.z, kStiff, kStiff, unitWeight, "G/ge", 30, 0, 0, 2};
         }
         model.Layers.push_back(above);
@@ -253,13 +255,13 @@ SoilModel NumericalModel(const RaftInput& input) {
 SoilModel AnalyticalModel(const RaftInput& input) {
     SoilModel model;
     model.Layers.emplace_back();
-    if (Session.ProblemType == 9) {
+    if (Session.ProblemType == Problem::RaftDisplacement) {
         model.CaseCode = 4;
         model.CaseValue = input.Es;
         model.Shift1 = 30;
         return model;
     }
-    const bool byModulus = input.SoilPropertyType == 1;
+    const bool byModulus = input.SoilPropertyType == SoilDefinition::ByModulus;
     model.CaseCode = byModulus ? 5 : 6;
     model.CaseValue = byModulus ? input.Es : input.Cc;
     Session.Nue = byModulus ? Single(0) : input.eo;

@@ -1,5 +1,6 @@
 #include "kernels/stress/BasSoilStress.h"
 
+#include "core/Problems.h"
 #include "core/Session.h"
 #include "kernels/elastic/CircularLoad.h"
 #include "kernels/elastic/PointLoad.h"
@@ -28,13 +29,13 @@ void ComputeStrains(Single Nue, Single E) {
 void SolveSoilStress(const SoilStressInput& in) {
     const Single zc = FormulaDepth(in.z);
     switch (in.LoadType) {
-        case 1:
+        case LoadShape::Point:
             ComputePointLoad(in, zc);
             break;
-        case 2:
+        case LoadShape::Rectangle:
             ComputeRectangularLoad(in, zc);
             break;
-        case 3:
+        case LoadShape::Circle:
             ComputeCircularLoad(in, zc);
             break;
         default:

@@ -1,8 +1,8 @@
 #include "kernels/stress/SoilStressReport.h"
 
-#include <optional>
 #include <string>
 
+#include "core/Problems.h"
 #include "core/Session.h"
 #include "core/Units.h"
 #include "kernels/stress/PrincipalValues.h"
@@ -14,15 +14,16 @@ namespace lithmark {
 
 namespace {
 
-enum Problem { kStress = 1, kStrain = 2, kDisplacement = 3 };
-
-// The title row by problem and load type.
-std::optional<TextId> TitleText(int problemType, int loadType) {
-    static constexpr TextId kTitles[3][3] = {{400171_text, 400174_text, 400177_text},
-                                             {400173_text, 400176_text, 400179_text},
-                                             {400172_text, 400175_text, 400178_text}};
-    if (problemType < 1 || problemType > 3 || loadType < 1 || loadType > 3) return std::nullopt;
-    return kTitles[problemType - 1][loadType - 1];
+// The title rows of the loads in a problem.
+LoadTitles TitlesOf(int problemType) {
+    switch (problemType) {
+        case Problem::SoilStress:
+            return {400171_text, 400174_text, 400177_text};
+        case Problem::SoilStrain:
+            return {400173_text, 400176_text, 400179_text};
+        default:
+            return {400172_text, 400175_text, 400178_text};
+    }
 }
 
 // A component's text with the names of its axes.
@@ -35,8 +36,8 @@ std::string ComponentText(TextId id, Axis first, Axis second) {
 }
 
 void AddStressRows() {
-    const std::string unit = UnitLabel(0);
-    const double factor = UnitFactor(0);
+    const std::string unit = LabelOf(Unit::Pressure);
+    const double factor = FactorOf(Unit::Pressure);
     const auto add = [&](const Label& label, const char* symbol, Single value) {
         AddParameter(label, symbol, unit, value * factor, Session.FmtStress);
     };
@@ -87,8 +88,8 @@ void AddDisplacementRows() {
 }
 
 void AddSoilRows(const SoilStressInput& in) {
-    if (Session.ProblemType != kStress)
-        AddParameter(90029_text, "Es", UnitLabel(0), in.Es * UnitFactor(0), Session.FmtModulus);
+    if (Session.ProblemType != Problem::SoilStress)
+        AddParameter(90029_text, "Es", LabelOf(Unit::Pressure), in.Es * FactorOf(Unit::Pressure), Session.FmtModulus);
     AddParameter(90004_text, "Nue_s", "[-]", in.Nue, Session.FmtRatio);
 }
 
@@ -96,7 +97,7 @@ void AddSoilRows(const SoilStressInput& in) {
 
 void WriteSoilStressReport(const SoilStressInput& in) {
     ReportHeading();
-    if (const std::optional<TextId> title = TitleText(Session.ProblemType, in.LoadType)) AddParameter(*title);
+    if (IsSoilStress(Session.ProblemType)) AddLoadTitle(in.LoadType, TitlesOf(Session.ProblemType));
     AddParameter(Ruler());
     ReportParameters();
 
@@ -108,13 +109,13 @@ void WriteSoilStressReport(const SoilStressInput& in) {
     AddCoordinateRows(in.x, in.y, in.z);
     AddSection(140096_text);
     switch (Session.ProblemType) {
-        case kStress:
+        case Problem::SoilStress:
             AddStressRows();
             break;
-        case kStrain:
+        case Problem::SoilStrain:
             AddStrainRows();
             break;
-        case kDisplacement:
+        case Problem::SoilDisplacement:
             AddDisplacementRows();
             break;
         default:

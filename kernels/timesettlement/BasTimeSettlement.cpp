@@ -1,5 +1,6 @@
 #include "kernels/timesettlement/BasTimeSettlement.h"
 
+#include "core/Problems.h"
 #include "core/Session.h"
 #include "core/TimeUnits.h"
 #include "kernels/timesettlement/SuddenLoadCurve.h"
@@ -73,11 +74,11 @@ void BuildLoadChart(const TimeSettlementRun& run) {
 // False when the run has stopped with a message.
 bool BuildSuddenLoadCurve(TimeSettlementRun& run) {
     switch (Session.ProblemType) {
-        case 6:
+        case Problem::TimeDirect:
             return DirectCurve(run);
-        case 7:
+        case Problem::TimeOedometer:
             return OedometerCurve(run);
-        case 8:
+        case Problem::TimeTheory:
             TheoryCurve(run);
             return true;
         default:

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/Problems.h"
 #include "core/Session.h"
 #include "core/TimeUnits.h"
 #include "services/SharedServices.h"
@@ -16,9 +17,9 @@ constexpr Single kBranchTimeFactor{1.0 / 12.0};
 // The drainage length, m.
 Single DrainageLength() {
     switch (Session.DrainageFaces) {
-        case 1:
+        case Faces::OneSided:
             return Session.h;
-        case 2:
+        case Faces::Both:
             return Session.h / 2;
         default:
             return 0;
@@ -104,7 +105,7 @@ bool OedometerCurve(TimeSettlementRun& run) {
 
 void TheoryCurve(TimeSettlementRun& run) {
     const Single Hb = DrainageLength();
-    if (Session.CvChoice == 1) {
+    if (Session.CvChoice == CvFrom::SoilData) {
         run.EstMix = Quotient(Session.Ws * Session.qv + Session.EsTS * Session.qe, Session.qv + Session.qe);
         Session.CvTS = Session.kf * run.EstMix / 9.81;
     }

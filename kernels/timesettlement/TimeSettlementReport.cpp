@@ -6,6 +6,7 @@
 #include <string>
 
 #include "base/NumberText.h"
+#include "core/Catalogue.h"
 #include "core/Session.h"
 #include "core/Units.h"
 #include "kernels/timesettlement/TimeSettlementRun.h"
@@ -34,19 +35,7 @@ std::string SettlementText(double settlement) {
 
 void TitleRows() {
     AddParameter(Text(300034_text) + " " + Text(300058_text));
-    switch (Session.ProblemType) {
-        case 6:
-            AddParameter(300047_text);
-            break;
-        case 7:
-            AddParameter(300048_text);
-            break;
-        case 8:
-            AddParameter(300033_text);
-            break;
-        default:
-            break;
-    }
+    AddParameter(ProblemInForce().Subject);
     AddParameter(Ruler());
     ReportParameters();
 }
@@ -73,16 +62,18 @@ void OedometerRows() {
 }
 
 void CvRow() {
-    AddParameter(10243_text, "Cv", UnitLabel(10), Session.CvTS * UnitFactor(10), Session.FmtCv);
+    AddParameter(10243_text, "Cv", LabelOf(Unit::AreaPerTime), Session.CvTS * FactorOf(Unit::AreaPerTime),
+                 Session.FmtCv);
 }
 
 void TheoryRows(const TimeSettlementRun& run) {
-    const std::string pressureUnit = UnitLabel(0);
-    const double pressureFactor = UnitFactor(0);
+    const std::string pressureUnit = LabelOf(Unit::Pressure);
+    const double pressureFactor = FactorOf(Unit::Pressure);
     AddParameter();
     AddParameter(300025_text, "Hb", Session.Len1Label, Session.h);
-    if (Session.CvChoice == 1) {
-        AddParameter(10242_text, "k", UnitLabel(11), Session.kf * UnitFactor(11), Session.FmtPermeability);
+    if (Session.CvChoice == CvFrom::SoilData) {
+        AddParameter(10242_text, "k", LabelOf(Unit::LengthPerTime), Session.kf * FactorOf(Unit::LengthPerTime),
+                     Session.FmtPermeability);
         AddParameter(90152_text, "Es", pressureUnit, Session.EsTS * pressureFactor, Session.FmtModulus);
         AddParameter(90153_text, "Ws", pressureUnit, Session.Ws * pressureFactor, Session.FmtModulus);
         AddParameter(300023_text, "qv", pressureUnit, Session.qv * pressureFactor, Session.FmtStress);
@@ -101,8 +92,8 @@ void ParameterBlock(const TimeSettlementRun& run) {
     AddParameter(300026_text, "Pt", Session.Force1Label, Session.Pt * Session.Force1Factor, Session.FmtForce);
     AddParameter(400124_text, "Sc", Session.Len2Label, Session.Sc, Session.FmtSettlement);
     if (Session.Ms) MeasurementRows();
-    if (Session.ProblemType == 7) OedometerRows();
-    if (Session.ProblemType == 8) TheoryRows(run);
+    if (Session.ProblemType == Problem::TimeOedometer) OedometerRows();
+    if (Session.ProblemType == Problem::TimeTheory) TheoryRows(run);
     AddParameter();
     AddParameter(300062_text, "Tb", Session.TimeUnit, Session.ConsolidationEnd, Session.FmtTime);
     AddParameter();
@@ -217,13 +208,13 @@ void WriteTimeSettlementReport(const TimeSettlementRun& run) {
     ParameterBlock(run);
     LoadTable(run);
     switch (Session.ProblemType) {
-        case 6:
+        case Problem::TimeDirect:
             DirectCurveTable();
             break;
-        case 7:
+        case Problem::TimeOedometer:
             OedometerTable(run);
             break;
-        case 8:
+        case Problem::TimeTheory:
             TheoryTable(run);
             break;
         default:

@@ -27,17 +27,20 @@ namespace {
 const std::string kProblemArray = "mnuProblem", kRecentArray = "MnuRecentFile";
 const std::string kStandsForProject = ".po3";
 
-// The texts of the entries 1 to 9 as the list of missing data names them.
-constexpr TextId kDataTexts[] = {140185_text, 300100_text, 300001_text, 140186_text, 140187_text,
-                                 140188_text, 140189_text, 140190_text, 400190_text};
+// The extensions of an entry's files.
+std::vector<std::string> FilesOf(int entry) {
+    if (entry == kProjectEntry) return {"PO3", "AUF"};
+    const ProblemRow* problem = FirstProblemOf(entry);
+    return problem == nullptr ? std::vector<std::string>{} : std::vector<std::string>{problem->Extension};
+}
 
-// The data file of an entry of mnuProblem.
-struct DataFileRow {
-    int Entry;
-    const char* Extension;
-};
-constexpr DataFileRow kCopiedFiles[] = {{0, "PO3"}, {0, "AUF"}, {1, "SSD"}, {2, "SSD"}, {3, "SSD"}, {4, "CON"},
-                                        {5, "RAT"}, {6, "TST"}, {7, "RDE"}, {8, "RCO"}, {9, "SC1"}};
+// Copies a file under the name that it gets in another project.
+void CopyFile(const std::string& source, const std::string& target) {
+    SharedServices().SetCurrentFile(source);
+    const std::string content = ReadWholeFile(source);
+    SharedServices().SetCurrentFile(target);
+    WriteWholeFile(target, content);
+}
 
 std::string OpenProjectPath() {
     return Session.DataDir + Session.ProjectName;
@@ -72,7 +75,7 @@ bool MDITools::ProjectOpen() const {
 
 void MDITools::NewProjectState() {
     Session.ProjectName.clear();
-    Session.ProblemType = 1;
+    Session.ProblemType = Problem::SoilStress;
     Session.WorkName = Text(93_text);
     for (int entry = 0; entry < kProblemEntries; ++entry) SetProblemSaved(entry, false);
     ShowTitle(Text(93_text));
@@ -121,7 +124,7 @@ void MDITools::CheckProjectFiles() {
 std::vector<std::string> MDITools::MissingData() {
     std::vector<std::string> missing;
     for (int entry = 1; entry < kProblemEntries; ++entry) {
-        if (entry <= static_cast<int>(std::size(kDataTexts))) SharedServices().SetCurrentTextId(kDataTexts[entry - 1]);
+        if (const ProblemRow* problem = FirstProblemOf(entry)) SharedServices().SetCurrentTextId(problem->MenuText);
         if (Menu.At(kProblemArray, entry).Visible && !ProblemSaved(entry))
             missing.push_back(Text(SharedServices().GetCurrentTextId()));
     }
@@ -144,7 +147,7 @@ void MDITools::ProjectCheck(int ask, bool& ok) {
     ok = Session.DialogOk;
 }
 
-// Asks first and packs nothing: kept, the project that is left by a new one stays plain.
+// Deliberate: asks first and packs nothing; the project that is left by a new one stays plain.
 void MDITools::mnuNewProject_Click() {
     UnderCommonStep([&] {
         Menu["mnuMainProblem"].Enabled = false;
@@ -193,18 +196,14 @@ void MDITools::mnuSaveProjectAs_Click() {
         if (!FileDialogs().SaveFileDialog(Session.ProjectFile, Session.DataDir, newDir, newName, "PO3")) return;
         SharedServices().SetPointer(PointerShape::Hourglass);
         AddToRecentFiles(Session.ProjectFile);
-        for (const auto& [entry, extension] : kCopiedFiles) {
+        for (int entry = kProjectEntry; entry <= kLastProblemEntry; ++entry) {
             if (!ProblemSaved(entry)) continue;
-            const std::string source = DataFileName(Session.DataDir, Session.ProjectName, extension);
-            const std::string target = DataFileName(newDir, newName, extension);
-            if (source == target) continue;
-            // A file that cannot be copied is told, and the others are copied all the same.
-            UnderCommonStep([&] {
-                SharedServices().SetCurrentFile(source);
-                const std::string content = ReadWholeFile(source);
-                SharedServices().SetCurrentFile(target);
-                WriteWholeFile(target, content);
-            });
+            for (const std::string& extension : FilesOf(entry)) {
+                const std::string source = DataFileName(Session.DataDir, Session.ProjectName, extension);
+                const std::string target = DataFileName(newDir, newName, extension);
+                // A file that cannot be copied is told, and the others are copied all the same.
+                if (source != target) UnderCommonStep([&] { CopyFile(source, target); });
+            }
         }
         Session.ProjectName = newName;
         Session.DataDir = newDir;

@@ -1,6 +1,7 @@
 // The frame's menu, bars and settings commands.
 #include "ui/frame/MDITools.h"
 
+#include "core/Catalogue.h"
 #include "core/Session.h"
 #include "services/SharedServices.h"
 #include "ui/frame/ProblemDialogs.h"
@@ -17,7 +18,6 @@ namespace lithmark {
 namespace {
 
 const std::string kToolBarArray = "MnuVeiwToolBar", kRecentArray = "MnuRecentFile", kProblemArray = "mnuProblem";
-constexpr int kLastProblemEntry = 9;
 constexpr int kRightButton = 2;
 
 const std::string kSettings = "Settings", kTransparentBar = "Transparent Bar", kStatusBar = "Status Bar";

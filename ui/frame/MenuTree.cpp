@@ -24,10 +24,9 @@ int ProblemEntryOf(const std::string& key) {
 
 // Entries that belong to no problem have no text.
 TextId ProblemText(int entry) {
-    if (entry == 0) return 400009_text;
-    for (const ProblemRow& row : ProblemCatalogue())
-        if (row.MenuEntry == entry) return row.MenuText;
-    return {};
+    if (entry == kProjectEntry) return 400009_text;
+    const ProblemRow* problem = FirstProblemOf(entry);
+    return problem == nullptr ? TextId{} : problem->MenuText;
 }
 
 }  // namespace

@@ -14,7 +14,6 @@ namespace {
 
 // Stands in the table for the choice of the method, which belongs to three problems.
 constexpr int kMethodChoice = 0;
-constexpr int kTimeSettlementEntry = 6;
 
 template <typename F>
 std::unique_ptr<Form> Make() {
@@ -27,9 +26,9 @@ struct DialogRow {
     std::unique_ptr<Form> (*MakeDialog)();
 };
 constexpr DialogRow kDialogs[] = {
-    {1, Make<frmstress>},
-    {2, Make<frmstress>},
-    {3, Make<frmstress>},
+    {Problem::SoilStress, Make<frmstress>},
+    {Problem::SoilStrain, Make<frmstress>},
+    {Problem::SoilDisplacement, Make<frmstress>},
 };
 
 const DialogRow* FindDialog(int problemType) {
@@ -45,25 +44,27 @@ void ShowDialogOf(int problemType) {
     CurrentHost().ShowForm(*dialog);
 }
 
-// The problem of an entry; of the three time-settlement problems the first.
-int ProblemOf(int menuEntry) {
-    for (const ProblemRow& problem : ProblemCatalogue())
-        if (problem.MenuEntry == menuEntry) return problem.ProblemType;
-    Fail(FailureKind::NoSuchForm);
+// The problem that stands for an entry, and for the others of the entry if there are any.
+const ProblemRow& ProblemOf(int menuEntry) {
+    const ProblemRow* problem = FirstProblemOf(menuEntry);
+    if (problem == nullptr) Fail(FailureKind::NoSuchForm);
+    return *problem;
 }
 
 }  // namespace
 
 bool ProblemDialogExists(int menuEntry) {
-    if (menuEntry == kTimeSettlementEntry && FindDialog(kMethodChoice) == nullptr) return false;
-    const auto problems = ProblemCatalogue();
-    return std::any_of(problems.begin(), problems.end(), [&](const ProblemRow& problem) {
+    const ProblemRow* first = FirstProblemOf(menuEntry);
+    if (first == nullptr) return false;
+    if (IsTimeSettlement(first->ProblemType) && FindDialog(kMethodChoice) == nullptr) return false;
+    return std::ranges::any_of(ProblemCatalogue(), [&](const ProblemRow& problem) {
         return problem.MenuEntry == menuEntry && FindDialog(problem.ProblemType) != nullptr;
     });
 }
 
 void ShowProblemDialog(int menuEntry) {
-    if (menuEntry != kTimeSettlementEntry) return ShowDialogOf(ProblemOf(menuEntry));
+    const int problem = ProblemOf(menuEntry).ProblemType;
+    if (!IsTimeSettlement(problem)) return ShowDialogOf(problem);
     ShowDialogOf(kMethodChoice);
     if (Session.DialogOk) ShowDialogOf(Session.ProblemType);
 }

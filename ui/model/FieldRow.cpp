@@ -3,7 +3,6 @@
 #include <cmath>
 
 #include "core/Session.h"
-#include "core/Units.h"
 #include "services/SharedServices.h"
 
 namespace lithmark {
@@ -12,52 +11,7 @@ namespace {
 
 constexpr int kRealNumber = 2;
 
-// Selectors of UnitFactor and UnitLabel.
-constexpr long kPressure = 0, kUnitWeight = 3, kAreaPerTime = 10, kLengthPerTime = 11;
-
 }  // namespace
-
-double FactorOf(Unit unit) {
-    switch (unit) {
-        case Unit::Length:
-            return Session.Len1Factor;
-        case Unit::Settlement:
-            return Session.Len2Factor;
-        case Unit::Force:
-            return Session.Force1Factor;
-        case Unit::Pressure:
-            return UnitFactor(kPressure);
-        case Unit::UnitWeight:
-            return UnitFactor(kUnitWeight);
-        case Unit::AreaPerTime:
-            return UnitFactor(kAreaPerTime);
-        case Unit::LengthPerTime:
-            return UnitFactor(kLengthPerTime);
-        default:
-            return 1;
-    }
-}
-
-std::string LabelOf(Unit unit) {
-    switch (unit) {
-        case Unit::Length:
-            return Session.Len1Label;
-        case Unit::Settlement:
-            return Session.Len2Label;
-        case Unit::Force:
-            return Session.Force1Label;
-        case Unit::Pressure:
-            return UnitLabel(kPressure);
-        case Unit::UnitWeight:
-            return UnitLabel(kUnitWeight);
-        case Unit::AreaPerTime:
-            return UnitLabel(kAreaPerTime);
-        case Unit::LengthPerTime:
-            return UnitLabel(kLengthPerTime);
-        default:
-            return "[-]";
-    }
-}
 
 double StoredField::Get() const {
     if (const auto* single = std::get_if<Single*>(&place_)) return **single;

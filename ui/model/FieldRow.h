@@ -10,16 +10,11 @@
 #include "base/Integer.h"
 #include "base/Single.h"
 #include "base/TextId.h"
+#include "core/Units.h"
 #include "services/host/Form.h"
 #include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
-
-// What a field is counted in.
-enum class Unit { None, Length, Settlement, Force, Pressure, UnitWeight, AreaPerTime, LengthPerTime };
-// Display units per base unit, and the label with its brackets, at this moment; 1 and "[-]" for None.
-double FactorOf(Unit unit);
-std::string LabelOf(Unit unit);
 
 // Where a field's value lies in Session: a quantity, an element of an array, or a whole number.
 class StoredField {
