@@ -25,6 +25,7 @@ endif()
 target_include_directories(lithmark_flags INTERFACE ${PROJECT_SOURCE_DIR})
 target_compile_definitions(lithmark_flags INTERFACE LITHMARK_VERSION="${PROJECT_VERSION}")
 if(LITHMARK_SANITIZE)
+  target_compile_definitions(lithmark_flags INTERFACE _GLIBCXX_ASSERTIONS)
   target_compile_options(lithmark_flags INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(lithmark_flags INTERFACE -fsanitize=address,undefined)
@@ -33,6 +34,20 @@ if(LITHMARK_SANITIZE)
     target_compile_options(lithmark_flags INTERFACE -Wno-maybe-uninitialized)
   endif()
 endif()
+
+# lithmark_precompile(TARGET HEADERS...): compiles the headers once; targets of the same flags share them by REUSE_FROM.
+function(lithmark_precompile target)
+  target_precompile_headers(${target} PRIVATE ${ARGN})
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(${target} PRIVATE -fpch-preprocess)  # ccache asks for it
+  endif()
+endfunction()
+function(lithmark_reuse target owner)
+  target_precompile_headers(${target} REUSE_FROM ${owner})
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(${target} PRIVATE -fpch-preprocess)
+  endif()
+endfunction()
 
 # lithmark_floor(NAME FOLDER LIBRARIES...): a static library of the .cpp files of a folder; it links what the folder
 # includes and no more, so that the linker keeps the walls too.
