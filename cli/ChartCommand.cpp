@@ -115,6 +115,7 @@ ExitStatus ChartCommand(const CommonOptions& options, const ChartOptions& chartO
         throw CommandFailure(ExitStatus::Aborted, AbortedLine(host));
     }
     WriteOutput(options.Output, ChartIn(format, chart));
+    TellNotices(host);
     return ExitStatus::Done;
 }
 

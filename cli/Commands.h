@@ -43,5 +43,7 @@ ExitStatus StudyCommand(const CommonOptions& options, const StudyOptions& study,
 Json ResultsJson();
 // The messages of a run, in order.
 Json MessagesJson(const ConsoleHost& host);
+// The notices of the last run: id and text.
+Json NoticesJson();
 
 }  // namespace lithmark

@@ -107,6 +107,7 @@ ExitStatus ContourCommand(const CommonOptions& options, const ContourCommandOpti
     BasContour plot;
     plot.Prepare();
     WriteOutput(options.Output, ContourIn(format, plot, contour.Size));
+    TellNotices(host);
     return ExitStatus::Done;
 }
 

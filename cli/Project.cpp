@@ -13,6 +13,7 @@
 #include "files/ProjectFiles.h"
 #include "files/SettingsFiles.h"
 #include "kernels/RunProject.h"
+#include "report/Notices.h"
 #include "services/FileDialogs.h"
 #include "services/ProjectStore.h"
 #include "services/SharedServices.h"
@@ -139,6 +140,11 @@ void OpenProjectForRun(const CommonOptions& options) {
     }
     ApplySets(options.Sets);
     SetDerivedFields();
+}
+
+void TellNotices(ConsoleHost& host) {
+    host.PrintMessages();
+    for (const Notice& notice : Notices().All()) host.PrintLine("notice: " + NoticeText(notice));
 }
 
 std::string AbortedLine(const ConsoleHost& host) {

@@ -17,6 +17,7 @@ std::string JsonReport(const ConsoleHost& host) {
     json["problem"] = static_cast<int>(Session.ProblemType);
     json["aborted"] = Session.CalcAborted;
     json["messages"] = MessagesJson(host);
+    json["notices"] = NoticesJson();
     json["results"] = ResultsJson();
     json["report"] = Session.CalcAborted ? std::string() : Session.ResultText;
     return JsonText(json);
@@ -41,6 +42,7 @@ ExitStatus ReportCommand(const CommonOptions& options, ConsoleHost& host) {
     if (format == "json") WriteOutput(options.Output, JsonReport(host));
     if (Session.CalcAborted) throw CommandFailure(ExitStatus::Aborted, AbortedLine(host));
     if (format != "json") WriteOutput(options.Output, ReportIn(format));
+    TellNotices(host);
     return ExitStatus::Done;
 }
 

@@ -1,6 +1,7 @@
 #include "cli/Commands.h"
 #include "core/Session.h"
 #include "kernels/RunResults.h"
+#include "report/Notices.h"
 
 namespace lithmark {
 
@@ -22,6 +23,13 @@ Json ResultsJson() {
 Json MessagesJson(const ConsoleHost& host) {
     Json list = Json::array();
     for (const auto& message : host.Messages()) list.push_back({{"title", message.Title}, {"text", message.Text}});
+    return list;
+}
+
+Json NoticesJson() {
+    Json list = Json::array();
+    for (const Notice& notice : Notices().All())
+        list.push_back({{"id", std::string(NoticeName(notice.Id))}, {"text", NoticeText(notice)}});
     return list;
 }
 

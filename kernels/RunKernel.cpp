@@ -8,10 +8,12 @@
 #include "kernels/raft/BasRectangularRigidRaft.h"
 #include "kernels/stress/BasSoilStress.h"
 #include "kernels/timesettlement/BasTimeSettlement.h"
+#include "report/Notices.h"
 
 namespace lithmark {
 
 bool RunProblemKernel() {
+    Notices().Clear();
     SessionRecord& p = Session;
     switch (static_cast<int>(p.ProblemType)) {
         case Problem::SoilStress:

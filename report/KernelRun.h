@@ -6,13 +6,15 @@
 #include "base/Failure.h"
 #include "core/Session.h"
 #include "files/GloableVariable.h"
+#include "report/Notices.h"
 
 namespace lithmark {
 
-// Runs the body of a kernel. Any run-time failure ends it: the shared failure routine tells it and drops the open file,
+// Runs the body of a kernel, with an empty board of notices. Any run-time failure ends it: the shared failure routine tells it and drops the open file,
 // and Session.CalcAborted is set. The pointer stays as the body left it. No exception leaves.
 template <typename Body>
 void RunKernel(Body&& body) {
+    Notices().Clear();
     try {
         body();
     } catch (const Failure& failure) {

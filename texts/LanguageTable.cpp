@@ -40,6 +40,7 @@ constexpr LanguageRow kRows[] = {
 #include "texts/tables/own_desktop.inc"
 #include "texts/tables/own_ui.inc"
 #include "texts/tables/own_kernels.inc"
+#include "texts/tables/own_notices.inc"
     // clang-format on
 };
 

@@ -4,6 +4,7 @@
 
 #include "core/Problems.h"
 #include "core/Session.h"
+#include "kernels/consolidation/ConsolidationNotices.h"
 #include "kernels/elastic/LayerFactors.h"
 #include "kernels/elastic/PolarMesh.h"
 #include "kernels/elastic/RectangularLoad.h"
@@ -115,6 +116,7 @@ void ComputeConsolidation(Single x, Single y, Single z, Single Q, Single P, Sing
         SolveConsolidation(in);
         SharedServices().SetPointer(PointerShape::Default);
         WriteConsolidationReport(in);
+        RaiseConsolidationNotices(in);
     });
 }
 

@@ -4,6 +4,7 @@
 
 #include "core/Session.h"
 #include "core/TimeUnits.h"
+#include "kernels/consolidation/ConsolidationNotices.h"
 #include "kernels/consolidation/ConsolidationRateRun.h"
 #include "kernels/consolidation/InitialPressure.h"
 #include "kernels/consolidation/PorePressureMarch.h"
@@ -88,6 +89,13 @@ class NodePass {
     Array<FivePointRow> Rows;
     Array<Single> Old;
 
+    // The step number of each layer.
+    Array<Single> Lambdas() const {
+        Array<Single> lambdas(1, in.NumLayers);
+        for (int i = 1; i <= in.NumLayers; ++i) lambdas(i) = Lambda(i);
+        return lambdas;
+    }
+
   private:
     Single Lambda(int i) const { return Quotient(c * in.CvLayer(i) * dt, Square(grid.dz(i))); }
 
@@ -149,27 +157,39 @@ void MarchToTime(PorePressureMarch& march, Single steps) {
     }
 }
 
-// Uc = (1 - sum of uf/sum of u0) 100, both by the trapezoidal rule over the nodes.
-void AverageDegree(const ConsolidationRateInput& in, const Grid& grid) {
-    Single S0 = 0, Sf = 0;
+// The length of soil that each node stands for, m, and its depth in the soil. The interface node of two layers counts
+// once.
+struct NodeShares {
+    Array<double> Weight;
+    Array<Single> Depth;
+};
+
+NodeShares ShareSoil(const ConsolidationRateInput& in, const Grid& grid) {
+    NodeShares nodes{{0, grid.Last}, {0, grid.Last}};
     int m = 0;
     for (int i = 1; i <= in.NumLayers; ++i) {
         for (int j = 0; j <= grid.n(i); ++j) {
             const int kind = j == 0 ? grid.TopType(i) : j == grid.n(i) ? grid.BottomType(i) : Integer(0);
-            const bool interior = j > 0 && j < grid.n(i);
             if (j == 0 && kind == kInterface) continue;
-            if (interior) {
-                S0 += Session.IsoU0(m) * grid.dz(i);
-                Sf += Session.IsoUf(m) * grid.dz(i);
-            } else if (kind == kDrained || kind == kImpermeable) {
-                S0 += Session.IsoU0(m) * grid.dz(i) / 2;
-                Sf += Session.IsoUf(m) * grid.dz(i) / 2;
-            } else if (kind == kInterface) {
-                S0 += Session.IsoU0(m) * (grid.dz(i) + grid.dz(i + 1)) / 2;
-                Sf += Session.IsoUf(m) * (grid.dz(i) + grid.dz(i + 1)) / 2;
-            }
+            if (j > 0 && j < grid.n(i))
+                nodes.Weight(m) = grid.dz(i);
+            else if (kind == kInterface)
+                nodes.Weight(m) = (grid.dz(i) + grid.dz(i + 1)) / 2;
+            else if (kind == kDrained || kind == kImpermeable)
+                nodes.Weight(m) = grid.dz(i) / 2;
+            nodes.Depth(m) = grid.Depth(i) + j * grid.dz(i);
             ++m;
         }
+    }
+    return nodes;
+}
+
+// Uc = (1 - sum of uf/sum of u0) 100, both by the trapezoidal rule over the nodes.
+void AverageDegree(const NodeShares& nodes) {
+    Single S0 = 0, Sf = 0;
+    for (int m = 0; m <= Session.IsoLast; ++m) {
+        S0 += Session.IsoU0(m) * nodes.Weight(m);
+        Sf += Session.IsoUf(m) * nodes.Weight(m);
     }
     Session.Uc = (1 - Quotient(Sf, S0)) * 100;
 }
@@ -210,6 +230,7 @@ void Run(const ConsolidationRateInput& in) {
     Session.IsoZ.Redim(0, grid.Last + 1);
     NodePass nodes(in, grid, c, dt);
     nodes.Run();
+    RaiseStepNotices(nodes.Lambdas());
     PorePressureMarch march(nodes.Rows, nodes.Old);
     if (steps > kMostSteps) {
         TellTooManySteps(in.TimeUnit);
@@ -217,10 +238,12 @@ void Run(const ConsolidationRateInput& in) {
         return;
     }
     MarchToTime(march, steps);
-    AverageDegree(in, grid);
+    const NodeShares shares = ShareSoil(in, grid);
+    AverageDegree(shares);
     NodeDepths(in, grid);
     SharedServices().SetPointer(PointerShape::Default);
     WriteConsolidationRateReport(in, c);
+    RaiseMarchNotices(in, steps, shares.Depth, shares.Weight);
 }
 
 }  // namespace

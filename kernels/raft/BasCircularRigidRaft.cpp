@@ -2,6 +2,8 @@
 
 #include "core/Session.h"
 #include "kernels/raft/CircularRaftRun.h"
+#include "kernels/raft/Conditioning.h"
+#include "kernels/raft/RaftNotices.h"
 #include "kernels/raft/RaftRun.h"
 #include "report/KernelRun.h"
 #include "services/SharedServices.h"
@@ -50,7 +52,10 @@ void ComputeCircularRaft(Single& z, Single Q, Single A, Single& h, Single eo, Si
         input.AnalysisType = AnalysisType;
         input.SettlementAt = SettlementAt;
         const GiveBack giveBack(input, z, h);
+        const RaftInput entered = input;
+        MeasuresOfRaft() = {};
         const RaftResult result = CalculateCircularRaft(input);
+        RaiseRaftNotices(entered, result);
         ExportRaft(result);
         WriteRaftReport(result);
         SharedServices().SetPointer(PointerShape::Default);

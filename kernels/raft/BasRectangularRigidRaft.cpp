@@ -3,6 +3,8 @@
 #include "core/Problems.h"
 #include "core/Session.h"
 #include "kernels/elastic/LayerFactors.h"
+#include "kernels/raft/Conditioning.h"
+#include "kernels/raft/RaftNotices.h"
 #include "kernels/raft/RaftRun.h"
 #include "kernels/raft/RectangularAnalytical.h"
 #include "kernels/raft/RectangularNumerical.h"
@@ -15,11 +17,12 @@ namespace {
 
 class RectangularRaft {
   public:
-    RectangularRaft(const RaftInput& input, Single& z, Single& h) : input_(input), z_(z), h_(h) {}
+    RectangularRaft(const RaftInput& input, Single& z, Single& h) : input_(input), entered_(input), z_(z), h_(h) {}
 
     void Run() {
         SharedServices().SetPointer(PointerShape::Hourglass);
         SharedServices().ReportProgress(0);
+        MeasuresOfRaft() = {};
         depthStep_ = Sqrt(Square(input_.B) + Square(input_.A)) / 2;
         PrepareNodes();
         if (input_.AnalysisType) {
@@ -32,6 +35,7 @@ class RectangularRaft {
             SettleClay();
         TakeResults();
         SharedServices().ReportProgress(1);
+        RaiseRaftNotices(entered_, result_);
         ExportRaft(result_);
         WriteRaftReport(result_);
         SharedServices().SetPointer(PointerShape::Default);
@@ -142,6 +146,7 @@ class RectangularRaft {
     }
 
     RaftInput input_;
+    const RaftInput entered_;
     Single& z_;
     Single& h_;
     Single depthStep_;

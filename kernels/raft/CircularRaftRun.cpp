@@ -7,6 +7,7 @@
 #include "kernels/elastic/PolarMesh.h"
 #include "kernels/raft/CircularPunch.h"
 #include "kernels/raft/ClayLayer.h"
+#include "kernels/raft/Conditioning.h"
 #include "kernels/raft/PolarInfluence.h"
 #include "kernels/raft/PolarSymmetry.h"
 #include "kernels/raft/PolarSystem.h"
@@ -14,7 +15,6 @@
 #include "kernels/raft/ThickClay.h"
 #include "kernels/raft/ThinClay.h"
 #include "services/SharedServices.h"
-#include "services/numerics/NumericLib.h"
 
 namespace lithmark {
 
@@ -148,7 +148,7 @@ class Run {
             F = FoldFlexibility(flexibility, case_);
         }
         Matrix<Single> K;
-        NumericLib::Invert(m, F, K);
+        InvertFlexibility(m, F, K);
         const RaftEquilibrium equilibrium = Equilibrium(K);
 
         ThickClaySystem system;
@@ -184,7 +184,7 @@ class Run {
 
     // Turns a folded flexibility into its inverse, in place, and solves for a linear soil. Leaves Session.NodeForce.
     RaftPlane SolveLinear(Matrix<Single>& matrix) const {
-        NumericLib::Invert(FoldedSize(mesh_, case_), matrix, matrix);
+        InvertFlexibility(FoldedSize(mesh_, case_), matrix, matrix);
         const RaftEquilibrium equilibrium = Equilibrium(matrix);
         const RaftPlane plane = equilibrium.Solve(load_, {});
         equilibrium.NodeForces(plane, Session.NodeForce);

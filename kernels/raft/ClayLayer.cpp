@@ -2,7 +2,11 @@
 
 #include <cmath>
 
+#include "base/NumberText.h"
 #include "core/Problems.h"
+#include "kernels/raft/Conditioning.h"
+#include "report/Measured.h"
+#include "report/Notices.h"
 #include "services/SharedServices.h"
 
 namespace lithmark {
@@ -65,12 +69,31 @@ void ClayColumn::Add(Single meanIncrease) {
     initial_ += depthStep_ * gamma_;
 }
 
+namespace {
+
+// Where the tolerance is below the last digit of the settlement the search ends by that digit.
+void TellLostTolerance(const ClayColumn& column, double tolerance) {
+    if (tolerance >= std::abs(column.Settlement()) * kLastBit) return;
+    MeasureRun([&] {
+        Notices().Raise(NoticeId::RaftLimitingDepth, 907013_text,
+                        {NumberToText(tolerance), MeasuredLength(column.Top())});
+    });
+}
+
+}  // namespace
+
 Single SearchLimitingDepth(ClayColumn& column, double tolerance, const MeanStress& meanStress) {
-    if (!(tolerance > 0)) Fail(FailureKind::DivisionByZero);
+    if (!(tolerance > 0)) {
+        Notices().Raise(NoticeId::RaftLimitingDepth, 907008_text, {NumberToText(tolerance)});
+        Fail(FailureKind::DivisionByZero);
+    }
     Single previous;
     for (long steps = 1;; ++steps) {
         column.Add(meanStress(column.Top(), column.Bottom()));
-        if (std::abs(previous - column.Settlement()) < tolerance) return column.Top();
+        if (std::abs(previous - column.Settlement()) < tolerance) {
+            TellLostTolerance(column, tolerance);
+            return column.Top();
+        }
         previous = column.Settlement();
         // How deep it goes is not known.
         if (steps % 64 == 0) SharedServices().ReportProgress(0.5 * steps / (steps + 1000.0));

@@ -5,11 +5,11 @@
 
 #include "core/Session.h"
 #include "kernels/elastic/LayerFactors.h"
+#include "kernels/raft/Conditioning.h"
 #include "kernels/raft/RaftEquilibrium.h"
 #include "kernels/raft/ThickClay.h"
 #include "kernels/raft/ThinClay.h"
 #include "services/SharedServices.h"
-#include "services/numerics/NumericLib.h"
 
 namespace lithmark {
 
@@ -28,7 +28,7 @@ Array<Single> Ones(int n) {
 
 void Invert(int n, const Matrix<Single>& matrix, Matrix<Single>& inverse) {
     SharedServices().ReportProgress(0.1);
-    NumericLib::Invert(n, matrix, inverse);
+    InvertFlexibility(n, matrix, inverse);
     SharedServices().ReportProgress(0.8);
 }
 

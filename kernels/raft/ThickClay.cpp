@@ -1,6 +1,8 @@
 #include "kernels/raft/ThickClay.h"
 
+#include "base/NumberText.h"
 #include "core/Session.h"
+#include "report/Notices.h"
 #include "services/SharedServices.h"
 #include "services/numerics/NumericLib.h"
 
@@ -40,7 +42,11 @@ void IterateThickClay(const ThickClaySystem& system) {
             current(i) = Session.NodeSettlement(i) / 100;
         }
         const bool standsStill = NumericLib::VectorsConverged(n, current, old, Session.PrefTol);
-        if (standsStill || pass > Session.PrefImax) return;
+        if (standsStill) return;
+        if (pass > Session.PrefImax) {
+            Notices().Raise(NoticeId::IterationEnd, 907011_text, {NumberToText(pass)});
+            return;
+        }
         SharedServices().ReportProgress(0.9 + 0.1 * pass / (Session.PrefImax + 1.0));
 
         extra.Redim(1, n);

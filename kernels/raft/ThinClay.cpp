@@ -2,6 +2,9 @@
 
 #include <cmath>
 
+#include "base/NumberText.h"
+#include "report/Notices.h"
+
 namespace lithmark {
 
 namespace {
@@ -45,7 +48,10 @@ Single SearchExponent(const Imbalance& imbalance, double tolerance, Integer& cou
         }
         exponent += step;
         ++count;
-        if (count == kMostSteps) return exponent;
+        if (count == kMostSteps) {
+            Notices().Raise(NoticeId::IterationEnd, 907012_text, {NumberToText(kMostSteps)});
+            return exponent;
+        }
     }
 }
 

@@ -6,6 +6,7 @@
 #include "kernels/elastic/PointLoad.h"
 #include "kernels/elastic/RectangularLoad.h"
 #include "kernels/stress/SoilStressReport.h"
+#include "kernels/stress/StressNotices.h"
 #include "report/KernelRun.h"
 #include "services/SharedServices.h"
 
@@ -53,6 +54,7 @@ void ComputeSoilStress(Single x, Single y, Single z, Single Q, Single P, Single 
         SolveSoilStress(in);
         SharedServices().SetPointer(PointerShape::Default);
         WriteSoilStressReport(in);
+        RaiseStressNotices(in);
     });
 }
 

@@ -3,6 +3,7 @@
 #include "core/Problems.h"
 #include "core/Session.h"
 #include "core/TimeUnits.h"
+#include "kernels/timesettlement/HistoryNotices.h"
 #include "kernels/timesettlement/SuddenLoadCurve.h"
 #include "kernels/timesettlement/TimeSettlementRun.h"
 #include "report/KernelRun.h"
@@ -120,6 +121,7 @@ void ComputeTimeSettlement() {
         if (Session.Ms) EvaluateMeasurement(run);
         SharedServices().SetPointer(PointerShape::Default);
         WriteTimeSettlementReport(run);
+        RaiseHistoryNotices();
     });
 }
 

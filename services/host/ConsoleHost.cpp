@@ -66,6 +66,12 @@ void ConsoleHost::PrintMessages() {
     std::fflush(out_);
 }
 
+void ConsoleHost::PrintLine(const std::string& text) {
+    ClearBar();
+    std::fprintf(out_, "%s\n", OneLine(text).c_str());
+    std::fflush(out_);
+}
+
 bool ConsoleHost::Progress(double fraction) {
     if (interrupted != 0) {
         interrupted = 0;

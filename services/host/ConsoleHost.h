@@ -32,6 +32,8 @@ class ConsoleHost : public Host {
     // Prints the messages that have not been printed, each as one line. The caller decides when: a command that fails
     // has one line to say.
     void PrintMessages();
+    // Prints a text as one line.
+    void PrintLine(const std::string& text);
 
     // From now on SIGTERM and SIGHUP end a long run as Ctrl+C does: for a command that has to clear up behind itself.
     void EndOnTermination();

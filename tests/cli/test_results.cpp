@@ -99,7 +99,7 @@ TEST_F(CliResults, StressesHaveTheirSixteenFieldsAndTheValuesOfTheKernel) {
     for (int i = 0; i < 3; ++i) {
         const Json json = Report(Example(examples[i]));
         EXPECT_EQ(Keys(json),
-                  (std::vector<std::string>{"project", "problem", "aborted", "messages", "results", "report"}));
+                  (std::vector<std::string>{"project", "problem", "aborted", "messages", "notices", "results", "report"}));
         EXPECT_EQ(json["project"], examples[i]);
         EXPECT_EQ(json["problem"], i + 1);
         EXPECT_EQ(json["aborted"], false);
@@ -266,8 +266,9 @@ TEST_F(CliResults, TheMessagesOfARunThatSucceedsAreToldToo) {
     const Json parsed = Json::parse(json.Out);
     ASSERT_EQ(parsed["messages"].size(), 1u);
     const std::string text = parsed["messages"][0]["text"];
-    EXPECT_EQ(LinesOf(json.Err).size(), 1u) << json.Err;
-    EXPECT_THAT(json.Err, HasSubstr(text.substr(0, 20)));
+    // Behind the messages come the notices.
+    EXPECT_EQ(LinesOf(json.Err).size(), 1 + parsed["notices"].size()) << json.Err;
+    EXPECT_THAT(LinesOf(json.Err).front(), HasSubstr(text.substr(0, 20)));
     const CliResult plain = Run(With({"report", project}, slow));
     EXPECT_EQ(plain.Status, 0);
     EXPECT_EQ(plain.Err, json.Err);
