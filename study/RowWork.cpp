@@ -6,9 +6,9 @@
 #include "core/Catalogue.h"
 #include "core/SessionFields.h"
 #include "kernels/RunProject.h"
+#include "report/Notices.h"
 #include "services/SharedServices.h"
 #include "services/host/ConsoleHost.h"
-#include "study/Notices.h"
 
 namespace lithmark {
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/Problems.h"
 #include "core/Session.h"
 #include "kernels/elastic/CircleIntegral.h"
 #include "report/Measured.h"
@@ -11,9 +12,6 @@
 namespace lithmark {
 
 namespace {
-
-constexpr int kCircle = 3;                              // LoadType
-constexpr int kByModulus = 1, kByCompressionIndex = 2;  // SoilPropertyType
 
 constexpr double kGreatestStepNumber = 0.5;  // of a stable explicit march
 constexpr double kFewestSteps = 6;
@@ -26,7 +24,8 @@ double IntegratedSettlement(const ConsolidationInput& in) {
         return in.P * CircleIntegral(
                           Session.A0, r, [&](double rho) { return DiscMeanStress(rho, z1, z2); }, 200);
     };
-    if (in.SoilPropertyType == kByModulus) return Quotient(increase(in.z, in.z + in.h) * in.h * 100, in.Es);
+    if (in.SoilPropertyType == SoilDefinition::ByModulus)
+        return Quotient(increase(in.z, in.z + in.h) * in.h * 100, in.Es);
     const double n = RoundHalfEven(Quotient(in.h, Session.PrefDz)), dz = Quotient(in.h, n);
     double s = 0;
     for (int i = 0; i < n; ++i) {
@@ -37,8 +36,9 @@ double IntegratedSettlement(const ConsolidationInput& in) {
 }
 
 void MeasureCircle(const ConsolidationInput& in) {
-    if (in.LoadType != kCircle || (in.x == 0 && in.y == 0) || in.z >= Session.A0) return;
-    if (in.SoilPropertyType != kByModulus && in.SoilPropertyType != kByCompressionIndex) return;
+    if (in.LoadType != LoadShape::Circle || (in.x == 0 && in.y == 0) || in.z >= Session.A0) return;
+    if (in.SoilPropertyType != SoilDefinition::ByModulus && in.SoilPropertyType != SoilDefinition::ByCompressionIndex)
+        return;
     Notices().Raise(NoticeId::CircleMeanStress, 907029_text,
                     {MeasuredLength(in.z), MeasuredLength(Session.A0), MeasuredSettlement(Session.s),
                      MeasuredSettlement(IntegratedSettlement(in))});
@@ -93,7 +93,7 @@ void RaiseMarchNotices(const ConsolidationRateInput& in, Single steps, const Arr
                        const Array<double>& weight) {
     MeasureRun([] { MeasureRange(); });
     MeasureRun([&] { MeasureSteps(steps); });
-    if (!in.Pressure && in.LoadType == kCircle) MeasureRun([&] { MeasureCirclePressure(in, depth, weight); });
+    if (!in.Pressure && in.LoadType == LoadShape::Circle) MeasureRun([&] { MeasureCirclePressure(in, depth, weight); });
 }
 
 }  // namespace lithmark

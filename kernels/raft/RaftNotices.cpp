@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/Problems.h"
 #include "core/Session.h"
 #include "kernels/elastic/CircleIntegral.h"
 #include "kernels/elastic/LayerFactors.h"
@@ -15,9 +16,6 @@
 namespace lithmark {
 
 namespace {
-
-constexpr int kElasticLayer = 9;                        // ProblemType
-constexpr int kByModulus = 1, kByCompressionIndex = 2;  // SoilPropertyType
 
 constexpr double kImbalance = 0.005;         // of the load or its moment
 constexpr double kSmallEccentricity = 0.01;  // of the side: below it a moment is held against that of this one
@@ -32,9 +30,11 @@ class Measures {
           input_(runResult.Input),
           circular_(runResult.Circular),
           numerical_(!runResult.Input.AnalysisType),
-          byIndex_(Session.ProblemType != kElasticLayer && input_.SoilPropertyType == kByCompressionIndex),
+          byIndex_(Session.ProblemType != Problem::RaftDisplacement &&
+                   input_.SoilPropertyType == SoilDefinition::ByCompressionIndex),
           // Of a problem's soil that is none of the two nothing is known.
-          known_(Session.ProblemType == kElasticLayer || input_.SoilPropertyType == kByModulus || byIndex_),
+          known_(Session.ProblemType == Problem::RaftDisplacement ||
+                 input_.SoilPropertyType == SoilDefinition::ByModulus || byIndex_),
           mean_(Session.RaftMeanPressure),
           longerSide_(circular_ ? 2.0 * input_.A : std::max<double>(input_.A, input_.B)) {}
 
@@ -109,7 +109,7 @@ class Measures {
             }
             return sum;
         };
-        if (Session.ProblemType == kElasticLayer) {
+        if (Session.ProblemType == Problem::RaftDisplacement) {
             const Single h = entered_.h, nu = Session.Nue;
             const double factor = circular_
                                       ? CircleIntegral(R, x, [&](double rho) { return DiscSettlement(rho, h, nu); })
@@ -126,7 +126,7 @@ class Measures {
 
     // The same at the centre on the half-space that an analytical run takes for a soil with a modulus.
     double OnHalfSpace() const {
-        const double nu = Session.ProblemType == kElasticLayer ? double(Session.Nue) : 0;
+        const double nu = Session.ProblemType == Problem::RaftDisplacement ? double(Session.Nue) : 0;
         const double factor =
             circular_ ? 2 * (1 - Square(nu)) * entered_.A : 4 * RectCornerHalfSpace(entered_.A / 2, entered_.B / 2, nu);
         return Quotient(mean_ * factor, entered_.Es) * 100;

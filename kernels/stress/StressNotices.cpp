@@ -5,6 +5,7 @@
 #include <iterator>
 #include <string>
 
+#include "core/Problems.h"
 #include "core/Session.h"
 #include "kernels/elastic/CircleIntegral.h"
 #include "kernels/elastic/CircleMesh.h"
@@ -18,10 +19,8 @@ namespace lithmark {
 
 namespace {
 
-constexpr int kStress = 1, kDisplacement = 3;  // ProblemType
-constexpr int kRectangle = 2, kCircle = 3;     // LoadType
-constexpr double kNear = Single(0.001);        // the kernels' limit between two points [m]
-constexpr double kRoundings = 1e-6;            // relative: what 32-bit sums may be off
+constexpr double kNear = Single(0.001);  // the kernels' limit between two points [m]
+constexpr double kRoundings = 1e-6;      // relative: what 32-bit sums may be off
 
 // Shears that are told when this much of the greatest of the three is missing.
 constexpr double kShearMissing = 0.01;
@@ -63,7 +62,7 @@ Shears LeftOutOfRectangle(const SoilStressInput& in, Single zc) {
 }
 
 void MeasureShears(const SoilStressInput& in, Single zc) {
-    const Shears lost = in.LoadType == kCircle ? LeftOutOfCircle(in, zc) : LeftOutOfRectangle(in, zc);
+    const Shears lost = in.LoadType == LoadShape::Circle ? LeftOutOfCircle(in, zc) : LeftOutOfRectangle(in, zc);
     const Shears told{Session.Tau_xy, Session.Tau_xz, Session.Tau_yz};
     const Shears full{told.xy + lost.xy, told.xz + lost.xz, told.yz + lost.yz};
     const double least = std::max(kShearMissing * full.Greatest(), 10 * kRoundings * std::abs(in.P));
@@ -88,7 +87,7 @@ bool BetweenNodes(const SoilStressInput& in, double spacing) {
 
 void MeasureCircle(const SoilStressInput& in, Single zc) {
     const double spacing = Quotient(2 * Session.A0, Session.PrefND), r = std::hypot(in.x, in.y);
-    const bool displacement = Session.ProblemType == kDisplacement;
+    const bool displacement = Session.ProblemType == Problem::SoilDisplacement;
     if (!displacement && in.z >= spacing) return;
     if (!BetweenNodes(in, spacing)) return;
     if (displacement) {
@@ -120,10 +119,10 @@ void MeasureDeviator() {
 
 void RaiseStressNotices(const SoilStressInput& in) {
     const Single zc = FormulaDepth(in.z);
-    const bool area = in.LoadType == kRectangle || in.LoadType == kCircle;
-    if (in.LoadType == kCircle) MeasureRun([&] { MeasureCircle(in, zc); });
-    if (area && Session.ProblemType != kDisplacement) MeasureRun([&] { MeasureShears(in, zc); });
-    if (Session.ProblemType == kStress) MeasureRun([] { MeasureDeviator(); });
+    const bool area = in.LoadType == LoadShape::Rectangle || in.LoadType == LoadShape::Circle;
+    if (in.LoadType == LoadShape::Circle) MeasureRun([&] { MeasureCircle(in, zc); });
+    if (area && Session.ProblemType != Problem::SoilDisplacement) MeasureRun([&] { MeasureShears(in, zc); });
+    if (Session.ProblemType == Problem::SoilStress) MeasureRun([] { MeasureDeviator(); });
 }
 
 }  // namespace lithmark

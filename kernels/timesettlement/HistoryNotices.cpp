@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "core/Problems.h"
 #include "core/Session.h"
 #include "kernels/timesettlement/TimeSettlementRun.h"
 #include "report/Measured.h"
@@ -12,7 +13,6 @@ namespace lithmark {
 
 namespace {
 
-constexpr int kOedometer = 7;      // ProblemType
 constexpr int kLastLoadSlot = 69;  // the last one that a load can be entered at
 constexpr double kPercentNoise = 1e-4;
 constexpr double kComplete = 0.99;  // of the settlement that the load leads to
@@ -78,7 +78,7 @@ void MeasureEnd() {
 void RaiseHistoryNotices() {
     if (Session.Ms) MeasureRun([] { MeasureShift(); });
     MeasureRun([] { MeasureCurve(); });
-    if (Session.ProblemType == kOedometer) MeasureRun([] { MeasureReadings(); });
+    if (Session.ProblemType == Problem::TimeOedometer) MeasureRun([] { MeasureReadings(); });
     MeasureRun([] { MeasureEnd(); });
 }
 

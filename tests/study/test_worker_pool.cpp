@@ -45,6 +45,23 @@ TEST_F(Workers, EachRowIsWorkedOnTheProjectThatWasOpen) {
     EXPECT_EQ(Session.Q, 1.0);
 }
 
+// A row has the notices of its own run: those of the row before are gone.
+TEST_F(Workers, EachRowTellsTheNoticesOfItsRun) {
+    StartProblem(9);
+    WorkerPool pool(Session, TakesOf(9, {"RaftMeanPressure"}), 1);
+    const RowInput square = {{"LoadType", "2"}, {"A", "5"},      {"B", "5"},
+                             {"PrefDx", "1"},   {"PrefDy", "1"}, {"AnalysisType", "false"}};
+    const auto with = [&square](const char* field, const char* value) {
+        RowInput row = square;
+        row.push_back({field, value});
+        return row;
+    };
+    const auto outcomes = OutcomesOf(pool, {with("AnalysisType", "true"), square, with("h", "0.5")});
+    EXPECT_EQ(outcomes[0].Notices, "raft-layer-unused");
+    EXPECT_EQ(outcomes[1].Notices, "");
+    EXPECT_EQ(outcomes[2].Notices, "raft-thin-layer");
+}
+
 TEST_F(Workers, AValueThatNoFieldHoldsAbortsItsRowAlone) {
     StartProblem(1);
     WorkerPool pool(Session, TakesOf(1, {"Sigma_z"}), 2);
