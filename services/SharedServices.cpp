@@ -176,11 +176,11 @@ double SharedServicesService::GetNumber(const Control& control) const {
     return *value;
 }
 
-bool SharedServicesService::CheckNumber(Form& form, Control& control, int kind, double upper, double lower,
-                                        const std::string& label) {
+std::optional<std::string> SharedServicesService::NumberFault(const Control& control, int kind, double upper,
+                                                              double lower, const std::string& label) const {
     const auto value = ParseNumber(PlainDigits(control.Text, DecimalSign), DecimalSign);
     const bool whole = kind == 1;
-    if (value && *value >= lower && *value <= upper && (!whole || *value == std::floor(*value))) return true;
+    if (value && *value >= lower && *value <= upper && (!whole || *value == std::floor(*value))) return std::nullopt;
 
     const bool hasLower = lower > -kUnlimited, hasUpper = upper < kUnlimited;
     const TextId id = hasLower && hasUpper ? 901000_text
@@ -193,9 +193,19 @@ bool SharedServicesService::CheckNumber(Form& form, Control& control, int kind, 
                                  {"|2", hasLower ? LimitText(lower, DecimalSign) : ""},
                                  {"|3", hasUpper ? LimitText(upper, DecimalSign) : ""}});
     if (whole) text += " " + Text(901004_text);
-    ShowMessageBox(Text(160030_text), text, MessageIcon::Exclamation);
-    CurrentHost().SetFocus(form, control);
-    return false;
+    return text;
+}
+
+void SharedServicesService::RefuseBox(Form& form, Control& box, const std::string& reason) {
+    ShowMessageBox(Text(160030_text), reason, MessageIcon::Exclamation);
+    CurrentHost().SetFocus(form, box);
+}
+
+bool SharedServicesService::CheckNumber(Form& form, Control& control, int kind, double upper, double lower,
+                                        const std::string& label) {
+    const auto fault = NumberFault(control, kind, upper, lower, label);
+    if (fault) RefuseBox(form, control, *fault);
+    return !fault;
 }
 
 void SharedServicesService::ShowHelpText(const std::string& title) {

@@ -90,8 +90,13 @@ class SharedServicesService {
     // The number in a text box by the current decimal sign; InvalidArgument when it holds none. Arabic digits, the
     // Arabic decimal sign and the minus sign of typesetting are read as their plain forms.
     double GetNumber(const Control& control) const;
-    // False, after a message that names `label` and the allowed range and with the focus on the control, when the box
-    // holds no number or one outside lower..upper. Kind 2 is a real number; kind 1 must be whole too.
+    // A message that names `label` and the allowed range when the box holds no number or one outside lower..upper, else
+    // nothing. Kind 2 is a real number; kind 1 must be whole too.
+    std::optional<std::string> NumberFault(const Control& control, int kind, double upper, double lower,
+                                           const std::string& label) const;
+    // Shows why a box cannot be taken and puts the focus on it.
+    void RefuseBox(Form& form, Control& box, const std::string& reason);
+    // False, after RefuseBox, when the box has a fault.
     bool CheckNumber(Form& form, Control& control, int kind, double upper, double lower, const std::string& label);
 
     void SetHelpText(const std::string& text) { helpText_ = text; }

@@ -41,6 +41,7 @@ constexpr LanguageRow kRows[] = {
 #include "texts/tables/own_ui.inc"
 #include "texts/tables/own_kernels.inc"
 #include "texts/tables/own_notices.inc"
+#include "texts/tables/own_help.inc"
     // clang-format on
 };
 

@@ -29,7 +29,7 @@ frmDataDir::frmDataDir() : FieldForm("frmDataDir") {
     cmdSave.OnClick = [this] { cmdSave_Click(); };
     CmdCancel.OnClick = [this] { CmdCancel_Click(); };
     cmdHelp.OnClick = [this] { cmdHelp_Click(); };
-    SetEnterRows({{&txtDataDir, {Press(cmdSave)}}});
+    SetFields({FieldRow({}, {}, txtDataDir, {}, {}, {}, {Press(cmdSave)})});
 }
 
 void frmDataDir::Load() {

@@ -54,13 +54,11 @@ void frmOptionDraw::Load() {
                  {optSettlementUnit[0], kPerCent},
                  {optSettlementUnit[1], Session.Len2Label}});
 
-    Show({&optDraw[0], &optDraw[1], &optDraw[2]}, !raft);
+    Show({optDraw[0], optDraw[1], optDraw[2]}, !raft);
     optDraw[kCorrected].Visible = !raft && Session.Ms;
-    Show({&optDraw[kContactPressure], &optDraw[kRaftSettlement]}, raft);
+    Show({optDraw[kContactPressure], optDraw[kRaftSettlement]}, raft);
     optDraw[6].Visible = false;
-    Show({&fraLoadUnit, &optLoadUnit[0], &optLoadUnit[1], &fraSettlementUnit, &optSettlementUnit[0],
-          &optSettlementUnit[1]},
-         !raft);
+    Show({fraLoadUnit, optLoadUnit, fraSettlementUnit, optSettlementUnit}, !raft);
 
     SelectOption(optDraw[raft ? kContactPressure : 0]);
     SelectOption(optLoadUnit[1]);
@@ -76,13 +74,7 @@ void frmOptionDraw::cmdok_Click() {
 }
 
 void frmOptionDraw::cmdHelp_Click() {
-    ShowHelp(Text(400002_text), {{"Dieses Menü zeigt die verfügbaren Kurven der Ergebnisse an.",
-                                  "Wählen Sie eine der Kurven der Ergebnisse aus,",
-                                  "die Sie darstellen wollen. Dann, klicken Sie auf Schaltfläche 'OK'."},
-                                 {"This menu shows the available curves of results.",
-                                  "Select a curve of results to draw,", "then click on the button 'OK'."},
-                                 {"هذه القائمة تعرض المنحنيات المتاحة من النتائج.", "اختار منحنى من النتائج للعرض،",
-                                  "ثم انقر زر ،نعم،."}});
+    ShowHelp(Text(400002_text), Text(906002_text));
 }
 
 }  // namespace lithmark

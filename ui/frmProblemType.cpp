@@ -6,7 +6,6 @@
 #include "services/FileDialogs.h"
 #include "services/SharedServices.h"
 #include "services/TextTools.h"
-#include "ui/frame/MDITools.h"
 #include "ui/model/CommonStep.h"
 #include "ui/model/HelpText.h"
 #include "ui/model/ProjectFlags.h"
@@ -28,23 +27,32 @@ const ProblemRow* ProblemOfRow(int row) {
 
 }  // namespace
 
-frmProblemType::frmProblemType(MDITools& frame) : FieldForm("frmProblemType"), frame_(frame) {
+frmProblemType::frmProblemType(std::function<void()> saved)
+    : FieldForm("frmProblemType"), tellSaved_(std::move(saved)) {
     DTPicker1.OnChange = [this] { DTPicker1_Change(); };
     cmdSave.OnClick = [this] { cmdSave_Click(); };
     cmdSaveAs.OnClick = [this] { cmdSaveAs_Click(); };
     cmdOpen.OnClick = [this] { cmdOpen_Click(); };
     CmdCancel.OnClick = [this] { CmdCancel_Click(); };
     cmdHelp.OnClick = [this] { cmdHelp_Click(); };
-    SetEnterRows({
-        {&txtAuftr, {GoTo(txtDatum)}},
-        {&txtDatum, {GoTo(txtProj)}},
-        {&txtProj, {Press(cmdSave)}},
-    });
+    SetFields(
+        {FieldRow({lblAuftrag, 11_text}, {}, txtAuftr, {}, {}, {}, {GoTo(txtDatum)}),
+         FieldRow({lblDatum, 12_text}, {}, txtDatum, {}, {}, {}, {GoTo(txtProj)}, CheckedWhen::Always, {}, &DTPicker1),
+         FieldRow({lblProjekt, 95_text}, {}, txtProj, {}, {}, {}, {Press(cmdSave)}),
+         FieldRow({lblItem, 140242_text}, {}, cmbItem)});
+    SetCaptionRows({{Frame3D1, 160_text, kHeading},
+                    {frmSelectOption, 300003_text, kHeading},
+                    {cmdSave, 111_text, kButton},
+                    {cmdSaveAs, 9_text, kDialogButton},
+                    {cmdOpen, 10016_text, kDialogButton},
+                    {CmdCancel, 7_text, kButton},
+                    {cmdHelp, 8_text, kButton}});
 }
 
 void frmProblemType::Load() {
     UnderCommonStep([&] {
         SharedServices().PrepareForm(*this);
+        Caption = Text(400009_text);
         ShowCaptions();
         cmbItem.Items.clear();
         for (int row = 0; const ProblemRow* problem = ProblemOfRow(row); ++row)
@@ -72,21 +80,6 @@ void frmProblemType::Unloading() {
     Session.Auftr = before_.Auftr;
     Session.Datum = before_.Datum;
     Session.Proj = before_.Proj;
-}
-
-void frmProblemType::ShowCaptions() {
-    Caption = Text(400009_text);
-    SetCaptions({{Frame3D1, 160_text, kHeading},
-                 {lblAuftrag, 11_text},
-                 {lblDatum, 12_text},
-                 {lblProjekt, 95_text},
-                 {frmSelectOption, 300003_text, kHeading},
-                 {lblItem, 140242_text},
-                 {cmdSave, 111_text, kButton},
-                 {cmdSaveAs, 9_text, kDialogButton},
-                 {cmdOpen, 10016_text, kDialogButton},
-                 {CmdCancel, 7_text, kButton},
-                 {cmdHelp, 8_text, kButton}});
 }
 
 // The texts come first: a problem that the list does not have fails, and must not take the heading data with it.
@@ -132,10 +125,8 @@ void frmProblemType::cmdSave_Click() {
         }
         if (!Session.FileSaved) return;
         saved_ = true;
-        frame_.SetProblemMenu();
-        frame_.ShowTitle(Session.WorkName);
+        if (tellSaved_) tellSaved_();
         SetProblemSaved(0, true);
-        frame_.Menu["mnuSaveProjectAs"].Enabled = true;
         Unload();
     });
 }
@@ -166,16 +157,7 @@ void frmProblemType::CmdCancel_Click() {
 }
 
 void frmProblemType::cmdHelp_Click() {
-    ShowHelp(Caption,
-             {{"Im Menü wird der Problemtyp festgelegt. Es gibt",
-               "11 verschiedene Berechnungen. Hier wählen Sie eine Berechnung",
-               "für die Untersuchung der Interaktion Boden/ Bauwerk insgesamt", "zu untersuchen."},
-              {"In the menu, the problem type is defined. There are 11 different",
-               "calculation problems are available for studying",
-               "soil-structure interaction. Choose one of the calculation", "problems."},
-              {"في هذه القائمة يتم تحديد نوع المسألة.", "يتاح 11 من المسائل الحسابية المختلفة لدراسة",
-               "رد الفعل التبادلي بين التربة و المنشأ.", "اختار واحدة من هذه المسائل."}},
-             LastHelpLine::EndsInReturn);
+    ShowHelp(Caption, Text(906004_text));
 }
 
 }  // namespace lithmark

@@ -1,17 +1,17 @@
 // frmProblemType: the project's data (order, date, description) and the choice of its problem.
 #pragma once
 
+#include <functional>
+
 #include "core/Problems.h"
 #include "ui/model/FieldForm.h"
 
 namespace lithmark {
 
-class MDITools;
-
 class frmProblemType : public FieldForm {
   public:
-    // A save changes the frame's menu and title.
-    explicit frmProblemType(MDITools& frame);
+    // `saved` runs when the data of the open project have been saved: its name and its problem may be new.
+    explicit frmProblemType(std::function<void()> saved = {});
 
     FrameBox Frame3D1{*this, "Frame3D1"};
     TextLabel lblAuftrag{*this, "lblAuftrag"};
@@ -41,7 +41,6 @@ class frmProblemType : public FieldForm {
     void cmdHelp_Click();
 
   private:
-    void ShowCaptions();
     void ShowProjectFields();
     void StoreProjectFields();
 
@@ -49,7 +48,7 @@ class frmProblemType : public FieldForm {
         int ProblemType = Problem::SoilStress;
         std::string Auftr, Datum, Proj;
     };
-    MDITools& frame_;
+    const std::function<void()> tellSaved_;
     ProjectData before_;
     bool saved_ = false;
 };

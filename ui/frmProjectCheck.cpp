@@ -42,12 +42,7 @@ void frmProjectCheck::CmdCancel_Click() {
 }
 
 void frmProjectCheck::cmdHelp_Click() {
-    ShowHelp(Caption,
-             {{"Dieses Menü zeigt die Projektdaten an, die nicht eingegeben werden.",
-               "Diese Daten sind für die Berechnung wichtig."},
-              {"The menu shows the project data, that are not defined.", "These data are important for analysis."},
-              {"من خلال هذه القائمة يتم عرض معطيات المشروع التي لم تُعرف بعد.", "هذه المعطيات مطلوبة لإجراء الحسابات."}},
-             LastHelpLine::EndsInReturn);
+    ShowHelp(Caption, Text(906003_text));
 }
 
 }  // namespace lithmark

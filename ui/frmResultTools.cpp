@@ -101,15 +101,7 @@ void frmResultTools::cmdVERDA_Click() {
 }
 
 void frmResultTools::cmdHelp_Click() {
-    ShowHelp(Caption,
-             {{"Mit dem Menü können die Daten und Ergebnisse aufgelistet",
-               "werden, an den Drucker, Excel, Word and Zwischenablage",
-               "ausgegeben werden oder in VERDA-Text angezeigt werden.",
-               "Setzungen und Sohldrücke der Platte können als", "Isolinien gezeichnet werden."},
-              {"In the menu, data and results can be listed or sent", "to printer, Excel, Word, Clipboard and",
-               "VERDA-Text. Settlements and contact pressures", "of rafts can be displayed as contour lines."},
-              {"في هذه القائمة يمكن عرض المعطيات والنتائج أو إرسالها", "إلى الطابعة وإكسل وورد والحافظة وفيردا تكست.",
-               "ويمكن رسم هبوط اللبشة والإجهادات تحتها كخطوط كنتورية."}});
+    ShowHelp(Caption, Text(906001_text));
 }
 
 }  // namespace lithmark

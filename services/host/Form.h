@@ -39,6 +39,9 @@ class Control {
     std::string Caption;
     std::string Text;
     std::string FontName;  // empty: the window's own
+    // Of a picture: the drawing that stands for it, by its name, and which of its forms; without a drawing the picture
+    // is the file in Text.
+    std::string Drawing, Variant;
     bool Value = false;
     bool Visible = true;
     bool Enabled = true;
@@ -67,6 +70,9 @@ class Form {
     virtual void Load() {}
     virtual void Activate() {}
     virtual void Unloading() {}
+
+    // The controls differ from what the form loaded or last saved; the title of its window tells that.
+    virtual bool Modified() const { return false; }
 
     // Ends the form: its modal showing returns.
     void Unload();

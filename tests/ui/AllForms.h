@@ -4,7 +4,6 @@
 #include <memory>
 #include <vector>
 
-#include "ui/frame/MDITools.h"
 #include "ui/frmAbout.h"
 #include "ui/frmDataDir.h"
 #include "ui/frmOptionDraw.h"
@@ -32,11 +31,6 @@ std::unique_ptr<Form> MakeForm() {
     return std::make_unique<F>();
 }
 
-inline std::unique_ptr<Form> MakeProjectDialog() {
-    static MDITools frame;
-    return std::make_unique<frmProblemType>(frame);
-}
-
 inline std::unique_ptr<Form> MakeProjectCheck() {
     return std::make_unique<frmProjectCheck>("Title", "Stresses in soil\r\n");
 }
@@ -50,7 +44,7 @@ inline const std::vector<FormRow>& AllForms() {
         {10, "cmdok", MakeForm<frmResultTools>},
         {8, "CmdCancel", MakeForm<frmOptionDraw>},
         {9, "CmdCancel", MakeForm<frmOptionDraw>},
-        {1, "CmdCancel", MakeProjectDialog},
+        {1, "CmdCancel", MakeForm<frmProblemType>},
         {1, "CmdCancel", MakeProjectCheck},
         {1, "CmdCancel", MakeForm<frmDataDir>, HelpBy::Page},
         {1, "CmdCancel", MakeForm<frmUnits>, HelpBy::Page},

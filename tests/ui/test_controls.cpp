@@ -1,10 +1,9 @@
-// Controls by kind, control arrays, the flags of saved problems, and the help box.
+// Controls by kind, control arrays and lists, captions, the flags of saved problems.
 #include <gmock/gmock.h>
 
 #include "support/Files.h"
 #include "support/ScriptedHost.h"
 #include "ui/model/Controls.h"
-#include "ui/model/HelpText.h"
 #include "ui/model/ProjectFlags.h"
 
 using namespace lithmark;
@@ -47,20 +46,31 @@ TEST(ProjectFlags, EachEntryHasItsOwn) {
     EXPECT_EQ(KindOf([] { ProblemSaved(16); }), FailureKind::SubscriptRange);
 }
 
-TEST(HelpText, LinesOfTheLanguageInForceAreEndedByReturnsTheLastOneAsTold) {
-    const HelpLines lines{{"eins", "zwei"}, {"one", "two"}, {"واحد", "اثنان"}};
-    ScriptedHost host;
+TEST(ControlList, TakesSingleControlsAndWholeArraysInTheirOrder) {
+    TwoOptions form;
+    const ControlList all{form.opt, form.txt};
+    ASSERT_EQ(all.Count(), 3u);
+    EXPECT_EQ(&all[0], &form.opt[1]);
+    EXPECT_EQ(&all[1], &form.opt[2]);
+    EXPECT_EQ(&all[2], &form.txt);
+}
+
+TEST(Words, AreWorkedOutInTheLanguageInForceEachTime) {
+    TwoOptions form;
+    std::string chosen = "one";
+    const std::vector<CaptionRow> rows = {
+        {form.txt, 140096_text, Style{4}}, {form.opt[1], [&] { return chosen; }}, {form.opt[2], Axis::X}};
+    SetCaptions(rows);
+    EXPECT_EQ(form.txt.Caption, "Results:");
+    EXPECT_EQ(form.opt[2].Caption, "x-coordinate");
+    chosen = "two";
     LanguageTexts().SetCurrent(Language::German);
-    ShowHelp("Titel", lines);
-    LanguageTexts().SetCurrent(Language::Arabic);
-    ShowHelp("عنوان", lines);
+    SetCaptions(rows);
+    EXPECT_EQ(form.txt.Caption, "Ergebnisse:");
+    EXPECT_EQ(form.opt[1].Caption, "two");
     LanguageTexts().SetCurrent(Language::English);
-    ShowHelp("Title", lines, LastHelpLine::EndsInReturn);
-    ASSERT_EQ(host.HelpTexts.size(), 3u);
-    EXPECT_EQ(host.HelpTexts[0].Title, "Titel");
-    EXPECT_EQ(host.HelpTexts[0].Text, "eins\rzwei");
-    EXPECT_EQ(host.HelpTexts[1].Text, "واحد\rاثنان");
-    EXPECT_EQ(host.HelpTexts[2].Text, "one\rtwo\r");
+    EXPECT_EQ(Words("Nue_s").Text(), "Nue_s");
+    EXPECT_TRUE(Words().Empty());
 }
 
 }  // namespace

@@ -13,26 +13,28 @@ using ::testing::StartsWith;
 
 namespace {
 
+using R = SessionRecord;
+
 class DemoForm : public FieldForm {
   public:
     DemoForm() : FieldForm("frmDemo") {
         SetFields({
-            {txtTimePeriod, Session.TimePeriod, Unit::None, Session.FmtTime, 0, 70, 300071_text},
-            {txt_h, {Session.hLayer, 2}, Unit::Length, Session.FmtLength, 0.25, kNoLimit, 40052_text},
-            {txt_A, Session.A, Unit::Length, Session.FmtLength, 0, kNoLimit, lblLength, CheckedWhen::Enabled},
-            {txt_Exz, Session.Exz_x, Unit::Length, Session.FmtLength, 0,
-             Limit([this] { return SharedServices().GetNumber(txt_A) / 3; }), Axis::Z},
-        });
-        SetEnterRows({
-            {&txtTimePeriod, {GoToIfUsable(txt_h), GoTo(txt_A)}},
-            {&txt_h, {GoToIf(txt_A, txt_Exz), GoTo(lblLength)}},
-            {&txt_A, {Press(cmdSave)}},
+            FieldRow({}, {}, txtTimePeriod, {}, {&R::TimePeriod, &R::FmtTime}, {0, 70},
+                     {GoToIfUsable(txt_h), GoTo(txt_A)}, CheckedWhen::Always, 300071_text),
+            FieldRow({}, {}, txt_h, Unit::Length, {&R::hLayer, 2, &R::FmtLength}, {0.25},
+                     {GoToIf(txt_A, txt_Exz), GoTo(lblLength)}, CheckedWhen::Always, 40052_text),
+            FieldRow({lblLength, "Length of the raft"}, {}, txt_A, Unit::Length, {&R::A, &R::FmtLength}, {0},
+                     {Press(cmdSave)}, CheckedWhen::Enabled),
+            FieldRow({}, {}, txt_Exz, Unit::Length, {&R::Exz_x, &R::FmtLength},
+                     {0, Limit([this] { return NumberIn(txt_A) / 3; })}, {}, CheckedWhen::Always, Axis::Z),
         });
         cmdSave.OnClick = [this] {
             ++Pressed;
-            if (CheckFields()) StoreFields();
+            if (const auto faults = Faults(); !faults.empty()) return Tell(faults.front());
+            StoreFields(Session);
+            MarkStored();
         };
-        lblLength.Caption = "Length of the raft";
+        ShowCaptions();
         ShowFields();
     }
     TextBox txtTimePeriod{*this, "txtTimePeriod"}, txt_h{*this, "txt_h"}, txt_A{*this, "txt_A"},

@@ -19,7 +19,7 @@ class ProjectDialog : public FrameTest {
     ProjectDialog() { frame.Load(); }
 
     void OnDialog(std::function<void(frmProblemType&)> script) {
-        frmProblemType form(frame);
+        frmProblemType form([this] { frame.ProjectSaved(); });
         host.OnForm<frmProblemType>(std::move(script));
         CurrentHost().ShowForm(form);
     }

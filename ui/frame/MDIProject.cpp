@@ -159,11 +159,17 @@ void MDITools::mnuNewProject_Click() {
             if (!ok) return;
         }
         NewProjectState();
-        frmProblemType form(*this);
+        frmProblemType form([this] { ProjectSaved(); });
         CurrentHost().ShowForm(form);
         if (Session.DialogOk) AddToRecentFiles(OpenProjectPath() + kStandsForProject);
     });
     Refresh();
+}
+
+void MDITools::ProjectSaved() {
+    SetProblemMenu();
+    ShowTitle(Session.WorkName);
+    Menu["mnuSaveProjectAs"].Enabled = true;
 }
 
 void MDITools::mnuOpenProject_Click() {

@@ -109,7 +109,7 @@ void MDITools::mnuProblem_Click(int index) {
     if (index < 0 || index > kLastProblemEntry) return;
     UnderCommonStep([&] {
         if (index == 0) {
-            frmProblemType form(*this);
+            frmProblemType form([this] { ProjectSaved(); });
             CurrentHost().ShowForm(form);
         } else {
             ShowProblemDialog(index);

@@ -95,6 +95,8 @@ class MDITools : public Form {
     void NewProjectState();
     // Shows the one problem entry of the project, beside the project's own.
     void SetProblemMenu();
+    // After the project dialog saved the open project: menu and title follow.
+    void ProjectSaved();
     void OpenProject();
     void CheckProjectFiles();
     // Tells what is missing and asks whether to go on; without missing data asks for the end if `ask` is not 0.

@@ -6,12 +6,8 @@
 
 namespace lithmark {
 
-void SetCaptions(std::initializer_list<CaptionRow> rows) {
-    for (const CaptionRow& row : rows) row.On.Caption = Text(row.Id, row.As);
-}
-
-void SetCaptions(std::initializer_list<std::pair<Control&, std::string>> captions) {
-    for (const auto& [control, caption] : captions) control.Caption = caption;
+void SetCaptions(const std::vector<CaptionRow>& rows) {
+    for (const CaptionRow& row : rows) row.On->Caption = row.Says.Text();
 }
 
 void SelectRow(Control& list, int row) {
@@ -25,12 +21,8 @@ void ShowProgramPicture(Control& picture, const std::string& file) {
         TextTools().LoadPictureFile(picture, SharedServices().ResourceDir() + file);
 }
 
-void Show(std::initializer_list<Control*> controls, bool visible) {
+void Show(const ControlList& controls, bool visible) {
     for (Control* control : controls) control->Visible = visible;
-}
-
-void Hide(std::initializer_list<Control*> controls) {
-    Show(controls, false);
 }
 
 }  // namespace lithmark

@@ -5,11 +5,11 @@
 #include <initializer_list>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "base/Failure.h"
-#include "base/TextId.h"
 #include "services/host/Form.h"
-#include "services/texts/LanguageTexts.h"
+#include "ui/model/Words.h"
 
 namespace lithmark {
 
@@ -69,15 +69,36 @@ class ControlArray {
     std::array<C, static_cast<std::size_t>(count)> items_;
 };
 
-// A control's caption as a text of the language in force.
-struct CaptionRow {
-    Control& On;
-    TextId Id;
-    Style As{};
+// Controls one after another, single ones and whole arrays: `{txt_Q, optLoadType, txt_A}`.
+class ControlList {
+  public:
+    ControlList(Control& one) : controls_{&one} {}
+    template <typename C, int count, int first>
+    ControlList(ControlArray<C, count, first>& all) {
+        for (C& control : all) controls_.push_back(&control);
+    }
+    ControlList(std::initializer_list<ControlList> parts) {
+        for (const ControlList& part : parts)
+            controls_.insert(controls_.end(), part.controls_.begin(), part.controls_.end());
+    }
+
+    std::size_t Count() const noexcept { return controls_.size(); }
+    Control& operator[](std::size_t place) const { return *controls_.at(place); }
+    auto begin() const noexcept { return controls_.begin(); }
+    auto end() const noexcept { return controls_.end(); }
+
+  private:
+    std::vector<Control*> controls_;
 };
-void SetCaptions(std::initializer_list<CaptionRow> rows);
-// A caption that is no text by number: a unit, a symbol, a text put together.
-void SetCaptions(std::initializer_list<std::pair<Control&, std::string>> captions);
+
+// What a control's caption says.
+struct CaptionRow {
+    CaptionRow(Control& on, Words says) : On(&on), Says(std::move(says)) {}
+    CaptionRow(Control& on, TextId id, Style style) : On(&on), Says(id, style) {}
+    Control* On;
+    Words Says;
+};
+void SetCaptions(const std::vector<CaptionRow>& rows);
 
 // Selects a row of a list or tab strip; SubscriptRange for a row that it does not have.
 void SelectRow(Control& list, int row);
@@ -87,7 +108,6 @@ void SelectRow(Control& list, int row);
 void ShowProgramPicture(Control& picture, const std::string& file);
 
 // Shows or hides.
-void Show(std::initializer_list<Control*> controls, bool visible = true);
-void Hide(std::initializer_list<Control*> controls);
+void Show(const ControlList& controls, bool visible = true);
 
 }  // namespace lithmark

@@ -1,8 +1,8 @@
 #include "ui/model/FieldForm.h"
 
-#include <optional>
+#include <algorithm>
 
-#include "services/host/Host.h"
+#include "services/SharedServices.h"
 #include "ui/model/CommonStep.h"
 
 namespace lithmark {
@@ -29,9 +29,22 @@ std::vector<std::string> FieldForm::Inputs() const {
     return inputs;
 }
 
-void FieldForm::SetEnterRows(std::vector<EnterRow> rows) {
-    enterRows_ = std::move(rows);
-    for (const EnterRow& row : enterRows_) row.From->OnEnter = [this, &steps = row.Steps] { FollowEnter(steps); };
+const FieldRow* FieldForm::RowOf(const Control& box) const {
+    const auto row = std::find_if(fields_.begin(), fields_.end(), [&](const FieldRow& f) { return &f.Box == &box; });
+    return row == fields_.end() ? nullptr : &*row;
+}
+
+void FieldForm::SetFields(std::vector<FieldRow> fields) {
+    fields_ = std::move(fields);
+    for (const FieldRow& row : fields_)
+        if (!row.Enter.empty()) row.Box.OnEnter = [this, &steps = row.Enter] { FollowEnter(steps); };
+}
+
+void FieldForm::SetChoices(std::vector<ChoiceRow> choices) {
+    choices_ = std::move(choices);
+    for (const ChoiceRow& row : choices_)
+        for (Control* control : row.Of)
+            (control->Kind == ControlKind::ComboBox ? control->OnChange : control->OnClick) = row.OnClick;
 }
 
 void FieldForm::FollowEnter(const std::vector<EnterStep>& steps) {
@@ -45,28 +58,86 @@ void FieldForm::FollowEnter(const std::vector<EnterStep>& steps) {
     }
 }
 
-void FieldForm::ShowFields() {
-    for (const FieldRow& row : fields_) row.Show();
-}
-
-bool FieldForm::CheckFields() {
-    for (const FieldRow& row : fields_)
-        if (!row.Check(*this)) return false;
-    return true;
-}
-
-void FieldForm::StoreFields() {
-    std::vector<std::optional<double>> values;
+void FieldForm::ShowCaptions() {
+    SetCaptions(captions_);
+    for (const ChoiceRow& row : choices_) row.ShowCaptions();
     for (const FieldRow& row : fields_) {
+        if (row.Label.On != nullptr) row.Label.On->Caption = row.Label.Says.Text();
+        if (row.Symbol.On != nullptr) row.Symbol.On->Caption = row.Symbol.Says.Text();
+        if (row.In.On != nullptr) row.In.On->Caption = row.In.Says.Text();
+    }
+}
+
+void FieldForm::ShowFields() {
+    for (FieldRow& row : fields_)
+        if (row.Field.Exists()) row.Show(Session);
+}
+
+void FieldForm::ShowChoiceRows() {
+    for (const ChoiceRow& row : choices_) {
+        row.ShowCaptions();
+        if (row.Field.Exists()) row.SetPosition(row.Field.PositionIn(Session));
+    }
+    for (const ChoiceRow& row : choices_)
+        if (row.OnClick) row.OnClick();
+}
+
+double FieldForm::NumberIn(const Control& box) const {
+    const FieldRow* row = RowOf(box);
+    return row != nullptr ? row->ReadShown() : SharedServices().GetNumber(box);
+}
+
+std::vector<BoxFault> FieldForm::Faults() const {
+    std::vector<BoxFault> faults;
+    for (const FieldRow& row : fields_)
+        if (row.Field.Exists())
+            if (auto reason = row.Fault()) faults.push_back({&row.Box, *std::move(reason)});
+    return faults;
+}
+
+void FieldForm::Tell(const BoxFault& fault) {
+    SharedServices().RefuseBox(*this, *fault.Box, fault.Reason);
+}
+
+void FieldForm::StoreFields(SessionRecord& record) const {
+    for (const FieldRow& row : fields_) {
+        if (!row.Field.Exists()) continue;
         try {
-            values.push_back(row.Read());
+            row.Field.Set(record, row.Read());
         } catch (const Failure&) {
             if (row.IsChecked()) throw;
-            values.emplace_back();
         }
     }
-    for (std::size_t i = 0; i < fields_.size(); ++i)
-        if (values[i]) fields_[i].Field.Set(*values[i]);
+}
+
+void FieldForm::StoreChoiceRows(SessionRecord& record) const {
+    for (const ChoiceRow& row : choices_) row.Field.Store(record, row.Position());
+}
+
+void FieldForm::MarkStored() {
+    for (FieldRow& row : fields_) {
+        if (!row.Field.Exists()) continue;
+        try {
+            static_cast<void>(row.Read());
+        } catch (const Failure&) {
+            continue;  // its text stands for nothing
+        }
+        row.Last = FieldRow::ShownValue{row.Box.Text, row.Field.Get(Session)};
+    }
+}
+
+void FieldForm::ShowLines(const ControlList& boxes, bool visible) {
+    for (const Control* box : boxes)
+        if (const FieldRow* row = RowOf(*box))
+            for (Control* control : row->Line()) control->Visible = visible;
+}
+
+void FieldForm::SwitchLines(const ControlList& boxes, bool on) {
+    for (Control* box : boxes) {
+        ShowLines(*box, on);
+        box->Visible = true;
+        box->Enabled = on;
+    }
 }
 
 }  // namespace lithmark

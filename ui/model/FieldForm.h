@@ -1,42 +1,26 @@
-// FieldForm: a form whose numeric fields and whose way of the Enter key are tables.
+// FieldForm: a form whose fields, choices and captions are tables, and the way of the Enter key with them.
 #pragma once
 
 #include <string>
 #include <vector>
 
-#include "ui/model/Controls.h"
+#include "ui/model/ChoiceRow.h"
 #include "ui/model/FieldRow.h"
 
 namespace lithmark {
 
-// Where Enter leads: the first step of a row whose condition holds, the focus moved or the button pressed.
-struct EnterStep {
-    Control* To;
-    bool Presses = false;
-    const Control* IfUsable = nullptr;  // only while this control is shown and enabled; null: always
-};
-inline EnterStep GoTo(Control& to) {
-    return {&to};
-}
-inline EnterStep GoToIfUsable(Control& to) {
-    return {&to, false, &to};
-}
-inline EnterStep GoToIf(const Control& usable, Control& to) {
-    return {&to, false, &usable};
-}
-inline EnterStep Press(Control& button) {
-    return {&button, true};
-}
-
-struct EnterRow {
-    Control* From;
-    std::vector<EnterStep> Steps;
+// A box that cannot be stored, and the message that says why.
+struct BoxFault {
+    Control* Box;
+    std::string Reason;
 };
 
 class FieldForm : public Form {
   public:
     const std::vector<FieldRow>& Fields() const noexcept { return fields_; }
-    const std::vector<EnterRow>& EnterRows() const noexcept { return enterRows_; }
+    const std::vector<ChoiceRow>& Choices() const noexcept { return choices_; }
+    // The row of a box; null when it has none.
+    const FieldRow* RowOf(const Control& box) const;
 
     // What the user can change, as texts: boxes, dates, lists, options and check boxes, in the order of the controls.
     virtual std::vector<std::string> Inputs() const;
@@ -44,24 +28,45 @@ class FieldForm : public Form {
   protected:
     using Form::Form;
 
-    // In the order in which they are checked.
-    void SetFields(std::vector<FieldRow> fields) { fields_ = std::move(fields); }
-    // Binds Enter in each row's box.
-    void SetEnterRows(std::vector<EnterRow> rows);
+    // In the order in which they are checked. Binds Enter in each box.
+    void SetFields(std::vector<FieldRow> fields);
+    // Binds the clicks.
+    void SetChoices(std::vector<ChoiceRow> choices);
+    // Of what belongs to no field and no choice: frames, buttons.
+    void SetCaptionRows(std::vector<CaptionRow> rows) { captions_ = std::move(rows); }
 
+    // All captions in the language in force.
+    void ShowCaptions();
+    // The stored values of Session.
     void ShowFields();
-    // False at the first field that is not valid, after the message.
-    bool CheckFields();
-    // Reads all boxes, the hidden ones too, and then stores all values. A box that was not checked and holds nothing
-    // that its field can take leaves the field as it was. Throws Failure, with nothing stored, when a checked value
-    // does not fit its field.
-    void StoreFields();
+    // All choices as Session holds them, and then what follows from each.
+    void ShowChoiceRows();
+    // The number in a box in its unit, for limits that follow it. InvalidArgument when it holds none.
+    double NumberIn(const Control& box) const;
+
+    // What keeps the boxes from being stored, in the order of the rows.
+    std::vector<BoxFault> Faults() const;
+    // Shows the message of a fault and goes to its box.
+    void Tell(const BoxFault& fault);
+    // Stores all values, those of hidden boxes too. A box that the user has not changed stores the very value that it
+    // was shown from; one that was not checked and holds nothing that its field can take leaves the field as it was.
+    // There are no faults.
+    void StoreFields(SessionRecord& record) const;
+    void StoreChoiceRows(SessionRecord& record) const;
+    // From now on the boxes stand for the values of Session.
+    void MarkStored();
+
+    // The whole lines of these boxes: label, symbol, box, unit.
+    void ShowLines(const ControlList& boxes, bool visible = true);
+    // The same, but that a line which is off keeps its box in sight, disabled.
+    void SwitchLines(const ControlList& boxes, bool on);
 
   private:
     void FollowEnter(const std::vector<EnterStep>& steps);
 
     std::vector<FieldRow> fields_;
-    std::vector<EnterRow> enterRows_;
+    std::vector<ChoiceRow> choices_;
+    std::vector<CaptionRow> captions_;
 };
 
 }  // namespace lithmark

@@ -2,7 +2,6 @@
 
 #include <cmath>
 
-#include "core/Session.h"
 #include "services/SharedServices.h"
 
 namespace lithmark {
@@ -13,26 +12,30 @@ constexpr int kRealNumber = 2;
 
 }  // namespace
 
-double StoredField::Get() const {
-    if (const auto* single = std::get_if<Single*>(&place_)) return **single;
-    if (const auto* integer = std::get_if<Integer*>(&place_)) return **integer;
+double StoredField::Get(const SessionRecord& record) const {
+    if (const auto* single = std::get_if<Single SessionRecord::*>(&place_)) return record.**single;
+    if (const auto* integer = std::get_if<Integer SessionRecord::*>(&place_)) return record.**integer;
     const auto& element = std::get<Element>(place_);
-    return (*element.Values)(element.Index);
+    return (record.*element.Values)(element.Index);
 }
 
-void StoredField::Set(double value) const {
-    if (const auto* single = std::get_if<Single*>(&place_)) {
-        **single = value;
-    } else if (const auto* integer = std::get_if<Integer*>(&place_)) {
-        **integer = Integer::Rounded(value);
+std::string StoredField::Formatted(const SessionRecord& record, double shown) const {
+    return FormatValue(shown, format_ != nullptr ? record.*format_ : std::string());
+}
+
+void StoredField::Set(SessionRecord& record, double value) const {
+    if (const auto* single = std::get_if<Single SessionRecord::*>(&place_)) {
+        record.** single = value;
+    } else if (const auto* integer = std::get_if<Integer SessionRecord::*>(&place_)) {
+        record.** integer = Integer::Rounded(value);
     } else {
         const auto& element = std::get<Element>(place_);
-        (*element.Values)(element.Index) = value;
+        (record.*element.Values)(element.Index) = value;
     }
 }
 
 void StoredField::CheckFits(double value) const {
-    if (std::holds_alternative<Integer*>(place_))
+    if (std::holds_alternative<Integer SessionRecord::*>(place_))
         static_cast<void>(Integer::Rounded(value));
     else
         static_cast<void>(Single(value));
@@ -47,16 +50,6 @@ double Limit::Shown(double factor, double none) const {
     }
 }
 
-std::string FieldName::Text() const {
-    if (const auto* id = std::get_if<TextId>(&name_)) return lithmark::Text(*id);
-    if (const auto* axis = std::get_if<Axis>(&name_)) return CoordinateName(*axis);
-    return std::get<const Control*>(name_)->Caption;
-}
-
-std::string CoordinateName(Axis axis) {
-    return Text(90001_text, {{"|1", LanguageTexts().AxisName(axis)}});
-}
-
 bool FieldRow::IsChecked() const {
     switch (Checked) {
         case CheckedWhen::Shown:
@@ -68,21 +61,48 @@ bool FieldRow::IsChecked() const {
     }
 }
 
-void FieldRow::Show() const {
-    Box.Text = FormatValue(Field.Get() * FactorOf(In), Format);
+std::string FieldRow::MessageName() const {
+    if (!Name.Empty()) return Name.Text();
+    return Label.On != nullptr ? Label.On->Caption : std::string();
 }
 
-bool FieldRow::Check(Form& form) const {
-    if (!IsChecked()) return true;
-    const double factor = FactorOf(In);
-    return SharedServices().CheckNumber(form, Box, kRealNumber, Upper.Shown(factor, kNoLimit),
-                                        Lower.Shown(factor, -kNoLimit), Name.Text());
+void FieldRow::Show(const SessionRecord& record) {
+    const double value = Field.Get(record);
+    Box.Text = Field.Formatted(record, value * FactorOf(In.In));
+    Last = ShownValue{Box.Text, value};
+}
+
+std::optional<std::string> FieldRow::Fault() const {
+    if (!IsChecked()) return std::nullopt;
+    const double factor = FactorOf(In.In);
+    const double lower = Limits.Lower.Shown(factor, -kNoLimit), upper = Limits.Upper.Shown(factor, kNoLimit);
+    // A value that its format shows outside the range is inside all the same: 1.6667 m as 1.67 beside a limit of 5/3 m.
+    if (Untouched() && Last->Value * factor >= lower && Last->Value * factor <= upper) return std::nullopt;
+    if (auto fault = SharedServices().NumberFault(Box, kRealNumber, upper, lower, MessageName())) return fault;
+    try {
+        static_cast<void>(Read());
+    } catch (const Failure&) {
+        return Text(906100_text, {{"|1", MessageName()}});
+    }
+    return std::nullopt;
 }
 
 double FieldRow::Read() const {
-    const double value = Quotient(SharedServices().GetNumber(Box), FactorOf(In));
+    if (Untouched()) return Last->Value;
+    const double value = Quotient(SharedServices().GetNumber(Box), FactorOf(In.In));
     Field.CheckFits(value);
     return value;
+}
+
+double FieldRow::ReadShown() const {
+    return Untouched() ? Last->Value * FactorOf(In.In) : SharedServices().GetNumber(Box);
+}
+
+std::vector<Control*> FieldRow::Line() const {
+    std::vector<Control*> controls;
+    for (Control* control : {Label.On, Symbol.On, &Box, Beside, In.On})
+        if (control != nullptr) controls.push_back(control);
+    return controls;
 }
 
 }  // namespace lithmark

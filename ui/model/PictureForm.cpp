@@ -10,20 +10,21 @@ const std::string kStateKey = "More State";
 
 }  // namespace
 
-PictureForm::PictureForm(std::string name, std::string picture, std::string section, std::string okButton)
-    : ProblemForm(std::move(name), std::move(okButton)), picture_(std::move(picture)), section_(std::move(section)) {
+PictureForm::PictureForm(std::string name, PictureOf picture, std::string okButton)
+    : ProblemForm(std::move(name), std::move(okButton)), picture_(std::move(picture)) {
+    PctInvertedT.Drawing = picture_.Drawing;
     CmdMoreLess.OnClick = [this] { CmdMoreLess_Click(); };
 }
 
 void PictureForm::Load() {
     ProblemForm::Load();
-    ShowProgramPicture(PctInvertedT, picture_);
-    more_ = SharedServices().GetSetting(kApplicationTitle, section_, kStateKey, true);
+    ShowProgramPicture(PctInvertedT, picture_.File);
+    more_ = SharedServices().GetSetting(kApplicationTitle, picture_.Section, kStateKey, true);
     ShowState();
 }
 
 void PictureForm::Unloading() {
-    SharedServices().SaveSetting(kApplicationTitle, section_, kStateKey, more_);
+    SharedServices().SaveSetting(kApplicationTitle, picture_.Section, kStateKey, more_);
 }
 
 void PictureForm::CmdMoreLess_Click() {

@@ -8,6 +8,13 @@
 
 namespace lithmark {
 
+// What a form's picture is.
+struct PictureOf {
+    std::string File;     // of the program's own, looked for in the program directory
+    std::string Section;  // of the settings store, where its state is kept
+    std::string Drawing;  // what the windows draw in its place
+};
+
 class PictureForm : public ProblemForm {
   public:
     Button CmdMoreLess{*this, "CmdMoreLess"};
@@ -21,13 +28,12 @@ class PictureForm : public ProblemForm {
     bool More() const noexcept { return more_; }
 
   protected:
-    // `picture` is a file of the program's own; `section` names the form in the settings store.
-    PictureForm(std::string name, std::string picture, std::string section, std::string okButton = "cmdok");
+    PictureForm(std::string name, PictureOf picture, std::string okButton = "cmdok");
 
   private:
     void ShowState();
 
-    const std::string picture_, section_;
+    const PictureOf picture_;
     bool more_ = true;
 };
 

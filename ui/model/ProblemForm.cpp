@@ -3,13 +3,14 @@
 #include <utility>
 
 #include "core/Catalogue.h"
-#include "core/Session.h"
 #include "files/GloableVariable.h"
 #include "files/ProblemData.h"
+#include "kernels/RunKernel.h"
 #include "services/FileDialogs.h"
 #include "services/SharedServices.h"
 #include "ui/frmResultTools.h"
 #include "ui/model/CommonStep.h"
+#include "ui/model/HelpText.h"
 #include "ui/model/ProjectFlags.h"
 
 namespace lithmark {
@@ -17,12 +18,6 @@ namespace lithmark {
 namespace {
 
 constexpr Style kButton{1}, kDialogButton{3};
-
-const ProblemRow& CurrentProblem() {
-    const ProblemRow* row = FindProblem(Session.ProblemType);
-    if (row == nullptr) Fail(FailureKind::SubscriptRange);
-    return *row;
-}
 
 // A run that failed and a file that is missing leave the hourglass; a form that waits for its user does not.
 void EndHourglass() {
@@ -33,6 +28,11 @@ void EndHourglass() {
 template <typename Command>
 void Run(Command&& command) {
     if (!UnderCommonStep(std::forward<Command>(command))) EndHourglass();
+}
+
+// The radius of circular loads is the length that the dialogs take.
+void TakeRadius(SessionRecord& record) {
+    record.A0 = record.A;
 }
 
 }  // namespace
@@ -52,11 +52,12 @@ void ProblemForm::Load() {
     SetProblemDefaults();
     Session.WorkDir = Session.DataDir;
     Session.WorkName = Session.ProjectName;
-    if (ProblemSaved(CurrentProblem().MenuEntry)) {
+    if (ProblemSaved(ProblemInForce().MenuEntry)) {
         ReadProblemData();
         EndHourglass();
     }
     ShowData();
+    Caption = Text(ProblemInForce().MenuText);
     ShowCaptions();
     SetCaptions({{cmdok, 6_text, kButton},
                  {cmdHelp, 8_text, kButton},
@@ -70,16 +71,26 @@ void ProblemForm::Load() {
 
 void ProblemForm::ShowData() {
     ShowFields();
-    Session.A0 = Session.A;
+    TakeRadius(Session);
     ShowChoices();
 }
 
+FormDraft ProblemForm::Draft() const {
+    FormDraft draft{Session, Faults()};
+    if (!draft.Valid()) return draft;
+    StoreFields(draft.Record);
+    TakeRadius(draft.Record);
+    StoreChoices(draft.Record);
+    draft.Record.DataValid = true;
+    return draft;
+}
+
 void ProblemForm::StoreData() {
-    if (!CheckFields()) return;
-    StoreFields();
-    Session.A0 = Session.A;
-    StoreChoices();
-    Session.DataValid = true;
+    BeforeStore();
+    FormDraft draft = Draft();
+    if (!draft.Valid()) return Tell(draft.Faults.front());
+    Session = std::move(draft.Record);
+    MarkStored();
 }
 
 void ProblemForm::SaveData() {
@@ -101,7 +112,7 @@ void ProblemForm::cmdSave_Click() {
         Session.WorkName = Session.ProjectName;
         SaveData();
         // FileSaved alone may stand from an earlier save.
-        if (Session.DataValid && Session.FileSaved) SetProblemSaved(CurrentProblem().MenuEntry, true);
+        if (Session.DataValid && Session.FileSaved) SetProblemSaved(ProblemInForce().MenuEntry, true);
     });
 }
 
@@ -109,7 +120,7 @@ void ProblemForm::cmdSaveAs_Click() {
     Run([&] {
         std::string file;
         if (FileDialogs().SaveFileDialog(file, Session.DataDir, Session.WorkDir, Session.WorkName,
-                                         CurrentProblem().Extension, Caption))
+                                         ProblemInForce().Extension, Caption))
             SaveData();
     });
 }
@@ -118,7 +129,7 @@ void ProblemForm::cmdOpen_Click() {
     Run([&] {
         std::string file;
         if (!FileDialogs().OpenFileDialog(file, Session.DataDir, Session.WorkDir, Session.WorkName,
-                                          std::string("*.") + CurrentProblem().Extension, Caption))
+                                          std::string("*.") + ProblemInForce().Extension, Caption))
             return;
         const ReadOutcome outcome = ReadProblemData();
         EndHourglass();
@@ -133,7 +144,10 @@ void ProblemForm::cmdResult_Click() {
         StoreData();
         if (!Session.DataValid) return;
         Session.CalcAborted = false;
-        Compute();
+        if (!RunProblemKernel()) {
+            SharedServices().ShowMessageBox(Text(160030_text), Text(902049_text), MessageIcon::Exclamation);
+            return;
+        }
         EndHourglass();
         if (Session.CalcAborted) return;
         frmResultTools viewer;

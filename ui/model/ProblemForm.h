@@ -1,13 +1,20 @@
 // ProblemForm: what the dialogs of all problems share. Such a dialog loads the problem's defaults and then its data
-// file if the project has one, stores what its controls hold, writes and reads data files, and runs the kernel.
+// file if the project has one, stores what its controls hold, writes and reads data files, and runs the problem's
+// kernel.
 //
-// A form of a problem gives its fields, its captions, its choices, its kernel and its help; see docs/forms.md.
+// A form of a problem gives its tables of fields, choices and captions, and its help; see docs/forms.md.
 #pragma once
 
 #include "ui/model/FieldForm.h"
-#include "ui/model/HelpText.h"
 
 namespace lithmark {
+
+// The record as a form would store it, or the boxes that keep it from that; the record says nothing then.
+struct FormDraft {
+    SessionRecord Record;
+    std::vector<BoxFault> Faults;
+    bool Valid() const noexcept { return Faults.empty(); }
+};
 
 class ProblemForm : public FieldForm {
   public:
@@ -19,7 +26,10 @@ class ProblemForm : public FieldForm {
 
     // The controls differ from what the form loaded or last saved. Closing asks nothing and stores nothing, so the
     // window's title has to tell. Data opened from another file are not the project's until they are saved.
-    bool Modified() const { return Inputs() != savedInputs_; }
+    bool Modified() const override { return Inputs() != savedInputs_; }
+
+    // What StoreData would leave in Session now. Changes nothing and shows nothing.
+    FormDraft Draft() const;
 
     void cmdok_Click() { Unload(); }
     void cmdHelp_Click();
@@ -33,25 +43,25 @@ class ProblemForm : public FieldForm {
 
     // Session into the controls: the fields, then ShowChoices.
     void ShowData();
-    // Session takes the controls, and DataValid is set, unless a field is not valid; then nothing is stored. The caller
-    // has cleared DataValid. Throws Failure, with nothing stored, when a value does not fit its field.
+    // Session takes the draft, and DataValid is set, unless a field is not valid; the first such field is told then,
+    // and nothing is stored. The caller has cleared DataValid.
     void StoreData();
     void SaveData();
     void MarkSaved() { savedInputs_ = Inputs(); }
 
-    // The form's caption and those of its own controls in the language in force.
-    virtual void ShowCaptions() = 0;
-    // Options, check boxes and lists from Session, and what is shown and enabled by them.
-    virtual void ShowChoices() = 0;
-    // Options, check boxes and lists to Session. The fields are stored already.
-    virtual void StoreChoices() = 0;
+    // Options, check boxes and lists from Session, and what is shown and enabled by them: the rows, and what a form has
+    // beyond them.
+    virtual void ShowChoices() { ShowChoiceRows(); }
+    // Options, check boxes and lists to a record that has taken the fields already.
+    virtual void StoreChoices(SessionRecord& record) const { StoreChoiceRows(record); }
+    // What a form does to its boxes before they are stored by a command; a draft does without.
+    virtual void BeforeStore() {}
     // What depends on the problem alone; runs last in Load.
     virtual void ShowForProblem() {}
     // After a file chosen by the user was read into Session.
     virtual void ShowOpened() { ShowData(); }
-    // The kernel on the fields of Session.
-    virtual void Compute() = 0;
-    virtual HelpLines Help() const = 0;
+    // The lines of the help box, parted by CR.
+    virtual std::string Help() const = 0;
 
   private:
     std::vector<std::string> savedInputs_;

@@ -133,7 +133,7 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
     frmResultTools results;
     gallery.Take(results, QStringLiteral("frmResultTools"));
 
-    frmProblemType problemType(frame);
+    frmProblemType problemType;
     gallery.Take(problemType, QStringLiteral("frmProblemType"));
     frmProjectCheck check(MDITools::Title("Crane"), Text(140185_text) + "\r\n");
     gallery.Take(check, QStringLiteral("frmProjectCheck"));
