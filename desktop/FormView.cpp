@@ -19,11 +19,10 @@
 
 #include "desktop/PictureView.h"
 #include "desktop/ReportView.h"
+#include "desktop/Sizes.h"
 #include "desktop/layouts/Layouts.h"
 #include "render/QtText.h"
 #include "services/TextTools.h"
-#include "ui/model/FieldForm.h"
-#include "ui/model/ProblemForm.h"
 
 namespace lithmark {
 
@@ -55,10 +54,11 @@ FormView::FormView(Form& form, QWidget* parent) : QDialog(parent), form_(form) {
     Refresh();
     NameFields();
     // All words in full, as far as the screen goes; a layout may have chosen a size of its own.
-    if (!testAttribute(Qt::WA_Resized)) {
-        const QRect room = screen()->availableGeometry();
-        resize(sizeHint().boundedTo(room.size()));
-    }
+    if (!testAttribute(Qt::WA_Resized)) resize(sizeHint().boundedTo(Room()));
+}
+
+QSize FormView::Room() const {
+    return screen()->availableGeometry().size() * sizes::kScreenShare;
 }
 
 void FormView::NameFields() {
@@ -108,15 +108,21 @@ void FormView::reject() {
     Act([this] { form_.Unload(); });
 }
 
-QWidget* FormView::WidgetOf(Control& control) {
+QWidget* FormView::WidgetOf(const Control& control) {
     QWidget*& widget = widgets_[&control];
-    if (!widget) widget = Make(control);
+    // The model's own controls may be changed; a layout only reads them.
+    if (!widget) widget = Make(const_cast<Control&>(control));
     return widget;
 }
 
-QWidget* FormView::WidgetOf(const char* controlName) {
-    Control* control = form_.Find(controlName);
-    return control ? WidgetOf(*control) : nullptr;
+QWidget* FormView::Place(const Control& control) {
+    ++placed_[&control];
+    return WidgetOf(control);
+}
+
+int FormView::TimesPlaced(const Control& control) const {
+    const auto found = placed_.find(&control);
+    return found == placed_.end() ? 0 : found->second;
 }
 
 QWidget* FormView::Make(Control& control) {
@@ -163,8 +169,9 @@ QWidget* FormView::Make(Control& control) {
         case ControlKind::ComboBox: {
             auto* box = new QComboBox(this);
             box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-            connect(box, &QComboBox::activated, this, [this, &control](int index) {
+            connect(box, &QComboBox::activated, this, [this, &control, box](int index) {
                 control.ListIndex = index;
+                control.Text = box->itemText(index).toStdString();
                 Act(control.OnClick ? control.OnClick : control.OnChange);
             });
             widget = box;
@@ -182,7 +189,7 @@ QWidget* FormView::Make(Control& control) {
             widget = new QGroupBox(this);
             break;
         case ControlKind::Picture:
-            widget = new PictureView(form_, control, this);
+            widget = new PictureView(control, this);
             break;
         case ControlKind::TextArea:
             widget = new ReportView(this);
@@ -227,12 +234,11 @@ void FormView::Refresh() {
         return;
     }
     const QScopedValueRollback<bool> guard(refreshing_, true);
-    const auto* problem = dynamic_cast<const ProblemForm*>(&form_);
-    setWindowTitle(Q(form_.Caption) + (problem ? QStringLiteral("[*]") : QString()));
-    setWindowModified(problem && problem->Modified());
+    setWindowTitle(Q(form_.Caption) + QStringLiteral("[*]"));
+    setWindowModified(form_.Modified());
     for (Control* control : form_.Controls()) Show(*control, *WidgetOf(*control));
     if (AfterRefresh) AfterRefresh();
-    FitPictures();
+    FitContent();
 }
 
 void FormView::RefreshAll() {
@@ -240,15 +246,19 @@ void FormView::RefreshAll() {
         if (!form->Unloaded()) view->Refresh();
 }
 
-void FormView::FitPictures() {
+void FormView::FitContent() {
     int shown = 0;
     for (const Control* control : form_.Controls())
         if (control->Kind == ControlKind::Picture && control->Visible) ++shown;
-    const bool changed = picturesShown_ >= 0 && shown != picturesShown_;
+    const bool first = picturesShown_ < 0, pictures = shown != picturesShown_;
     picturesShown_ = shown;
-    if (!changed) return;
     layout()->activate();
-    resize(sizeHint().width(), height());
+    const QSize wanted = sizeHint().boundedTo(Room());
+    const bool grown = wanted.height() > heightWanted_;
+    heightWanted_ = wanted.height();
+    if (first) return;
+    if (pictures) resize(wanted.width(), height());
+    if (grown && wanted.height() > height()) resize(width(), wanted.height());
 }
 
 void FormView::Show(Control& control, QWidget& widget) {
@@ -323,7 +333,7 @@ void FormView::Show(Control& control, QWidget& widget) {
 void FormView::FocusOn(const Control& control) {
     // What leads to the control, a tab for one, may have changed with the same event.
     if (!refreshing_) Refresh();
-    QWidget* widget = WidgetOf(const_cast<Control&>(control));
+    QWidget* widget = WidgetOf(control);
     widget->setFocus(Qt::OtherFocusReason);
     if (auto* box = qobject_cast<QLineEdit*>(widget)) box->selectAll();
 }

@@ -23,8 +23,14 @@ class FormView : public QDialog {
     void RunModal();
 
     // The widget of a control, made at the first call.
-    QWidget* WidgetOf(Control& control);
-    QWidget* WidgetOf(const char* controlName);
+    QWidget* WidgetOf(const Control& control);
+    // The same for a layout that puts it into its place, which happens once for each control.
+    QWidget* Place(const Control& control);
+    template <typename W>
+    W& Place(const Control& control) {
+        return dynamic_cast<W&>(*Place(control));
+    }
+    int TimesPlaced(const Control& control) const;
     // All widgets as the model says; closes the window when the form is unloaded.
     void Refresh();
     void FocusOn(const Control& control);
@@ -49,15 +55,19 @@ class FormView : public QDialog {
     void Show(Control& control, QWidget& widget);
     // Gives every field without a label of its own the name of what stands before it, for screen readers.
     void NameFields();
-    // The window grows and shrinks with its pictures.
-    void FitPictures();
+    // The window grows and shrinks with its pictures, and grows with the fields that an event brings into sight, as far
+    // as the screen goes.
+    void FitContent();
+    // What a window may take of the screen.
+    QSize Room() const;
     // Runs an event of the model, then refreshes.
     void Act(const std::function<void()>& event);
 
     Form& form_;
-    std::unordered_map<Control*, QWidget*> widgets_;
+    std::unordered_map<const Control*, QWidget*> widgets_;
+    std::unordered_map<const Control*, int> placed_;
     bool refreshing_ = false;
-    int picturesShown_ = -1;
+    int picturesShown_ = -1, heightWanted_ = 0;
 };
 
 }  // namespace lithmark

@@ -3,9 +3,8 @@
 #include <QPainter>
 #include <QPixmap>
 
-#include "desktop/Icons.h"
-#include "desktop/ProblemDrawing.h"
-#include "ui/frmstress.h"
+#include "desktop/Sizes.h"
+#include "desktop/drawings/Drawings.h"
 
 namespace lithmark {
 
@@ -20,9 +19,8 @@ void DrawPicture(QPainter& painter, const QRect& area, const QPixmap& picture) {
 
 }  // namespace
 
-PictureView::PictureView(const Form& form, const Control& control, QWidget* parent)
-    : QWidget(parent), form_(form), control_(control) {
-    setMinimumSize(300, 260);
+PictureView::PictureView(const Control& control, QWidget* parent) : QWidget(parent), control_(control) {
+    setMinimumSize(sizes::kPictureWidth, sizes::kPictureHeight);
     setLayoutDirection(Qt::LeftToRight);
 }
 
@@ -30,10 +28,8 @@ void PictureView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setLayoutDirection(Qt::LeftToRight);
-    if (const auto* stress = dynamic_cast<const frmstress*>(&form_))
-        DrawStressProblem(painter, rect(), stress->optLoadType.Selected());
-    else if (control_.Name == "imgLogo")
-        DrawLogo(painter, rect());
+    if (const DrawingFunction draw = FindDrawing(control_.Drawing))
+        draw(painter, rect(), control_.Variant);
     else if (const QPixmap picture(QString::fromStdString(control_.Text)); !picture.isNull())
         DrawPicture(painter, rect(), picture);
 }

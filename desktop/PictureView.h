@@ -1,4 +1,4 @@
-// PictureView: the drawing beside a problem's fields, by vectors. Not mirrored in any language.
+// PictureView: a picture of a form as the drawing that it names, or else its file. Not mirrored in any language.
 #pragma once
 
 #include <QWidget>
@@ -9,14 +9,13 @@ namespace lithmark {
 
 class PictureView : public QWidget {
   public:
-    PictureView(const Form& form, const Control& control, QWidget* parent);
+    PictureView(const Control& control, QWidget* parent);
     QSize sizeHint() const override { return {340, 300}; }
 
   protected:
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    const Form& form_;
     const Control& control_;
 };
 

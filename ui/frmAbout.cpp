@@ -5,6 +5,7 @@
 namespace lithmark {
 
 frmAbout::frmAbout() : Form("frmAbout") {
+    imgLogo.Drawing = "logo";
     cmdok.OnClick = [this] { cmdok_Click(); };
 }
 

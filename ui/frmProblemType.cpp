@@ -17,7 +17,7 @@ namespace {
 constexpr Style kButton{1}, kDialogButton{3}, kHeading{4};
 
 // The rows of the list are the problem menu's entries from 1 on; an entry whose problem is not calculated has no row.
-int RowOf(const ProblemRow& problem) {
+int ListRowOf(const ProblemRow& problem) {
     return problem.MenuEntry - 1;
 }
 
@@ -90,7 +90,7 @@ void frmProblemType::ShowProjectFields() {
     if (const auto day = TextTools().ReadDate(Session.Datum)) DTPicker1.Text = TextTools().LongDate(*day);
     cmbItem.ListIndex = -1;
     cmbItem.Text.clear();
-    if (const ProblemRow* problem = FindProblem(Session.ProblemType)) SelectRow(cmbItem, RowOf(*problem));
+    if (const ProblemRow* problem = FindProblem(Session.ProblemType)) SelectRow(cmbItem, ListRowOf(*problem));
 }
 
 void frmProblemType::StoreProjectFields() {

@@ -24,7 +24,7 @@ class PlainLayout {
         buttons->addStretch(1);
         for (Control* control : view_.Model().Controls()) {
             if (control->Kind == ControlKind::Button) continue;
-            QWidget* widget = view_.WidgetOf(*control);
+            QWidget* widget = view_.Place(*control);
             switch (control->Kind) {
                 case ControlKind::Frame:
                     StartGroup(static_cast<QGroupBox*>(widget));
@@ -46,7 +46,7 @@ class PlainLayout {
         }
         // After the fields, as the Tab key goes.
         for (Control* control : view_.Model().Controls())
-            if (control->Kind == ControlKind::Button) buttons->addWidget(view_.WidgetOf(*control));
+            if (control->Kind == ControlKind::Button) buttons->addWidget(view_.Place(*control));
         column_->addStretch(1);
         auto* columns = new QHBoxLayout;
         columns->addLayout(column_, 3);

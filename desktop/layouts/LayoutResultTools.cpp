@@ -1,23 +1,25 @@
 #include <QBoxLayout>
-#include <QGroupBox>
 #include <QLineEdit>
 #include <QShortcut>
 
 #include "desktop/FormView.h"
 #include "desktop/ReportView.h"
+#include "desktop/Sizes.h"
 #include "desktop/layouts/LayoutTools.h"
 #include "desktop/layouts/Layouts.h"
+#include "render/QtText.h"
 #include "services/texts/LanguageTexts.h"
+#include "ui/frmResultTools.h"
 
 namespace lithmark {
 
-void LayoutResultTools(FormView& view) {
-    QGroupBox* text = StackGroup(view, "fraResult", {"txtResult"});
-    auto* report = static_cast<ReportView*>(view.WidgetOf("txtResult"));
+static const LayoutOf<frmResultTools> kLayout([](FormView& view, frmResultTools& form) {
+    QWidget* result = view.Place(form.fraResult);
+    auto* report = &view.Place<ReportView>(form.txtResult);
 
     auto* find = new QLineEdit(&view);
     find->setObjectName(QStringLiteral("txtFind"));
-    find->setPlaceholderText(QString::fromStdString(Text(903000_text)));
+    find->setPlaceholderText(Q(Text(903000_text)));
     find->setClearButtonEnabled(true);
     QObject::connect(find, &QLineEdit::returnPressed, report, [find, report] { report->FindNext(find->text()); });
     auto* shortcut = new QShortcut(QKeySequence::Find, &view);
@@ -25,31 +27,24 @@ void LayoutResultTools(FormView& view) {
         find->setFocus();
         find->selectAll();
     });
-    static_cast<QBoxLayout*>(text->layout())->insertWidget(0, find);
+    auto* text = new QVBoxLayout(result);
+    text->addWidget(find);
+    text->addWidget(report);
 
     auto* buttons = new QVBoxLayout;
-    for (const char* name : {"cmdPrinter", "cmdWord", "cmdClipboard", "CmdTextEditor", "CmdExcel", "cmdVERDA"})
-        buttons->addWidget(view.WidgetOf(name));
+    buttons->setSpacing(sizes::kRowGap);
+    for (Control* button : ControlList{form.cmdPrinter, form.cmdWord, form.cmdClipboard, form.CmdTextEditor,
+                                       form.CmdExcel, form.cmdVERDA})
+        buttons->addWidget(view.Place(*button));
     buttons->addStretch(1);
-    for (const char* name : {"cmdHelp", "cmdok"}) buttons->addWidget(view.WidgetOf(name));
+    for (Control* button : ControlList{form.cmdHelp, form.cmdok}) buttons->addWidget(view.Place(*button));
 
-    auto* window = new QHBoxLayout(&view);
-    window->addWidget(text, 1);
-    window->addLayout(buttons);
+    auto* columns = new QHBoxLayout;
+    columns->setSpacing(sizes::kEdge);
+    columns->addWidget(result, 1);
+    columns->addLayout(buttons);
+    WindowColumn(view)->addLayout(columns, 1);
     view.resize(900, 680);
-}
-
-void LayoutOptionDraw(FormView& view) {
-    auto* window = new QVBoxLayout(&view);
-    window->addWidget(
-        StackGroup(view, "fraSelectOption",
-                   {"optDraw(0)", "optDraw(1)", "optDraw(2)", "optDraw(3)", "optDraw(4)", "optDraw(5)", "optDraw(6)"}));
-    auto* units = new QHBoxLayout;
-    units->addWidget(StackGroup(view, "fraLoadUnit", {"optLoadUnit(0)", "optLoadUnit(1)"}));
-    units->addWidget(StackGroup(view, "fraSettlementUnit", {"optSettlementUnit(0)", "optSettlementUnit(1)"}));
-    window->addLayout(units);
-    window->addStretch(1);
-    window->addLayout(ButtonRow(view, {"cmdHelp"}, {"cmdok", "CmdCancel"}));
-}
+});
 
 }  // namespace lithmark

@@ -7,78 +7,106 @@
 #include <QLineEdit>
 
 #include "desktop/FormView.h"
+#include "desktop/Sizes.h"
 
 namespace lithmark {
 
 namespace {
 
-// One width for all boxes and one for all units, so that they stand under each other from group to group.
-constexpr int kBoxWidth = 120, kUnitWidth = 64;
+using namespace sizes;
+
+enum Column { kLabel, kSymbol, kBox, kUnit, kBeside, kColumns };
+
+void PlaceBox(FormView& view, QGridLayout& grid, int line, const FieldRow& row) {
+    QWidget* box = view.Place(row.Box);
+    box->setMinimumWidth(kBoxWidth);
+    auto* edit = dynamic_cast<QLineEdit*>(box);
+    if (edit != nullptr && row.Field.Exists()) {
+        edit->setAlignment(Qt::AlignRight | Qt::AlignAbsolute);
+        edit->setFixedWidth(kBoxWidth);
+        // Numbers run from left to right in every language.
+        edit->setLayoutDirection(Qt::LeftToRight);
+    }
+    // Where nothing follows, words have the rest of the line.
+    const bool alone = row.In.On == nullptr && row.Beside == nullptr && !row.Field.Exists();
+    grid.addWidget(box, line, kBox, 1, alone ? kColumns - kBox : 1);
+}
+
+void AddFieldLine(FormView& view, QGridLayout& grid, const FieldRow& row) {
+    const int line = grid.rowCount();
+    QLabel* label = nullptr;
+    if (row.Label.On != nullptr) {
+        label = &view.Place<QLabel>(*row.Label.On);
+        grid.addWidget(label, line, kLabel);
+    }
+    if (row.Symbol.On != nullptr) {
+        auto& symbol = view.Place<QLabel>(*row.Symbol.On);
+        QFont font = symbol.font();
+        font.setItalic(true);
+        symbol.setFont(font);
+        grid.addWidget(&symbol, line, kSymbol, Qt::AlignCenter);
+    }
+    PlaceBox(view, grid, line, row);
+    if (label != nullptr) label->setBuddy(view.WidgetOf(row.Box));
+    if (row.In.On != nullptr) grid.addWidget(view.Place(*row.In.On), line, kUnit);
+    if (row.Beside != nullptr) grid.addWidget(view.Place(*row.Beside), line, kBeside);
+}
 
 }  // namespace
 
-void AddFieldLines(FormView& view, QGridLayout& grid, std::initializer_list<FieldLine> lines) {
-    int row = grid.rowCount();
-    for (const FieldLine& line : lines) {
-        QWidget* box = view.WidgetOf(line.Box);
-        if (!box) continue;
-        if (line.Label) {
-            auto* label = qobject_cast<QLabel*>(view.WidgetOf(line.Label));
-            if (label) {
-                label->setBuddy(box);
-                grid.addWidget(label, row, 0);
-            }
-        }
-        if (line.Symbol) {
-            if (auto* symbol = qobject_cast<QLabel*>(view.WidgetOf(line.Symbol))) {
-                QFont font = symbol->font();
-                font.setItalic(true);
-                symbol->setFont(font);
-                grid.addWidget(symbol, row, 1, Qt::AlignCenter);
-            }
-        }
-        if (auto* edit = qobject_cast<QLineEdit*>(box)) {
-            edit->setAlignment(Qt::AlignRight | Qt::AlignAbsolute);
-            edit->setFixedWidth(kBoxWidth);
-            // Numbers run from left to right in every language.
-            edit->setLayoutDirection(Qt::LeftToRight);
-        }
-        grid.addWidget(box, row, 2);
-        if (line.Unit)
-            if (QWidget* unit = view.WidgetOf(line.Unit)) {
-                unit->setMinimumWidth(kUnitWidth);
-                grid.addWidget(unit, row, 3);
-            }
-        ++row;
-    }
-    grid.setColumnStretch(0, 1);
-    grid.setHorizontalSpacing(10);
-    grid.setVerticalSpacing(6);
-}
-
-QGroupBox* FieldGroup(FormView& view, const char* frame, std::initializer_list<FieldLine> lines) {
-    auto* group = qobject_cast<QGroupBox*>(view.WidgetOf(frame));
+QGridLayout* FieldGrid(QWidget* group) {
     auto* grid = new QGridLayout(group);
-    AddFieldLines(view, *grid, lines);
-    return group;
+    grid->setContentsMargins(kGroupPad, kGroupPad, kGroupPad, kGroupPad);
+    grid->setColumnStretch(kLabel, 1);
+    grid->setHorizontalSpacing(kColumnGap);
+    grid->setVerticalSpacing(kRowGap);
+    return grid;
 }
 
-QGroupBox* StackGroup(FormView& view, const char* frame, std::initializer_list<const char*> controls) {
-    auto* group = qobject_cast<QGroupBox*>(view.WidgetOf(frame));
-    auto* stack = new QVBoxLayout(group);
-    for (const char* name : controls)
-        if (QWidget* widget = view.WidgetOf(name)) stack->addWidget(widget);
-    return group;
+void AddLines(FormView& view, const FieldForm* form, QGridLayout& grid, const ControlList& controls) {
+    for (Control* control : controls) {
+        if (const FieldRow* row = form != nullptr ? form->RowOf(*control) : nullptr) {
+            grid.setColumnMinimumWidth(kSymbol, kSymbolWidth);
+            grid.setColumnMinimumWidth(kUnit, kUnitWidth);
+            AddFieldLine(view, grid, *row);
+            continue;
+        }
+        // A button is as wide as its words; everything else takes the line.
+        const Qt::Alignment at = control->Kind == ControlKind::Button ? Qt::AlignLeft : Qt::Alignment();
+        grid.addWidget(view.Place(*control), grid.rowCount(), 0, 1, kColumns, at);
+    }
 }
 
-QBoxLayout* ButtonRow(FormView& view, std::initializer_list<const char*> begin,
-                      std::initializer_list<const char*> end) {
+void AddLabelled(FormView& view, QGridLayout& grid, Control& label, Control& box) {
+    const int line = grid.rowCount();
+    auto& words = view.Place<QLabel>(label);
+    QWidget* widget = view.Place(box);
+    words.setBuddy(widget);
+    grid.addWidget(&words, line, 0);
+    grid.addWidget(widget, line, 1);
+}
+
+void FillGroup(FormView& view, const FieldForm& form, FrameBox& frame, const ControlList& controls) {
+    AddLines(view, &form, *FieldGrid(view.WidgetOf(frame)), controls);
+}
+
+void FillGroup(FormView& view, FrameBox& frame, const ControlList& controls) {
+    AddLines(view, nullptr, *FieldGrid(view.WidgetOf(frame)), controls);
+}
+
+QVBoxLayout* WindowColumn(FormView& view) {
+    auto* column = new QVBoxLayout(&view);
+    column->setContentsMargins(kEdge, kEdge, kEdge, kEdge);
+    column->setSpacing(kEdge);
+    return column;
+}
+
+QBoxLayout* ButtonRow(FormView& view, const ControlList& begin, const ControlList& end) {
     auto* row = new QHBoxLayout;
-    for (const char* name : begin)
-        if (QWidget* widget = view.WidgetOf(name)) row->addWidget(widget);
+    row->setSpacing(kColumnGap);
+    for (Control* button : begin) row->addWidget(view.Place(*button));
     row->addStretch(1);
-    for (const char* name : end)
-        if (QWidget* widget = view.WidgetOf(name)) row->addWidget(widget);
+    for (Control* button : end) row->addWidget(view.Place(*button));
     return row;
 }
 

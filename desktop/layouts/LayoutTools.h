@@ -1,33 +1,33 @@
-// Pieces that layouts are made of.
+// Pieces that layouts are made of. Controls are named by reference; each is placed once.
 #pragma once
 
-#include <initializer_list>
-#include <vector>
+#include "ui/model/FieldForm.h"
 
 class QBoxLayout;
 class QGridLayout;
-class QGroupBox;
+class QVBoxLayout;
 class QWidget;
 
 namespace lithmark {
 
 class FormView;
 
-// One field on a line of a grid: label, symbol, box, unit; null where there is none.
-struct FieldLine {
-    const char* Label;
-    const char* Symbol;
-    const char* Box;
-    const char* Unit;
-};
+// The grid of a group: label, symbol, box and unit in columns of one width for all groups.
+QGridLayout* FieldGrid(QWidget* group);
 
-// The group box of a frame, with a grid of fields in it: labels under each other, units beside the boxes.
-QGroupBox* FieldGroup(FormView& view, const char* frame, std::initializer_list<FieldLine> lines);
-// The group box of a frame with controls one under another.
-QGroupBox* StackGroup(FormView& view, const char* frame, std::initializer_list<const char*> controls);
-// Adds field lines to a grid.
-void AddFieldLines(FormView& view, QGridLayout& grid, std::initializer_list<FieldLine> lines);
+// Controls one under another: the line of a field for its box, any other control by itself. The form knows its fields;
+// without it every control stands by itself.
+void AddLines(FormView& view, const FieldForm* form, QGridLayout& grid, const ControlList& controls);
+// A label and what it is for, in a line of a grid.
+void AddLabelled(FormView& view, QGridLayout& grid, Control& label, Control& box);
+
+// Fills the box of a frame with lines.
+void FillGroup(FormView& view, const FieldForm& form, FrameBox& frame, const ControlList& controls);
+void FillGroup(FormView& view, FrameBox& frame, const ControlList& controls);
+
+// The column of a whole window, with its edges.
+QVBoxLayout* WindowColumn(FormView& view);
 // A row of buttons, the first ones at the side where the language begins, the others at its end.
-QBoxLayout* ButtonRow(FormView& view, std::initializer_list<const char*> begin, std::initializer_list<const char*> end);
+QBoxLayout* ButtonRow(FormView& view, const ControlList& begin, const ControlList& end);
 
 }  // namespace lithmark

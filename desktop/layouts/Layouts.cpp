@@ -1,7 +1,6 @@
 #include "desktop/layouts/Layouts.h"
 
-#include <map>
-#include <string>
+#include <unordered_map>
 
 #include "desktop/FormView.h"
 
@@ -9,28 +8,22 @@ namespace lithmark {
 
 namespace {
 
-using LayoutFunction = void (*)(FormView&);
-
-const std::map<std::string, LayoutFunction>& LayoutsByName() {
-    static const std::map<std::string, LayoutFunction> layouts = {
-        {"frmstress", LayoutStress},
-        {"frmResultTools", LayoutResultTools},
-        {"frmOptionDraw", LayoutOptionDraw},
-        {"frmProblemType", LayoutProblemType},
-        {"frmProjectCheck", LayoutProjectCheck},
-        {"frmAbout", LayoutAbout},
-        {"frmDataDir", LayoutDataDir},
-        {"frmUnits", LayoutUnits},
-        {"frmPreferences", LayoutPreferences},
-    };
+std::unordered_map<std::type_index, LayoutFunction>& LayoutsByForm() {
+    static std::unordered_map<std::type_index, LayoutFunction> layouts;
     return layouts;
 }
 
 }  // namespace
 
+void MakeLayoutKnown(std::type_index form, LayoutFunction layout) {
+    LayoutsByForm()[form] = std::move(layout);
+}
+
 void BuildLayout(FormView& view) {
-    const auto found = LayoutsByName().find(view.Model().Name);
-    (found == LayoutsByName().end() ? LayoutPlain : found->second)(view);
+    Form& form = view.Model();
+    const auto found = LayoutsByForm().find(typeid(form));
+    if (found == LayoutsByForm().end()) return LayoutPlain(view);
+    found->second(view, form);
 }
 
 }  // namespace lithmark

@@ -17,6 +17,7 @@
 #include "../ui/AllForms.h"
 #include "../ui/FormTest.h"
 #include "desktop/FormView.h"
+#include "desktop/drawings/Drawings.h"
 #include "ui/model/FieldForm.h"
 
 namespace lithmark::tests {
@@ -69,14 +70,25 @@ class FormViewTest : public FormTest {
     }
 };
 
-TEST_F(FormViewTest, EveryControlHasAWidgetOfItsNameThatIsPlaced) {
+TEST_F(FormViewTest, EveryControlHasAWidgetOfItsNameThatIsPlacedOnce) {
     std::vector<std::string> failing;
     ForAllForms([&](Form& form, FormView& view, const std::string& name) {
         for (const Control* control : form.Controls()) {
             auto* widget = view.findChild<QWidget*>(QString::fromStdString(control->Name));
-            if (widget == nullptr || !Holds(widget->parentWidget()->layout(), widget))
+            if (widget == nullptr || view.TimesPlaced(*control) != 1 ||
+                !Holds(widget->parentWidget()->layout(), widget))
                 failing.push_back(name + ": " + control->Name);
         }
+    });
+    EXPECT_THAT(failing, IsEmpty());
+}
+
+TEST_F(FormViewTest, EveryDrawingThatAFormNamesExists) {
+    std::vector<std::string> failing;
+    ForAllForms([&](Form& form, FormView&, const std::string& name) {
+        for (const Control* control : form.Controls())
+            if (!control->Drawing.empty() && FindDrawing(control->Drawing) == nullptr)
+                failing.push_back(name + ": " + control->Drawing);
     });
     EXPECT_THAT(failing, IsEmpty());
 }
@@ -132,9 +144,9 @@ TEST_F(FormViewTest, TabFollowsTheWayOfTheEnterKey) {
             auto* widget = view.findChild<QWidget*>(QString::fromStdString(control.Name));
             return std::find(chain.begin(), chain.end(), widget) - chain.begin();
         };
-        for (const EnterRow& row : fields->EnterRows())
-            for (const EnterStep& step : row.Steps)
-                EXPECT_GT(placeOf(*step.To), placeOf(*row.From)) << name << ": " << row.From->Name;
+        for (const FieldRow& row : fields->Fields())
+            for (const EnterStep& step : row.Enter)
+                EXPECT_GT(placeOf(*step.To), placeOf(row.Box)) << name << ": " << row.Box.Name;
     });
 }
 

@@ -79,7 +79,7 @@ class ControlList {
     }
     ControlList(std::initializer_list<ControlList> parts) {
         for (const ControlList& part : parts)
-            controls_.insert(controls_.end(), part.controls_.begin(), part.controls_.end());
+            for (Control* control : part.controls_) controls_.push_back(control);
     }
 
     std::size_t Count() const noexcept { return controls_.size(); }

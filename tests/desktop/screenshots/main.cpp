@@ -6,7 +6,9 @@
 #include <QTemporaryDir>
 #include <QTextStream>
 #include <QTimer>
+#include <set>
 
+#include "../../ui/AllForms.h"
 #include "contour/CurveSets.h"
 #include "core/Catalogue.h"
 #include "core/Session.h"
@@ -17,7 +19,7 @@
 #include "desktop/QtHost.h"
 #include "desktop/SplashView.h"
 #include "kernels/RunKernel.h"
-#include "kernels/stress/BasSoilStress.h"
+#include "render/QtText.h"
 #include "services/SharedServices.h"
 #include "services/storage/WrittenFile.h"
 #include "services/texts/LanguageTexts.h"
@@ -83,6 +85,35 @@ void WriteExample(const std::string& folder) {
     WriteWholeFile(folder + "Empty.PO3", "Version 9\r\n9\r\n0\r\n");
 }
 
+// Of an option its place, of a check box the ticked one.
+int PositionOf(const ChoiceRow& choice, const Control& control) {
+    if (control.Kind == ControlKind::CheckBox) return 1;
+    int position = 0;
+    while (&choice.Of[static_cast<std::size_t>(position)] != &control) ++position;
+    return position;
+}
+
+// The dialogs of all problems, and the first of each kind with each of its choices made otherwise.
+void TakeProblemDialogs(Gallery& gallery) {
+    std::set<std::string> taken;
+    for (const tests::FormRow& row : tests::AllForms()) {
+        const std::unique_ptr<Form> form = row.Make();
+        auto* dialog = dynamic_cast<PictureForm*>(form.get());
+        if (dialog == nullptr) continue;
+        Session.ProblemType = row.ProblemType;
+        gallery.Take(*dialog, QStringLiteral("%1-%2").arg(Q(dialog->Name)).arg(row.ProblemType));
+        if (!taken.insert(dialog->Name).second) continue;
+        for (const ChoiceRow& choice : dialog->Choices())
+            for (const Control* control : choice.Of) {
+                if (control->Value || control->Kind == ControlKind::ComboBox) continue;
+                gallery.Take(*dialog, Q(dialog->Name + "-" + control->Name), [&] {
+                    choice.SetPosition(PositionOf(choice, *control));
+                    if (choice.OnClick) choice.OnClick();
+                });
+            }
+    }
+}
+
 bool TakeAll(const QString& folder, Language language, const QString& code) {
     const QTemporaryDir place;
     const std::string settings = place.path().toStdString() + "/";
@@ -114,22 +145,13 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
     gallery.Take(splashView, QStringLiteral("splash"));
     splashView.hide();
 
+    TakeProblemDialogs(gallery);
     frmstress stress;
-    for (const int problem : {1, 2, 3}) {
-        Session.ProblemType = problem;
-        gallery.Take(stress, QStringLiteral("frmstress-%1").arg(problem));
-    }
-    for (const int load : {0, 2})
-        gallery.Take(stress, QStringLiteral("frmstress-load%1").arg(load), [&] {
-            stress.SelectOption(stress.optLoadType[load]);
-            stress.optLoadType_Click(load);
-        });
     Session.ProblemType = 1;
     stress.Reopen();
     stress.Load();
     stress.cmdSave_Click();
-    ComputeSoilStress(Session.x, Session.y, Session.z, Session.Q, Session.P, Session.A, Session.B, Session.Nue,
-                      Session.Es, Session.LoadType);
+    RunProblemKernel();
     frmResultTools results;
     gallery.Take(results, QStringLiteral("frmResultTools"));
 

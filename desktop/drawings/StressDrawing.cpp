@@ -1,66 +1,18 @@
-#include "desktop/ProblemDrawing.h"
-
-#include <QPainter>
+// Stresses, strains and displacements at a point: the half-space in parallel perspective with the load, the axes and
+// the point with its coordinates.
 #include <QPainterPath>
 #include <cmath>
 #include <numbers>
+#include <vector>
+
+#include "desktop/drawings/Drawings.h"
+#include "desktop/drawings/Scene.h"
 
 namespace lithmark {
 
 namespace {
 
-const QColor kInk(0x1F, 0x2A, 0x36), kSoil(0xF1, 0xE3, 0xC8), kSoilSide(0xE4, 0xD2, 0xAE), kLoad(0x0B, 0x5F, 0xA5),
-    kLoadArea(0x9C, 0xC8, 0xEC, 200), kPoint(0xC2, 0x3B, 0x22), kAxis(0x5A, 0x66, 0x72);
-
-// A parallel perspective: x to the lower left, y to the right, z downwards.
-class Scene {
-  public:
-    Scene(QPainter& painter, const QRect& area)
-        : Painter(painter),
-          scale_(std::min(area.width() / 12.8, area.height() / 10.4)),
-          origin_(area.left() + area.width() * 0.48, area.top() + area.height() * 0.5 - 1.85 * scale_) {}
-
-    QPointF At(double x, double y, double z) const {
-        return origin_ + QPointF(y * scale_ - 0.5 * x * scale_, 0.38 * x * scale_ + z * scale_);
-    }
-    double Scale() const { return scale_; }
-
-    void Line(const QPointF& from, const QPointF& to, const QPen& pen) const {
-        Painter.setPen(pen);
-        Painter.drawLine(from, to);
-    }
-    void Arrow(const QPointF& from, const QPointF& to, const QPen& pen) const {
-        Line(from, to, pen);
-        const double angle = std::atan2(to.y() - from.y(), to.x() - from.x());
-        const double size = (pen.widthF() > 2 ? 0.5 : 0.22) * scale_;
-        QPolygonF head;
-        head << to << to - QPointF(size * std::cos(angle - 0.4), size * std::sin(angle - 0.4))
-             << to - QPointF(size * std::cos(angle + 0.4), size * std::sin(angle + 0.4));
-        Painter.setBrush(pen.color());
-        Painter.setPen(Qt::NoPen);
-        Painter.drawPolygon(head);
-    }
-    void Polygon(const QPolygonF& polygon, const QPen& pen, const QBrush& brush) const {
-        Painter.setPen(pen);
-        Painter.setBrush(brush);
-        Painter.drawPolygon(polygon);
-    }
-    // A symbol centred at a place.
-    void Symbol(const QPointF& place, const QString& text, const QColor& color) const {
-        QFont font(QStringLiteral("DejaVu Sans"));
-        font.setPixelSize(std::max(11, static_cast<int>(0.42 * scale_)));
-        font.setItalic(true);
-        Painter.setFont(font);
-        Painter.setPen(color);
-        Painter.drawText(QRectF(place.x() - 40, place.y() - 15, 80, 30), Qt::AlignCenter, text);
-    }
-
-    QPainter& Painter;
-
-  private:
-    double scale_;
-    QPointF origin_;
-};
+using namespace inks;
 
 void DrawGround(const Scene& s) {
     const double x = 3.4, y = 4.2, z = 5.2;
@@ -139,17 +91,19 @@ void DrawPointLoad(const Scene& s) {
     s.Symbol(s.At(0, 0.45, -1.9), QStringLiteral("Q"), kLoad);
 }
 
-}  // namespace
-
-void DrawStressProblem(QPainter& painter, const QRect& area, int load) {
+void Draw(QPainter& painter, const QRect& area, const std::string& load) {
     painter.fillRect(area, Qt::white);
     const Scene scene(painter, area);
     DrawGround(scene);
     DrawAxes(scene);
     DrawPoint(scene);
-    if (load == 0) DrawPointLoad(scene);
-    if (load == 1) DrawRectangle(scene);
-    if (load == 2) DrawCircle(scene);
+    if (load == "point") DrawPointLoad(scene);
+    if (load == "rectangle") DrawRectangle(scene);
+    if (load == "circle") DrawCircle(scene);
 }
+
+const DrawingNamed kDrawing("stress", Draw);
+
+}  // namespace
 
 }  // namespace lithmark

@@ -1,0 +1,19 @@
+// The measures of all windows, in logical pixels.
+#pragma once
+
+namespace lithmark::sizes {
+
+inline constexpr int kRowGap = 6;     // between the rows of a group
+inline constexpr int kGroupPad = 8;   // inside a group
+inline constexpr int kEdge = 12;      // at the edges of a window
+inline constexpr int kGroupGap = 16;  // between columns and groups that stand apart
+inline constexpr int kPagePad = 24;   // of a page
+inline constexpr int kColumnGap = 8;  // between the parts of a field's line
+
+// One width for all boxes, units and symbols, so that they stand under each other from group to group.
+inline constexpr int kBoxWidth = 120, kUnitWidth = 68, kSymbolWidth = 48;
+
+inline constexpr int kPictureWidth = 300, kPictureHeight = 260;  // the least
+inline constexpr double kScreenShare = 0.95;                     // of the free area, for a window at most
+
+}  // namespace lithmark::sizes
