@@ -27,9 +27,18 @@ void PlaceBox(FormView& view, QGridLayout& grid, int line, const FieldRow& row) 
         // Numbers run from left to right in every language.
         edit->setLayoutDirection(Qt::LeftToRight);
     }
-    // Where nothing follows, words have the rest of the line.
-    const bool alone = row.In.On == nullptr && row.Beside == nullptr && !row.Field.Exists();
-    grid.addWidget(box, line, kBox, 1, alone ? kColumns - kBox : 1);
+    if (row.In.On != nullptr || (row.Field.Exists() && row.Beside == nullptr)) {
+        grid.addWidget(box, line, kBox);
+        if (row.In.On != nullptr) grid.addWidget(view.Place(*row.In.On), line, kUnit);
+        if (row.Beside != nullptr) grid.addWidget(view.Place(*row.Beside), line, kBeside);
+        return;
+    }
+    // Words have the rest of the line, beside what follows them.
+    auto* rest = new QHBoxLayout;
+    rest->setSpacing(kColumnGap);
+    rest->addWidget(box, 1);
+    if (row.Beside != nullptr) rest->addWidget(view.Place(*row.Beside));
+    grid.addLayout(rest, line, kBox, 1, kColumns - kBox);
 }
 
 void AddFieldLine(FormView& view, QGridLayout& grid, const FieldRow& row) {
@@ -48,8 +57,6 @@ void AddFieldLine(FormView& view, QGridLayout& grid, const FieldRow& row) {
     }
     PlaceBox(view, grid, line, row);
     if (label != nullptr) label->setBuddy(view.WidgetOf(row.Box));
-    if (row.In.On != nullptr) grid.addWidget(view.Place(*row.In.On), line, kUnit);
-    if (row.Beside != nullptr) grid.addWidget(view.Place(*row.Beside), line, kBeside);
 }
 
 }  // namespace

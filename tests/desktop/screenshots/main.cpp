@@ -105,11 +105,13 @@ void TakeProblemDialogs(Gallery& gallery) {
         if (!taken.insert(dialog->Name).second) continue;
         for (const ChoiceRow& choice : dialog->Choices())
             for (const Control* control : choice.Of) {
-                if (control->Value || control->Kind == ControlKind::ComboBox) continue;
-                gallery.Take(*dialog, Q(dialog->Name + "-" + control->Name), [&] {
-                    choice.SetPosition(PositionOf(choice, *control));
-                    if (choice.OnClick) choice.OnClick();
-                });
+                if (control->Kind == ControlKind::ComboBox) continue;
+                const QString name = Q(dialog->Name + "-" + control->Name);
+                gallery.Take(*dialog,
+                             QString(name).replace(QLatin1Char('('), QLatin1Char('-')).remove(QLatin1Char(')')), [&] {
+                                 choice.SetPosition(PositionOf(choice, *control));
+                                 if (choice.OnClick) choice.OnClick();
+                             });
             }
     }
 }
