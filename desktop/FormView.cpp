@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDateEdit>
 #include <QEventLoop>
 #include <QGroupBox>
@@ -14,6 +15,7 @@
 #include <QRadioButton>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QScrollArea>
 #include <QSet>
 #include <QTabBar>
 
@@ -252,6 +254,8 @@ void FormView::FitContent() {
         if (control->Kind == ControlKind::Picture && control->Visible) ++shown;
     const bool first = picturesShown_ < 0, pictures = shown != picturesShown_;
     picturesShown_ = shown;
+    // What stands deep inside tells its new size from group to group up to the window.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     layout()->activate();
     const QSize wanted = sizeHint().boundedTo(Room());
     const bool grown = wanted.height() > heightWanted_;
@@ -335,6 +339,8 @@ void FormView::FocusOn(const Control& control) {
     if (!refreshing_) Refresh();
     QWidget* widget = WidgetOf(control);
     widget->setFocus(Qt::OtherFocusReason);
+    for (QWidget* parent = widget->parentWidget(); parent != nullptr; parent = parent->parentWidget())
+        if (auto* scrolled = qobject_cast<QScrollArea*>(parent)) scrolled->ensureWidgetVisible(widget);
     if (auto* box = qobject_cast<QLineEdit*>(widget)) box->selectAll();
 }
 

@@ -8,6 +8,7 @@
 
 #include "desktop/Icons.h"
 #include "desktop/PageTools.h"
+#include "desktop/Sizes.h"
 #include "render/QtText.h"
 #include "services/texts/LanguageTexts.h"
 
@@ -36,8 +37,8 @@ ProjectView::ProjectView(QWidget* parent) : QWidget(parent) {
     auto* content = new QWidget(this);
     content->setMaximumWidth(kColumnWidth);
     auto* column = new QVBoxLayout(content);
-    column->setContentsMargins(24, 24, 24, 24);
-    column->setSpacing(8);
+    column->setContentsMargins(sizes::kPagePad, sizes::kPagePad, sizes::kPagePad, sizes::kPagePad);
+    column->setSpacing(sizes::kColumnGap);
 
     name_ = PageLabel(content, {}, 2.2, true);
     name_->setObjectName(QStringLiteral("projectName"));
@@ -55,7 +56,7 @@ ProjectView::ProjectView(QWidget* parent) : QWidget(parent) {
     card->setAutoFillBackground(true);
     auto* inside = new QVBoxLayout(card);
     inside->setContentsMargins(20, 18, 20, 18);
-    inside->setSpacing(12);
+    inside->setSpacing(sizes::kEdge);
     auto* head = new QHBoxLayout;
     head->setSpacing(14);
     problemIcon_ = new QLabel(card);
@@ -83,7 +84,7 @@ ProjectView::ProjectView(QWidget* parent) : QWidget(parent) {
     inside->addLayout(grid);
 
     auto* state = new QHBoxLayout;
-    state->setSpacing(8);
+    state->setSpacing(sizes::kColumnGap);
     stateIcon_ = new QLabel(card);
     state->addWidget(stateIcon_);
     state_ = PageLabel(card, {}, 1, false);
@@ -95,7 +96,7 @@ ProjectView::ProjectView(QWidget* parent) : QWidget(parent) {
     column->addSpacing(12);
 
     auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(12);
+    buttons->setSpacing(sizes::kEdge);
     const auto button = [&](const char* name) {
         auto* made = new PageButton(content, 48, true);
         made->setObjectName(QString::fromLatin1(name));

@@ -29,9 +29,10 @@ QSize ScrollColumn::minimumSizeHint() const {
     return {widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width(), kLeastHeight};
 }
 
-bool ScrollColumn::event(QEvent* event) {
-    if (event->type() == QEvent::LayoutRequest) updateGeometry();
-    return QScrollArea::event(event);
+// The area watches what it holds.
+bool ScrollColumn::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == widget() && event->type() == QEvent::LayoutRequest) updateGeometry();
+    return QScrollArea::eventFilter(watched, event);
 }
 
 }  // namespace lithmark

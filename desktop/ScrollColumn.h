@@ -13,7 +13,7 @@ class ScrollColumn : public QScrollArea {
     QSize minimumSizeHint() const override;
 
   protected:
-    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 };
 
 }  // namespace lithmark

@@ -6,6 +6,7 @@
 
 #include "desktop/Icons.h"
 #include "desktop/PageTools.h"
+#include "desktop/Sizes.h"
 #include "render/QtText.h"
 #include "services/texts/LanguageTexts.h"
 
@@ -29,7 +30,7 @@ StartView::StartView(MDITools& frame, QWidget* parent) : QWidget(parent) {
     auto* content = new QWidget(this);
     content->setMaximumWidth(kColumnWidth);
     auto* column = new QVBoxLayout(content);
-    column->setContentsMargins(24, 24, 24, 24);
+    column->setContentsMargins(sizes::kPagePad, sizes::kPagePad, sizes::kPagePad, sizes::kPagePad);
     column->setSpacing(10);
 
     auto* head = new QHBoxLayout;
@@ -47,7 +48,7 @@ StartView::StartView(MDITools& frame, QWidget* parent) : QWidget(parent) {
     column->addSpacing(22);
 
     auto* commands = new QHBoxLayout;
-    commands->setSpacing(12);
+    commands->setSpacing(sizes::kEdge);
     for (const char* key : {"mnuNewProject", "mnuOpenProject"}) {
         const MenuItem& item = frame.Menu[key];
         auto* button = new PageButton(content, 56, true);

@@ -16,10 +16,9 @@ namespace {
 namespace fs = std::filesystem;
 
 // Floors from the lowest up; cli and desktop share the top.
-const std::map<std::string, int> kFloors = {{"base", 0},  {"texts", 1},  {"services", 2}, {"core", 3},
-                                            {"files", 4}, {"report", 5}, {"kernels", 6},  {"contour", 7},
-                                            {"ui", 8},    {"study", 9},  {"render", 10},  {"cli", 11},
-                                            {"desktop", 11}};
+const std::map<std::string, int> kFloors = {{"base", 0},    {"texts", 1},   {"services", 2}, {"core", 3}, {"files", 4},
+                                            {"report", 5},  {"kernels", 6}, {"contour", 7},  {"ui", 8},   {"study", 9},
+                                            {"render", 10}, {"cli", 11},    {"desktop", 11}};
 
 struct SourceFile {
     std::string Path;   // relative to the root
@@ -88,6 +87,27 @@ TEST(Walls, ServicesNeverReadTheStateRecord) {
     for (const auto& file : Sources())
         if (file.Floor == "services") {
             EXPECT_FALSE(std::regex_search(file.Text, state)) << file.Path;
+        }
+}
+
+// The frame shows the dialogs; a dialog that looked back would tie every form to the whole program.
+TEST(Walls, DialogsDoNotKnowTheFrame) {
+    static const std::regex dialog(R"(^ui/(model/)?\w+\.(h|cpp)$)");
+    int dialogs = 0;
+    for (const auto& file : Sources()) {
+        if (!std::regex_match(file.Path, dialog)) continue;
+        ++dialogs;
+        for (const auto& name : Includes(file.Text)) EXPECT_FALSE(name.starts_with("ui/frame/")) << file.Path;
+    }
+    EXPECT_GT(dialogs, 20);
+}
+
+// Windows show what a model says. A cast to the class of one form is a behaviour that the model does not tell.
+TEST(Walls, WindowsCastToNoForm) {
+    static const std::regex cast(R"(_cast<\s*(const\s+)?(frm\w+|\w*Form)\b\s*[*&])");
+    for (const auto& file : Sources())
+        if (file.Floor == "desktop") {
+            EXPECT_FALSE(std::regex_search(file.Text, cast)) << file.Path;
         }
 }
 

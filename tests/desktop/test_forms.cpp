@@ -11,6 +11,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTabBar>
 #include <QTest>
 
@@ -284,6 +286,50 @@ TEST_F(StressViewTest, HidingThePictureMakesTheWindowNarrower) {
         EXPECT_LT(view_->width(), width);
     else
         EXPECT_GT(view_->width(), width);
+}
+
+// 1366 x 768 at 125 % leave less than this, with the widest words.
+TEST_F(StressViewTest, OnASmallScreenTheFieldsScrollAndTheButtonsStay) {
+    StartIn(Language::German);
+    Session.ProblemType = 2;
+    Open();
+    view_->resize(view_->width(), 320);
+    QCoreApplication::processEvents();
+    ASSERT_EQ(view_->height(), 320);
+    auto* column = view_->findChild<QScrollArea*>();
+    ASSERT_NE(column, nullptr);
+    EXPECT_TRUE(column->verticalScrollBar()->isVisible());
+    EXPECT_FALSE(column->horizontalScrollBar()->isVisible());
+    for (const char* name : {"cmdSave", "cmdSaveAs", "cmdOpen", "CmdMoreLess", "cmdHelp", "cmdResult", "cmdok"}) {
+        const auto* button = view_->findChild<QPushButton*>(QString::fromLatin1(name));
+        EXPECT_EQ(button->visibleRegion().boundingRect().size(), button->size()) << name;
+    }
+    EXPECT_TRUE(Box("txt_Nue").visibleRegion().isEmpty());
+    // The way of the Enter key brings each box into sight.
+    Box("txt_P").setFocus();
+    for (const char* name : {"txt_P", "txt_A", "txt_B", "txt_x", "txt_y", "txt_z", "txt_Es"})
+        QTest::keyClick(&Box(name), Qt::Key_Return);
+    EXPECT_EQ(QApplication::focusWidget(), &Box("txt_Nue"));
+    EXPECT_EQ(Box("txt_Nue").visibleRegion().boundingRect().size(), Box("txt_Nue").size());
+}
+
+TEST_F(StressViewTest, FieldsThatComeIntoSightFindTheirRoom) {
+    Session.ProblemType = 2;
+    Open();
+    Click("optLoadType(0)");
+    QCoreApplication::processEvents();
+    view_->resize(view_->sizeHint());
+    QCoreApplication::processEvents();
+    const int before = view_->height();
+    Click("optLoadType(1)");
+    QCoreApplication::processEvents();
+    EXPECT_GT(view_->height(), before);
+    EXPECT_FALSE(view_->findChild<QScrollArea*>()->verticalScrollBar()->isVisible());
+    // Fewer fields leave the window as large as it is.
+    const int grown = view_->height();
+    Click("optLoadType(0)");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(view_->height(), grown);
 }
 
 TEST_F(FormViewTest, ABadValueOnTheOtherTabBringsThatTab) {
