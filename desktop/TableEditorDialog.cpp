@@ -76,7 +76,7 @@ bool TableEditorDialog::Check() {
             const TableEdit::Column& column = table_.Columns[static_cast<std::size_t>(c)];
             const auto number = ParseNumber(grid_->item(r, c)->text().toStdString(), SharedServices().DecimalSign);
             const bool whole = column.Accepts == TableEdit::Kind::Whole;
-            const bool ranged = column.Accepts != TableEdit::Kind::Free;
+            const bool ranged = column.Accepts != TableEdit::Kind::Positive;
             if (number && (!whole || *number == std::floor(*number)) &&
                 (!ranged || (*number >= column.Lower && *number <= column.Upper)))
                 continue;

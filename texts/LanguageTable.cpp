@@ -42,6 +42,7 @@ constexpr LanguageRow kRows[] = {
 #include "texts/tables/own_kernels.inc"
 #include "texts/tables/own_notices.inc"
 #include "texts/tables/own_help.inc"
+#include "texts/tables/own_dialogs.inc"
     // clang-format on
 };
 

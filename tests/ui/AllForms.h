@@ -2,15 +2,24 @@
 #pragma once
 
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "ui/frmAbout.h"
+#include "ui/frmConsolidation.h"
+#include "ui/frmConsolidationRate.h"
 #include "ui/frmDataDir.h"
+#include "ui/frmMethodtype.h"
 #include "ui/frmOptionDraw.h"
 #include "ui/frmPreferences.h"
 #include "ui/frmProblemType.h"
 #include "ui/frmProjectCheck.h"
 #include "ui/frmResultTools.h"
+#include "ui/frmRigidConsolidation.h"
+#include "ui/frmRigidDisplacement.h"
+#include "ui/frmTimeSettlement1.h"
+#include "ui/frmTimeSettlement2.h"
+#include "ui/frmTimeSettlement3.h"
 #include "ui/frmUnits.h"
 #include "ui/frmstress.h"
 
@@ -24,6 +33,7 @@ struct FormRow {
     const char* CloseButton;  // closes and stores nothing
     std::unique_ptr<Form> (*Make)();
     HelpBy Help = HelpBy::Text;
+    std::vector<std::string> AtOnce = {};  // fields of Session that a click sets without waiting for a store
 };
 
 template <typename F>
@@ -40,6 +50,14 @@ inline const std::vector<FormRow>& AllForms() {
         {1, "cmdok", MakeForm<frmstress>},
         {2, "cmdok", MakeForm<frmstress>},
         {3, "cmdok", MakeForm<frmstress>},
+        {4, "cmdok", MakeForm<frmConsolidation>},
+        {5, "cmdok", MakeForm<frmConsolidationRate>},
+        {6, "CmdCancel", MakeForm<frmMethodtype>},
+        {6, "cmdok", MakeForm<frmTimeSettlement1>, HelpBy::Text, {"TimeUnit"}},
+        {7, "cmdok", MakeForm<frmTimeSettlement2>, HelpBy::Text, {"TimeUnit", "OedUnit"}},
+        {8, "cmdok", MakeForm<frmTimeSettlement3>, HelpBy::Text, {"TimeUnit"}},
+        {9, "CmdOK", MakeForm<frmRigidDisplacement>},
+        {10, "CmdOK", MakeForm<frmRigidConsolidation>},
         {1, "cmdok", MakeForm<frmResultTools>},
         {10, "cmdok", MakeForm<frmResultTools>},
         {8, "CmdCancel", MakeForm<frmOptionDraw>},

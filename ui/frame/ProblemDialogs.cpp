@@ -6,6 +6,14 @@
 #include "core/Catalogue.h"
 #include "core/Session.h"
 #include "services/host/Host.h"
+#include "ui/frmConsolidation.h"
+#include "ui/frmConsolidationRate.h"
+#include "ui/frmMethodtype.h"
+#include "ui/frmRigidConsolidation.h"
+#include "ui/frmRigidDisplacement.h"
+#include "ui/frmTimeSettlement1.h"
+#include "ui/frmTimeSettlement2.h"
+#include "ui/frmTimeSettlement3.h"
 #include "ui/frmstress.h"
 
 namespace lithmark {
@@ -29,6 +37,14 @@ constexpr DialogRow kDialogs[] = {
     {Problem::SoilStress, Make<frmstress>},
     {Problem::SoilStrain, Make<frmstress>},
     {Problem::SoilDisplacement, Make<frmstress>},
+    {Problem::Consolidation, Make<frmConsolidation>},
+    {Problem::ConsolidationRate, Make<frmConsolidationRate>},
+    {kMethodChoice, Make<frmMethodtype>},
+    {Problem::TimeDirect, Make<frmTimeSettlement1>},
+    {Problem::TimeOedometer, Make<frmTimeSettlement2>},
+    {Problem::TimeTheory, Make<frmTimeSettlement3>},
+    {Problem::RaftDisplacement, Make<frmRigidDisplacement>},
+    {Problem::RaftConsolidation, Make<frmRigidConsolidation>},
 };
 
 const DialogRow* FindDialog(int problemType) {
