@@ -31,10 +31,8 @@ frmTimeSettlement2::frmTimeSettlement2()
                            [] { return Text(300042_text) + " " + UnitOf(1); }},
                           {}, [this] { optOdomterUnit_Click(); }),
                 Measured()});
-    std::vector<CaptionRow> captions = SharedCaptions();
-    captions.push_back({frmOdomterUnit, 300041_text, Style{4}});
-    captions.push_back({CmdOdomterSettlement, 300036_text, Style{1}});
-    SetCaptionRows(std::move(captions));
+    SetCaptionRows(
+        WithSharedCaptions({{frmOdomterUnit, 300041_text, Style{4}}, {CmdOdomterSettlement, 300036_text, Style{1}}}));
     CmdOdomterSettlement.OnClick = [this] { CmdOdomterSettlement_Click(); };
 }
 
@@ -55,9 +53,9 @@ void frmTimeSettlement2::optOdomterUnit_Click() {
 }
 
 void frmTimeSettlement2::CmdOdomterSettlement_Click() {
-    const EditedColumn time{{TableHead(10247_text, "Tm", Text(122_text)), TableEdit::Kind::Positive}, "0.00"};
-    const EditedColumn settlement{{TableHead(40081_text, "Sm", Session.OedUnit), TableEdit::Kind::Positive},
-                                  Session.OedUnit == kPerCent ? "0.00" : "0.0000"};
+    const EditedColumn time(TableHead(10247_text, "Tm", Text(122_text)), "0.00", TableEdit::Kind::Positive);
+    const EditedColumn settlement(TableHead(40081_text, "Sm", Session.OedUnit),
+                                  Session.OedUnit == kPerCent ? "0.00" : "0.0000", TableEdit::Kind::Positive);
     UnderCommonStep([&] {
         EditRows(300036_text, 906505_text, TableHead(13_text, Text(90000_text), "[-]"), time, settlement, Session.NOed,
                  Session.OedTime, Session.OedSettlement);

@@ -31,9 +31,7 @@ frmTimeSettlement3::frmTimeSettlement3()
                 ChoiceRow(chk_Cv, {300022_text}, {&R::CvChoice, {CvFrom::SoilData, CvFrom::Input}},
                           [this] { chk_Cv_Click(); }),
                 Measured()});
-    std::vector<CaptionRow> captions = SharedCaptions();
-    captions.push_back({frmSoilProperties, 140162_text, Style{4}});
-    SetCaptionRows(std::move(captions));
+    SetCaptionRows(WithSharedCaptions({{frmSoilProperties, 140162_text, Style{4}}}));
 }
 
 void frmTimeSettlement3::chk_Cv_Click() {

@@ -129,7 +129,7 @@ TEST_F(RateDialog, AConstantPressureHidesTheLoadWithItsPoint) {
         EXPECT_FALSE(form.txt_U.Visible);
         EXPECT_TRUE(form.txt_x.Visible);
         EXPECT_TRUE(form.txt_P.Visible);
-        EXPECT_TRUE(form.lblknm1.Visible);
+        EXPECT_TRUE(form.lblLoadUnit.Visible);
         EXPECT_FALSE(form.txt_Q.Visible);
         Click(form, "optLoadType(0)");
         EXPECT_TRUE(form.txt_Q.Visible);

@@ -43,7 +43,7 @@ TEST_F(TimeDialog, ShowsTheDefaultsAndOffersTheTimesUpToThreeStepsPastTheLastLoa
         EXPECT_EQ(form.txt_Sc.Text, "12.10");
         EXPECT_EQ(form.txt_Pt.Text, "6350.0");
         EXPECT_EQ(form.txt_Sm.Text, "4.61");
-        EXPECT_EQ(form.txtTimePeriod.Text, "18");
+        EXPECT_EQ(form.txtTimePeriod.Text, "18.00");
         EXPECT_EQ(form.txt_Date.Text, Session.Datum);
         EXPECT_EQ(form.DTPicker1.Text, Session.Datum);
         EXPECT_TRUE(form.optTimeUnit[0].Value);
@@ -136,12 +136,14 @@ TEST_F(TimeDialog, AnOpenedFileShowsOnlyWhenTheDialogOpensAgain) {
 }
 
 TEST_F(TimeDialog, AnUntouchedDateStaysAndATypedOneIsWrittenAsALongDate) {
-    On<frmTimeSettlement1>(6, [this](frmTimeSettlement1& form) {
-        Session.StartDate = "Montag, 4. Mai 2026";
-        host.OnForm<frmTimeSettlement1>([](frmTimeSettlement1&) {});
-    });
-    host.Verify();
+    On<frmTimeSettlement1>(6, [](frmTimeSettlement1& form) { Click(form, "cmdSave"); });
     Session.StartDate.clear();
+    Session.Datum = "Montag, 4. Mai 2026";  // from a project that was made in German
+    SetProblemSaved(6, false);
+    On<frmTimeSettlement1>(6, [this](frmTimeSettlement1& form) {
+        GetResult(form);
+        EXPECT_EQ(Session.StartDate, "Montag, 4. Mai 2026");
+    });
     On<frmTimeSettlement1>(6, [this](frmTimeSettlement1& form) {
         Type(form, "txt_Date", "2026-05-04");
         GetResult(form);

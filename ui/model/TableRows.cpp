@@ -54,6 +54,15 @@ bool Edit(TextId title, TextId help, const std::string& rowHead, const EditedCol
 
 }  // namespace
 
+EditedColumn::EditedColumn(const std::string& head, const std::string& format, TableEdit::Kind accepts, double lower,
+                           double upper)
+    : Format(format) {
+    Head.Head = head;
+    Head.Accepts = accepts;
+    Head.Lower = lower;
+    Head.Upper = upper;
+}
+
 std::string TableHead(TextId title, const std::string& symbol, const std::string& unit) {
     return Text(title) + "\n" + symbol + "\n" + unit;
 }

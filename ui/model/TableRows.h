@@ -13,6 +13,8 @@ namespace lithmark {
 
 // A column of the editor and the format that its cells are shown and read in.
 struct EditedColumn {
+    EditedColumn(const std::string& head, const std::string& format, TableEdit::Kind accepts, double lower = 0,
+                 double upper = 1e38);
     TableEdit::Column Head;
     std::string Format;
 };

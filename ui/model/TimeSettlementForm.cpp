@@ -91,12 +91,13 @@ ChoiceRow TimeSettlementForm::Measured() {
     return ChoiceRow(chkMs, {300046_text}, {&R::Ms, {0, 1}}, [this] { chkMs_Click(); });
 }
 
-std::vector<CaptionRow> TimeSettlementForm::SharedCaptions() {
+std::vector<CaptionRow> TimeSettlementForm::WithSharedCaptions(std::vector<CaptionRow> own) {
     constexpr Style kHeading{4}, kButton{1};
-    return {{fraData, 300021_text, kHeading},
-            {frmSelectTimeUnit, 300037_text, kHeading},
-            {frmEMS, 300030_text, kHeading},
-            {cmdTimeLoad, 400125_text, kButton}};
+    own.insert(own.end(), {{fraData, 300021_text, kHeading},
+                           {frmSelectTimeUnit, 300037_text, kHeading},
+                           {frmEMS, 300030_text, kHeading},
+                           {cmdTimeLoad, 400125_text, kButton}});
+    return own;
 }
 
 void TimeSettlementForm::ShowChoices() {
@@ -130,10 +131,10 @@ void TimeSettlementForm::FillTimes() {
 }
 
 void TimeSettlementForm::cmdTimeLoad_Click() {
-    const EditedColumn time{{TableHead(10247_text, "N", Session.TimeUnit), TableEdit::Kind::Whole, 32000, 1}, "0"};
+    const EditedColumn time(TableHead(10247_text, "N", Session.TimeUnit), "0", TableEdit::Kind::Whole, 1, 32000);
     // Deliberate: the load is a percentage of the total load, whatever the head's unit says.
-    const EditedColumn load{{TableHead(40087_text, "P", Session.Force1Label), TableEdit::Kind::Real, 1e38, -1e38},
-                            Session.FmtForce};
+    const EditedColumn load(TableHead(40087_text, "P", Session.Force1Label), Session.FmtForce, TableEdit::Kind::Real,
+                            -1e38);
     const int chosen = cmbDesignCode[0].ListIndex;
     UnderCommonStep([&] {
         EditRows(400125_text, 906503_text, Text(13_text) + "\n" + Text(90000_text), time, load, Session.NLoad,

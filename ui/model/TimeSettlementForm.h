@@ -49,7 +49,8 @@ class TimeSettlementForm : public PictureForm {
     FieldRow RowTimeOfMeasurement();
     ChoiceRow TimeUnits();
     ChoiceRow Measured();
-    std::vector<CaptionRow> SharedCaptions();
+    // The captions that all three have, behind those of a dialog's own.
+    std::vector<CaptionRow> WithSharedCaptions(std::vector<CaptionRow> own);
 
     void ShowChoices() override;
     void StoreChoices(SessionRecord& record) const override;
