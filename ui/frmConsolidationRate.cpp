@@ -46,6 +46,8 @@ frmConsolidationRate::frmConsolidationRate()
                  {&R::KLayer, 2, &R::FmtPermeability}, {0}, {GoTo(cmdResult)}, shown, 10242_text),
         FieldRow({lblTc, 300007_text}, {lbl_Tc, "Tc"}, txt_T, {lbl_Unit_Tc, [this] { return cmbTimeUnit.Text; }},
                  {&R::T, &R::FmtTime}, {0}, {GoTo(txt_Cv1)}),
+        FieldRow({lblDrainageConditions, 300070_text}, {}, cmbDrainageConditions),
+        FieldRow({lblTimeUnit, 300037_text}, {}, cmbTimeUnit),
     });
     SetChoices(
         {ChoiceRow(chkPressure, {300008_text}, {&R::Pressure, {0, 1}}, [this] { chkPressure_Click(); }),
@@ -57,9 +59,7 @@ frmConsolidationRate::frmConsolidationRate()
                    {&R::TimeUnit, {10001_text, 10002_text, 10003_text, 10004_text}}, [this] { cmbTimeUnit_Click(); })});
     SetCaptionRows({{frmSelectOption, 300012_text, kHeading},
                     {fraPointCoordinates, 300013_text, kHeading},
-                    {frmSoilProperties, 140162_text, kHeading},
-                    {lblDrainageConditions, 300070_text},
-                    {lblTimeUnit, 300037_text}});
+                    {frmSoilProperties, 140162_text, kHeading}});
 }
 
 void frmConsolidationRate::cmbTimeUnit_Click() {
