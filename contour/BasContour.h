@@ -18,6 +18,7 @@ namespace lithmark {
 // What of the plot is wanted: the four check boxes of the contour window.
 struct ContourOptions {
     bool ColorContours = true, Displaylines = true, DrawGrid = true, DisplayValues = true;
+    bool operator==(const ContourOptions&) const = default;
 };
 
 enum class ZoomCornerOf { UpperLeft, UpperRight, LowerLeft, LowerRight };

@@ -6,6 +6,7 @@
 #include "core/Session.h"
 #include "services/FileTools.h"
 #include "services/SharedServices.h"
+#include "ui/frmContour.h"
 #include "ui/frmOptionDraw.h"
 #include "ui/model/CommonStep.h"
 #include "ui/model/HelpText.h"
@@ -59,6 +60,14 @@ void frmResultTools::Load() {
     txtResult.Text = FirstCharacters(Session.ResultText, kShownCharacters);
 }
 
+void frmResultTools::ShowContours() {
+    UnderCommonStep([] {
+        Session.ContourResult = Session.CurveChoice;
+        frmContour contours;
+        CurrentHost().ShowForm(contours);
+    });
+}
+
 void frmResultTools::cmdPrinter_Click() {
     UnderCommonStep(
         [] { CurrentHost().PrintText(Session.ResultText, ReportFont(), kFontSize, LanguageTexts().RightToLeft()); });
@@ -75,7 +84,9 @@ void frmResultTools::CmdExcel_Click() {
             CurrentHost().ShowForm(choice);
             if (!Session.DialogOk) return;
         }
-        CurrentHost().ShowChart(BuildChart());
+        ChartArguments chart = BuildChart();
+        if (ProblemInForce().HasContours()) chart.ShowContours = ShowContours;
+        CurrentHost().ShowChart(chart);
     });
 }
 

@@ -25,6 +25,8 @@ class frmResultTools : public Form {
     void cmdWord_Click();
     void cmdClipboard_Click();
     void cmdVERDA_Click();
+    // The result of the curves that were chosen last, over the raft.
+    static void ShowContours();
     void cmdok_Click() { Unload(); }
     void cmdHelp_Click();
 };

@@ -1,6 +1,7 @@
 // The arguments of ShowChart: a table of curves with everything that a chart window, a picture or a spreadsheet needs.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,8 @@ struct ChartArguments {
     std::string ProjectText;  // four lines, each ended by a line feed
     std::string ChartTitle;
     std::string CompanyLine1, CompanyLine2;
+    // Shows the same result as contour lines over the raft; empty where there are none.
+    std::function<void()> ShowContours;
 };
 
 }  // namespace lithmark

@@ -100,7 +100,7 @@ TEST_F(StressDialog, ValuesAreShownAndTakenInTheUnitsInForce) {
         EXPECT_EQ(form.txt_P.Text, "9.3");
         EXPECT_EQ(form.lblm1.Caption, "[ft]");
         EXPECT_EQ(form.lblm5.Caption, "[ft]");
-        EXPECT_EQ(form.lblknm2.Caption, "[kN/ft²]");
+        EXPECT_EQ(form.lblLoadUnit.Caption, "[kN/ft²]");
         EXPECT_EQ(form.lblkn.Caption, "[kN]");
         EXPECT_EQ(form.Label14.Caption, "[-]");
         Type(form, "txt_A", "10");

@@ -1,0 +1,104 @@
+#include "ui/frmContour.h"
+
+#include "core/Catalogue.h"
+#include "core/Session.h"
+#include "services/SharedServices.h"
+#include "ui/model/CommonStep.h"
+#include "ui/model/HelpText.h"
+
+namespace lithmark {
+
+frmContour::frmContour() : Form("frmContour") {
+    chkColorContours.OnClick = [this] { chkColorContours_Click(); };
+    cmdRedraw.OnClick = [this] { cmdRedraw_Click(); };
+    cmdPrevious.OnClick = [this] { cmdPrevious_Click(); };
+    cmdOriginal.OnClick = [this] { cmdOriginal_Click(); };
+    cmdULeft.OnClick = [this] { Zoom(ZoomCornerOf::UpperLeft); };
+    cmdURight.OnClick = [this] { Zoom(ZoomCornerOf::UpperRight); };
+    cmdLLeft.OnClick = [this] { Zoom(ZoomCornerOf::LowerLeft); };
+    cmdLRight.OnClick = [this] { Zoom(ZoomCornerOf::LowerRight); };
+    cmdok.OnClick = [this] { cmdok_Click(); };
+    cmdHelp.OnClick = [this] { cmdHelp_Click(); };
+}
+
+void frmContour::Load() {
+    constexpr Style kButton{1}, kHeading{4};
+    SharedServices().PrepareForm(*this);
+    Caption = Text(140017_text);
+    const bool pressure = Session.ContourResult == "Tab5";
+    SetCaptions({{fraResult, pressure ? 90098_text : ProblemInForce().RaftSettlement, kHeading},
+                 {chkColorContours, 80093_text},
+                 {chkDisplaylines, 80094_text},
+                 {chkDrawGrid, 400078_text},
+                 {chkchkDisplayValues, 15_text},
+                 {chkFineLabels, 906520_text},
+                 {cmdRedraw, 400079_text},
+                 {cmdPrevious, 400080_text},
+                 {cmdOriginal, 26_text},
+                 {cmdULeft, 400081_text},
+                 {cmdURight, 400082_text},
+                 {cmdLLeft, 400083_text},
+                 {cmdLRight, 400084_text},
+                 {cmdok, 6_text, kButton},
+                 {cmdHelp, 8_text, kButton}});
+    for (CheckBox* box : {&chkColorContours, &chkDisplaylines, &chkDrawGrid, &chkchkDisplayValues}) box->Value = true;
+    chkDisplaylines.Enabled = true;
+    chkFineLabels.Value = false;
+    cmdOriginal.Enabled = cmdPrevious.Enabled = false;
+    drawings_ = 0;
+}
+
+void frmContour::Activate() {
+    SharedServices().SetPointer(PointerShape::Hourglass);
+    UnderCommonStep([&] {
+        Plot.Prepare();
+        DrawAnew();
+    });
+    SharedServices().SetPointer(PointerShape::Default);
+}
+
+// A plot without colours always has lines.
+void frmContour::chkColorContours_Click() {
+    chkDisplaylines.Enabled = true;
+    if (chkColorContours.Value) return;
+    chkDisplaylines.Value = true;
+    chkDisplaylines.Enabled = false;
+}
+
+void frmContour::cmdRedraw_Click() {
+    if (Ready()) DrawAnew();
+}
+
+void frmContour::Zoom(ZoomCornerOf corner) {
+    if (!Ready()) return;
+    Plot.ZoomCorner(corner);
+    DrawAnew();
+    cmdOriginal.Enabled = cmdPrevious.Enabled = true;
+}
+
+void frmContour::cmdPrevious_Click() {
+    Plot.ZoomPrevious();
+    DrawAnew();
+    cmdOriginal.Enabled = true;
+}
+
+void frmContour::cmdOriginal_Click() {
+    Plot.ZoomOriginal();
+    DrawAnew();
+    cmdOriginal.Enabled = cmdPrevious.Enabled = false;
+}
+
+void frmContour::cmdHelp_Click() {
+    ShowHelp(Caption, Text(906509_text));
+}
+
+ContourOptions frmContour::Wanted() const {
+    return {chkColorContours.Value, chkDisplaylines.Value, chkDrawGrid.Value, chkchkDisplayValues.Value};
+}
+
+void frmContour::DrawAnew() {
+    drawn_ = Wanted();
+    ++drawings_;
+}
+
+}  // namespace lithmark

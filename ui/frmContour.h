@@ -1,0 +1,53 @@
+// frmContour: the window of a raft's contour plot, with its check boxes and zoom buttons. Whoever shows it draws the
+// plot and its legend with `Plot` and `Drawn` whenever `Drawings` has grown.
+#pragma once
+
+#include "contour/BasContour.h"
+#include "ui/model/Controls.h"
+
+namespace lithmark {
+
+class frmContour : public Form {
+  public:
+    frmContour();
+
+    FrameBox fraResult{*this, "fraResult"};
+    PictureBox picBox{*this, "picBox"}, picBox2{*this, "picBox2"};  // the plot, the legend
+    CheckBox chkColorContours{*this, "chkColorContours"}, chkDisplaylines{*this, "chkDisplaylines"},
+        chkDrawGrid{*this, "chkDrawGrid"}, chkchkDisplayValues{*this, "chkchkDisplayValues"};
+    CheckBox chkFineLabels{*this, "chkFineLabels"};
+    Button cmdRedraw{*this, "cmdRedraw"}, cmdPrevious{*this, "cmdPrevious"}, cmdOriginal{*this, "cmdOriginal"};
+    Button cmdULeft{*this, "cmdULeft"}, cmdURight{*this, "cmdURight"}, cmdLLeft{*this, "cmdLLeft"},
+        cmdLRight{*this, "cmdLRight"};
+    Button cmdok{*this, "cmdok"}, cmdHelp{*this, "cmdHelp"};
+
+    void Load() override;
+    // Reads the files of the run and starts from the original window. A failure is told; nothing is drawn then.
+    void Activate() override;
+
+    void chkColorContours_Click();
+    void cmdRedraw_Click();
+    void cmdPrevious_Click();
+    void cmdOriginal_Click();
+    void cmdok_Click() { Unload(); }
+    void cmdHelp_Click();
+
+    // What the check boxes ask for at the moment; they take effect with the next drawing.
+    ContourOptions Wanted() const;
+    bool WantsAnother() const { return Ready() && !(Wanted() == drawn_); }
+    const ContourOptions& Drawn() const noexcept { return drawn_; }
+    bool Ready() const noexcept { return drawings_ > 0; }
+    // How often the plot was drawn anew.
+    int Drawings() const noexcept { return drawings_; }
+
+    BasContour Plot;
+
+  private:
+    void Zoom(ZoomCornerOf corner);
+    void DrawAnew();
+
+    ContourOptions drawn_;
+    int drawings_ = 0;
+};
+
+}  // namespace lithmark
