@@ -35,6 +35,8 @@ class UntouchedBoxes : public FormTest {
         SetProblemDefaults();
         for (const SessionField& field : SessionFields())
             if (auto* const* value = std::get_if<Single*>(&field.Ref)) **value = **value * 1.0000123;
+        // The analytical raft wants whole millimetres.
+        if (IsRaft(problem)) Session.A = Session.B = 5.001;
         Session.WorkDir = Session.DataDir;
         Session.WorkName = Session.ProjectName;
         WriteProblemData();
@@ -86,11 +88,14 @@ TEST_F(UntouchedBoxes, OpenAndSaveChangesNoBitOfTheDataInAnyDialog) {
 }
 
 TEST_F(UntouchedBoxes, OpenAndComputeChangesNoBitOfTheDataInAnyDialog) {
-    ForEachProblem([&](int, ProblemForm& form) {
-        const FieldTexts before = TakeFields();
+    ForEachProblem([&](int problem, ProblemForm& form) {
+        const std::string saved = DataOf(problem);
         host.OnForm<frmResultTools>([](frmResultTools& viewer) { Click(viewer, "cmdok"); });
         Click(form, "cmdResult");
-        EXPECT_EQ(TakeFields(), before);
+        EXPECT_FALSE(Session.CalcAborted);
+        // A run leaves results in the record, the coefficient of consolidation among them; the data stay.
+        Click(form, "cmdSave");
+        EXPECT_EQ(DataOf(problem), saved);
     });
 }
 
