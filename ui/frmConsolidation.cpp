@@ -9,8 +9,7 @@ constexpr Style kHeading{4};
 
 }  // namespace
 
-frmConsolidation::frmConsolidation()
-    : LoadForm("frmConsolidation", {"Consolidation.bmp", "Consolidation Form", "consolidation"}) {
+frmConsolidation::frmConsolidation() : LoadForm("frmConsolidation", {"Consolidation.bmp", "Consolidation Form", ""}) {
     const auto shown = CheckedWhen::Shown;
     SetFields({
         RowX({GoTo(txt_y)}),

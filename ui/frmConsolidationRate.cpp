@@ -15,8 +15,7 @@ std::function<std::string()> OfLayer(TextId property, int layer) {
 }  // namespace
 
 frmConsolidationRate::frmConsolidationRate()
-    : LoadForm("frmConsolidationRate", {"ConsolidationRate.bmp", "ConsolidationRate Form", "consolidation-rate"},
-               "lblknm1") {
+    : LoadForm("frmConsolidationRate", {"ConsolidationRate.bmp", "ConsolidationRate Form", ""}, "lblknm1") {
     const auto shown = CheckedWhen::Shown;
     SetFields({
         RowX({GoTo(txt_y)}, shown),
@@ -59,6 +58,7 @@ frmConsolidationRate::frmConsolidationRate()
                    {&R::TimeUnit, {10001_text, 10002_text, 10003_text, 10004_text}}, [this] { cmbTimeUnit_Click(); })});
     SetCaptionRows({{frmSelectOption, 300012_text, kHeading},
                     {fraPointCoordinates, 300013_text, kHeading},
+                    {fraData, 140095_text, kHeading},
                     {frmSoilProperties, 140162_text, kHeading}});
 }
 
@@ -75,6 +75,7 @@ void frmConsolidationRate::chkPressure_Click() {
     for (OptionButton& option : optLoadType) option.Visible = !constant;
     ShowLines({txt_x, txt_y}, !constant);
     ShowLines(txt_U, constant);
+    fraData.Visible = !constant;
     optLoadType_Click();
 }
 

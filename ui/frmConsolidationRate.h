@@ -10,6 +10,8 @@ class frmConsolidationRate : public LoadForm {
   public:
     frmConsolidationRate();
 
+    FrameBox fraData{*this, "fraData"};
+
     // The initial pressure.
     CheckBox chkPressure{*this, "chkPressure"};  // constant, not from a load
     TextLabel lblEPWP{*this, "lblEPWP"}, lbluo{*this, "lbluo"}, lblknm2{*this, "lblknm2"};
