@@ -1,0 +1,1 @@
+"""What makes the pages of docs/verification and holds them against the program."""
