@@ -6,11 +6,13 @@
 
 CLI is lithmark-cli, WIDE_CLI the same program with stored quantities of 64 bits; without it, values that need it fail.
 """
+import os
 import re
 import sys
 import tomllib
 from pathlib import Path
 
+os.environ.setdefault("OPENBLAS_NUM_THREADS", "1")  # the same sums everywhere, and no threads that wait for each other
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 
 from tool import pages  # noqa: E402

@@ -5,6 +5,8 @@ raft's edges where the pressure grows without limit; the settlement of every ele
 integrals over the elements are closed (Schleicher 1926; Steinbrenner 1934). A quarter is solved, and meshes of two sizes are
 extrapolated. Independent of the program's mesh, influence factors and solver.
 """
+import functools
+
 import numpy
 
 
@@ -55,6 +57,7 @@ def _extrapolated(value, counts):
 COUNTS = (5, 10, 20)
 
 
+@functools.lru_cache(maxsize=None)
 def settlement(Q, A, B, Nue, Es, h=None):
     """Under a central load, cm."""
     Q, A, B, nu, E = (float(value) for value in (Q, A, B, Nue, Es))
@@ -67,6 +70,7 @@ def settlement(Q, A, B, Nue, Es, h=None):
     return 100 * Q / E * _extrapolated(unit, COUNTS)
 
 
+@functools.lru_cache(maxsize=None)
 def tilt(moment, A, B, Nue, Es, h=None):
     """About the middle under a moment Q e along the side A, radians."""
     moment, A, B, nu, E = (float(value) for value in (moment, A, B, Nue, Es))

@@ -56,7 +56,8 @@ def mean_sigma_z(x, y, z1, z2, P, A, B):
     def corner(a, b):
         inner = [d for d in (a / 4, a, b, 4 * b) if z1 < d < z2]
         depths = [z1] + sorted(set(inner)) + [z2]
-        return mpmath.quad(lambda z: newmark(a / z, b / z) if z > 0 else mpmath.mpf(1) / 4, depths)
+        with mpmath.workdps(20):
+            return mpmath.quad(lambda z: newmark(a / z, b / z) if z > 0 else mpmath.mpf(1) / 4, depths)
 
     return P * superpose(corner, x, y, A, B) / (z2 - z1)
 

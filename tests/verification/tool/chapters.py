@@ -79,7 +79,8 @@ def names_of(run):
 
 def mean(function, start, end):
     """Mean of a function over an interval."""
-    return mpmath.quad(function, [start, (start + end) / 2, end]) / (mpmath.mpf(end) - start)
+    with mpmath.workdps(20):
+        return mpmath.quad(function, [start, (start + end) / 2, end]) / (mpmath.mpf(end) - start)
 
 
 BUILTINS = {"sum": sum, "min": min, "max": max, "abs": abs, "zip": zip, "len": len, "range": range, "float": float, "next": next}

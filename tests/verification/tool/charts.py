@@ -3,11 +3,11 @@ import math
 
 from tool.svg import COLOURS, GREY, Svg, short
 
-LEFT, TOP, WIDE, HIGH = 70, 24, 330, 240
+LEFT, TOP, WIDE, HIGH = 84, 24, 330, 240
 
 
-def error_chart(settings, curves, setting_name):
-    """settings: numbers along x; curves: (label, errors in per cent). A line marks 1 %."""
+def error_chart(settings, curves, setting_name, unit):
+    """settings: numbers along x; curves: (label, errors). A line marks an error of 1."""
     picture = Svg(LEFT + WIDE + 200, TOP + HIGH + 50)
     errors = [abs(error) for _, values in curves for error in values if error]
     low = math.floor(math.log10(max(min(errors), 1e-4)))
@@ -22,7 +22,7 @@ def error_chart(settings, curves, setting_name):
     for decade in range(low, high + 1):
         y = place(settings[0], 10.0**decade)[1]
         picture.line(LEFT, y, LEFT + WIDE, y, "#dddddd")
-        picture.text(LEFT - 6, y + 4, f"{10.0**decade:g} %", "end", size=10)
+        picture.text(LEFT - 6, y + 4, f"{10.0**decade:g} {unit}", "end", size=10)
     for setting in settings:
         x = place(setting, 1)[0]
         picture.line(x, TOP, x, TOP + HIGH, "#eeeeee")

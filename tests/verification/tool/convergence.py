@@ -62,11 +62,18 @@ class Study:
             good = setting
         return good
 
+    @staticmethod
+    def limit(errors):
+        """Error of the limit that a scheme of the first order lets expect from its last two settings, the last half of the
+        one before."""
+        return 2 * errors[-1] - errors[-2]
+
     def default_error(self, errors):
         return errors[self.settings.index(self.data["default"])] if "default" in self.data else None
 
     def section(self, all_errors):
         data = self.data
+        unit = data.get("unit", "%")
         lines = [f"## {data['title']}", "", f"![{data['title']}](pictures/convergence-{data['name']}.svg)", "",
                  data["text"].strip(), ""]
         labels = [curve["label"] for curve in data["curve"]]
@@ -76,12 +83,15 @@ class Study:
         for i, setting in enumerate(self.settings):
             cells = [f"{setting:g}" + (" (default)" if setting == data.get("default") else "")]
             for errors, order in zip(all_errors, orders):
-                cells += [f"{numbers.plain(errors[i], 2)} %", "" if order[i] is None else f"{order[i]:.1f}"]
+                cells += [f"{numbers.plain(errors[i], 2)} {unit}", "" if order[i] is None else f"{order[i]:.1f}"]
             lines.append("| " + " | ".join(cells) + " |")
-        lines += ["", "| result | error of the default | 1 % |", "|---|---|---|"]
+        if data.get("extrapolated"):
+            cells = [cell for errors in all_errors for cell in (f"{numbers.plain(self.limit(errors), 2)} {unit}", "")]
+            lines.append("| " + " | ".join(["twice the last less the one before", *cells]) + " |")
+        lines += ["", f"| result | error of the default | 1 {unit} |", "|---|---|---|"]
         for label, errors in zip(labels, all_errors):
             default, within = self.default_error(errors), self.first_within(errors)
-            lines.append(f"| {label} | " + ("" if default is None else f"{numbers.plain(default, 2)} %") + " | "
+            lines.append(f"| {label} | " + ("" if default is None else f"{numbers.plain(default, 2)} {unit}") + " | "
                          + (f"from {within:g} on" if within is not None else "none of these") + " |")
         if "why" in data:
             lines += ["", "Why: " + data["why"].strip()]
@@ -89,7 +99,8 @@ class Study:
 
     def picture(self, all_errors):
         labels = [curve["label"] for curve in self.data["curve"]]
-        return error_chart(self.fineness(), list(zip(labels, all_errors)), self.data.get("axis", self.data["setting"]))
+        return error_chart(self.fineness(), list(zip(labels, all_errors)), self.data.get("axis", self.data["setting"]),
+                           self.data.get("unit", "%"))
 
 
 class Convergence:
@@ -109,6 +120,7 @@ class Convergence:
             pictures[f"convergence-{study.data['name']}.svg"] = study.picture(errors)
             for template in study.data.get("said", []):
                 values = {f"error{i + 1}": abs(study.default_error(mine)) for i, mine in enumerate(errors)}
+                values["last"] = max(abs(study.limit(mine)) for mine in errors)
                 values |= {f"one{i + 1}": study.first_within(mine) for i, mine in enumerate(errors)}
                 said.append((template.format(**values), f"convergence: {study.data['title']}"))
         return "\n".join(lines), pictures, said

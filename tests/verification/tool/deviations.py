@@ -9,7 +9,7 @@ from tool.chapters import FOLDER, names_of, value_of
 @dataclass
 class Deviation:
     """A row of deviations.csv. said: the manual's words, with {ours}, {theory}, {difference}, {ratio}, {percent} (without
-    a sign) where numbers stand."""
+    a sign) and {rough} (two digits, for what swings) where numbers stand."""
     group: str
     project: str
     run: str
@@ -17,6 +17,11 @@ class Deviation:
     theory: str
     said: str
     remark: str
+
+
+def rough(value):
+    """Two significant digits, for results that swing."""
+    return int(float(f"{value:.2g}"))
 
 
 class Deviations:
@@ -40,7 +45,7 @@ class Deviations:
                 quantity, names_of(program.run(project, run)))
             ours = value_of(row.quantity, names)
             theory = value_of(row.theory, names) if row.theory else None
-            values = {"ours": float(ours)}
+            values = {"ours": float(ours), "rough": rough(float(ours))}
             if theory is not None:
                 values |= {"theory": float(theory), "difference": float(ours - theory)}
                 if theory:
@@ -49,9 +54,10 @@ class Deviations:
             if words:
                 said.append((words, f"deviations: {row.project} {row.run} {row.quantity}"))
             link = f"[{row.project}](../../{program.folder_of(row.project)})"
-            lines.append(f"| {link} `{row.run}` | `{row.quantity}` | "
-                         f"{'' if theory is None else numbers.plain(theory, 5)} | {numbers.plain(ours, 5)} | {words} | "
-                         f"{row.remark} |")
+            run = f" `{row.run}`" if row.run else ""
+            lines.append(f"| {link}{run} | `{row.quantity}` | "
+                         f"{'' if theory is None else numbers.plain(theory, 5)} | "
+                         f"{numbers.plain(ours, 2 if '{rough}' in row.said else 5)} | {words} | {row.remark} |")
         return "\n".join([*lines, ""]), said
 
 

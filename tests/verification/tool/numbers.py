@@ -6,8 +6,10 @@ def plain(value, digits=6):
     """Six significant digits, without an exponent where that is readable."""
     value = float(value)
     text = f"{value:.{digits}g}"
-    if "e" in text and 1e-5 <= abs(value) < 1e9:
-        text = mpmath.nstr(mpmath.mpf(value), digits, min_fixed=-6, max_fixed=12)
+    if "e+" in text and abs(value) < 1e9:
+        return f"{float(text):.0f}"
+    if "e-" in text and abs(value) > 1e-6:
+        return mpmath.nstr(mpmath.mpf(text), digits, min_fixed=-8)
     return text
 
 

@@ -95,9 +95,8 @@ class Program:
     def prepare(self, runs):
         """Works all (project, sets) on several cores."""
         runs = [run for run in dict.fromkeys(runs) if run not in self.kept]
-        for project in dict.fromkeys(project for project, _ in runs):
-            self.fields(project)
         with ThreadPoolExecutor(os.cpu_count()) as pool:
+            list(pool.map(self.fields, dict.fromkeys(project for project, _ in runs)))
             for run, done in zip(runs, pool.map(lambda run: self._work(*run), runs)):
                 self.kept[run] = done
 
@@ -107,14 +106,17 @@ class Program:
             self.prepare([(project, sets)])
         return self.kept[project, sets]
 
+    def _report(self, folder, project, sets):
+        changes = [argument for change in sets.split() for argument in ("--set", change)]
+        return self._call("report", str(folder / f"{project}.PO3"), "--format", "json", *changes)
+
     def _work(self, project, sets):
-        # a raft writes its export files beside the project: work on a copy
-        with tempfile.TemporaryDirectory(dir=self.folder) as copy:
-            shutil.copytree(ROOT / self.folder_of(project), Path(copy) / project)
-            arguments = ["report", str(Path(copy) / project / f"{project}.PO3"), "--format", "json"]
-            for change in sets.split():
-                arguments += ["--set", change]
-            done = self._call(*arguments)
+        if int(self.fields(project)["ProblemType"]) < 9:
+            done = self._report(ROOT / self.folder_of(project), project, sets)
+        else:  # a raft writes its export files beside the project: work on a copy
+            with tempfile.TemporaryDirectory(dir=self.folder) as copy:
+                shutil.copytree(ROOT / self.folder_of(project), Path(copy) / project)
+                done = self._report(Path(copy) / project, project, sets)
         if not done.stdout.startswith("{"):
             raise RuntimeError(f"{project} {sets}: {done.stderr.strip()}")
         answer = json.loads(done.stdout)

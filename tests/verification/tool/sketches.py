@@ -1,7 +1,7 @@
 """A sketch of a project: section and plan with the measures of its fields."""
 from tool.svg import BLUE, CLAY, GREY, INK, RED, SOIL, Svg, short
 
-WIDTH, HEIGHT = 460, 210
+WIDTH, HEIGHT = 500, 210
 SURFACE = 52          # height of the soil's surface
 DEEP = 190            # lower end of the section
 MIDDLE, PLAN = 130, 360
@@ -121,7 +121,7 @@ def _clay(picture, fields, problem):
         _layer(picture, edge, edge + height * scale, f"{name} = {short(height)} m")
         edge += height * scale
     if z:
-        picture.down(225, SURFACE, SURFACE + z * scale, f"z = {short(z)} m")
+        picture.down(195, SURFACE, SURFACE + z * scale, f"z = {short(z)} m")
     if problem == 5:
         _drained(picture, SURFACE + z * scale, True)
         _drained(picture, edge, int(fields["DrainageCondition"]) == 1)
@@ -132,8 +132,10 @@ def _clay(picture, fields, problem):
     else:
         picture.text(PLAN, 60, f"u0 = {short(fields['U'])} kN/m², constant")
         for number in range(1, len(heights) + 1):
-            picture.text(PLAN, 60 + 22 * number, f"Cv{number} = {short(fields['CvLayer'](number))} m²/s, "
-                                                f"k{number} = {short(fields['KLayer'](number))} m/s")
+            words = f"Cv{number} = {short(fields['CvLayer'](number))} m²/s"
+            if len(heights) == 2:
+                words += f", k{number} = {short(fields['KLayer'](number))} m/s"
+            picture.text(PLAN, 60 + 22 * number, words)
         picture.text(PLAN, 60 + 22 * (len(heights) + 1),
                      "bottom drained" if int(fields["DrainageCondition"]) == 1 else "bottom impermeable")
 
@@ -175,7 +177,7 @@ def _raft(picture, fields, problem):
     top = SURFACE + z * scale
     _layer(picture, top, SURFACE + depth, f"h = {short(h)} m")
     if z:
-        picture.down(225, SURFACE, top, f"z = {short(z)} m")
+        picture.down(195, SURFACE, top, f"z = {short(z)} m")
     picture.box(MIDDLE - wide / 2, SURFACE - 9, wide, 9, "#c9c9c9")
     e = float(fields["Exz_x"])
     x = MIDDLE + e / a * wide
