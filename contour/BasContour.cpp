@@ -40,12 +40,7 @@ void BasContour::ComputeWindow() {
     Window = {cx - 0.55 * size, cx + 0.55 * size, cy - 0.55 * size, cy + 0.55 * size};
     OrigWindow = PrevWindow = Window;
 
-    // A label names the middle of its class.
-    Single value = ZMin + 0.5 * ZStep;
-    for (int i = 1; i <= kClasses; ++i) {
-        ClassLabel(i) = FormatValue(value, ZFormat);
-        value += ZStep;
-    }
+    LabelClasses(Labels::Told);
 }
 
 int BasContour::ClassOf(double value) const {
@@ -88,6 +83,22 @@ void BasContour::ForEachTriangle(Draw&& draw) const {
             draw(t);
         }
     }
+}
+
+std::optional<double> BasContour::ValueAt(double x, double y) const {
+    std::optional<double> value;
+    ForEachTriangle([&](Triangle& t) {
+        if (value) return;
+        const double ax = t.X[2] - t.X[1], ay = t.Y[2] - t.Y[1], bx = t.X[3] - t.X[1], by = t.Y[3] - t.Y[1];
+        const double area = ax * by - ay * bx;
+        if (area == 0) return;
+        const double px = x - t.X[1], py = y - t.Y[1];
+        const double second = (px * by - py * bx) / area, third = (ax * py - ay * px) / area;
+        constexpr double kEdge = -1e-9;  // a place on an edge belongs to both triangles
+        if (second < kEdge || third < kEdge || second + third > 1 - kEdge) return;
+        value = t.Z[1] + second * (t.Z[2] - t.Z[1]) + third * (t.Z[3] - t.Z[1]);
+    });
+    return value;
 }
 
 void BasContour::FillColors(Surface& surface) {

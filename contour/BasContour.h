@@ -5,6 +5,7 @@
 // triangle. The ten classes share the range of the node values evenly.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -61,6 +62,16 @@ class BasContour {
     Array<std::string> ClassLabel{1, kClasses};
     Array<Integer> ClassLabelled{1, kClasses};
     WorldWindow Window, PrevWindow, OrigWindow;
+
+    // The texts of the classes. Told: the value of the plot by the number format of the results. Fine: in the unit of
+    // the caption, with as many digits as tell the ten classes apart.
+    enum class Labels { Told, Fine };
+    void LabelClasses(Labels labels);
+    // What a value of the plot is multiplied by to stand in the unit of the caption. Deliberate: settlements are drawn
+    // in metres times the factor of the unit, a hundredth of what the caption's unit says.
+    double CaptionFactor() const;
+    // The value of the plot at a place, linear in its triangle; nothing beside the raft.
+    std::optional<double> ValueAt(double x, double y) const;
 
     // The class, 1 to 10, of a value in display units.
     int ClassOf(double value) const;

@@ -52,6 +52,7 @@ ChartWindow::ChartWindow(const ChartArguments& chart, QWidget* parent) : QDialog
         FillPlot(*plot, chart_);
         plot->replot();
     });
+    if (chart_.ShowContours) add(Text(140017_text), "cmdContours", [this] { chart_.ShowContours(); });
     buttons->addStretch(1);
     add(Text(6_text, Style{1}), "cmdok", [this] { accept(); })->setDefault(true);
     column->addLayout(buttons);

@@ -2,6 +2,7 @@
 
 #include "core/Catalogue.h"
 #include "core/Session.h"
+#include "core/Units.h"
 #include "services/SharedServices.h"
 #include "ui/model/CommonStep.h"
 #include "ui/model/HelpText.h"
@@ -96,8 +97,19 @@ ContourOptions frmContour::Wanted() const {
     return {chkColorContours.Value, chkDisplaylines.Value, chkDrawGrid.Value, chkchkDisplayValues.Value};
 }
 
+std::string frmContour::UnitShown() {
+    return Session.ContourResult == "Tab5" ? LabelOf(Unit::Pressure) : Session.Len2Label;
+}
+
+std::optional<double> frmContour::ValueShown(double x, double y) const {
+    const auto value = Ready() ? Plot.ValueAt(x, y) : std::nullopt;
+    return value ? std::optional(*value * Plot.CaptionFactor()) : std::nullopt;
+}
+
 void frmContour::DrawAnew() {
     drawn_ = Wanted();
+    fineDrawn_ = chkFineLabels.Value;
+    Plot.LabelClasses(fineDrawn_ ? BasContour::Labels::Fine : BasContour::Labels::Told);
     ++drawings_;
 }
 

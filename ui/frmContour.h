@@ -34,9 +34,12 @@ class frmContour : public Form {
 
     // What the check boxes ask for at the moment; they take effect with the next drawing.
     ContourOptions Wanted() const;
-    bool WantsAnother() const { return Ready() && !(Wanted() == drawn_); }
+    bool WantsAnother() const { return Ready() && !(Wanted() == drawn_ && chkFineLabels.Value == fineDrawn_); }
     const ContourOptions& Drawn() const noexcept { return drawn_; }
     bool Ready() const noexcept { return drawings_ > 0; }
+    // The unit of the caption, and the value of the plot at a place in it; nothing beside the raft.
+    static std::string UnitShown();
+    std::optional<double> ValueShown(double x, double y) const;
     // How often the plot was drawn anew.
     int Drawings() const noexcept { return drawings_; }
 
@@ -47,6 +50,7 @@ class frmContour : public Form {
     void DrawAnew();
 
     ContourOptions drawn_;
+    bool fineDrawn_ = false;
     int drawings_ = 0;
 };
 

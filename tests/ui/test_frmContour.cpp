@@ -96,6 +96,50 @@ TEST_F(ContourWindow, APlotWithoutColoursAlwaysHasLines) {
     });
 }
 
+// The fine labels of settlements stand in centimetres, a hundred times the metres of the plot. Their last digit is a
+// tenth of a class at most.
+TEST_F(ContourWindow, FineLabelsStandInTheUnitOfTheCaptionAndTellTheClassesApart) {
+    WorkOutARaft();
+    Session.ContourResult = "Tab5";
+    OnShown<frmContour>([](frmContour& form) {
+        const std::string told = form.Plot.ClassLabel(1);
+        Click(form, "chkFineLabels");
+        EXPECT_TRUE(form.WantsAnother());
+        EXPECT_EQ(form.Plot.ClassLabel(1), told);
+        Click(form, "cmdRedraw");
+        EXPECT_FALSE(form.WantsAnother());
+        for (int i = 2; i <= BasContour::kClasses; ++i)
+            EXPECT_NE(form.Plot.ClassLabel(i), form.Plot.ClassLabel(i - 1)) << i;
+        EXPECT_NEAR(std::stod(form.Plot.ClassLabel(1)), form.Plot.ZMin + 0.5 * form.Plot.ZStep, 0.1 * form.Plot.ZStep);
+    });
+    Session.Exz_x = 0.3;
+    WorkOutARaft();
+    Session.ContourResult = "Tab6";
+    OnShown<frmContour>([](frmContour& form) {
+        Click(form, "chkFineLabels");
+        Click(form, "cmdRedraw");
+        EXPECT_GT(form.Plot.ZStep, 0);
+        EXPECT_NEAR(std::stod(form.Plot.ClassLabel(10)), 100 * (form.Plot.ZMax - 0.5 * form.Plot.ZStep),
+                    10 * form.Plot.ZStep);
+    });
+}
+
+// At a node the plot has the node's own value; beside the raft it has none.
+TEST_F(ContourWindow, TheValueUnderTheCursorIsThatOfTheNodesInTheUnitOfTheCaption) {
+    WorkOutARaft();
+    OnShown<frmContour>([](frmContour& form) {
+        const int node = form.Plot.NodeCount / 2;
+        EXPECT_NEAR(form.ValueShown(form.Plot.CtrX(node), form.Plot.CtrY(node)).value(), Session.NodePressure(node),
+                    1e-4 * Session.NodePressure(node));
+        EXPECT_FALSE(form.ValueShown(form.Plot.Window.XMin, form.Plot.Window.YMin));
+    });
+    Session.ContourResult = "Tab6";
+    OnShown<frmContour>([](frmContour& form) {
+        EXPECT_NEAR(form.ValueShown(form.Plot.CtrX(1), form.Plot.CtrY(1)).value(), Session.NodeSettlement(1),
+                    1e-4 * Session.NodeSettlement(1));
+    });
+}
+
 // By hand: a zoom keeps 67 % of the width and the height, on the side of its corner.
 TEST_F(ContourWindow, ZoomPreviousAndOriginalGoBackAndForth) {
     WorkOutARaft();

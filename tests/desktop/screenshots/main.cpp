@@ -24,6 +24,7 @@
 #include "services/storage/WrittenFile.h"
 #include "services/texts/LanguageTexts.h"
 #include "ui/frmAbout.h"
+#include "ui/frmContour.h"
 #include "ui/frmDataDir.h"
 #include "ui/frmOptionDraw.h"
 #include "ui/frmPreferences.h"
@@ -196,6 +197,13 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
         Session.CurveChoice = curve;
         gallery.TakeModal(QStringLiteral("chart-") + QLatin1String(curve), [&] { host.ShowChart(BuildChart()); });
     }
+    Session.ProblemType = 9;
+    SetProblemDefaults();
+    Session.AnalysisType = Analysis::Numerical;
+    RunProblemKernel();
+    Session.CurveChoice = Session.ContourResult = "Tab5";
+    frmContour contour;
+    gallery.Take(contour, QStringLiteral("frmContour"), [&] { contour.Activate(); });
     TableEdit table;
     table.Title = Text(140187_text);
     table.Columns = {{"t\n[1]\n[-]", TableEdit::Kind::Whole}, {"p\n[2]\n[%]", TableEdit::Kind::Real, 100, 0}};
