@@ -15,7 +15,9 @@ namespace {
 
 using namespace sizes;
 
-enum Column { kLabel, kSymbol, kBox, kUnit, kBeside, kColumns };
+// What takes a line by itself reaches to the units, so that no group has a column that others lack.
+enum Column { kLabel, kSymbol, kBox, kUnit, kBeside };
+constexpr int kWholeLine = kUnit + 1;
 
 void PlaceBox(FormView& view, QGridLayout& grid, int line, const FieldRow& row) {
     QWidget* box = view.Place(row.Box);
@@ -33,12 +35,13 @@ void PlaceBox(FormView& view, QGridLayout& grid, int line, const FieldRow& row) 
         if (row.Beside != nullptr) grid.addWidget(view.Place(*row.Beside), line, kBeside);
         return;
     }
-    // Words have the rest of the line, beside what follows them.
+    // Words have the rest of the line, with what follows them.
     auto* rest = new QHBoxLayout;
     rest->setSpacing(kColumnGap);
     rest->addWidget(box, 1);
     if (row.Beside != nullptr) rest->addWidget(view.Place(*row.Beside));
-    grid.addLayout(rest, line, kBox, 1, kColumns - kBox);
+    const int from = row.Symbol.On == nullptr ? kSymbol : kBox;
+    grid.addLayout(rest, line, from, 1, kWholeLine - from);
 }
 
 void AddFieldLine(FormView& view, QGridLayout& grid, const FieldRow& row) {
@@ -80,7 +83,7 @@ void AddLines(FormView& view, const FieldForm* form, QGridLayout& grid, const Co
         }
         // A button is as wide as its words; everything else takes the line.
         const Qt::Alignment at = control->Kind == ControlKind::Button ? Qt::AlignLeft : Qt::Alignment();
-        grid.addWidget(view.Place(*control), grid.rowCount(), 0, 1, kColumns, at);
+        grid.addWidget(view.Place(*control), grid.rowCount(), 0, 1, kWholeLine, at);
     }
 }
 

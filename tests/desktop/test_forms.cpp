@@ -15,10 +15,12 @@
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTest>
+#include <set>
 
 #include "../ui/AllForms.h"
 #include "../ui/FormTest.h"
 #include "desktop/FormView.h"
+#include "desktop/Sizes.h"
 #include "desktop/drawings/Drawings.h"
 #include "ui/model/FieldForm.h"
 
@@ -93,6 +95,22 @@ TEST_F(FormViewTest, EveryDrawingThatAFormNamesExists) {
                 failing.push_back(name + ": " + control->Drawing);
     });
     EXPECT_THAT(failing, IsEmpty());
+}
+
+// One width for all boxes and units: they stand under each other from group to group.
+TEST_F(FormViewTest, BoxesOfNumbersStandUnderEachOther) {
+    ForAllForms([&](Form& form, FormView& view, const std::string& name) {
+        const auto* problem = dynamic_cast<const PictureForm*>(&form);
+        if (problem == nullptr) return;
+        std::set<int> places;
+        for (const FieldRow& row : problem->Fields()) {
+            const auto* box = view.findChild<QWidget*>(QString::fromStdString(row.Box.Name));
+            if (!row.Field.Exists() || !box->isVisible()) continue;
+            places.insert(box->mapTo(&view, QPoint()).x());
+            EXPECT_EQ(box->width(), sizes::kBoxWidth) << name << ": " << row.Box.Name;
+        }
+        EXPECT_EQ(places.size(), 1u) << name << ": " << ::testing::PrintToString(places);
+    });
 }
 
 TEST_F(FormViewTest, NoWordsAreClipped) {
