@@ -12,10 +12,15 @@ namespace lithmark {
 
 ExitStatus NewCommand(const CommonOptions& options, int problem, ConsoleHost& host);
 ExitStatus ShowCommand(const CommonOptions& options, ConsoleHost& host);
-ExitStatus ReportCommand(const CommonOptions& options, ConsoleHost& host);
+
+struct ReportOptions {
+    bool Tables = false;     // with the tables for a check by hand
+    bool NoNotices = false;  // documents without the box of notices
+};
+ExitStatus ReportCommand(const CommonOptions& options, const ReportOptions& report, ConsoleHost& host);
 
 // What each command writes, its usual format first.
-inline const std::vector<std::string> kReportFormats = {"txt", "json", "html", "pdf", "rtf"};
+inline const std::vector<std::string> kReportFormats = {"txt", "json", "html", "pdf", "rtf", "csv", "xlsx"};
 inline const std::vector<std::string> kChartFormats = {"json", "csv", "svg", "png", "pdf", "xlsx"};
 inline const std::vector<std::string> kContourFormats = {"json", "svg", "png", "pdf"};
 inline const std::vector<std::string> kStudyFormats = {"csv", "json", "xlsx"};
@@ -45,5 +50,7 @@ Json ResultsJson();
 Json MessagesJson(const ConsoleHost& host);
 // The notices of the last run: id and text.
 Json NoticesJson();
+// Its tables for a check by hand: title, columns, rows, sums, notes.
+Json StepTablesJson();
 
 }  // namespace lithmark

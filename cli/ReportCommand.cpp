@@ -1,17 +1,21 @@
+#include "base/NumberText.h"
 #include "cli/Commands.h"
 #include "cli/Output.h"
 #include "core/Session.h"
 #include "kernels/RunProject.h"
+#include "report/AfterReport.h"
+#include "report/StepTables.h"
 #include "services/texts/LanguageTexts.h"
 #ifdef LITHMARK_RENDER
 #include "render/ReportDocument.h"
+#include "render/StepTablesXlsx.h"
 #endif
 
 namespace lithmark {
 
 namespace {
 
-std::string JsonReport(const ConsoleHost& host) {
+std::string JsonReport(const ReportOptions& report, const ConsoleHost& host) {
     Json json = Json::object();
     json["project"] = Session.ProjectName;
     json["problem"] = static_cast<int>(Session.ProblemType);
@@ -20,28 +24,58 @@ std::string JsonReport(const ConsoleHost& host) {
     json["notices"] = NoticesJson();
     json["results"] = ResultsJson();
     json["report"] = Session.CalcAborted ? std::string() : Session.ResultText;
+    if (report.Tables) json["tables"] = StepTablesJson();
     return JsonText(json);
 }
 
-std::string ReportIn(const std::string& format) {
-    if (format == "txt") return Session.ResultText;
+// All tables, one below the other and an empty line between two: title, head (title, symbol and unit of each column),
+// rows, sums, notes. Lines end in CR LF, as RFC 4180 has it.
+std::string StepTablesCsv() {
+    std::string csv;
+    const auto cellText = [](const StepCell& cell) { return cell.Number ? JsonNumber(*cell.Number) : cell.Word; };
+    const auto line = [&csv](const std::string& first, auto begin, auto end, const auto& textOf) {
+        csv += CsvCell(first);
+        for (auto cell = begin; cell != end; ++cell) csv += "," + CsvCell(textOf(*cell));
+        csv += "\r\n";
+    };
+    for (const StepTable& table : Steps().Tables()) {
+        if (!csv.empty()) csv += "\r\n";
+        csv += CsvCell(table.Title) + "\r\n";
+        line(table.Columns.front().Head(), table.Columns.begin() + 1, table.Columns.end(),
+             [](const StepColumn& column) { return column.Head(); });
+        for (const auto& row : table.Rows) line(cellText(row.front()), row.begin() + 1, row.end(), cellText);
+        for (const StepSum& sum : table.Sums) line(sum.Label, sum.Cells.begin(), sum.Cells.end(), cellText);
+        for (const std::string& note : table.Notes) csv += CsvCell(note) + "\r\n";
+    }
+    return csv;
+}
+
+std::string ReportIn(const std::string& format, const ReportOptions& report) {
+    if (format == "csv") return StepTablesCsv();
+    if (format == "txt") return ReportWith(report.Tables ? Behind::Tables : Behind::Nothing);
 #ifdef LITHMARK_RENDER
-    if (format == "html") return ReportHtml(Session.ResultText);
-    if (format == "pdf") return ReportPdf(Session.ResultText);
-    if (format == "rtf") return ReportRtf(Session.ResultText);
+    if (format == "xlsx") return StepTablesXlsx(Steps().Tables());
+    const std::string text = ReportWith(report.Tables ? (report.NoNotices ? Behind::Tables : Behind::NoticesAndTables)
+                                                      : (report.NoNotices ? Behind::Nothing : Behind::Notices));
+    if (format == "html") return ReportHtml(text);
+    if (format == "pdf") return ReportPdf(text);
+    if (format == "rtf") return ReportRtf(text);
 #endif
     FailFormat(format);
 }
 
 }  // namespace
 
-ExitStatus ReportCommand(const CommonOptions& options, ConsoleHost& host) {
+ExitStatus ReportCommand(const CommonOptions& options, const ReportOptions& report, ConsoleHost& host) {
     const std::string format = FormatInForce(options, kReportFormats);
+    if (!report.Tables && (format == "csv" || format == "xlsx"))
+        throw CommandFailure(ExitStatus::BadCommandLine, Text(907259_text, {{"|1", format}}));
     OpenProjectForRun(options);
+    Steps().SwitchOn(report.Tables);
     RunProject();
-    if (format == "json") WriteOutput(options.Output, JsonReport(host));
+    if (format == "json") WriteOutput(options.Output, JsonReport(report, host));
     if (Session.CalcAborted) throw CommandFailure(ExitStatus::Aborted, AbortedLine(host));
-    if (format != "json") WriteOutput(options.Output, ReportIn(format));
+    if (format != "json") WriteOutput(options.Output, ReportIn(format, report));
     TellNotices(host);
     return ExitStatus::Done;
 }

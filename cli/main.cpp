@@ -37,7 +37,7 @@ class CommandLine {
         CLI::App* create = Command("new", 902017_text, 902021_text, {}, NewRunner());
         create->add_option("--problem", problem_, Text(902022_text))->required()->check(CLI::Range(1, 11));
         Command("show", 902018_text, 902020_text, {}, ShowCommand);
-        Command("report", 902019_text, 902020_text, kReportFormats, ReportCommand);
+        AddReport();
         AddChart();
         AddContour();
         AddStudy();
@@ -72,6 +72,14 @@ class CommandLine {
 
     Runner NewRunner() {
         return [this](const CommonOptions& options, ConsoleHost& host) { return NewCommand(options, problem_, host); };
+    }
+
+    void AddReport() {
+        CLI::App* report = Command(
+            "report", 902019_text, 902020_text, kReportFormats,
+            [this](const CommonOptions& options, ConsoleHost& host) { return ReportCommand(options, report_, host); });
+        report->add_flag("--tables", report_.Tables, Text(907257_text));
+        report->add_flag("--no-notices", report_.NoNotices, Text(907258_text));
     }
 
     void AddChart() {
@@ -130,6 +138,7 @@ class CommandLine {
 
     CLI::App app_;
     CommonOptions options_;
+    ReportOptions report_;
     ChartOptions chart_;
     ContourCommandOptions contour_;
     StudyOptions study_;

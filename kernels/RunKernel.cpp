@@ -9,11 +9,13 @@
 #include "kernels/stress/BasSoilStress.h"
 #include "kernels/timesettlement/BasTimeSettlement.h"
 #include "report/Notices.h"
+#include "report/StepTables.h"
 
 namespace lithmark {
 
 bool RunProblemKernel() {
     Notices().Clear();
+    Steps().Clear();
     SessionRecord& p = Session;
     switch (static_cast<int>(p.ProblemType)) {
         case Problem::SoilStress:

@@ -5,10 +5,12 @@
 #include "core/Problems.h"
 #include "core/Session.h"
 #include "kernels/consolidation/ConsolidationNotices.h"
+#include "kernels/consolidation/ConsolidationTables.h"
 #include "kernels/elastic/LayerFactors.h"
 #include "kernels/elastic/PolarMesh.h"
 #include "kernels/elastic/RectangularLoad.h"
 #include "report/KernelRun.h"
+#include "report/StepTables.h"
 #include "services/SharedServices.h"
 
 namespace lithmark {
@@ -72,15 +74,17 @@ class MeanIncrease {
 };
 
 // The layer as a whole, by its modulus.
-void SolveByModulus(const ConsolidationInput& in, const MeanIncrease& increase) {
+void SolveByModulus(const ConsolidationInput& in, const MeanIncrease& increase, std::vector<Sublayer>* record) {
     const Single z1 = in.z;
     const Single z2 = in.z + in.h;
     increase.Work(z1, z2);
     Session.s = Quotient(Session.Sigma_z * in.h * 100, in.Es);
+    if (record != nullptr) record->push_back({z1, z2, 0, Session.Sigma_z, Session.s});
 }
 
 // Sublayers of about PrefDz, by the semi-logarithmic law.
-void SolveByCompressionIndex(const ConsolidationInput& in, const MeanIncrease& increase) {
+void SolveByCompressionIndex(const ConsolidationInput& in, const MeanIncrease& increase,
+                             std::vector<Sublayer>* record) {
     const Integer n = Integer::Rounded(Quotient(in.h, Session.PrefDz));
     const Single dz = Quotient(in.h, n);
     Array<Single> p(1, n);  // initial stress in the middle of each sublayer
@@ -92,7 +96,9 @@ void SolveByCompressionIndex(const ConsolidationInput& in, const MeanIncrease& i
     Single z2 = in.z + dz;
     for (int i = 1; i <= n; ++i) {
         increase.Work(z1, z2);
-        Session.s += c * Ln(Quotient(Session.Sigma_z + p(i), p(i)));
+        const double share = c * Ln(Quotient(Session.Sigma_z + p(i), p(i)));
+        Session.s += share;
+        if (record != nullptr) record->push_back({z1, z2, p(i), Session.Sigma_z, share});
         z1 = z2;
         z2 = z1 + dz;
         SharedServices().ReportProgress(static_cast<double>(i) / n);
@@ -101,10 +107,10 @@ void SolveByCompressionIndex(const ConsolidationInput& in, const MeanIncrease& i
 
 }  // namespace
 
-void SolveConsolidation(const ConsolidationInput& in) {
+void SolveConsolidation(const ConsolidationInput& in, std::vector<Sublayer>* record) {
     const MeanIncrease increase(in);
-    if (in.SoilPropertyType == SoilDefinition::ByModulus) SolveByModulus(in, increase);
-    if (in.SoilPropertyType == SoilDefinition::ByCompressionIndex) SolveByCompressionIndex(in, increase);
+    if (in.SoilPropertyType == SoilDefinition::ByModulus) SolveByModulus(in, increase, record);
+    if (in.SoilPropertyType == SoilDefinition::ByCompressionIndex) SolveByCompressionIndex(in, increase, record);
 }
 
 void ComputeConsolidation(Single x, Single y, Single z, Single Q, Single P, Single A, Single B, Single h, Single eo,
@@ -113,10 +119,12 @@ void ComputeConsolidation(Single x, Single y, Single z, Single Q, Single P, Sing
         const ConsolidationInput in{x, y, z, Q, P, A, B, h, eo, Po, Gamma, Cc, Es, LoadType, SoilPropertyType};
         SharedServices().SetPointer(PointerShape::Hourglass);
         Session.A0 = A;
-        SolveConsolidation(in);
+        std::vector<Sublayer> sublayers;
+        SolveConsolidation(in, Steps().On() ? &sublayers : nullptr);
         SharedServices().SetPointer(PointerShape::Default);
         WriteConsolidationReport(in);
         RaiseConsolidationNotices(in);
+        if (Steps().On()) AddSublayerTable(in, sublayers);
     });
 }
 

@@ -19,6 +19,8 @@
 // 2 % from a depth of one radius downward, and worse above it near a node. On the axis the circle is exact.
 #pragma once
 
+#include <vector>
+
 #include "base/Integer.h"
 #include "base/Single.h"
 #include "kernels/consolidation/ConsolidationInput.h"
@@ -32,8 +34,14 @@ namespace lithmark {
 void ComputeConsolidation(Single x, Single y, Single z, Single Q, Single P, Single A, Single B, Single h, Single eo,
                           Single Po, Single Gamma, Single Cc, Single Es, Integer LoadType, Integer SoilPropertyType);
 
+// An interval of depth as it was worked: depths [m], stresses [kN/m2], its share of the settlement [cm].
+struct Sublayer {
+    Single Top, Bottom, Before, Increase;
+    double Share = 0;
+};
+
 // The two results alone, without report, pointer and failure handling. The circle's radius is Session.A0. Throws
-// Failure.
-void SolveConsolidation(const ConsolidationInput& in);
+// Failure. With a record the intervals go there too; by Es the stress before plays no part.
+void SolveConsolidation(const ConsolidationInput& in, std::vector<Sublayer>* record = nullptr);
 
 }  // namespace lithmark

@@ -6,9 +6,11 @@
 #include "core/TimeUnits.h"
 #include "kernels/consolidation/ConsolidationNotices.h"
 #include "kernels/consolidation/ConsolidationRateRun.h"
+#include "kernels/consolidation/ConsolidationTables.h"
 #include "kernels/consolidation/InitialPressure.h"
 #include "kernels/consolidation/PorePressureMarch.h"
 #include "report/KernelRun.h"
+#include "report/StepTables.h"
 #include "services/SharedServices.h"
 
 namespace lithmark {
@@ -244,6 +246,8 @@ void Run(const ConsolidationRateInput& in) {
     SharedServices().SetPointer(PointerShape::Default);
     WriteConsolidationRateReport(in, c);
     RaiseMarchNotices(in, steps, shares.Depth, shares.Weight);
+    if (Steps().On())
+        AddMarchTables(in, {grid.n, grid.dz, nodes.Lambdas(), c, dt, steps, shares.Depth, shares.Weight, nodes.Rows});
 }
 
 }  // namespace

@@ -37,14 +37,16 @@ Corners MakeCorners(const SubRectangles& r, Single zc) {
 
 // The sum of term(corner) with the signs +, -, +, -. A corner that is left out takes its sign with it.
 enum class NarrowCorners { Count, LeftOut };
+using RecordedTerms = std::array<std::optional<double>, 4>;
 template <NarrowCorners narrow, typename Term>
-Single SignedSum(const Corners& corners, Term term) {
+Single SignedSum(const Corners& corners, Term term, RecordedTerms* record = nullptr) {
     Single sum = 0;
     double sign = 1;
     for (const Corner& corner : corners) {
         if (narrow == NarrowCorners::Count || !corner.Narrow) {
             const Single T = term(corner);
             sum += sign * T;
+            if (record != nullptr) (*record)[static_cast<std::size_t>(&corner - corners.data())] = sign * T;
         }
         sign = -sign;
     }
@@ -77,7 +79,7 @@ double DisplacementTerm(Single X, Single Y, Single R3, Single zc, Single Nue) {
 }
 
 // Steinbrenner (1934). w at the depth zc, and s, the displacement of the surface less w.
-void ComputeVerticalDisplacements(const Corners& corners, const SoilStressInput& in, Single zc) {
+void ComputeVerticalDisplacements(const Corners& corners, const SoilStressInput& in, Single zc, CornerRecord* record) {
     const Single p = in.P, Nue = in.Nue, E = in.Es;
     Single wSum = 0, sSum = 0, angleSum = 0;
     double S = 1;
@@ -85,10 +87,19 @@ void ComputeVerticalDisplacements(const Corners& corners, const SoilStressInput&
         if (!c.Narrow) {
             const Single X = c.X, Y = c.Y, R3 = c.R3;
             const Single D = std::sqrt(Square(Y) + Square(X));
-            wSum += S * (Y * Ln(Quotient(R3 + X, R3 - X))) + S * (X * Ln(Quotient(R3 + Y, R3 - Y)));
-            sSum += S * (Y * Ln(Quotient(Quotient((R3 - X) * (D + X), R3 + X), D - X))) +
-                    S * (X * Ln(Quotient(Quotient((R3 - Y) * (D + Y), R3 + Y), D - Y)));
-            angleSum += S * zc * std::atan((X * Y / zc) / R3);
+            const double wTerm = S * (Y * Ln(Quotient(R3 + X, R3 - X))) + S * (X * Ln(Quotient(R3 + Y, R3 - Y)));
+            const double sTerm = S * (Y * Ln(Quotient(Quotient((R3 - X) * (D + X), R3 + X), D - X))) +
+                                 S * (X * Ln(Quotient(Quotient((R3 - Y) * (D + Y), R3 + Y), D - Y)));
+            const double angle = S * zc * std::atan((X * Y / zc) / R3);
+            wSum += wTerm;
+            sSum += sTerm;
+            angleSum += angle;
+            if (record != nullptr) {
+                const auto at = static_cast<std::size_t>(&c - corners.data());
+                record->Terms[CornerRecord::WLog][at] = wTerm;
+                record->Terms[CornerRecord::SLog][at] = sTerm;
+                record->Terms[CornerRecord::Angle][at] = angle;
+            }
         }
         S = -S;
     }
@@ -110,31 +121,41 @@ Single RectangleSigmaZSum(const SubRectangles& rectangles, Single d) {
                                            [&](const Corner& c) { return SigmaZTerm(c, d); });
 }
 
-void ComputeRectangularLoad(const SoilStressInput& in, Single zc) {
+void ComputeRectangularLoad(const SoilStressInput& in, Single zc, CornerRecord* record) {
     const Single p = in.P, Nue = in.Nue, E = in.Es;
     const Corners corners = MakeCorners(SplitRectangle(in.x, in.y, in.A, in.B), zc);
-    const auto sumOfAll = [&](auto term) { return SignedSum<NarrowCorners::Count>(corners, term); };
-    const auto sumOfWide = [&](auto term) { return SignedSum<NarrowCorners::LeftOut>(corners, term); };
+    using Sum = CornerRecord::Sum;
+    const auto recorded = [&](Sum sum) { return record != nullptr ? &record->Terms[sum] : nullptr; };
+    const auto sumOfAll = [&](Sum of, auto term) {
+        return SignedSum<NarrowCorners::Count>(corners, term, recorded(of));
+    };
+    const auto sumOfWide = [&](Sum of, auto term) {
+        return SignedSum<NarrowCorners::LeftOut>(corners, term, recorded(of));
+    };
+    if (record != nullptr)
+        std::transform(corners.begin(), corners.end(), record->Corners.begin(), [](const Corner& c) {
+            return CornerRecord::Corner{c.X, c.Y, c.Rx, c.Ry, c.R3};
+        });
 
-    Single sum = sumOfAll([&](const Corner& c) { return SigmaZTerm(c, zc); });
+    Single sum = sumOfAll(Sum::SigmaZ, [&](const Corner& c) { return SigmaZTerm(c, zc); });
     Session.Sigma_z = sum / (2 * PI) * p;
-    sum = sumOfWide([&](const Corner& c) { return SigmaXTerm(c.X, c.Y, c.Rx, c.R3, zc, Nue); });
+    sum = sumOfWide(Sum::SigmaX, [&](const Corner& c) { return SigmaXTerm(c.X, c.Y, c.Rx, c.R3, zc, Nue); });
     Session.Sigma_x = -p * (sum / (2 * PI));
-    sum = sumOfWide([&](const Corner& c) { return SigmaXTerm(c.Y, c.X, c.Ry, c.R3, zc, Nue); });
+    sum = sumOfWide(Sum::SigmaY, [&](const Corner& c) { return SigmaXTerm(c.Y, c.X, c.Ry, c.R3, zc, Nue); });
     Session.Sigma_y = -p * (sum / (2 * PI));
 
-    sum = sumOfWide([&](const Corner& c) { return zc / c.R3 + (1 - 2 * Nue) * Ln(zc + c.R3); });
+    sum = sumOfWide(Sum::TauXy, [&](const Corner& c) { return zc / c.R3 + (1 - 2 * Nue) * Ln(zc + c.R3); });
     Session.Tau_xy = sum / (2 * PI) * p;
-    sum = sumOfAll([&](const Corner& c) { return TauXzTerm(c.Y, c.Rx, c.Ry, c.R3, zc); });
+    sum = sumOfAll(Sum::TauXz, [&](const Corner& c) { return TauXzTerm(c.Y, c.Rx, c.Ry, c.R3, zc); });
     Session.Tau_xz = -p * (sum / (2 * PI));
-    sum = sumOfAll([&](const Corner& c) { return TauXzTerm(c.X, c.Ry, c.Rx, c.R3, zc); });
+    sum = sumOfAll(Sum::TauYz, [&](const Corner& c) { return TauXzTerm(c.X, c.Ry, c.Rx, c.R3, zc); });
     Session.Tau_yz = -p * (sum / (2 * PI));
 
-    sum = sumOfWide([&](const Corner& c) { return DisplacementTerm(c.X, c.Y, c.R3, zc, Nue); });
+    sum = sumOfWide(Sum::U, [&](const Corner& c) { return DisplacementTerm(c.X, c.Y, c.R3, zc, Nue); });
     Session.u = (-100 * p) * Quotient((1 + Nue) * sum, 2 * PI * E);
-    sum = sumOfWide([&](const Corner& c) { return DisplacementTerm(c.Y, c.X, c.R3, zc, Nue); });
+    sum = sumOfWide(Sum::V, [&](const Corner& c) { return DisplacementTerm(c.Y, c.X, c.R3, zc, Nue); });
     Session.v = (-100 * p) * Quotient((1 + Nue) * sum, 2 * PI * E);
-    ComputeVerticalDisplacements(corners, in, zc);
+    ComputeVerticalDisplacements(corners, in, zc, record);
 }
 
 }  // namespace lithmark

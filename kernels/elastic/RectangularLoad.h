@@ -11,6 +11,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 
 #include "base/Single.h"
 #include "kernels/elastic/SoilStressInput.h"
@@ -30,9 +31,23 @@ SubRectangles SplitRectangle(Single x, Single y, Single a, Single b);
 // DivisionByZero for d = 0.
 Single RectangleSigmaZSum(const SubRectangles& rectangles, Single d);
 
+// The steps behind the results of a rectangle, for a check by hand. A term carries its corner's sign; a corner that is
+// left out has none. Lengths in m, angles in radians.
+struct CornerRecord {
+    struct Corner {
+        Single X, Y, Rx, Ry, R3;
+    };
+    // The sums: w = f (plane WLog - shear Angle), s = f (shear Angle + plane SLog).
+    enum Sum { SigmaZ, SigmaX, SigmaY, TauXy, TauXz, TauYz, U, V, WLog, SLog, Angle, kSums };
+
+    std::array<Corner, 4> Corners{};
+    std::array<std::array<std::optional<double>, 4>, kSums> Terms{};
+};
+
 // Writes the stresses and displacements of the rectangle into Session: Sigma, Tau [kN/m2], u, v, w, s [cm].
 // Fails where a quotient in a logarithm divides by zero: beside an edge, when a side is just above 1 mm and the other
 // one so long that the distance rounds to it.
-void ComputeRectangularLoad(const SoilStressInput& in, Single zc);
+// With a record the steps go there too.
+void ComputeRectangularLoad(const SoilStressInput& in, Single zc, CornerRecord* record = nullptr);
 
 }  // namespace lithmark

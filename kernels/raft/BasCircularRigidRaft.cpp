@@ -5,7 +5,9 @@
 #include "kernels/raft/Conditioning.h"
 #include "kernels/raft/RaftNotices.h"
 #include "kernels/raft/RaftRun.h"
+#include "kernels/raft/RaftTables.h"
 #include "report/KernelRun.h"
+#include "report/StepTables.h"
 #include "services/SharedServices.h"
 
 namespace lithmark {
@@ -56,6 +58,7 @@ void ComputeCircularRaft(Single& z, Single Q, Single A, Single& h, Single eo, Si
         MeasuresOfRaft() = {};
         const RaftResult result = CalculateCircularRaft(input);
         RaiseRaftNotices(entered, result);
+        if (Steps().On()) AddNodeTable(result);
         ExportRaft(result);
         WriteRaftReport(result);
         SharedServices().SetPointer(PointerShape::Default);

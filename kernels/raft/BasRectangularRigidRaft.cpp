@@ -6,9 +6,11 @@
 #include "kernels/raft/Conditioning.h"
 #include "kernels/raft/RaftNotices.h"
 #include "kernels/raft/RaftRun.h"
+#include "kernels/raft/RaftTables.h"
 #include "kernels/raft/RectangularAnalytical.h"
 #include "kernels/raft/RectangularNumerical.h"
 #include "report/KernelRun.h"
+#include "report/StepTables.h"
 #include "services/SharedServices.h"
 
 namespace lithmark {
@@ -36,6 +38,7 @@ class RectangularRaft {
         TakeResults();
         SharedServices().ReportProgress(1);
         RaiseRaftNotices(entered_, result_);
+        if (Steps().On()) AddNodeTable(result_);
         ExportRaft(result_);
         WriteRaftReport(result_);
         SharedServices().SetPointer(PointerShape::Default);

@@ -7,7 +7,9 @@
 #include "kernels/elastic/RectangularLoad.h"
 #include "kernels/stress/SoilStressReport.h"
 #include "kernels/stress/StressNotices.h"
+#include "kernels/stress/StressTables.h"
 #include "report/KernelRun.h"
+#include "report/StepTables.h"
 #include "services/SharedServices.h"
 
 namespace lithmark {
@@ -27,14 +29,14 @@ void ComputeStrains(Single Nue, Single E) {
 
 }  // namespace
 
-void SolveSoilStress(const SoilStressInput& in) {
+void SolveSoilStress(const SoilStressInput& in, CornerRecord* record) {
     const Single zc = FormulaDepth(in.z);
     switch (in.LoadType) {
         case LoadShape::Point:
             ComputePointLoad(in, zc);
             break;
         case LoadShape::Rectangle:
-            ComputeRectangularLoad(in, zc);
+            ComputeRectangularLoad(in, zc, record);
             break;
         case LoadShape::Circle:
             ComputeCircularLoad(in, zc);
@@ -51,10 +53,12 @@ void ComputeSoilStress(Single x, Single y, Single z, Single Q, Single P, Single 
         const SoilStressInput in{x, y, z, Q, P, A, B, Nue, Es, LoadType};
         SharedServices().SetPointer(PointerShape::Hourglass);
         Session.A0 = A;
-        SolveSoilStress(in);
+        CornerRecord corners;
+        SolveSoilStress(in, Steps().On() ? &corners : nullptr);
         SharedServices().SetPointer(PointerShape::Default);
         WriteSoilStressReport(in);
         RaiseStressNotices(in);
+        if (Steps().On()) AddCornerTables(in, corners);
     });
 }
 

@@ -4,6 +4,7 @@
 
 #include "base/Integer.h"
 #include "base/Single.h"
+#include "kernels/elastic/RectangularLoad.h"
 #include "kernels/elastic/SoilStressInput.h"
 
 namespace lithmark {
@@ -17,7 +18,7 @@ void ComputeSoilStress(Single x, Single y, Single z, Single Q, Single P, Single 
                        Integer LoadType);
 
 // The sixteen results alone, without report, pointer and failure handling. The circle's radius is Session.A0. Throws
-// Failure.
-void SolveSoilStress(const SoilStressInput& in);
+// Failure. With a record the steps of a rectangle go there too.
+void SolveSoilStress(const SoilStressInput& in, CornerRecord* record = nullptr);
 
 }  // namespace lithmark

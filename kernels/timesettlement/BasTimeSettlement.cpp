@@ -4,9 +4,11 @@
 #include "core/Session.h"
 #include "core/TimeUnits.h"
 #include "kernels/timesettlement/HistoryNotices.h"
+#include "kernels/timesettlement/HistoryTables.h"
 #include "kernels/timesettlement/SuddenLoadCurve.h"
 #include "kernels/timesettlement/TimeSettlementRun.h"
 #include "report/KernelRun.h"
+#include "report/StepTables.h"
 #include "services/SharedServices.h"
 
 namespace lithmark {
@@ -122,6 +124,7 @@ void ComputeTimeSettlement() {
         SharedServices().SetPointer(PointerShape::Default);
         WriteTimeSettlementReport(run);
         RaiseHistoryNotices();
+        if (Steps().On()) AddHistoryTables();
     });
 }
 

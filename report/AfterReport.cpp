@@ -1,0 +1,179 @@
+#include "report/AfterReport.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string_view>
+#include <vector>
+
+#include "base/Utf8.h"
+#include "core/Session.h"
+#include "core/Units.h"
+#include "report/Notices.h"
+#include "report/StepTables.h"
+#include "report/ToolLib.h"
+#include "services/texts/LanguageTexts.h"
+
+namespace lithmark {
+
+namespace {
+
+constexpr int kSignificant = 7;  // digits of a Single
+constexpr int kTitleWidth = 11;  // a column's title is broken where a line would be longer
+constexpr std::string_view kGap = "  ";
+
+bool IsIsolate(char32_t c) {
+    return c >= 0x2066 && c <= 0x2069;
+}
+
+// Cells that a text takes in a fixed-pitch font.
+int CellsOf(const std::string& text) {
+    const auto isolates = [](const std::vector<char32_t>& points) {
+        return static_cast<int>(std::count_if(points.begin(), points.end(), IsIsolate));
+    };
+    return static_cast<int>(CharacterCount(text)) - isolates(CodePoints(text)) - LigatureCount(text);
+}
+
+// The words of a text; what stands between isolates is one word.
+std::vector<std::string> WordsOf(const std::string& text) {
+    std::vector<std::string> words;
+    bool open = false;
+    for (const std::string& piece : Split(text, ' ')) {
+        if (open && !words.empty())
+            words.back() += " " + piece;
+        else
+            words.push_back(piece);
+        for (const char32_t c : CodePoints(piece))
+            if (IsIsolate(c)) open = c != 0x2069;
+    }
+    return words;
+}
+
+std::vector<std::string> Wrapped(const std::string& text, int width) {
+    std::vector<std::string> lines;
+    for (const std::string& word : WordsOf(text)) {
+        if (!lines.empty() && CellsOf(lines.back()) + 1 + CellsOf(word) <= width)
+            lines.back() += " " + word;
+        else
+            lines.push_back(word);
+    }
+    return lines;
+}
+
+std::string Right(const std::string& text, int width) {
+    return std::string(static_cast<std::size_t>(std::max(0, width - CellsOf(text))), ' ') + text;
+}
+
+std::string Left(const std::string& text, int width) {
+    return text + std::string(static_cast<std::size_t>(std::max(0, width - CellsOf(text))), ' ');
+}
+
+// Decimals that give the greatest number of a column the digits of a Single; -1: exponents, where numbers are tiny or
+// huge.
+int DecimalsOf(const StepTable& table, std::size_t column) {
+    double greatest = 0;
+    bool whole = true;
+    const auto look = [&](const StepCell& cell) {
+        if (!cell.Number) return;
+        greatest = std::max(greatest, std::abs(*cell.Number));
+        whole = whole && *cell.Number == std::floor(*cell.Number);
+    };
+    for (const auto& row : table.Rows) look(row[column]);
+    for (const StepSum& sum : table.Sums)
+        if (column > 0 && sum.Kind == StepSum::Of::Column) look(sum.Cells[column - 1]);
+    if (greatest == 0 || (whole && greatest < 1e7)) return 0;
+    const int magnitude = static_cast<int>(std::floor(std::log10(greatest)));
+    return magnitude < -4 || magnitude >= kSignificant ? -1 : std::max(0, kSignificant - 1 - magnitude);
+}
+
+std::string CellText(const StepCell& cell, int decimals) {
+    if (!cell.Number) return cell.Word;
+    if (decimals < 0) return FormatValue(*cell.Number, "0.000000E+00");
+    return FormatValue(*cell.Number, decimals == 0 ? "0" : "0." + std::string(static_cast<std::size_t>(decimals), '0'));
+}
+
+class TableText {
+  public:
+    explicit TableText(const StepTable& table) : table_(table) {
+        const std::size_t count = table.Columns.size();
+        for (std::size_t c = 0; c < count; ++c) {
+            const StepColumn& column = table.Columns[c];
+            heads_.push_back(Wrapped(column.Title, kTitleWidth));
+            headRows_ = std::max(headRows_, heads_.back().size());
+            decimals_.push_back(DecimalsOf(table, c));
+            int width = std::max(CellsOf(column.Symbol), CellsOf(column.Unit));
+            for (const std::string& piece : heads_.back()) width = std::max(width, CellsOf(piece));
+            for (const auto& row : table.Rows) width = std::max(width, CellsOf(CellText(row[c], decimals_[c])));
+            for (const StepSum& sum : table.Sums)
+                width = std::max(width, CellsOf(c == 0 ? sum.Label : SumText(sum, c)));
+            widths_.push_back(width);
+        }
+    }
+
+    std::string Text() const {
+        int whole = static_cast<int>(kGap.size()) * static_cast<int>(widths_.size() - 1);
+        for (const int width : widths_) whole += width;
+        const std::string ruler = std::string(static_cast<std::size_t>(whole), '-') + kLineEnd;
+        std::string text = table_.Title + ":" + kLineEnd + ruler;
+        for (std::size_t row = 0; row < headRows_; ++row)
+            text += Line([&](std::size_t c) { return row < heads_[c].size() ? heads_[c][row] : std::string(); });
+        text += Line([&](std::size_t c) { return table_.Columns[c].Symbol; });
+        text += Line([&](std::size_t c) { return table_.Columns[c].Unit; }) + ruler;
+        for (const auto& row : table_.Rows) text += Line([&](std::size_t c) { return CellText(row[c], decimals_[c]); });
+        text += ruler;
+        for (const StepSum& sum : table_.Sums)
+            text += Line([&](std::size_t c) { return c == 0 ? sum.Label : SumText(sum, c); }, true);
+        if (!table_.Sums.empty()) text += ruler;
+        for (const std::string& note : table_.Notes)
+            for (const std::string& line : Wrapped(note, kReportWidth)) text += line + kLineEnd;
+        return text + kLineEnd;
+    }
+
+  private:
+    std::string SumText(const StepSum& sum, std::size_t c) const { return CellText(sum.Cells[c - 1], decimals_[c]); }
+
+    template <typename CellOf>
+    std::string Line(const CellOf& cellOf, bool labelled = false) const {
+        std::string line;
+        for (std::size_t c = 0; c < widths_.size(); ++c) {
+            if (c > 0) line += kGap;
+            line += labelled && c == 0 ? Left(cellOf(c), widths_[c]) : Right(cellOf(c), widths_[c]);
+        }
+        line.erase(line.find_last_not_of(' ') + 1);
+        return line + kLineEnd;
+    }
+
+    const StepTable& table_;
+    std::vector<std::vector<std::string>> heads_;
+    std::vector<int> decimals_, widths_;
+    std::size_t headRows_ = 0;
+};
+
+}  // namespace
+
+std::string NoticeBox() {
+    if (Notices().All().empty()) return {};
+    std::string box = kLineEnd + Ruler() + kLineEnd + Text(907200_text, Style{4}) + kLineEnd + Ruler() + kLineEnd;
+    for (const Notice& notice : Notices().All()) {
+        const std::string id(NoticeName(notice.Id));
+        for (const std::string& line : Wrapped(id + ": " + NoticeText(notice), kReportWidth)) box += line + kLineEnd;
+    }
+    return box + Ruler() + kLineEnd;
+}
+
+std::string StepTablesText() {
+    const std::string heading = Text(907201_text);
+    std::string text = kLineEnd + heading + kLineEnd +
+                       std::string(static_cast<std::size_t>(std::max(1, CellsOf(heading))), '-') + kLineEnd + kLineEnd;
+    if (Steps().Tables().empty()) return text + Text(907202_text) + kLineEnd;
+    for (const StepTable& table : Steps().Tables()) text += TableText(table).Text();
+    return text;
+}
+
+std::string ReportWith(Behind parts) {
+    std::string text = Session.ResultText;
+    if (parts == Behind::Notices || parts == Behind::NoticesAndTables) text += NoticeBox();
+    if (parts == Behind::Tables || parts == Behind::NoticesAndTables) text += StepTablesText();
+    return text;
+}
+
+}  // namespace lithmark

@@ -1,0 +1,50 @@
+#include "report/StepTables.h"
+
+#include <algorithm>
+
+#include "services/texts/LanguageTexts.h"
+
+namespace lithmark {
+
+void StepTable::AddColumn(const Label& title, const std::string& symbol, const std::string& unit) {
+    const auto* id = std::get_if<TextId>(&title);
+    const auto* text = std::get_if<std::string>(&title);
+    Columns.push_back({id != nullptr ? Text(*id) : text != nullptr ? *text : std::string(), symbol, unit});
+}
+
+std::string StepColumn::Head() const {
+    std::string head = Title;
+    for (const std::string* part : {&Symbol, &Unit})
+        if (!part->empty()) head += (head.empty() ? "" : " ") + *part;
+    return head;
+}
+
+double StepTable::SumOf(std::size_t column) const {
+    double sum = 0;
+    for (const auto& row : Rows)
+        if (row[column].Number) sum += *row[column].Number;
+    return sum;
+}
+
+void StepTable::AddSums(const std::vector<std::size_t>& columns) {
+    StepSum sums{Text(907210_text), StepSum::Of::Column, std::vector<StepCell>(Columns.size() - 1)};
+    for (const std::size_t column : columns) sums.Cells[column - 1] = SumOf(column);
+    Sums.push_back(std::move(sums));
+}
+
+void StepTable::AddLine(const std::string& label, std::vector<StepCell> cells) {
+    cells.resize(Columns.size() - 1);
+    Sums.push_back({label, StepSum::Of::Something, std::move(cells)});
+}
+
+StepTable& StepRecorder::Add(const std::string& title) {
+    tables_.push_back({title, {}, {}, {}, {}});
+    return tables_.back();
+}
+
+StepRecorder& Steps() {
+    static StepRecorder recorder;
+    return recorder;
+}
+
+}  // namespace lithmark
