@@ -1,36 +1,87 @@
 #include "desktop/TableEditorDialog.h"
 
+#include <QApplication>
+#include <QBoxLayout>
+#include <QClipboard>
 #include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTableWidget>
-#include <QVBoxLayout>
-#include <cmath>
+#include <algorithm>
 
-#include "base/NumberText.h"
 #include "base/Utf8.h"
+#include "desktop/PageTools.h"
+#include "desktop/RowsChart.h"
+#include "desktop/Sizes.h"
 #include "render/QtText.h"
 #include "services/SharedServices.h"
 #include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 
+namespace {
+
+const QColor kErrorGround(0xFB, 0xDD, 0xDA), kErrorInk(0xA8, 0x23, 0x1B);
+
+// "Time [days]": title and unit of a column.
+QString AxisTitle(const std::string& head) {
+    const std::size_t first = head.find('\n'), last = head.rfind('\n');
+    return Q(first == std::string::npos ? head : head.substr(0, first) + " " + head.substr(last + 1));
+}
+
+}  // namespace
+
 TableEditorDialog::TableEditorDialog(TableEdit& table, QWidget* parent)
-    : QDialog(parent), table_(table), grid_(new QTableWidget(this)) {
+    : QDialog(parent),
+      table_(table),
+      rows_(table),
+      grid_(new QTableWidget(this)),
+      chart_(new RowsChart(this)),
+      note_(new QLabel(this)) {
     setObjectName(QStringLiteral("tableEditor"));
-    setWindowTitle(Q(table.Title));
+    setWindowTitle(PlainCaption(table.Title));
     setLayoutDirection(LanguageTexts().RightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     grid_->setObjectName(QStringLiteral("grid"));
-    grid_->setColumnCount(static_cast<int>(table.Columns.size()));
-    for (int c = 0; c < grid_->columnCount(); ++c)
+    grid_->setAccessibleName(windowTitle());
+    grid_->setColumnCount(rows_.Columns());
+    for (int c = 0; c < rows_.Columns(); ++c)
         grid_->setHorizontalHeaderItem(c, new QTableWidgetItem(Q(table.Columns[static_cast<std::size_t>(c)].Head)));
-    grid_->setRowCount(static_cast<int>(table.Rows.size()));
-    for (int r = 0; r < grid_->rowCount(); ++r)
-        for (int c = 0; c < grid_->columnCount(); ++c)
-            grid_->setItem(
-                r, c, new QTableWidgetItem(Q(table.Rows[static_cast<std::size_t>(r)][static_cast<std::size_t>(c)])));
     grid_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    grid_->setSelectionMode(QAbstractItemView::ContiguousSelection);
+    grid_->setToolTip(Q(ReplaceAll(table.RowHead, "\n", " ")));
+    grid_->installEventFilter(this);
+    note_->setObjectName(QStringLiteral("lblNote"));
+    note_->setWordWrap(true);
+    note_->setMinimumHeight(2 * note_->fontMetrics().height());
 
-    auto* buttons = new QHBoxLayout;
+    auto* columns = new QHBoxLayout;
+    columns->setSpacing(sizes::kGroupGap);
+    columns->addWidget(grid_, 3);
+    if (rows_.Columns() > 1)
+        columns->addWidget(chart_, 2);
+    else
+        chart_->hide();
+    auto* window = new QVBoxLayout(this);
+    window->setContentsMargins(sizes::kEdge, sizes::kEdge, sizes::kEdge, sizes::kEdge);
+    window->addLayout(columns, 1);
+    window->addWidget(note_);
+    window->addWidget(Buttons());
+    BindKeys();
+    connect(grid_, &QTableWidget::cellChanged, this, [this](int row, int column) { Typed(row, column); });
+    connect(grid_, &QTableWidget::itemSelectionChanged, this, [this] {
+        if (!showing_) ShowState();
+    });
+    ShowRows();
+    grid_->setCurrentCell(0, 0);
+    resize(820, 520);
+}
+
+QWidget* TableEditorDialog::Buttons() {
+    auto* line = new QWidget(this);
+    auto* buttons = new QHBoxLayout(line);
+    buttons->setContentsMargins(0, 0, 0, 0);
     const auto add = [&](const std::string& caption, const char* name, auto&& slot) {
         auto* button = new QPushButton(Q(caption), this);
         button->setObjectName(QString::fromLatin1(name));
@@ -39,64 +90,176 @@ TableEditorDialog::TableEditorDialog(TableEdit& table, QWidget* parent)
         buttons->addWidget(button);
         return button;
     };
-    add(Text(903013_text), "cmdAddRow", [this] { AddRow(); });
-    add(Text(903014_text), "cmdDeleteRow", [this] { DeleteRow(); });
+    add(Text(903013_text), "cmdAddRow", [this] {
+        const int row = grid_->currentRow() < 0 ? rows_.Rows() : grid_->currentRow() + 1;
+        Change([&] { rows_.InsertRow(row); }, row, 0);
+    });
+    delete_ = add(Text(903014_text), "cmdDeleteRow", [this] {
+        const Selection at = Selected();
+        Change([&] { rows_.DeleteRows(at.FirstRow, at.LastRow); }, at.FirstRow, at.FirstColumn);
+    });
+    up_ = add(Text(906534_text), "cmdUp", [this] { MoveRows(-1); });
+    down_ = add(Text(906535_text), "cmdDown", [this] { MoveRows(1); });
+    undo_ = add(Text(906536_text), "cmdUndo",
+                [this] { Change([&] { rows_.Undo(); }, grid_->currentRow(), grid_->currentColumn()); });
+    redo_ = add(Text(906537_text), "cmdRedo",
+                [this] { Change([&] { rows_.Redo(); }, grid_->currentRow(), grid_->currentColumn()); });
+    buttons->addStretch(1);
     add(Text(8_text, Style{1}), "cmdHelp", [this] {
         SharedServices().SetHelpText(table_.Help);
-        SharedServices().ShowHelpText(table_.Title);
+        SharedServices().ShowHelpText(windowTitle().toStdString());
     });
-    buttons->addStretch(1);
-    add(Text(6_text, Style{1}), "cmdok", [this] { accept(); })->setDefault(true);
+    ok_ = add(Text(6_text, Style{1}), "cmdok", [this] { accept(); });
+    ok_->setDefault(true);
     add(Text(7_text, Style{1}), "CmdCancel", [this] { reject(); });
-    auto* column = new QVBoxLayout(this);
-    column->addWidget(grid_, 1);
-    column->addLayout(buttons);
-    resize(560, 460);
+    return line;
+}
+
+void TableEditorDialog::BindKeys() {
+    const auto bind = [this](const QKeySequence& keys, auto&& slot) {
+        auto* shortcut = new QShortcut(keys, this);
+        connect(shortcut, &QShortcut::activated, this, slot);
+    };
+    bind(QKeySequence::Copy, [this] { Copy(); });
+    bind(QKeySequence::Paste, [this] { Paste(); });
+    bind(QKeySequence::Undo, [this] { undo_->click(); });
+    bind(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), [this] { redo_->click(); });
+    bind(QKeySequence(Qt::CTRL | Qt::Key_Plus),
+         [this] { findChild<QPushButton*>(QStringLiteral("cmdAddRow"))->click(); });
+    bind(QKeySequence(Qt::CTRL | Qt::Key_Minus), [this] { delete_->click(); });
+    bind(QKeySequence(Qt::ALT | Qt::Key_Up), [this] { up_->click(); });
+    bind(QKeySequence(Qt::ALT | Qt::Key_Down), [this] { down_->click(); });
+}
+
+TableEditorDialog::Selection TableEditorDialog::Selected() const {
+    const auto ranges = grid_->selectedRanges();
+    if (ranges.isEmpty()) {
+        const int row = grid_->currentRow(), column = grid_->currentColumn();
+        return {row, column, row, column};
+    }
+    const QTableWidgetSelectionRange& at = ranges.front();
+    return {at.topRow(), at.leftColumn(), at.bottomRow(), at.rightColumn()};
+}
+
+void TableEditorDialog::ShowRows() {
+    showing_ = true;
+    grid_->setRowCount(rows_.Rows());
+    for (int r = 0; r < rows_.Rows(); ++r)
+        for (int c = 0; c < rows_.Columns(); ++c) {
+            if (grid_->item(r, c) == nullptr) grid_->setItem(r, c, new QTableWidgetItem);
+            grid_->item(r, c)->setText(Q(rows_.Cell(r, c)));
+            MarkCell(r, c);
+        }
+    showing_ = false;
+    ShowState();
+}
+
+// A cell in error bears a mark and its reason; one that shows fewer digits than its value has is written aslant.
+void TableEditorDialog::MarkCell(int row, int column) {
+    QTableWidgetItem& item = *grid_->item(row, column);
+    const auto fault = rows_.Fault(row, column);
+    const bool hides = !fault && rows_.HidesDigits(row, column);
+    item.setBackground(fault ? QBrush(kErrorGround) : QBrush());
+    item.setForeground(fault ? QBrush(kErrorInk) : QBrush());
+    QFont font = item.font();
+    font.setItalic(hides);
+    font.setBold(fault.has_value());
+    item.setFont(font);
+    item.setTextAlignment(Qt::AlignRight | Qt::AlignVCenter | Qt::AlignAbsolute);
+    item.setToolTip(Q(fault   ? *fault
+                      : hides ? Text(906539_text, {{"|1", rows_.AllDigits(row, column)}})
+                              : std::string()));
+}
+
+void TableEditorDialog::ShowState() {
+    const auto fault = rows_.FirstFault();
+    std::string note = pasted_;
+    if (fault) {
+        const std::string place =
+            Text(906538_text, {{"|1", std::to_string(fault->Row + 1)}, {"|2", rows_.Title(fault->Column)}});
+        note = place + " - " + rows_.Fault(fault->Row, fault->Column).value_or("");
+    }
+    note_->setText(Q(note));
+    QPalette ink = palette();
+    if (fault) ink.setColor(QPalette::WindowText, kErrorInk);
+    note_->setPalette(ink);
+    ok_->setEnabled(!fault);
+    undo_->setEnabled(rows_.CanUndo());
+    redo_->setEnabled(rows_.CanRedo());
+    const Selection at = Selected();
+    delete_->setEnabled(at.FirstRow >= 0 && at.LastRow - at.FirstRow + 1 < rows_.Rows());
+    up_->setEnabled(at.FirstRow > 0);
+    down_->setEnabled(at.FirstRow >= 0 && at.LastRow + 1 < rows_.Rows());
+
+    if (rows_.Columns() < 2) return;
+    std::vector<QPointF> points;
+    for (int r = 0; r < rows_.Rows(); ++r) {
+        const auto x = rows_.Number(r, 0), y = rows_.Number(r, 1);
+        if (x && y) points.emplace_back(*x, *y);
+    }
+    chart_->Show(std::move(points), AxisTitle(table_.Columns[0].Head), AxisTitle(table_.Columns[1].Head));
+}
+
+void TableEditorDialog::Typed(int row, int column) {
+    if (showing_) return;
+    pasted_.clear();
+    rows_.SetCell(row, column, grid_->item(row, column)->text().toStdString());
+    showing_ = true;
+    MarkCell(row, column);
+    showing_ = false;
+    ShowState();
+}
+
+template <typename Command>
+void TableEditorDialog::Change(Command&& command, int row, int column) {
+    pasted_.clear();
+    command();
+    ShowRows();
+    grid_->setCurrentCell(std::clamp(row, 0, rows_.Rows() - 1), std::clamp(column, 0, rows_.Columns() - 1));
+    ShowState();
+}
+
+void TableEditorDialog::MoveRows(int by) {
+    const Selection at = Selected();
+    Change([&] { rows_.MoveRows(at.FirstRow, at.LastRow, by); }, at.FirstRow + by, at.FirstColumn);
+    grid_->setRangeSelected({at.FirstRow + by, at.FirstColumn, at.LastRow + by, at.LastColumn}, true);
+}
+
+void TableEditorDialog::Copy() {
+    const Selection at = Selected();
+    if (at.FirstRow < 0) return;
+    QApplication::clipboard()->setText(Q(rows_.Copied(at.FirstRow, at.FirstColumn, at.LastRow, at.LastColumn)));
+}
+
+void TableEditorDialog::Paste() {
+    const Selection at = Selected();
+    const std::string text = QApplication::clipboard()->text().toStdString();
+    std::string words;
+    Change([&] { words = rows_.Paste(std::max(at.FirstRow, 0), std::max(at.FirstColumn, 0), text); }, at.FirstRow,
+           at.FirstColumn);
+    pasted_ = std::move(words);
+    ShowState();
+}
+
+// Enter and Tab at the end of a cell go on as in a spreadsheet: Enter to the cell below.
+bool TableEditorDialog::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == grid_ && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            grid_->setCurrentCell(std::min(grid_->currentRow() + 1, rows_.Rows() - 1), grid_->currentColumn());
+            return true;
+        }
+    }
+    return QDialog::eventFilter(watched, event);
 }
 
 bool TableEditorDialog::Run() {
     return exec() == QDialog::Accepted;
 }
 
-void TableEditorDialog::AddRow() {
-    const int row = grid_->currentRow() < 0 ? grid_->rowCount() : grid_->currentRow() + 1;
-    grid_->insertRow(row);
-    for (int c = 0; c < grid_->columnCount(); ++c) grid_->setItem(row, c, new QTableWidgetItem(QStringLiteral("0")));
-    grid_->setCurrentCell(row, 0);
-}
-
-// A table keeps one row at least.
-void TableEditorDialog::DeleteRow() {
-    if (grid_->rowCount() > 1 && grid_->currentRow() >= 0) grid_->removeRow(grid_->currentRow());
-}
-
-bool TableEditorDialog::Check() {
-    for (int r = 0; r < grid_->rowCount(); ++r)
-        for (int c = 0; c < grid_->columnCount(); ++c) {
-            const TableEdit::Column& column = table_.Columns[static_cast<std::size_t>(c)];
-            const auto number = ParseNumber(grid_->item(r, c)->text().toStdString(), SharedServices().DecimalSign);
-            const bool whole = column.Accepts == TableEdit::Kind::Whole;
-            const bool ranged = column.Accepts != TableEdit::Kind::Positive;
-            if (number && (!whole || *number == std::floor(*number)) &&
-                (!ranged || (*number >= column.Lower && *number <= column.Upper)))
-                continue;
-            grid_->setCurrentCell(r, c);
-            SharedServices().ShowMessageBox(
-                table_.Title,
-                Text(903015_text, {{"|1", std::to_string(r + 1)}, {"|2", ReplaceAll(column.Head, "\n", " ")}}),
-                MessageIcon::Exclamation);
-            return false;
-        }
-    return true;
-}
-
 void TableEditorDialog::accept() {
-    if (!Check()) return;
-    table_.Rows.clear();
-    for (int r = 0; r < grid_->rowCount(); ++r) {
-        auto& row = table_.Rows.emplace_back();
-        for (int c = 0; c < grid_->columnCount(); ++c) row.push_back(grid_->item(r, c)->text().toStdString());
-    }
+    if (rows_.FirstFault()) return;
+    table_.Rows = rows_.Texts();
     QDialog::accept();
 }
 

@@ -1,13 +1,17 @@
-// TableEditorDialog: a table of numbers to be edited, row by row.
+// TableEditorDialog: a table of numbers to be edited, row by row, beside a small chart that follows them.
 #pragma once
 
 #include <QDialog>
 
-#include "services/host/TableEditor.h"
+#include "ui/model/TableEditing.h"
 
+class QLabel;
+class QPushButton;
 class QTableWidget;
 
 namespace lithmark {
+
+class RowsChart;
 
 class TableEditorDialog : public QDialog {
   public:
@@ -17,14 +21,38 @@ class TableEditorDialog : public QDialog {
 
     void accept() override;
 
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
   private:
-    void AddRow();
-    void DeleteRow();
-    // True when every cell holds a number that its column accepts; otherwise the first other one is told and marked.
-    bool Check();
+    struct Selection {
+        int FirstRow, FirstColumn, LastRow, LastColumn;
+    };
+    Selection Selected() const;
+
+    QWidget* Buttons();
+    void BindKeys();
+    // The grid as the rows are, and what follows from them: marks, reason, chart, buttons.
+    void ShowRows();
+    void ShowState();
+    void MarkCell(int row, int column);
+    void Typed(int row, int column);
+    // Runs a command on the rows, shows them, and selects a cell.
+    template <typename Command>
+    void Change(Command&& command, int row, int column);
+    void MoveRows(int by);
+    void Copy();
+    void Paste();
 
     TableEdit& table_;
+    TableEditing rows_;
     QTableWidget* grid_;
+    RowsChart* chart_;
+    QLabel* note_;
+    QPushButton *ok_ = nullptr, *undo_ = nullptr, *redo_ = nullptr, *delete_ = nullptr, *up_ = nullptr,
+                *down_ = nullptr;
+    std::string pasted_;
+    bool showing_ = false;
 };
 
 }  // namespace lithmark

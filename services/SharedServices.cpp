@@ -170,15 +170,41 @@ void SharedServicesService::PrepareForm(Form& form) {
     form.RightToLeft = LanguageTexts().RightToLeft();
 }
 
+std::optional<double> SharedServicesService::NumberOf(const std::string& typed) const {
+    const std::string plain = Trim(PlainDigits(typed, DecimalSign));
+    if (const auto value = ParseNumber(plain, DecimalSign)) return value;
+    const char other = DecimalSign == '.' ? ',' : '.';
+    const std::size_t at = plain.find(other);
+    const bool once = at != std::string::npos && plain.find(other, at + 1) == std::string::npos;
+    // "1,500" may be one and a half or fifteen hundred.
+    const auto digits = plain.find_first_not_of("0123456789", at + 1);
+    if (!once || (digits == std::string::npos && plain.size() - at - 1 == 3)) return std::nullopt;
+    return ParseNumber(plain, other);
+}
+
 double SharedServicesService::GetNumber(const Control& control) const {
-    const auto value = ParseNumber(PlainDigits(control.Text, DecimalSign), DecimalSign);
+    const auto value = NumberOf(control.Text);
     if (!value) Fail(FailureKind::InvalidArgument, control.Name);
     return *value;
 }
 
-std::optional<std::string> SharedServicesService::NumberFault(const Control& control, int kind, double upper,
-                                                              double lower, const std::string& label) const {
-    const auto value = ParseNumber(PlainDigits(control.Text, DecimalSign), DecimalSign);
+namespace {
+
+// What is wrong with a typed number that cannot be taken.
+std::string WhatIsWrong(const std::string& typed, std::optional<double> value, double upper, double lower, char sign) {
+    if (value && *value < lower) return Text(906542_text);
+    if (value && *value > upper) return Text(906543_text);
+    if (value) return {};  // not whole, and told so
+    if (Trim(typed).empty()) return Text(906540_text);
+    if (ParseNumber(Trim(typed), sign == '.' ? ',' : '.')) return Text(906544_text, {{"|1", std::string(1, sign)}});
+    return Text(906541_text, {{"|1", FirstCharacters(Trim(typed), 30)}});
+}
+
+}  // namespace
+
+std::optional<std::string> SharedServicesService::TextFault(const std::string& typed, int kind, double upper,
+                                                            double lower, const std::string& label) const {
+    const auto value = NumberOf(typed);
     const bool whole = kind == 1;
     if (value && *value >= lower && *value <= upper && (!whole || *value == std::floor(*value))) return std::nullopt;
 
@@ -193,7 +219,8 @@ std::optional<std::string> SharedServicesService::NumberFault(const Control& con
                                  {"|2", hasLower ? LimitText(lower, DecimalSign) : ""},
                                  {"|3", hasUpper ? LimitText(upper, DecimalSign) : ""}});
     if (whole) text += " " + Text(901004_text);
-    return text;
+    const std::string wrong = WhatIsWrong(typed, value, upper, lower, DecimalSign);
+    return wrong.empty() ? text : text + " " + wrong;
 }
 
 void SharedServicesService::RefuseBox(Form& form, Control& box, const std::string& reason) {

@@ -93,7 +93,14 @@ class SharedServicesService {
     // A message that names `label` and the allowed range when the box holds no number or one outside lower..upper, else
     // nothing. Kind 2 is a real number; kind 1 must be whole too.
     std::optional<std::string> NumberFault(const Control& control, int kind, double upper, double lower,
-                                           const std::string& label) const;
+                                           const std::string& label) const {
+        return TextFault(control.Text, kind, upper, lower, label);
+    }
+    std::optional<std::string> TextFault(const std::string& typed, int kind, double upper, double lower,
+                                         const std::string& label) const;
+    // The number of a typed text, nothing when it is none. The other of "." and "," is taken as the decimal sign too
+    // where it cannot part thousands: once in the text, and not ahead of three digits at its end.
+    std::optional<double> NumberOf(const std::string& typed) const;
     // Shows why a box cannot be taken and puts the focus on it.
     void RefuseBox(Form& form, Control& box, const std::string& reason);
     // False, after RefuseBox, when the box has a fault.

@@ -1,8 +1,10 @@
 // The frame's window: menu, bars, their layout, and its direction.
 #include <gmock/gmock.h>
 
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QStatusBar>
 #include <QTableWidget>
 #include <QTimer>
@@ -138,11 +140,10 @@ TEST_F(FrameViewTest, TheTableEditorTakesWhatIsTypedAndRefusesWhatIsNoNumber) {
         ASSERT_EQ(grid.rowCount(), 3);
         grid.item(2, 0)->setText("3.5");
         grid.item(2, 1)->setText("70");
-        run.In("messageBox", [](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); });
-        ClickOn(editor, "cmdok");
-        EXPECT_TRUE(editor.isVisible());
-        EXPECT_EQ(grid.currentRow(), 2);
-        EXPECT_EQ(grid.currentColumn(), 0);
+        EXPECT_FALSE(Child<QPushButton>(editor, "cmdok").isEnabled());
+        EXPECT_THAT(Child<QLabel>(editor, "lblNote").text().toStdString(),
+                    ::testing::StartsWith("Row 3, n - n: Please enter a number from 1 to 10. The number must be whole."));
+        EXPECT_FALSE(grid.item(2, 0)->toolTip().isEmpty());
         grid.item(2, 0)->setText("3");
         grid.setCurrentCell(0, 0);
         ClickOn(editor, "cmdDeleteRow");

@@ -11,7 +11,7 @@ namespace lithmark {
 namespace {
 
 double CellNumber(const std::string& cell) {
-    const auto number = ParseNumber(cell, SharedServices().DecimalSign);
+    const auto number = SharedServices().NumberOf(cell);
     if (!number) Fail(FailureKind::InvalidArgument);
     return *number;
 }
