@@ -8,6 +8,7 @@
 #include "files/GloableVariable.h"
 #include "kernels/RunProject.h"
 #include "services/SharedServices.h"
+#include "study/CsvText.h"
 #include "services/texts/LanguageTexts.h"
 #ifdef LITHMARK_RENDER
 #include "render/ChartDocument.h"

@@ -23,7 +23,6 @@ ExitStatus ReportCommand(const CommonOptions& options, const ReportOptions& repo
 inline const std::vector<std::string> kReportFormats = {"txt", "json", "html", "pdf", "rtf", "csv", "xlsx"};
 inline const std::vector<std::string> kChartFormats = {"json", "csv", "svg", "png", "pdf", "xlsx"};
 inline const std::vector<std::string> kContourFormats = {"json", "svg", "png", "pdf"};
-inline const std::vector<std::string> kStudyFormats = {"csv", "json", "xlsx"};
 
 struct ChartOptions {
     std::string Curve;           // "Tab1" to "Tab6"; empty: the dialog's first choice
@@ -37,12 +36,6 @@ struct ContourCommandOptions {
     int Size = 0;        // pixels of the plot's side; 0: the format's own
 };
 ExitStatus ContourCommand(const CommonOptions& options, const ContourCommandOptions& contour, ConsoleHost& host);
-
-struct StudyOptions {
-    std::vector<std::string> Vary;  // FIELD=FROM:TO:STEP
-    std::vector<std::string> Take;  // results; empty: all that are single numbers
-};
-ExitStatus StudyCommand(const CommonOptions& options, const StudyOptions& study, ConsoleHost& host);
 
 // The results of the run by the names of their fields, for the problem that was run.
 Json ResultsJson();

@@ -6,7 +6,14 @@
 
 namespace lithmark {
 
-enum class ExitStatus { Done = 0, FileTrouble = 1, BadCommandLine = 2, Aborted = 3, Interrupted = 130 };
+enum class ExitStatus {
+    Done = 0,
+    FileTrouble = 1,
+    BadCommandLine = 2,
+    Aborted = 3,
+    SomeAborted = 4,
+    Interrupted = 130
+};
 
 class CommandFailure : public std::runtime_error {
   public:

@@ -38,9 +38,4 @@ void FailFormat(const std::string& format) {
     throw CommandFailure(ExitStatus::BadCommandLine, Text(902015_text, {{"|1", format}}));
 }
 
-std::string CsvCell(const std::string& text) {
-    if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
-    return "\"" + ReplaceAll(text, "\"", "\"\"") + "\"";
-}
-
 }  // namespace lithmark

@@ -18,7 +18,4 @@ std::string FormatInForce(const CommonOptions& options, const std::vector<std::s
 // A format that this command, or this build of the program, does not write.
 [[noreturn]] void FailFormat(const std::string& format);
 
-// A cell of a comma-separated table, in double quotes where its content calls for them (RFC 4180).
-std::string CsvCell(const std::string& text);
-
 }  // namespace lithmark

@@ -1,209 +1,124 @@
-#include <algorithm>
-#include <cmath>
+#include "cli/StudyCommand.h"
+
+#include <csignal>
+#include <filesystem>
+#include <memory>
 
 #include "base/NumberText.h"
-#include "base/Utf8.h"
-#include "cli/Commands.h"
 #include "cli/Output.h"
+#include "cli/StudySheet.h"
 #include "core/Session.h"
+#include "files/ProblemData.h"
 #include "services/SharedServices.h"
-#include "study/OrderedRows.h"
 #include "study/StudyFailure.h"
-#ifdef LITHMARK_RENDER
-#include "render/ChartDocument.h"
-#endif
+#include "study/StudyIdentity.h"
+#include "study/StudyJoin.h"
+#include "study/StudyRun.h"
+#include "study/StudyTakes.h"
+#include "study/WorkerPool.h"
 
 namespace lithmark {
 
 namespace {
 
-constexpr int kMostRuns = 1000000;
+namespace fs = std::filesystem;
 
-// One varied field and the values it takes, as texts for --set.
-struct Variation {
-    std::string Field;
-    std::vector<std::string> Values;
-};
-
-// One calculation: the value of each varied field, and what came of it.
-struct StudyRun {
-    std::vector<std::string> Values;
-    RowOutcome Outcome;
-};
-
-[[noreturn]] void FailCommandLine(TextId text, const std::string& subject) {
+[[noreturn]] void FailCommandLine(TextId text, const std::string& subject = {}) {
     throw CommandFailure(ExitStatus::BadCommandLine, Text(text, {{"|1", subject}}));
 }
 
-// FIELD=FROM:TO:STEP. The last value may miss TO by a billionth of a step.
-Variation ReadVariation(const std::string& text) {
-    const auto equals = text.find('=');
-    if (equals == std::string::npos) FailCommandLine(902043_text, text);
-    const std::vector<std::string> parts = Split(text.substr(equals + 1), ':');
-    if (parts.size() != 3) FailCommandLine(902043_text, text);
-    const auto from = ParseNumber(parts[0]), to = ParseNumber(parts[1]), step = ParseNumber(parts[2]);
-    if (!from || !to || !step) FailCommandLine(902043_text, text);
-    const double steps = *step == 0 ? (*from == *to ? 0 : -1) : (*to - *from) / *step;
-    if (!(steps > -1e-9)) FailCommandLine(902044_text, text);
-    if (steps > kMostRuns) FailCommandLine(902045_text, std::to_string(kMostRuns));
-
-    Variation variation{text.substr(0, equals), {}};
-    const auto count = static_cast<int>(std::floor(steps + 1e-9)) + 1;
-    for (int i = 0; i < count; ++i) {
-        // Fifteen digits: 0.1 three times is 0.3.
-        const double value = *from + i * *step;
-        variation.Values.push_back(FormatNumber(value, "0.00000000000000E+00"));
-    }
-    ApplySets({variation.Field + "=" + variation.Values.front()});
-    for (std::string& value : variation.Values) value = NumberToText(*ParseNumber(value));
-    return variation;
-}
-
-// All combinations; the last field varies fastest.
-std::vector<StudyRun> Combinations(const std::vector<Variation>& variations) {
-    std::size_t count = 1;
-    for (const Variation& variation : variations) {
-        count *= variation.Values.size();
-        if (count > kMostRuns) FailCommandLine(902045_text, std::to_string(kMostRuns));
-    }
-    std::vector<StudyRun> runs(count);
-    for (std::size_t i = 0; i < count; ++i) {
-        std::size_t rest = i, block = count;
-        for (const Variation& variation : variations) {
-            block /= variation.Values.size();
-            runs[i].Values.push_back(variation.Values[rest / block]);
-            rest %= block;
-        }
-    }
-    return runs;
-}
-
-// What the table shows: as asked, or every result that is a single number.
-std::vector<Take> TakesInForce(const StudyOptions& study) {
-    if (study.Take.empty()) return SingleNumbers(Session.ProblemType);
-    std::vector<Take> takes;
-    for (const std::string& text : study.Take) {
-        const auto take = ParseTake(Session.ProblemType, text);
-        if (!take || take->What == Take::Kind::List) FailCommandLine(902046_text, text);
-        takes.push_back(*take);
-    }
-    return takes;
-}
-
-float NumberOf(const StudyRun& run, std::size_t take) {
-    return run.Outcome.Aborted ? kMissing : run.Outcome.Numbers[take];
-}
-
-// Head and rows as texts: the varied fields, the results, the status of each row.
-std::vector<std::vector<std::string>> StudyTable(const std::vector<Variation>& variations,
-                                                 const std::vector<Take>& takes, const std::vector<StudyRun>& runs) {
-    std::vector<std::vector<std::string>> table(1);
-    for (const Variation& variation : variations) table[0].push_back(variation.Field);
-    for (const Take& take : takes) table[0].push_back(take.Name);
-    table[0].push_back(Text(902048_text));
-    for (const StudyRun& run : runs) {
-        std::vector<std::string> row;
-        for (const std::string& value : run.Values) row.push_back(JsonNumber(*ParseNumber(value)));
-        for (std::size_t i = 0; i < takes.size(); ++i) {
-            const float number = NumberOf(run, i);
-            row.push_back(IsMissing(number) ? "" : JsonNumber(Single(number)));
-        }
-        const std::string message = run.Outcome.Message();
-        row.push_back(run.Outcome.Aborted ? message : message.empty() ? "ok" : "ok: " + message);
-        table.push_back(std::move(row));
-    }
-    return table;
-}
-
-std::string StudyCsv(const std::vector<std::vector<std::string>>& table) {
-    std::string csv;
-    for (const auto& row : table) {
-        for (std::size_t i = 0; i < row.size(); ++i) csv += (i > 0 ? "," : "") + CsvCell(row[i]);
-        csv += "\r\n";
-    }
-    return csv;
-}
-
-std::string StudyJson(const std::vector<Variation>& variations, const std::vector<Take>& takes,
-                      const std::vector<StudyRun>& runs) {
-    Json json = Json::object();
-    json["vary"] = Json::array();
-    for (const Variation& variation : variations) json["vary"].push_back(variation.Field);
-    json["take"] = Json::array();
-    for (const Take& take : takes) json["take"].push_back(take.Name);
-    json["rows"] = Json::array();
-    for (const StudyRun& run : runs) {
-        Json row = Json::object();
-        row["values"] = Json::array();
-        for (const std::string& value : run.Values) row["values"].push_back(static_cast<float>(*ParseNumber(value)));
-        row["results"] = Json::array();
-        for (std::size_t i = 0; i < takes.size(); ++i) {
-            const float number = NumberOf(run, i);
-            row["results"].push_back(IsMissing(number) ? Json() : Json(number));
-        }
-        row["aborted"] = run.Outcome.Aborted;
-        row["message"] = run.Outcome.Message();
-        json["rows"].push_back(row);
-    }
-    return JsonText(json);
-}
-
-// Works all runs, in order; false when the user ended the study. Only the runs that are ready stay then.
-bool Calculate(const std::vector<Variation>& variations, const std::vector<Take>& takes, std::vector<StudyRun>& runs) {
-    WorkerPool pool(Session, takes, WorkerPool::AllCores());
-    const auto count = static_cast<double>(runs.size());
-    OrderedRows rows;
-    rows.Count = runs.size();
-    rows.Input = [&](std::uint64_t i) {
-        RowInput input;
-        for (std::size_t n = 0; n < variations.size(); ++n) input.push_back({variations[n].Field, runs[i].Values[n]});
-        return input;
+// Options that contradict each other.
+void CheckOptions(const StudyOptions& study) {
+    const StudyRequest& request = study.Request;
+    const bool rows =
+        !request.Vary.empty() || !request.Rows.empty() || !request.Cases.empty() || !request.Random.empty();
+    if (!rows) FailCommandLine(908060_text);
+    const auto apart = [](bool one, bool other, const char* names) {
+        if (one && other) FailCommandLine(908061_text, names);
     };
-    rows.Ready = [&](std::uint64_t i, const RowOutcome& outcome) { runs[i].Outcome = outcome; };
-    rows.GoOn = [&](std::uint64_t done) { return CurrentHost().Progress(static_cast<double>(done) / count); };
-    runs.resize(WorkInOrder(pool, rows));
-    return runs.size() == rows.Count;
+    apart(!study.Join.empty(), !study.Shard.empty(), "--join, --shard");
+    apart(!study.Join.empty(), !study.Resume.empty(), "--join, --resume");
+    const auto needs = [](bool one, bool other, const char* names) {
+        if (one && !other) FailCommandLine(908062_text, names);
+    };
+    needs(study.RetryAborted, !study.Resume.empty(), "--retry-aborted, --resume");
+    needs(!request.Correlate.empty(), !request.Random.empty(), "--correlate, --random");
+    needs(!study.Design.empty(), !request.Random.empty(), "--design, --random");
 }
 
-// A result that no run has gets no column.
-void DropWhatNoRunHas(std::vector<Take>& takes, std::vector<StudyRun>& runs) {
-    for (std::size_t i = takes.size(); i-- > 0;) {
-        if (std::ranges::any_of(runs, [&](const StudyRun& run) { return !IsMissing(NumberOf(run, i)); })) continue;
-        const auto at = static_cast<std::ptrdiff_t>(i);
-        takes.erase(takes.begin() + at);
-        for (StudyRun& run : runs)
-            if (!run.Outcome.Aborted) run.Outcome.Numbers.erase(run.Outcome.Numbers.begin() + at);
-    }
+void Tell(const std::string& text) {
+    SharedServices().ShowMessageBox(Text(160030_text), text, MessageIcon::Information);
 }
 
-void WriteStudy(const CommonOptions& options, const std::string& format, const std::vector<Variation>& variations,
-                const std::vector<Take>& takes, const std::vector<StudyRun>& runs) {
-    if (format == "json") return WriteOutput(options.Output, StudyJson(variations, takes, runs));
-    const auto table = StudyTable(variations, takes, runs);
-    if (format == "csv") return WriteOutput(options.Output, StudyCsv(table));
-#ifdef LITHMARK_RENDER
-    if (format == "xlsx") return WriteOutput(options.Output, TableXlsx(Session.ProjectName, table));
-#endif
-    FailFormat(format);
+// What a user should know of the rows before they are worked.
+void TellOfPlan(const StudyRequest& request, const StudyPlan& plan) {
+    if (plan.Samples() && plan.Samples()->Count() != request.Samples)
+        Tell(Text(908063_text, {{"|1", std::to_string(plan.Samples()->Count())}}));
+    for (const StudyField& field : plan.Fields())
+        if (!IsFieldOfProblem(field.Name)) Tell(Text(908064_text, {{"|1", field.Name}}));
+}
+
+std::string OutputOf(const CommonOptions& options, const StudyOptions& study) {
+    if (options.Output == "-") return {};
+    return options.Output.empty() ? study.Resume : options.Output;
+}
+
+std::unique_ptr<RowWriter> WriterOf(const CommonOptions& options, const std::string& output, const StudyHead& head,
+                                    std::uint64_t rows) {
+    CommonOptions asked = options;
+    asked.Output = output;
+    const std::string format = FormatInForce(asked, kStudyFormats);
+    if (format == "xlsx") return SheetWriter(output, head, rows);
+    const RowFormat rowFormat = format == "csv"    ? RowFormat::Csv
+                                : format == "json" ? RowFormat::Json
+                                                   : RowFormat::JsonLines;
+    return std::make_unique<TextRowWriter>(output, rowFormat, head);
+}
+
+// How the study as a whole came out.
+ExitStatus StatusOf(const StudyTally& tally, const StudyOptions& study, const std::string& project) {
+    if (tally.Missing > 0)
+        throw CommandFailure(ExitStatus::Interrupted, Text(908065_text, {{"|1", project},
+                                                                         {"|2", std::to_string(tally.Missing)},
+                                                                         {"|3", std::to_string(tally.Rows)}}));
+    if (tally.Aborted == 0 || !study.Shard.empty()) return ExitStatus::Done;
+    const bool all = tally.Aborted == tally.Rows;
+    throw CommandFailure(
+        all ? ExitStatus::Aborted : ExitStatus::SomeAborted,
+        Text(908066_text,
+             {{"|1", std::to_string(tally.Aborted)}, {"|2", std::to_string(tally.Rows)}, {"|3", tally.FirstMessage}}));
 }
 
 }  // namespace
 
 ExitStatus StudyCommand(const CommonOptions& options, const StudyOptions& study, ConsoleHost& host) {
-    const std::string format = FormatInForce(options, kStudyFormats);
-    host.EndOnTermination();
+    CheckOptions(study);
+    std::signal(SIGPIPE, SIG_IGN);  // an output that nobody reads any more is a failed write
     OpenProjectForRun(options);
-    const SessionRecord start = Session;  // the check of a variation sets its field
-    std::vector<Variation> variations;
-    for (const std::string& vary : study.Vary) variations.push_back(ReadVariation(vary));
-    std::vector<StudyRun> runs = Combinations(variations);
-    Session = start;
-    std::vector<Take> takes = TakesInForce(study);
-    const bool complete = Calculate(variations, takes, runs);
-    if (study.Take.empty()) DropWhatNoRunHas(takes, runs);
-    WriteStudy(options, format, variations, takes, runs);
-    if (!complete) throw CommandFailure(ExitStatus::Interrupted, Text(902011_text, {{"|1", options.Project}}));
-    return ExitStatus::Done;
+    host.EndOnTermination();
+
+    StudyRequest request = study.Request;
+    request.Sobol = study.Design == "sobol";
+    const StudyPlan plan(request);
+    TellOfPlan(request, plan);
+    const std::vector<ResultLimit> limits = LimitsOf(request);
+    const std::string output = OutputOf(options, study);
+    if (!study.Resume.empty() && study.Resume != output && !fs::exists(study.Resume))
+        throw CommandFailure(ExitStatus::FileTrouble, Text(902005_text, {{"|1", study.Resume}}));
+    StudyHead head{!plan.Cases().empty(), plan.Fields(), TakesOf(request), {}};
+    head.Study = StudyIdentity(request, plan, head.Takes);
+
+    StudyRun run(plan, head);
+    if (!study.Shard.empty()) run.Part = Shard::Parse(study.Shard);
+    run.Resume = study.Resume;
+    run.RetryAborted = study.RetryAborted;
+    run.Jobs = study.Jobs > 0 ? study.Jobs : WorkerPool::AllCores();
+    run.GoOn = [](double part) { return CurrentHost().Progress(part); };
+    const auto writer = WriterOf(options, output, head, run.Part.Count(plan.Count()));
+    host.PrintMessages();
+    const StudyTally tally =
+        study.Join.empty() ? run.Work(*writer) : JoinParts(plan, head, study.Join, *writer, run.Seen);
+    return StatusOf(tally, study, options.Project);
 }
 
 }  // namespace lithmark

@@ -7,6 +7,7 @@
 
 #include "base/Utf8.h"
 #include "cli/Commands.h"
+#include "cli/StudyCommand.h"
 #include "services/SharedServices.h"
 #include "study/StudyFailure.h"
 
@@ -107,12 +108,7 @@ class CommandLine {
         CLI::App* study = Command(
             "study", 902040_text, 902020_text, kStudyFormats,
             [this](const CommonOptions& options, ConsoleHost& host) { return StudyCommand(options, study_, host); });
-        study->add_option("--vary", study_.Vary, Text(902041_text))
-            ->take_all()
-            ->allow_extra_args(false)
-            ->required()
-            ->type_name("FIELD=FROM:TO:STEP");
-        study->add_option("--take", study_.Take, Text(902042_text))->take_all()->type_name("RESULT");
+        AddStudyOptions(*study, study_);
     }
 
     // A command with the options that every command has; formats only where it has several.

@@ -206,6 +206,19 @@ std::string ValueText(bool value) {
 const std::string& ValueText(const std::string& value) {
     return value;
 }
+NamedValue ValueOf(Single value) {
+    return {FieldKind::Number, ValueText(value), value};
+}
+NamedValue ValueOf(Integer value) {
+    return {FieldKind::Whole, ValueText(value), static_cast<double>(value)};
+}
+NamedValue ValueOf(bool value) {
+    return {FieldKind::Flag, ValueText(value)};
+}
+NamedValue ValueOf(const std::string& value) {
+    return {FieldKind::Text, value};
+}
+
 template <typename T>
 std::string ValueText(const Array<T>& values) {
     std::string text = "(";
@@ -243,6 +256,23 @@ SetFieldOutcome SetSessionField(std::string_view name, std::string_view value) {
             } else {
                 if (index) return SetFieldOutcome::NoSuchElement;
                 return AssignField(*target, value) ? SetFieldOutcome::Done : SetFieldOutcome::BadValue;
+            }
+        },
+        field->Ref);
+}
+
+std::optional<NamedValue> SessionValue(std::string_view name) {
+    const std::optional<int> index = TakeIndex(name);
+    const SessionField* field = FindSessionField(name);
+    if (!field) return std::nullopt;
+    return std::visit(
+        [&]<typename T>(const T* target) -> std::optional<NamedValue> {
+            if constexpr (requires { target->Upper(); }) {
+                if (!index || *index < target->Lower() || *index > target->Upper()) return std::nullopt;
+                return ValueOf((*target)(*index));
+            } else {
+                if (index) return std::nullopt;
+                return ValueOf(*target);
             }
         },
         field->Ref);

@@ -1,6 +1,7 @@
 // The fields of Session by their names: for the command line's --set and --vary, for listings, and for data files.
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -30,6 +31,16 @@ enum class SetFieldOutcome { Done, NoSuchField, NoSuchElement, BadValue };
 // element; flags take true, false, 1, 0, -1, #TRUE#, #FALSE#. A table's count, at least 1, gives its columns that many
 // rows, new ones of zeros. Nothing changes unless the outcome is Done.
 SetFieldOutcome SetSessionField(std::string_view name, std::string_view value);
+
+// What a field, or an element of it, holds.
+enum class FieldKind { Number, Whole, Flag, Text };
+struct NamedValue {
+    FieldKind Kind;
+    std::string Text;  // as SessionFieldText has it
+    double Number = 0;
+};
+// The value of "Es" or "hLayer(2)"; nothing where there is no such field or element, or where a whole array is named.
+std::optional<NamedValue> SessionValue(std::string_view name);
 
 // A field's value as text: numbers by the written-number rule, flags "#TRUE#" or "#FALSE#", arrays as
 // "(v1, v2, ...)".

@@ -6,6 +6,7 @@
 #include "core/Catalogue.h"
 #include "core/SessionFields.h"
 #include "kernels/RunProject.h"
+#include "kernels/raft/RaftRun.h"
 #include "report/Notices.h"
 #include "services/SharedServices.h"
 #include "services/host/ConsoleHost.h"
@@ -34,6 +35,15 @@ class RowHost : public Host {
     RowOutcome& outcome_;
     const std::function<bool()>& goOn_;
     Host& previous_;
+};
+
+// A row writes none of the files that a raft's run leaves beside its project.
+class WithoutExport {
+  public:
+    WithoutExport() { SetRaftExport(false); }
+    ~WithoutExport() { SetRaftExport(true); }
+    WithoutExport(const WithoutExport&) = delete;
+    WithoutExport& operator=(const WithoutExport&) = delete;
 };
 
 // Nothing, or what is wrong with the change.
@@ -71,6 +81,7 @@ void RowWork::TakeResults(RowOutcome& outcome) const {
 RowOutcome RowWork::Run(const RowInput& input) const {
     RowOutcome outcome;
     const RowHost host(outcome, goOn_);
+    const WithoutExport noFiles;
     const auto fail = [&](const std::string& message) {
         outcome.Aborted = true;
         outcome.Messages.push_back(OneLine(message));

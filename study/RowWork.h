@@ -15,8 +15,9 @@ class RowWork {
     // Rows start from this record. `goOn` is asked now and then during a long run; false ends the row.
     RowWork(const SessionRecord& start, std::vector<Take> takes, std::function<bool()> goOn = {});
 
-    // Leaves Session as the row's run left it. A value that its field cannot hold, or a field that is none, aborts the
-    // row with a message; so does every failure of the run. The digits are those of a program run for this row alone.
+    // No file is written. Leaves Session as the row's run left it. A value that its field cannot hold, or a field that
+    // is none, aborts the row with a message; so does every failure of the run. The digits are those of a program run
+    // for this row alone.
     RowOutcome Run(const RowInput& input) const;
 
   private:

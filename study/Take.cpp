@@ -25,13 +25,15 @@ std::optional<Take> ParseTake(int problemType, const std::string& text) {
     if (open == std::string::npos || text.back() != ')') {
         const RunResult* result = FindResult(problemType, text);
         if (!result) return std::nullopt;
-        return Take{text, result->IsList() ? Take::Kind::List : Take::Kind::Number, std::string(result->Name)};
+        return Take{std::string(result->Name), result->IsList() ? Take::Kind::List : Take::Kind::Number,
+                    std::string(result->Name)};
     }
     const std::string before = text.substr(0, open), inside = text.substr(open + 1, text.size() - open - 2);
     const bool greatest = before == "max", least = before == "min";
     const RunResult* result = FindResult(problemType, greatest || least ? inside : before);
     if (!result || !result->IsList()) return std::nullopt;
-    Take take{text, Take::Kind::Element, std::string(result->Name)};
+    const std::string name(result->Name);
+    Take take{before + "(" + name + ")", Take::Kind::Element, name};
     if (greatest || least) {
         take.What = greatest ? Take::Kind::Greatest : Take::Kind::Least;
         return take;
@@ -39,6 +41,7 @@ std::optional<Take> ParseTake(int problemType, const std::string& text) {
     const auto index = ParseNumber(inside);
     if (!index || !CanHold(*result, *index)) return std::nullopt;
     take.Index = static_cast<int>(*index);
+    take.Name = name + "(" + NumberToText(take.Index) + ")";
     return take;
 }
 

@@ -14,7 +14,7 @@ namespace lithmark {
 struct Take {
     enum class Kind { Number, Element, Greatest, Least, List };
 
-    std::string Name;  // as it was asked for, and as it heads its column
+    std::string Name;  // as it heads its column
     Kind What = Kind::Number;
     std::string Result;  // the result's own name
     int Index = 0;       // of an element

@@ -62,12 +62,9 @@ class Answers {
 
 }  // namespace
 
-void WorkRows(int socket, std::atomic<Ticket>& inWork, const SessionRecord& start, const std::vector<Take>& takes,
-              const std::string& scratch) {
-    SessionRecord record = start;
-    record.WorkDir = record.DataDir = scratch;
+void WorkRows(int socket, std::atomic<Ticket>& inWork, const SessionRecord& start, const std::vector<Take>& takes) {
     const pid_t study = getppid();
-    const RowWork work(record, takes, [study] { return getppid() == study; });
+    const RowWork work(start, takes, [study] { return getppid() == study; });
     FrameBuffer frames;
     Answers answers(socket);
     for (;;) {

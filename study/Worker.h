@@ -14,8 +14,7 @@ namespace lithmark {
 inline constexpr Ticket kNoRow = ~Ticket{0};
 
 // Works rows until the other end of the socket is closed. `inWork` holds the ticket of the row in work, where the study
-// still sees it after the worker's death; files that a run writes go to `scratch`.
-void WorkRows(int socket, std::atomic<Ticket>& inWork, const SessionRecord& start, const std::vector<Take>& takes,
-              const std::string& scratch);
+// still sees it after the worker's death.
+void WorkRows(int socket, std::atomic<Ticket>& inWork, const SessionRecord& start, const std::vector<Take>& takes);
 
 }  // namespace lithmark

@@ -81,7 +81,6 @@ bool WorkerPool::Start(std::size_t index) {
     Worker& worker = workers_[index];
     std::array<int, 2> ends{};
     if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0) return false;
-    const std::string scratch = scratch_.Fresh(static_cast<int>(index));
     inWork_[index] = kNoRow;
     const pid_t process = fork();
     if (process < 0) {
@@ -95,8 +94,7 @@ bool WorkerPool::Start(std::size_t index) {
         close(ends[0]);
         for (const Worker& other : workers_)
             if (other.Socket >= 0) close(other.Socket);
-        WorkRows(ends[1], inWork_[index], start_, takes_, scratch);
-        scratch_.Leave(static_cast<int>(index));
+        WorkRows(ends[1], inWork_[index], start_, takes_);
         _exit(0);
     }
     close(ends[1]);

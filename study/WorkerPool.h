@@ -19,7 +19,6 @@
 
 #include "core/Session.h"
 #include "study/Row.h"
-#include "study/ScratchFolders.h"
 #include "study/Take.h"
 #include "study/Wire.h"
 
@@ -51,7 +50,7 @@ class WorkerPool {
     static int AllCores();
 
     // Workers are started as rows come in, and start from `start`. They are forked, so a program with a toolkit makes
-    // its pool before the toolkit starts threads. StudyFailure where no scratch folder can be made.
+    // its pool before the toolkit starts threads.
     WorkerPool(const SessionRecord& start, std::vector<Take> takes, int workers);
     // Ends the workers at once, whatever they are at.
     ~WorkerPool();
@@ -101,7 +100,6 @@ class WorkerPool {
 
     SessionRecord start_;
     std::vector<Take> takes_;
-    ScratchFolders scratch_;
     std::vector<Worker> workers_;
     std::deque<PendingRow> waiting_;
     std::size_t unanswered_ = 0;

@@ -73,12 +73,17 @@ TEST(Walls, NothingBelowRenderIncludesAToolkitHeader) {
 
 TEST(Walls, OnlyTheNamedServicesUseALibraryBeyondTheStandardOne) {
     static const std::regex library(R"(^(Eigen/.*|zip\.h|nlohmann/.*|CLI/.*|gtest/.*|gmock/.*)$)");
+    static const std::regex ofStudies(R"(^(boost/.*|Random123/.*)$)");
     for (const auto& file : Sources()) {
         if (kFloors.at(file.Floor) >= kFloors.at("render")) continue;
-        for (const auto& name : Includes(file.Text))
+        for (const auto& name : Includes(file.Text)) {
             if (std::regex_match(name, library)) {
                 EXPECT_EQ(file.Floor, "services") << file.Path << " includes " << name;
             }
+            if (std::regex_match(name, ofStudies)) {
+                EXPECT_EQ(file.Floor, "study") << file.Path << " includes " << name;
+            }
+        }
     }
 }
 

@@ -2,7 +2,7 @@
 // problems, for every choice that their data and settings offer, and whatever the worker did before.
 #include "cli/CliCase.h"
 #include "services/host/ConsoleHost.h"
-#include "study/StudyCase.h"
+#include "study/StudyProblem.h"
 
 namespace lithmark::tests {
 namespace {

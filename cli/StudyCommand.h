@@ -1,0 +1,34 @@
+// The command study.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "cli/Failures.h"
+#include "cli/Project.h"
+#include "study/StudyRequest.h"
+
+namespace CLI {
+class App;
+}
+
+namespace lithmark {
+
+inline const std::vector<std::string> kStudyFormats = {"csv", "json", "jsonl", "xlsx"};
+
+struct StudyOptions {
+    StudyRequest Request;
+    std::string Design;
+    std::string Shard;              // K/N; empty: all rows
+    std::vector<std::string> Join;  // parts to be put together
+    std::string Resume;             // rows that need not be worked again
+    bool RetryAborted = false;
+    int Jobs = 0;  // 0: all cores
+};
+
+// Gives the command its options.
+void AddStudyOptions(CLI::App& command, StudyOptions& study);
+
+ExitStatus StudyCommand(const CommonOptions& options, const StudyOptions& study, ConsoleHost& host);
+
+}  // namespace lithmark

@@ -1,0 +1,37 @@
+#include <CLI/CLI.hpp>
+
+#include "cli/StudyCommand.h"
+#include "services/texts/LanguageTexts.h"
+
+namespace lithmark {
+
+namespace {
+
+// An option that may stand several times, each time with one value.
+CLI::Option* AddList(CLI::App& command, const std::string& name, std::vector<std::string>& values, TextId text,
+                     const std::string& form) {
+    return command.add_option(name, values, Text(text))->take_all()->allow_extra_args(false)->type_name(form);
+}
+
+}  // namespace
+
+void AddStudyOptions(CLI::App& command, StudyOptions& study) {
+    StudyRequest& request = study.Request;
+    AddList(command, "--vary", request.Vary, 902041_text, "FIELD=FROM:TO:STEP");
+    command.add_option("--rows", request.Rows, Text(908040_text))->type_name("FILE");
+    AddList(command, "--case", request.Cases, 908041_text, "NAME:FIELD=*FACTOR,...");
+    AddList(command, "--random", request.Random, 908042_text, "FIELD=DISTRIBUTION");
+    AddList(command, "--correlate", request.Correlate, 908043_text, "A,B=R");
+    command.add_option("--samples", request.Samples, Text(908044_text))->type_name("N");
+    command.add_option("--seed", request.Seed, Text(908045_text))->type_name("S");
+    command.add_option("--design", study.Design, Text(908046_text))->check(CLI::IsMember({"random", "sobol"}));
+    AddList(command, "--take", request.Take, 902042_text, "RESULT");
+    AddList(command, "--limit", request.Limit, 908047_text, "RESULT=VALUE");
+    command.add_option("--jobs", study.Jobs, Text(908048_text))->check(CLI::Range(1, 4096))->type_name("N");
+    command.add_option("--shard", study.Shard, Text(908049_text))->type_name("K/N");
+    command.add_option("--join", study.Join, Text(908050_text))->type_name("FILE ...");
+    command.add_option("--resume", study.Resume, Text(908051_text))->type_name("FILE");
+    command.add_flag("--retry-aborted", study.RetryAborted, Text(908052_text));
+}
+
+}  // namespace lithmark

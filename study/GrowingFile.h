@@ -1,0 +1,36 @@
+// GrowingFile: an output that can be read while it grows. It begins beside its target and takes the target's place when
+// it has something to show; from then on what is appended is seen there. Until then the target stays as it was.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace lithmark {
+
+class GrowingFile {
+  public:
+    // An empty path is standard output. A target that is no regular file is written directly. StudyFailure where the
+    // target cannot be written.
+    explicit GrowingFile(const std::string& path);
+    // What did not take its target's place is gone.
+    ~GrowingFile();
+    GrowingFile(const GrowingFile&) = delete;
+    GrowingFile& operator=(const GrowingFile&) = delete;
+
+    void Append(std::string_view bytes);
+    // What was appended so far is given to the system.
+    void Flush();
+    // Flush, and the file takes its target's place, once.
+    void Settle();
+    // Settle, and everything is on the disk.
+    void Finish();
+
+  private:
+    [[noreturn]] void FailHere(int error) const;
+
+    std::string path_, target_, temporary_, buffer_;
+    int descriptor_ = -1;
+    bool owned_ = false;
+};
+
+}  // namespace lithmark
