@@ -52,8 +52,8 @@ TEST_F(CliStudy, TheTableHasAFixedHead) {
     ASSERT_EQ(lines.size(), 5u);
     EXPECT_EQ(lines[0], "Row,Pt,Ms,ConsolidationEnd,MeasureFactor,Status,Notices,Study\r");
     // Without a measurement a row has no factor: its cell is empty.
-    EXPECT_THAT(lines[1], testing::ContainsRegex("^1,100,#FALSE#,[0-9.]+,,ok,,[0-9a-f]{8}\r$"));
-    EXPECT_THAT(lines[2], testing::ContainsRegex("^2,100,#TRUE#,[0-9.]+,[0-9.]+,ok,,[0-9a-f]{8}\r$"));
+    EXPECT_THAT(lines[1], testing::ContainsRegex("^1,100,#FALSE#,[0-9.]+,,ok,[a-z -]*,[0-9a-f]{8}\r$"));
+    EXPECT_THAT(lines[2], testing::ContainsRegex("^2,100,#TRUE#,[0-9.]+,[0-9.]+,ok,[a-z -]*,[0-9a-f]{8}\r$"));
 }
 
 TEST_F(CliStudy, AResultThatIsCalledAsAVariedFieldHasAColumnOfItsOwn) {
@@ -106,7 +106,7 @@ TEST_F(CliStudy, AnAbortedRowIsMarkedAndTheOthersStand) {
     const auto lines = LinesOf(csv.Out);
     ASSERT_EQ(lines.size(), 4u);
     EXPECT_THAT(lines[1], StartsWith("1,0,,"));
-    EXPECT_THAT(lines[2], HasSubstr(",ok,,"));
+    EXPECT_THAT(lines[2], HasSubstr(",ok,"));
     const Json rows = Study(project, words);
     EXPECT_TRUE(rows[0]["Sigma_z"].is_null());
     EXPECT_NE(rows[0]["Status"], "ok");
@@ -307,7 +307,7 @@ TEST_F(CliStudy, AWarningStandsBesideItsResults) {
     const auto lines = LinesOf(result.Out);
     ASSERT_EQ(lines.size(), 3u);
     EXPECT_THAT(lines[1], HasSubstr(",ok: "));
-    EXPECT_THAT(lines[2], HasSubstr(",ok,,"));
+    EXPECT_THAT(lines[2], HasSubstr(",ok,"));
 }
 
 TEST_F(CliStudy, AVaryThatIsNoWholeNumberFailsRowByRow) {

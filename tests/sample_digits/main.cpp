@@ -17,8 +17,9 @@ int main(int argc, char** argv) {
     Session.ProblemType = 4;
     SetProblemDefaults();
     StudyRequest request;
-    request.Random = {"Es=lognormal:5000:30%",     "P=normal:150:10%:100:200",   "h=triangular:3:5:9", "Cc=uniform:0.1:0.4",
-                      "eo=lognormal:0.85:10%:0:2", "Po=triangular:30:40:70:35:60", "z=normal:2:0.25"};
+    request.Random = {"Es=lognormal:5000:30%", "P=normal:150:10%:100:200",  "h=triangular:3:5:9",
+                      "Cc=uniform:0.1:0.4",    "eo=lognormal:0.85:10%:0:2", "Po=triangular:30:40:70:35:60",
+                      "z=normal:2:0.25"};
     request.Correlate = {"Cc,eo=0.7", "Es,h=-0.4"};
     request.Samples = argc > 1 ? std::strtoull(argv[1], nullptr, 10) : 100000;
     for (const bool sobol : {false, true}) {
