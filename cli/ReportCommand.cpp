@@ -6,6 +6,7 @@
 #include "report/AfterReport.h"
 #include "report/StepTables.h"
 #include "services/texts/LanguageTexts.h"
+#include "study/CsvText.h"
 #ifdef LITHMARK_RENDER
 #include "render/ReportDocument.h"
 #include "render/StepTablesXlsx.h"
