@@ -22,9 +22,11 @@
 #include "desktop/PictureView.h"
 #include "desktop/ReportView.h"
 #include "desktop/Sizes.h"
+#include "desktop/Symbols.h"
 #include "desktop/layouts/Layouts.h"
 #include "render/QtText.h"
 #include "services/TextTools.h"
+#include "ui/model/FieldForm.h"
 
 namespace lithmark {
 
@@ -51,6 +53,8 @@ FormView::FormView(Form& form, QWidget* parent) : QDialog(parent), form_(form) {
     setModal(true);
     setLayoutDirection(form.RightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    if (const auto* fields = dynamic_cast<const FieldForm*>(&form))
+        for (const FieldRow& row : fields->Fields()) symbols_.insert(row.Symbol.On);
     BuildLayout(*this);
     for (Control* control : form.Controls()) WidgetOf(*control);
     Refresh();
@@ -190,9 +194,12 @@ QWidget* FormView::Make(Control& control) {
         case ControlKind::Frame:
             widget = new QGroupBox(this);
             break;
-        case ControlKind::Picture:
-            widget = new PictureView(control, this);
+        case ControlKind::Picture: {
+            auto* picture = new PictureView(form_, control, this);
+            picture->OnPick = [this](const Control& box) { FocusOn(box); };
+            widget = picture;
             break;
+        }
         case ControlKind::TextArea:
             widget = new ReportView(this);
             break;
@@ -271,7 +278,7 @@ void FormView::Show(Control& control, QWidget& widget) {
     const QString caption = Q(control.Caption);
     switch (control.Kind) {
         case ControlKind::TextLabel:
-            static_cast<QLabel&>(widget).setText(caption);
+            static_cast<QLabel&>(widget).setText(symbols_.contains(&control) ? SymbolMarkup(control.Caption) : caption);
             break;
         case ControlKind::TextBox: {
             auto& box = static_cast<QLineEdit&>(widget);
@@ -308,7 +315,7 @@ void FormView::Show(Control& control, QWidget& widget) {
             static_cast<QGroupBox&>(widget).setTitle(caption);
             break;
         case ControlKind::Picture:
-            widget.update();
+            static_cast<PictureView&>(widget).Follow();
             break;
         case ControlKind::TextArea:
             static_cast<ReportView&>(widget).ShowReport(control.Text, control.FontName, form_.RightToLeft);

@@ -9,7 +9,7 @@ constexpr Style kHeading{4};
 
 }  // namespace
 
-frmConsolidation::frmConsolidation() : LoadForm("frmConsolidation", {"Consolidation.bmp", "Consolidation Form", ""}) {
+frmConsolidation::frmConsolidation() : LoadForm("frmConsolidation", {"Consolidation.bmp", "Consolidation Form", "consolidation"}) {
     const auto shown = CheckedWhen::Shown;
     SetFields({
         RowX({GoTo(txt_y)}),

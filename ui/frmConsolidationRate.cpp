@@ -15,7 +15,7 @@ std::function<std::string()> OfLayer(TextId property, int layer) {
 }  // namespace
 
 frmConsolidationRate::frmConsolidationRate()
-    : LoadForm("frmConsolidationRate", {"ConsolidationRate.bmp", "ConsolidationRate Form", ""}, "lblknm1") {
+    : LoadForm("frmConsolidationRate", {"ConsolidationRate.bmp", "ConsolidationRate Form", "rate"}, "lblknm1") {
     const auto shown = CheckedWhen::Shown;
     SetFields({
         RowX({GoTo(txt_y)}, shown),

@@ -6,7 +6,7 @@
 namespace lithmark {
 
 frmRigidConsolidation::frmRigidConsolidation()
-    : RaftForm("frmRigidConsolidation", {"RigidConsolidation.bmp", "Consolidation Form", ""}) {
+    : RaftForm("frmRigidConsolidation", {"RigidConsolidation.bmp", "Consolidation Form", "raft"}) {
     using R = SessionRecord;
     const auto enabled = CheckedWhen::Enabled;
     SetFields({

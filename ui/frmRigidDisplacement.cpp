@@ -3,7 +3,7 @@
 namespace lithmark {
 
 frmRigidDisplacement::frmRigidDisplacement()
-    : RaftForm("frmRigidDisplacement", {"RigidDisplacement.bmp", "Consolidation Form", ""}) {
+    : RaftForm("frmRigidDisplacement", {"RigidDisplacement.bmp", "Consolidation Form", "raft"}) {
     using R = SessionRecord;
     const auto always = CheckedWhen::Always;
     SetFields({RowH(), RowQ(), RowA(), RowEx(always), RowEy(always), RowB(0), RowEs({0}, {GoTo(txt_Nue)}, always),

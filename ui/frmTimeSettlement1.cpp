@@ -6,7 +6,7 @@
 namespace lithmark {
 
 frmTimeSettlement1::frmTimeSettlement1()
-    : TimeSettlementForm("frmTimeSettlement1", {"TimeSettlement1.bmp", "TimeSettlement Form", ""}) {
+    : TimeSettlementForm("frmTimeSettlement1", {"TimeSettlement1.bmp", "TimeSettlement Form", "building"}) {
     SetFields({RowSm(), RowPt(), RowSc(), RowTimePeriod(), RowDate(), RowTimeOfMeasurement()});
     SetChoices({TimeUnits(), Measured()});
     SetCaptionRows(WithSharedCaptions({{CmdTimeSettlementPoints, 300044_text, Style{1}}}));

@@ -17,7 +17,7 @@ std::string UnitOf(int option) {
 }  // namespace
 
 frmTimeSettlement2::frmTimeSettlement2()
-    : TimeSettlementForm("frmTimeSettlement2", {"TimeSettlement2.bmp", "TimeSettlement Form", ""}) {
+    : TimeSettlementForm("frmTimeSettlement2", {"TimeSettlement2.bmp", "TimeSettlement Form", "building"}) {
     SetFields({RowSm(),
                FieldRow({lblHo, 300025_text}, {lbl_ho, "h"}, txt_Hb, {lblm1, Unit::Length}, {&R::h, &R::FmtLength}, {0},
                         {GoTo(txt_Sc)}),

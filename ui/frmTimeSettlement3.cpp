@@ -9,7 +9,7 @@ using R = SessionRecord;
 }  // namespace
 
 frmTimeSettlement3::frmTimeSettlement3()
-    : TimeSettlementForm("frmTimeSettlement3", {"TimeSettlement3.bmp", "TimeSettlement Form", ""}) {
+    : TimeSettlementForm("frmTimeSettlement3", {"TimeSettlement3.bmp", "TimeSettlement Form", "building"}) {
     const auto enabled = CheckedWhen::Enabled;
     SetFields({FieldRow({lblCv, 10243_text}, {lbl_cv, "Cv"}, txt_Cv, {lblm2s1, Unit::AreaPerTime},
                         {&R::CvTS, &R::FmtCv}, {0}, {GoTo(txt_Hb)}, enabled),

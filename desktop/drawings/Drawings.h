@@ -2,15 +2,14 @@
 // itself known in its own file: `const DrawingNamed kDrawing("stress", Draw);`.
 #pragma once
 
-#include <QRect>
 #include <string>
-
-class QPainter;
 
 namespace lithmark {
 
-// `variant` is the picture's word for which form of the problem is drawn; empty when none is chosen.
-using DrawingFunction = void (*)(QPainter& painter, const QRect& area, const std::string& variant);
+class Sketch;
+
+// Draws what the sketch's form holds into the sketch's area.
+using DrawingFunction = void (*)(Sketch& sketch);
 
 struct DrawingNamed {
     DrawingNamed(const char* name, DrawingFunction draw);

@@ -1,105 +1,124 @@
-// Stresses, strains and displacements at a point: the half-space in parallel perspective with the load, the axes and
-// the point with its coordinates.
-#include <QPainterPath>
+// Stresses, strains and displacements at a point: a block of the half-space with the load in the middle of its surface,
+// and the point with its coordinates.
 #include <cmath>
-#include <numbers>
-#include <vector>
 
+#include "core/Problems.h"
 #include "desktop/drawings/Drawings.h"
-#include "desktop/drawings/Scene.h"
+#include "desktop/drawings/Perspective.h"
+#include "desktop/drawings/Proportions.h"
 
 namespace lithmark {
 
 namespace {
 
-using namespace inks;
+struct View {
+    Sketch& S;
+    const Perspective& P;
+    DrawnLength A, B, X, Y, Z;
+    double Top;  // the height of the load's arrows
+    bool Rectangular, Circular;
+};
 
-void DrawGround(const Scene& s) {
-    const double x = 3.4, y = 4.2, z = 5.2;
-    const QPen edge(kAxis, 1);
-    s.Polygon(QPolygonF({s.At(-x, -y, 0), s.At(-x, y, 0), s.At(x, y, 0), s.At(x, -y, 0)}), edge, kSoil);
-    s.Polygon(QPolygonF({s.At(x, -y, 0), s.At(x, y, 0), s.At(x, y, z), s.At(x, -y, z)}), edge, kSoilSide);
-    s.Polygon(QPolygonF({s.At(x, y, 0), s.At(-x, y, 0), s.At(-x, y, z), s.At(x, y, z)}), edge, kSoilSide.darker(106));
+void DrawAxes(const View& v, const Block& block) {
+    Sketch& s = v.S;
+    const Perspective& p = v.P;
+    const QPen axis = s.Pen(Ink::Quiet, 1);
+    s.Arrow(p.At(0, 0, 0), p.At(block.X, 0, 0), axis);
+    s.Arrow(p.At(0, 0, 0), p.At(0, block.Y, 0), axis);
+    s.Symbol("x", p.At(block.X, 0, 0), Side::Left, Ink::Quiet);
+    s.Symbol("y", p.At(0, block.Y, 0), Side::Above, Ink::Quiet);
 }
 
-void DrawAxes(const Scene& s) {
-    const QPen axis(kAxis, 1.4);
-    s.Arrow(s.At(0, 0, 0), s.At(4.3, 0, 0), axis);
-    s.Symbol(s.At(4.8, 0, 0), QStringLiteral("x"), kAxis);
-    s.Arrow(s.At(0, 0, 0), s.At(0, 4.9, 0), axis);
-    s.Symbol(s.At(0, 5.2, 0), QStringLiteral("y"), kAxis);
-    s.Arrow(s.At(0, 0, 0), s.At(0, 0, 5.0), axis);
-    s.Symbol(s.At(0, 0.35, 5.0), QStringLiteral("z"), kAxis);
-}
-
-void DrawPoint(const Scene& s) {
-    const double x = 2.2, y = 2.4, z = 3.4;
-    const QPen dashed(kPoint, 1.2, Qt::DashLine);
-    s.Line(s.At(x, 0, 0), s.At(x, y, 0), dashed);
-    s.Line(s.At(0, y, 0), s.At(x, y, 0), dashed);
-    s.Line(s.At(x, y, 0), s.At(x, y, z), dashed);
-    s.Painter.setPen(Qt::NoPen);
-    s.Painter.setBrush(kPoint);
-    s.Painter.drawEllipse(s.At(x, y, z), 0.16 * s.Scale(), 0.16 * s.Scale());
-    s.Symbol(s.At(x, y, z) + QPointF(1.05 * s.Scale(), 0.05 * s.Scale()), QStringLiteral("(x, y, z)"), kPoint);
-    s.Symbol(s.At(x, y, z / 2) + QPointF(0.3 * s.Scale(), 0), QStringLiteral("z"), kPoint);
-}
-
-void DrawArrowsDown(const Scene& s, const std::vector<QPointF>& feet, double length) {
-    for (const QPointF& foot : feet) s.Arrow(foot - QPointF(0, length * s.Scale()), foot, QPen(kLoad, 1.5));
-}
-
-void DrawRectangle(const Scene& s) {
-    const double a = 1.3, b = 1.7, top = 1.3;
-    const auto at = [&](double x, double y) { return s.At(x, y, 0); };
-    s.Polygon(QPolygonF({at(-a, -b), at(-a, b), at(a, b), at(a, -b)}), QPen(kLoad, 1.6), kLoadArea);
-    std::vector<QPointF> feet;
-    for (const double y : {-b, -b / 2, 0.0, b / 2, b})
-        for (const double x : {-a, a}) feet.push_back(at(x, y));
-    DrawArrowsDown(s, feet, top);
-    const QPointF up(0, -top * s.Scale());
-    s.Polygon(QPolygonF({at(-a, -b) + up, at(-a, b) + up, at(a, b) + up, at(a, -b) + up}), QPen(kLoad, 1.2),
-              Qt::NoBrush);
-    s.Symbol(s.At(-a, 0, 0) + up - QPointF(0, 0.35 * s.Scale()), QStringLiteral("p"), kLoad);
-    s.Symbol(s.At(0, -b, 0) - QPointF(0.35 * s.Scale(), 0.05 * s.Scale()), QStringLiteral("a"), kInk);
-    s.Symbol(s.At(a, 0, 0) + QPointF(-0.5 * s.Scale(), 0.3 * s.Scale()), QStringLiteral("b"), kInk);
-}
-
-void DrawCircle(const Scene& s) {
-    const double a = 1.6, top = 1.3;
-    QPolygonF ring, upper;
-    std::vector<QPointF> feet;
-    const QPointF up(0, -top * s.Scale());
-    constexpr int kParts = 72;
-    for (int i = 0; i < kParts; ++i) {
-        const double angle = 2 * std::numbers::pi * i / kParts;
-        const QPointF foot = s.At(a * std::cos(angle), a * std::sin(angle), 0);
-        ring << foot;
-        upper << foot + up;
-        if (i % 8 == 0) feet.push_back(foot);
+void DrawUniformLoad(const View& v) {
+    Sketch& s = v.S;
+    const Perspective& p = v.P;
+    const QPointF up(0, -v.Top * p.Scale());
+    const QPolygonF foot = v.Rectangular ? p.Rectangle(v.A.Length, v.B.Length, 0) : p.Circle(v.A.Length, 0);
+    QColor area = s.Colour(Ink::Load);
+    area.setAlpha(60);
+    const QPen pen = s.Pen(Ink::Load, 1.4);
+    s.Polygon(foot, pen, area);
+    const QPen arrows = s.PenOf("txt_P", s.Pen(Ink::Load, 1.2));
+    if (v.Rectangular) {
+        for (const double y : {-0.5, -0.25, 0.0, 0.25, 0.5})
+            for (const double x : {-0.5, 0.5}) {
+                const QPointF at = p.At(x * v.A.Length, y * v.B.Length, 0);
+                s.Arrow(at + up, at, arrows);
+            }
+    } else {
+        for (int i = 0; i < foot.size(); i += 8) s.Arrow(foot[i] + up, foot[i], arrows);
     }
-    s.Polygon(ring, QPen(kLoad, 1.6), kLoadArea);
-    DrawArrowsDown(s, feet, top);
-    s.Polygon(upper, QPen(kLoad, 1.2), Qt::NoBrush);
-    s.Symbol(s.At(-a, 0, 0) + up - QPointF(0, 0.35 * s.Scale()), QStringLiteral("p"), kLoad);
-    s.Line(s.At(0, 0, 0), s.At(0, -a, 0), QPen(kInk, 1.4));
-    s.Symbol(s.At(0, -a / 2, 0) - QPointF(0, 0.28 * s.Scale()), QStringLiteral("a"), kInk);
+    s.Polygon(foot.translated(up), s.PenOf("txt_P", s.Pen(Ink::Load, 1.2)), Qt::NoBrush);
+    s.Number("txt_P", p.At(0, 0, 0) + up - QPointF(0, foot.boundingRect().height() / 2), Side::Above, Ink::Load);
+    if (v.Rectangular) {
+        s.Dimension("txt_A", p.At(-v.A.Length / 2, -v.B.Length / 2, 0), p.At(v.A.Length / 2, -v.B.Length / 2, 0),
+                    Side::Left, v.A.Broken);
+        s.Dimension("txt_B", p.At(v.A.Length / 2, -v.B.Length / 2, 0), p.At(v.A.Length / 2, v.B.Length / 2, 0),
+                    Side::Below, v.B.Broken);
+    } else {
+        s.Dimension("txt_A", p.At(0, 0, 0), p.At(0, -v.A.Length, 0), Side::Left, v.A.Broken);
+    }
 }
 
-void DrawPointLoad(const Scene& s) {
-    s.Arrow(s.At(0, 0, -2.2), s.At(0, 0, 0), QPen(kLoad, 3.2));
-    s.Symbol(s.At(0, 0.45, -1.9), QStringLiteral("Q"), kLoad);
+void DrawPointLoad(const View& v) {
+    const QPointF foot = v.P.At(0, 0, 0), head = v.P.At(0, 0, -v.Top);
+    v.S.Arrow(head, foot, v.S.PenOf("txt_Q", v.S.Pen(Ink::Load, 3)));
+    v.S.Number("txt_Q", head, Side::Right, Ink::Load);
 }
 
-void Draw(QPainter& painter, const QRect& area, const std::string& load) {
-    painter.fillRect(area, Qt::white);
-    const Scene scene(painter, area);
-    DrawGround(scene);
-    DrawAxes(scene);
-    DrawPoint(scene);
-    if (load == "point") DrawPointLoad(scene);
-    if (load == "rectangle") DrawRectangle(scene);
-    if (load == "circle") DrawCircle(scene);
+void DrawCoordinate(const View& v, const char* box, const char* symbol, const DrawnLength& length, const QPointF& from,
+                    const QPointF& to, Side side) {
+    v.S.Line(from, to, v.S.PenOf(box, v.S.Pen(Ink::Point, 1.4, Qt::DashLine)));
+    if (length.Broken) v.S.Break(from, to, Ink::SoilTop);
+    v.S.Number(box, (from + to) / 2, side, Ink::Point, symbol);
+}
+
+void DrawPoint(const View& v) {
+    Sketch& s = v.S;
+    const double x = v.X.Length, y = v.Y.Length, z = v.Z.Length;
+    const QPointF point = v.P.At(x, y, z);
+    DrawCoordinate(v, "txt_y", "y", v.Y, v.P.At(0, 0, 0), v.P.At(0, y, 0), Side::Above);
+    DrawCoordinate(v, "txt_x", "x", v.X, v.P.At(0, y, 0), v.P.At(x, y, 0), y < 0 ? Side::Left : Side::Right);
+    DrawCoordinate(v, "txt_z", "z", v.Z, v.P.At(x, y, 0), point, Side::Right);
+    s.Dot(point, 5, Ink::Point);
+    if (s.Record.ProblemType != Problem::SoilDisplacement) return;
+    constexpr double kArrow = 34;
+    const QPen pen = s.Pen(Ink::Point, 1.6);
+    const QPointF u(-0.8 * kArrow, 0.6 * kArrow), along(kArrow, 0), down(0, kArrow);
+    s.Arrow(point, point + u, pen);
+    s.Symbol("u", point + u, Side::Left, Ink::Point);
+    s.Arrow(point, point + along, pen);
+    s.Symbol("v", point + along, Side::Right, Ink::Point);
+    s.Arrow(point, point + down, pen);
+    s.Symbol("w", point + down, Side::Right, Ink::Point);
+}
+
+void Draw(Sketch& s) {
+    const SessionRecord& r = s.Record;
+    const bool rectangular = s.Form.Has("txt_B"), circular = s.Form.Has("txt_A") && !rectangular;
+    const double a = rectangular || circular ? double(r.A) : 0, b = rectangular ? double(r.B) : 0;
+    const std::vector<DrawnLength> lengths = Proportions({a, b, double(r.x), double(r.y), double(r.z)});
+    double longest = 0;
+    for (const DrawnLength& length : lengths) longest = std::max(longest, std::abs(length.Length));
+    if (longest == 0) longest = 1;
+    const double half = circular ? 1 : 0.5;
+    const double halfB = circular ? lengths[0].Length : lengths[1].Length / 2;
+    const Block block{std::max({0.45 * longest, 1.4 * half * lengths[0].Length, 1.2 * std::abs(lengths[2].Length)}),
+                      std::max({0.6 * longest, 1.4 * halfB, 1.2 * std::abs(lengths[3].Length)}),
+                      {std::max(0.5 * longest, 1.25 * lengths[4].Length)}};
+    const double top = 0.3 * std::max(block.X, block.Y);
+    const double margin = s.LineHeight() * 1.5;
+    const QRectF room = s.Area.adjusted(margin, margin * 2, -margin, -margin);
+    const Perspective p(s, room, block, top * 2);
+    p.Surface();
+    p.Layer(0, block.Depths.back(), Ink::SoilSide);
+    const View view{s, p, lengths[0], lengths[1], lengths[2], lengths[3], lengths[4], top, rectangular, circular};
+    DrawAxes(view, block);
+    if (rectangular || circular) DrawUniformLoad(view);
+    if (s.Form.Has("txt_Q")) DrawPointLoad(view);
+    DrawPoint(view);
+    const QRectF front = p.Front(0, block.Depths.back());
+    s.Numbers({"txt_Es", "txt_Nue"}, QPointF(front.left() + front.width() * 0.3, front.bottom() - 2 * s.LineHeight()));
 }
 
 const DrawingNamed kDrawing("stress", Draw);

@@ -1,0 +1,50 @@
+#include "desktop/Symbols.h"
+
+#include <utility>
+
+#include "render/QtText.h"
+
+namespace lithmark {
+
+namespace {
+
+// Longer names before those that they begin with.
+const std::pair<const char*, const char*> kGreek[] = {
+    {"Varepsilon", "ε"}, {"Gamma", "γ"}, {"Sigma", "σ"}, {"Tau", "τ"}, {"Nue", "ν"},
+};
+
+}  // namespace
+
+PrintSymbol SymbolInPrint(const std::string& plain) {
+    QString letter, rest = Q(plain);
+    for (const auto& [name, greek] : kGreek)
+        if (rest.startsWith(QLatin1String(name))) {
+            letter = QString::fromUtf8(greek);
+            rest = rest.mid(static_cast<int>(std::string(name).size()));
+            break;
+        }
+    if (letter.isEmpty()) {
+        letter = rest.left(1);
+        rest = rest.mid(1);
+    }
+    // A product stands on one line.
+    if (rest.startsWith(QLatin1Char('*'))) return {letter + QString::fromUtf8("·") + rest.mid(1), {}};
+    if (rest.startsWith(QLatin1Char('_'))) rest = rest.mid(1);
+    // The initial state has the index 0.
+    if (rest == QLatin1String("o")) rest = QStringLiteral("0");
+    return {letter, rest};
+}
+
+QString SymbolMarkup(const std::string& plain) {
+    const auto [letter, index] = SymbolInPrint(plain);
+    QString markup = QStringLiteral("<i>") + letter.toHtmlEscaped() + QStringLiteral("</i>");
+    if (!index.isEmpty()) markup += QStringLiteral("<sub>") + index.toHtmlEscaped() + QStringLiteral("</sub>");
+    return markup;
+}
+
+QString SymbolWords(const std::string& plain) {
+    const auto [letter, index] = SymbolInPrint(plain);
+    return index.isEmpty() ? letter : letter + QLatin1Char('_') + index;
+}
+
+}  // namespace lithmark

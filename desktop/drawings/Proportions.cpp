@@ -1,0 +1,37 @@
+#include "desktop/drawings/Proportions.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace lithmark {
+
+namespace {
+
+constexpr double kMostToOne = 8;
+
+double Usable(double value) {
+    return std::isfinite(value) ? value : 0;
+}
+
+}  // namespace
+
+std::vector<DrawnLength> Proportions(std::initializer_list<double> values) {
+    double shortest = 0;
+    for (const double value : values)
+        if (const double size = std::abs(Usable(value)); size > 0 && (shortest == 0 || size < shortest))
+            shortest = size;
+    double longest = 0;
+    for (const double value : values) longest = std::max(longest, std::abs(Usable(value)));
+    longest = std::min(longest, kMostToOne * shortest);
+    std::vector<DrawnLength> lengths;
+    for (const double value : values) {
+        const double size = std::abs(Usable(value));
+        if (size == 0)
+            lengths.push_back({});
+        else
+            lengths.push_back({std::copysign(std::min(size, longest), value), size > longest});
+    }
+    return lengths;
+}
+
+}  // namespace lithmark

@@ -1,0 +1,258 @@
+#include "desktop/drawings/Sketch.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "desktop/Symbols.h"
+
+namespace lithmark {
+
+namespace {
+
+constexpr double kFocusWidth = 2.5, kGap = 5, kPlate = 3, kTick = 5, kIndexSize = 0.7;
+// Below this a drawing has room for symbols only.
+constexpr double kLeastWidth = 260, kLeastHeight = 200;
+
+QPointF Across(const QPointF& from, const QPointF& to) {
+    const QPointF way = to - from;
+    const double length = std::hypot(way.x(), way.y());
+    return length < 1e-6 ? QPointF(1, 0) : QPointF(-way.y() / length, way.x() / length);
+}
+
+}  // namespace
+
+Sketch::Sketch(QPainter& painter, const QRectF& area, const DrawnForm& form, Theme theme, double& scale)
+    : Painter(painter),
+      Area(area),
+      Form(form),
+      Record(form.Record()),
+      theme_(theme),
+      scale_(scale),
+      symbolsOnly_(area.width() < kLeastWidth || area.height() < kLeastHeight) {}
+
+QPen Sketch::Pen(Ink ink, double width, Qt::PenStyle style) const {
+    return QPen(Colour(ink), width, style);
+}
+
+double Sketch::LineHeight() const {
+    return QFontMetricsF(Painter.font()).height() + 2;
+}
+
+double Sketch::Steady(double fit) {
+    if (scale_ > fit || scale_ < fit / 2) scale_ = fit;
+    return scale_;
+}
+
+void Sketch::Line(const QPointF& from, const QPointF& to, const QPen& pen) {
+    Painter.setPen(pen);
+    Painter.drawLine(from, to);
+}
+
+void Sketch::Arrow(const QPointF& from, const QPointF& to, const QPen& pen) {
+    const QPointF way = to - from;
+    const double length = std::hypot(way.x(), way.y());
+    if (length < 1) return;
+    const double size = std::min(length, 5 + 3 * pen.widthF());
+    const QPointF along = way / length * size, across = Across(from, to) * size * 0.38;
+    Line(from, to - along * 0.8, pen);
+    Painter.setPen(Qt::NoPen);
+    Painter.setBrush(pen.color());
+    Painter.drawPolygon(QPolygonF({to, to - along + across, to - along - across}));
+}
+
+void Sketch::Polygon(const QPolygonF& polygon, const QPen& pen, const QBrush& brush) {
+    Painter.setPen(pen);
+    Painter.setBrush(brush);
+    Painter.drawPolygon(polygon);
+}
+
+void Sketch::Rect(const QRectF& rect, const QPen& pen, const QBrush& brush) {
+    Painter.setPen(pen);
+    Painter.setBrush(brush);
+    Painter.drawRect(rect);
+}
+
+void Sketch::Dot(const QPointF& at, double radius, Ink ink) {
+    Painter.setPen(Qt::NoPen);
+    Painter.setBrush(Colour(ink));
+    Painter.drawEllipse(at, radius, radius);
+}
+
+void Sketch::Hatch(const QRectF& rect) {
+    Rect(rect, Qt::NoPen, Colour(Ink::SoilTop));
+    Rect(rect, Qt::NoPen, QBrush(Colour(Ink::Edge), Qt::BDiagPattern));
+}
+
+void Sketch::Break(const QPointF& from, const QPointF& to, Ink ground) {
+    const QPointF middle = (from + to) / 2, across = Across(from, to) * kTick;
+    const QPointF along = QPointF(across.y(), -across.x()) * 0.5;
+    Line(middle - along, middle + along, Pen(ground, 4));
+    for (const double side : {-1.0, 1.0}) {
+        const QPointF at = middle + along * side;
+        Painter.setPen(Pen(Ink::Quiet, 1.2));
+        Painter.drawPolyline(QPolygonF(
+            {at - across * 1.4, at - across * 0.4 + along * 0.7, at + across * 0.4 - along * 0.7, at + across * 1.4}));
+    }
+}
+
+void Sketch::Symbol(const std::string& plain, const QPointF& at, Side side, Ink ink) {
+    words_.push_back({nullptr, plain, {}, at, side, ink, false, false});
+}
+
+void Sketch::Number(const std::string& name, const QPointF& at, Side side, Ink ink, const char* symbol) {
+    const std::optional<DrawnBox> box = Form.Find(name);
+    if (!box) return;
+    const std::string shown = box->Symbol.empty() ? symbol : box->Symbol;
+    QString rest;
+    if (!symbolsOnly_ || shown.empty()) {
+        rest = box->Faulty ? QStringLiteral("?") : box->Text;
+        if (!box->Faulty && !box->Unit.isEmpty()) rest += QString::fromUtf8("\u00A0") + box->Unit;
+        if (!shown.empty()) rest = QStringLiteral(" = ") + rest;
+    } else if (box->Faulty) {
+        rest = QStringLiteral(" ?");
+    }
+    words_.push_back({box->Of, shown, rest, at, side, ink, box->Focused, box->Faulty});
+}
+
+void Sketch::Numbers(std::initializer_list<const char*> boxes, const QPointF& middle, Ink ink) {
+    std::vector<const char*> reached;
+    for (const char* box : boxes)
+        if (Form.Has(box)) reached.push_back(box);
+    const double step = LineHeight() + 1;
+    double y = middle.y() - step * (static_cast<double>(reached.size()) - 1) / 2;
+    for (const char* box : reached) {
+        Number(box, QPointF(middle.x(), y), Side::On, ink);
+        y += step;
+    }
+}
+
+QPen Sketch::PenOf(const std::string& name, const QPen& usual) const {
+    const std::optional<DrawnBox> box = Form.Find(name);
+    if (!box) return usual;
+    QPen pen = usual;
+    if (box->Focused) pen = Pen(Ink::Selection, std::max(kFocusWidth, usual.widthF()));
+    if (box->Faulty) {
+        pen.setColor(Colour(Ink::Error));
+        pen.setStyle(Qt::DashLine);
+    }
+    return pen;
+}
+
+void Sketch::Dimension(const std::string& name, const QPointF& from, const QPointF& to, Side side, bool broken,
+                       const char* symbol, Ink ink) {
+    if (!Form.Has(name)) return;
+    const QPen pen = PenOf(name, Pen(ink == Ink::Text ? Ink::Quiet : ink, 1.2));
+    const QPointF tick = Across(from, to) * kTick;
+    Line(from, to, pen);
+    Line(from - tick, from + tick, pen);
+    Line(to - tick, to + tick, pen);
+    if (broken) Break(from, to, Ink::Window);
+    Number(name, (from + to) / 2, side, ink, symbol);
+}
+
+QFont Sketch::LetterFont() const {
+    QFont font = Painter.font();
+    font.setItalic(true);
+    return font;
+}
+
+QFont Sketch::IndexFont() const {
+    QFont font = Painter.font();
+    font.setItalic(false);
+    if (font.pixelSize() > 0)
+        font.setPixelSize(std::max(7, static_cast<int>(font.pixelSize() * kIndexSize)));
+    else
+        font.setPointSizeF(font.pointSizeF() * kIndexSize);
+    return font;
+}
+
+QSizeF Sketch::SizeOf(const Words& words) const {
+    const PrintSymbol symbol = SymbolInPrint(words.Symbol);
+    const double width = QFontMetricsF(LetterFont()).horizontalAdvance(symbol.Letter) +
+                         QFontMetricsF(IndexFont()).horizontalAdvance(symbol.Index) +
+                         QFontMetricsF(Painter.font()).horizontalAdvance(words.Rest);
+    return {width + 2 * kPlate, LineHeight()};
+}
+
+QRectF Sketch::PlaceOf(const Words& words, const QSizeF& size) const {
+    QPointF middle = words.At;
+    switch (words.On) {
+        case Side::Left:
+            middle.rx() -= size.width() / 2 + kGap;
+            break;
+        case Side::Right:
+            middle.rx() += size.width() / 2 + kGap;
+            break;
+        case Side::Above:
+            middle.ry() -= size.height() / 2 + kGap;
+            break;
+        case Side::Below:
+            middle.ry() += size.height() / 2 + kGap;
+            break;
+        case Side::On:
+            break;
+    }
+    return {middle.x() - size.width() / 2, middle.y() - size.height() / 2, size.width(), size.height()};
+}
+
+// The free place next to the wanted one, inside the area: at first up and down, then to the sides.
+QRectF Sketch::FreePlace(QRectF wanted) const {
+    const auto inside = [&](QRectF rect) {
+        rect.moveLeft(std::clamp(rect.left(), Area.left(), std::max(Area.left(), Area.right() - rect.width())));
+        rect.moveTop(std::clamp(rect.top(), Area.top(), std::max(Area.top(), Area.bottom() - rect.height())));
+        return rect;
+    };
+    const auto free = [&](const QRectF& rect) {
+        return std::none_of(taken_.begin(), taken_.end(), [&](const QRectF& other) { return other.intersects(rect); });
+    };
+    wanted = inside(wanted);
+    QRectF best = wanted;
+    double least = -1;
+    const double stepY = wanted.height() / 2, stepX = wanted.width() / 4;
+    for (int column = -8; column <= 8; ++column)
+        for (int row = -40; row <= 40; ++row) {
+            const QRectF place = inside(wanted.translated(column * stepX, row * stepY));
+            const double way = std::hypot(place.left() - wanted.left(), place.top() - wanted.top());
+            if ((least < 0 || way < least) && free(place)) {
+                best = place;
+                least = way;
+            }
+        }
+    return best;
+}
+
+void Sketch::Write(const Words& words, const QRectF& at) {
+    const QFont usual = Painter.font();
+    QColor plate = Colour(words.Focused ? Ink::Selection : Ink::Window);
+    if (!words.Focused) plate.setAlpha(words.Box != nullptr ? 225 : 0);
+    Painter.setPen(Qt::NoPen);
+    Painter.setBrush(plate);
+    Painter.drawRoundedRect(at, kPlate, kPlate);
+    Painter.setPen(Colour(words.Focused ? Ink::OnSelection : words.Faulty ? Ink::Error : words.In));
+    const PrintSymbol symbol = SymbolInPrint(words.Symbol);
+    const QFontMetricsF metrics(usual);
+    QPointF base(at.left() + kPlate, at.center().y() + (metrics.ascent() - metrics.descent()) / 2);
+    const auto piece = [&](const QFont& font, const QString& text, double lowered) {
+        Painter.setFont(font);
+        Painter.drawText(base + QPointF(0, lowered), text);
+        base.rx() += QFontMetricsF(font).horizontalAdvance(text);
+    };
+    piece(LetterFont(), symbol.Letter, 0);
+    piece(IndexFont(), symbol.Index, metrics.descent() * 0.7);
+    piece(usual, words.Rest, 0);
+    Painter.setFont(usual);
+}
+
+std::vector<DrawnNumber> Sketch::Finish() {
+    std::vector<DrawnNumber> numbers;
+    for (const Words& words : words_) {
+        const QRectF at = FreePlace(PlaceOf(words, SizeOf(words)));
+        taken_.push_back(at);
+        Write(words, at);
+        if (words.Box != nullptr) numbers.push_back({words.Box, at});
+    }
+    words_.clear();
+    return numbers;
+}
+
+}  // namespace lithmark
