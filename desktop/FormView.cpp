@@ -26,7 +26,6 @@
 #include "desktop/layouts/Layouts.h"
 #include "render/QtText.h"
 #include "services/TextTools.h"
-#include "ui/model/FieldForm.h"
 
 namespace lithmark {
 
@@ -53,8 +52,6 @@ FormView::FormView(Form& form, QWidget* parent) : QDialog(parent), form_(form) {
     setModal(true);
     setLayoutDirection(form.RightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
-    if (const auto* fields = dynamic_cast<const FieldForm*>(&form))
-        for (const FieldRow& row : fields->Fields()) symbols_.insert(row.Symbol.On);
     BuildLayout(*this);
     for (Control* control : form.Controls()) WidgetOf(*control);
     Refresh();
@@ -195,7 +192,7 @@ QWidget* FormView::Make(Control& control) {
             widget = new QGroupBox(this);
             break;
         case ControlKind::Picture: {
-            auto* picture = new PictureView(form_, control, this);
+            auto* picture = new PictureView(control, this);
             picture->OnPick = [this](const Control& box) { FocusOn(box); };
             widget = picture;
             break;
@@ -278,7 +275,7 @@ void FormView::Show(Control& control, QWidget& widget) {
     const QString caption = Q(control.Caption);
     switch (control.Kind) {
         case ControlKind::TextLabel:
-            static_cast<QLabel&>(widget).setText(symbols_.contains(&control) ? SymbolMarkup(control.Caption) : caption);
+            static_cast<QLabel&>(widget).setText(control.Symbol ? SymbolMarkup(control.Caption) : caption);
             break;
         case ControlKind::TextBox: {
             auto& box = static_cast<QLineEdit&>(widget);

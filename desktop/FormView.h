@@ -5,7 +5,6 @@
 #include <QDialog>
 #include <functional>
 #include <unordered_map>
-#include <unordered_set>
 
 #include "services/host/Form.h"
 
@@ -67,7 +66,6 @@ class FormView : public QDialog {
     Form& form_;
     std::unordered_map<const Control*, QWidget*> widgets_;
     std::unordered_map<const Control*, int> placed_;
-    std::unordered_set<const Control*> symbols_;  // labels that show a field's symbol
     bool refreshing_ = false;
     int picturesShown_ = -1, heightWanted_ = 0;
 };

@@ -32,8 +32,8 @@ QString InWords(const DrawnForm& form) {
 
 }  // namespace
 
-PictureView::PictureView(const Form& form, const Control& control, QWidget* parent)
-    : QWidget(parent), control_(control), drawn_(form) {
+PictureView::PictureView(const Control& control, QWidget* parent)
+    : QWidget(parent), control_(control), drawn_(control) {
     setMinimumSize(sizes::kPictureWidth, sizes::kPictureHeight);
     setLayoutDirection(Qt::LeftToRight);
     setMouseTracking(true);

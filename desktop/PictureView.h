@@ -12,7 +12,7 @@ namespace lithmark {
 
 class PictureView : public QWidget {
   public:
-    PictureView(const Form& form, const Control& control, QWidget* parent);
+    PictureView(const Control& control, QWidget* parent);
     QSize sizeHint() const override { return {340, 300}; }
 
     // The values may have changed.

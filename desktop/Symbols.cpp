@@ -38,7 +38,7 @@ PrintSymbol SymbolInPrint(const std::string& plain) {
 QString SymbolMarkup(const std::string& plain) {
     const auto [letter, index] = SymbolInPrint(plain);
     QString markup = QStringLiteral("<i>") + letter.toHtmlEscaped() + QStringLiteral("</i>");
-    if (!index.isEmpty()) markup += QStringLiteral("<sub>") + index.toHtmlEscaped() + QStringLiteral("</sub>");
+    if (!index.isEmpty()) markup += QStringLiteral("<sub style=\"font-style:normal\">") + index.toHtmlEscaped() + QStringLiteral("</sub>");
     return markup;
 }
 

@@ -1,5 +1,6 @@
-// Time-settlement curve: the building under its load, what its settlement is worked out from (an oedometer's readings,
-// the layer and its soil), the history of the load as a staircase, and the relative settlements below it.
+// Time-settlement curve: the building under its load, what its settlement is
+// worked out from (an oedometer's readings, the layer and its soil), the
+// history of the load as a staircase, and the relative settlements below it.
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -71,7 +72,7 @@ void DrawBuilding(Sketch& s, const QRectF& room) {
     const double line = s.LineHeight();
     const double surface = room.top() + room.height() * (layer ? 0.5 : 0.72);
     const double width = std::min(room.width() * 0.3, 150.0), head = room.top() + line * 1.8;
-    const double middle = room.left() + room.width() * (ring ? 0.3 : 0.38);
+    const double middle = room.left() + room.width() * (ring ? 0.3 : s.Form.Has("txt_qv") ? 0.26 : 0.38);
     const QRectF house(middle - width / 2, head, width, std::max(10.0, surface - head));
     const QRectF ground(room.left(), surface, room.width(), room.bottom() - surface);
     s.Rect(ground, Qt::NoPen, s.Colour(Ink::SoilSide));
@@ -85,7 +86,7 @@ void DrawBuilding(Sketch& s, const QRectF& room) {
     }
     DrawHouse(s, house);
     DrawPressures(s, house);
-    DrawRing(s, {room.left() + room.width() * 0.62, surface - line * 4, room.width() * 0.17, line * 3});
+    DrawRing(s, {room.left() + room.width() * 0.56, surface - line * 4, room.width() * 0.17, line * 3});
 }
 
 // --- the charts ---

@@ -1,4 +1,5 @@
-// Settlement of a clay layer under a load: the section, and load and point from above in a corner.
+// Settlement of a clay layer under a load: the section, and load and point from
+// above in a corner.
 #include "desktop/drawings/Drawings.h"
 #include "desktop/drawings/GroundSection.h"
 

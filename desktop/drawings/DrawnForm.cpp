@@ -5,7 +5,7 @@
 #include "base/Failure.h"
 #include "render/QtText.h"
 #include "services/SharedServices.h"
-#include "ui/model/ProblemForm.h"
+#include "ui/model/Figure.h"
 
 namespace lithmark {
 
@@ -35,14 +35,13 @@ QString WithoutBrackets(QString unit) {
 
 }  // namespace
 
-DrawnForm::DrawnForm(const Form& form) : form_(form) {
+DrawnForm::DrawnForm(const Control& picture) : figure_(picture.Shows) {
     Follow();
 }
 
 void DrawnForm::Follow() {
-    const auto* problem = dynamic_cast<const ProblemForm*>(&form_);
-    if (problem == nullptr) return;
-    FormDraft draft = problem->Draft();
+    if (figure_ == nullptr) return;
+    FormDraft draft = figure_->Of.Draft();
     faulty_.clear();
     for (const BoxFault& fault : draft.Faults) faulty_.push_back(fault.Box);
     if (!draft.Valid() && good_) return;
@@ -54,10 +53,9 @@ DrawnBox DrawnForm::BoxOf(const Control& control) const {
     DrawnBox box;
     box.Of = &control;
     box.Text = Q(control.Text).trimmed();
-    box.Focused = form_.Focus == &control;
+    box.Focused = figure_->Of.Focus == &control;
     box.Faulty = std::find(faulty_.begin(), faulty_.end(), &control) != faulty_.end();
-    const auto* fields = dynamic_cast<const FieldForm*>(&form_);
-    const FieldRow* row = fields != nullptr ? fields->RowOf(control) : nullptr;
+    const FieldRow* row = figure_->Of.RowOf(control);
     if (row == nullptr) return box;
     if (row->Symbol.On != nullptr) box.Symbol = row->Symbol.Says.Text();
     if (row->In.On != nullptr) box.Unit = WithoutBrackets(Q(row->In.On->Caption));
@@ -66,16 +64,15 @@ DrawnBox DrawnForm::BoxOf(const Control& control) const {
 }
 
 std::optional<DrawnBox> DrawnForm::Find(const std::string& name) const {
-    const Control* control = form_.Find(name);
+    const Control* control = figure_ != nullptr ? figure_->Of.Find(name) : nullptr;
     if (control == nullptr || !Reached(*control)) return std::nullopt;
     return BoxOf(*control);
 }
 
 std::vector<DrawnBox> DrawnForm::Boxes() const {
     std::vector<DrawnBox> boxes;
-    const auto* fields = dynamic_cast<const FieldForm*>(&form_);
-    if (fields == nullptr) return boxes;
-    for (const FieldRow& row : fields->Fields())
+    if (figure_ == nullptr) return boxes;
+    for (const FieldRow& row : figure_->Of.Fields())
         if (row.Field.Exists() && Reached(row.Box)) boxes.push_back(BoxOf(row.Box));
     return boxes;
 }

@@ -22,7 +22,8 @@ struct DrawnBox {
 
 class DrawnForm {
   public:
-    explicit DrawnForm(const Form& form);
+    // Of a picture. One that shows no problem has no boxes.
+    explicit DrawnForm(const Control& picture);
 
     // The form as it stands now. The record stays the last good one while a box is faulty.
     void Follow();
@@ -37,7 +38,7 @@ class DrawnForm {
   private:
     DrawnBox BoxOf(const Control& control) const;
 
-    const Form& form_;
+    const Figure* const figure_;
     SessionRecord record_;
     bool good_ = false;  // the record was once free of faults
     std::vector<const Control*> faulty_;

@@ -53,9 +53,12 @@ void GroundSection::DrawSublayers() const {
     if (!(sublayer_ > 0) || !std::isfinite(thickness)) return;
     const int parts = static_cast<int>(std::min<double>(kMostSublayers, std::nearbyint(thickness / sublayer_)));
     const QRectF layer = Layer(0);
+    QColor line = sketch_.Colour(Ink::Edge);
+    line.setAlpha(110);
+    const QPen faint(line, 1);
     for (int i = 1; i < parts; ++i) {
         const double y = layer.top() + layer.height() * i / parts;
-        sketch_.Line({layer.left(), y}, {layer.right(), y}, sketch_.Pen(Ink::Grid, 1));
+        sketch_.Line({layer.left(), y}, {layer.right(), y}, faint);
     }
 }
 
@@ -113,6 +116,8 @@ void GroundSection::DrawPlan(const QRectF& room) const {
                  high = std::max({halfB, std::abs(y_.Length), 1e-30});
     const double scale = 0.92 * std::min(room.width() / 2 / wide, room.height() / 2 / high);
     const QPointF middle = room.center();
+    s.Line({room.left(), middle.y()}, {room.right(), middle.y()}, s.Pen(Ink::Edge, 1, Qt::DashDotLine));
+    s.Line({middle.x(), room.top()}, {middle.x(), room.bottom()}, s.Pen(Ink::Edge, 1, Qt::DashDotLine));
     QColor fill = s.Colour(Ink::Load);
     fill.setAlpha(60);
     s.Painter.setPen(s.Pen(Ink::Load, 1.3));

@@ -1,5 +1,6 @@
 #include "desktop/drawings/Perspective.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -18,6 +19,16 @@ Perspective::Perspective(Sketch& sketch, const QRectF& room, const Block& block,
     }
     scale_ = sketch.Steady(std::min(room.width() / figure.width(), room.height() / figure.height()));
     origin_ = room.center() - figure.center() * scale_;
+}
+
+double Perspective::SpareDepth(const QRectF& room, const Block& block, double above) {
+    const double width = Flat(-block.X, block.Y, 0).x() - Flat(block.X, -block.Y, 0).x();
+    const double height = Flat(block.X, 0, block.Depths.back()).y() - std::min(Flat(-block.X, 0, 0).y(), -above);
+    return width * room.height() / room.width() - height;
+}
+
+double Perspective::SpareWidth(const QRectF& room, const Block& block, double above) {
+    return -SpareDepth(room, block, above) * room.width() / room.height() / 2;
 }
 
 QPolygonF Perspective::Circle(double radius, double z) const {

@@ -19,6 +19,12 @@ class Perspective {
     // As large as the block, with `above` over its surface, fits into the room.
     Perspective(Sketch& sketch, const QRectF& room, const Block& block, double above);
 
+    // By how much the block could go deeper, with what stands over it, until the figure is as slim as the room; below 0
+    // it is slimmer already.
+    static double SpareDepth(const QRectF& room, const Block& block, double above);
+    // By how much half its width could grow then.
+    static double SpareWidth(const QRectF& room, const Block& block, double above);
+
     QPointF At(double x, double y, double z) const { return origin_ + Flat(x, y, z) * scale_; }
     double Scale() const { return scale_; }
     // A circle or a rectangle at a depth.

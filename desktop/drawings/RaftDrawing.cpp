@@ -1,9 +1,9 @@
-// Rigid rafts: the raft on its layer in perspective, with the load where it acts and the field in which it may act.
+// Rigid rafts: the raft on its layer in perspective, with the load where it
+// acts and the field in which it may act.
 #include <algorithm>
 #include <cmath>
 
 #include "desktop/drawings/Drawings.h"
-#include "desktop/drawings/DrawnParts.h"
 #include "desktop/drawings/Perspective.h"
 #include "desktop/drawings/Proportions.h"
 
@@ -64,8 +64,8 @@ void DrawLoad(Sketch& s, const Perspective& p, const Raft& raft, double height) 
 }
 
 // The bottom of ground that goes on.
-void OpenBottom(Sketch& s, const QRectF& front) {
-    s.Line(front.bottomLeft(), front.bottomRight(), s.Pen(Ink::SoilSide, 3));
+void OpenBottom(Sketch& s, const QRectF& front, Ink soil) {
+    s.Line(front.bottomLeft(), front.bottomRight(), s.Pen(soil, 3));
     QPolygonF wave;
     constexpr int kTeeth = 24;
     for (int i = 0; i <= kTeeth; ++i)
@@ -84,20 +84,30 @@ void Draw(Sketch& s) {
     if (longest == 0) longest = 1;
     Raft raft{lengths[0].Length, rectangular ? lengths[1].Length : lengths[0].Length, rectangular, 0.05 * longest};
     const double z = std::max(0.0, lengths[3].Length), h = layered ? std::max(0.0, lengths[2].Length) : 0.45 * longest;
-    const Block block{std::max(0.35 * longest, 0.7 * raft.A), std::max(0.45 * longest, 0.7 * raft.B), {z, z + h}};
-    const double height = 0.35 * std::max(block.X, block.Y);
+    Block block{std::max(0.35 * longest, 0.7 * raft.A), std::max(0.45 * longest, 0.7 * raft.B), {z, z + h}};
+    double height = 0.4 * std::max(block.X, block.Y);
     const double margin = s.LineHeight() * 1.5;
     const QRectF room = s.Area.adjusted(margin, margin, -margin, -margin * 1.5);
-    const Perspective p(s, room, block, height * 1.6);
+    // Ground that goes on fills the room, rock a part of it, then the arrow of
+    // the load.
+    const double rock = std::clamp(Perspective::SpareDepth(room, block, height * 1.3), 0.1 * longest,
+                                   layered ? 0.3 * longest : 8 * longest);
+    block.Depths.push_back(block.Depths.back() + rock);
+    height += std::clamp(Perspective::SpareDepth(room, block, height * 1.3) / 1.3, 0.0, 0.6 * longest);
+    block.Y += std::max(0.0, Perspective::SpareWidth(room, block, height * 1.3));
+    const Perspective p(s, room, block, height * 1.3);
     p.Surface();
     const Ink soil = s.Form.Has("txt_z") || s.Form.Has("txt_Cc") ? Ink::Clay : Ink::SoilSide;
     if (z > 0) p.Layer(0, z, Ink::SoilTop, true);
-    p.Layer(z, z + h, soil);
-    const QRectF front = p.Front(z, z + h);
-    if (layered)
-        DrawRock(s, {front.left(), front.bottom(), front.width(), s.LineHeight() * 0.7});
-    else
-        OpenBottom(s, front);
+    const double bottom = block.Depths.back(), base = layered ? z + h : bottom;
+    p.Layer(z, base, soil);
+    const QRectF front = p.Front(z, base);
+    if (layered) {
+        p.Layer(base, bottom, Ink::Rock, true);
+        s.Line(front.bottomLeft(), front.bottomRight(), s.Pen(Ink::Text, 1.6));
+    } else {
+        OpenBottom(s, front, soil);
+    }
     if (buried) {
         const QRectF above = p.Front(0, z);
         s.Dimension("txt_z", above.topLeft() + QPointF(16, 0), above.bottomLeft() + QPointF(16, 0), Side::Right,
@@ -109,7 +119,7 @@ void Draw(Sketch& s) {
     DrawLoad(s, p, raft, height);
     s.Number("txt_Po", p.At(block.X, 0, z), Side::Below);
     s.Numbers({"txt_Es", "txt_Nue", "txt_Cc", "txt_eo", "txt_Gamma"},
-              QPointF(front.left() + front.width() * 0.68, front.center().y()));
+              QPointF(front.left() + front.width() * 0.62, front.center().y()));
 }
 
 const DrawingNamed kDrawing("raft", Draw);

@@ -1,5 +1,5 @@
-// Degree of consolidation: a column of one or two clays with their drainage, and the pressure of the water in it at the
-// beginning at the right.
+// Degree of consolidation: a column of one or two clays with their drainage,
+// and the pressure of the water in it at the beginning at the right.
 #include <algorithm>
 #include <cmath>
 
@@ -12,10 +12,11 @@ namespace lithmark {
 
 namespace {
 
-constexpr double kEdge = 6, kColumnShare = 0.68;
+constexpr double kEdge = 6, kColumnShare = 0.58;
 
-// The share of the pressure under the middle of the load that a depth has: the load's own for a circle, of a rectangle
-// that of the circle of the same area; under a point load by the square of the depth.
+// The share of the pressure under the middle of the load that a depth has: the
+// load's own for a circle, of a rectangle that of the circle of the same area;
+// under a point load by the square of the depth.
 double ShareAt(const Sketch& s, double depth) {
     const SessionRecord& r = s.Record;
     if (s.Form.Has("txt_U")) return 1;
@@ -68,7 +69,7 @@ void Draw(Sketch& s) {
     const char* const properties[2][2] = {{"txt_Cv1", "txt_K1"}, {"txt_Cv2", "txt_K2"}};
     for (std::size_t i = 0; i < clay.size(); ++i) {
         const QRectF layer = section.Layer(i);
-        s.Numbers({properties[i][0], properties[i][1]}, {layer.left() + layer.width() * 0.66, layer.center().y()});
+        s.Numbers({properties[i][0], properties[i][1]}, {layer.left() + layer.width() * 0.62, layer.center().y()});
     }
     DrawPressure(s, {all.right() + 2 * kEdge, all.top(), s.Area.right() - all.right() - 4 * kEdge, all.height()});
 }

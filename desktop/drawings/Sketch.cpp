@@ -195,7 +195,8 @@ QRectF Sketch::PlaceOf(const Words& words, const QSizeF& size) const {
     return {middle.x() - size.width() / 2, middle.y() - size.height() / 2, size.width(), size.height()};
 }
 
-// The free place next to the wanted one, inside the area: at first up and down, then to the sides.
+// The free place next to the wanted one, inside the area: at first up and down,
+// then to the sides.
 QRectF Sketch::FreePlace(QRectF wanted) const {
     const auto inside = [&](QRectF rect) {
         rect.moveLeft(std::clamp(rect.left(), Area.left(), std::max(Area.left(), Area.right() - rect.width())));
@@ -224,7 +225,7 @@ QRectF Sketch::FreePlace(QRectF wanted) const {
 void Sketch::Write(const Words& words, const QRectF& at) {
     const QFont usual = Painter.font();
     QColor plate = Colour(words.Focused ? Ink::Selection : Ink::Window);
-    if (!words.Focused) plate.setAlpha(words.Box != nullptr ? 225 : 0);
+    if (!words.Focused) plate.setAlpha(words.Box != nullptr ? 180 : 0);
     Painter.setPen(Qt::NoPen);
     Painter.setBrush(plate);
     Painter.drawRoundedRect(at, kPlate, kPlate);

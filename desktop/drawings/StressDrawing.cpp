@@ -1,5 +1,6 @@
-// Stresses, strains and displacements at a point: a block of the half-space with the load in the middle of its surface,
-// and the point with its coordinates.
+// Stresses, strains and displacements at a point: a block of the half-space
+// with the load in the middle of its surface, and the point with its
+// coordinates.
 #include <cmath>
 
 #include "core/Problems.h"
@@ -103,12 +104,14 @@ void Draw(Sketch& s) {
     if (longest == 0) longest = 1;
     const double half = circular ? 1 : 0.5;
     const double halfB = circular ? lengths[0].Length : lengths[1].Length / 2;
-    const Block block{std::max({0.45 * longest, 1.4 * half * lengths[0].Length, 1.2 * std::abs(lengths[2].Length)}),
-                      std::max({0.6 * longest, 1.4 * halfB, 1.2 * std::abs(lengths[3].Length)}),
-                      {std::max(0.5 * longest, 1.25 * lengths[4].Length)}};
+    Block block{std::max({0.45 * longest, 1.4 * half * lengths[0].Length, 1.2 * std::abs(lengths[2].Length)}),
+                std::max({0.6 * longest, 1.4 * halfB, 1.2 * std::abs(lengths[3].Length)}),
+                {std::max(0.5 * longest, 1.25 * lengths[4].Length)}};
     const double top = 0.3 * std::max(block.X, block.Y);
     const double margin = s.LineHeight() * 1.5;
     const QRectF room = s.Area.adjusted(margin, margin * 2, -margin, -margin);
+    block.Depths.back() += std::max(0.0, Perspective::SpareDepth(room, block, top * 2));
+    block.Y += std::max(0.0, Perspective::SpareWidth(room, block, top * 2));
     const Perspective p(s, room, block, top * 2);
     p.Surface();
     p.Layer(0, block.Depths.back(), Ink::SoilSide);
@@ -118,7 +121,7 @@ void Draw(Sketch& s) {
     if (s.Form.Has("txt_Q")) DrawPointLoad(view);
     DrawPoint(view);
     const QRectF front = p.Front(0, block.Depths.back());
-    s.Numbers({"txt_Es", "txt_Nue"}, QPointF(front.left() + front.width() * 0.3, front.bottom() - 2 * s.LineHeight()));
+    s.Numbers({"txt_Es", "txt_Nue"}, QPointF(front.left() + front.width() * 0.4, front.bottom() - 2 * s.LineHeight()));
 }
 
 const DrawingNamed kDrawing("stress", Draw);

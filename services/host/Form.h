@@ -11,6 +11,7 @@
 namespace lithmark {
 
 class Form;
+struct Figure;
 
 enum class ControlKind {
     TextLabel,
@@ -42,6 +43,8 @@ class Control {
     // Of a picture: the drawing that stands for it, by its name, and which of its forms; without a drawing the picture
     // is the file in Text.
     std::string Drawing, Variant;
+    const Figure* Shows = nullptr;  // what the drawing draws; null when it always draws the same
+    bool Symbol = false;            // of a label: its caption is a symbol, which stands in print
     bool Value = false;
     bool Visible = true;
     bool Enabled = true;

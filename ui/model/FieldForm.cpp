@@ -36,8 +36,10 @@ const FieldRow* FieldForm::RowOf(const Control& box) const {
 
 void FieldForm::SetFields(std::vector<FieldRow> fields) {
     fields_ = std::move(fields);
-    for (const FieldRow& row : fields_)
+    for (const FieldRow& row : fields_) {
         if (!row.Enter.empty()) row.Box.OnEnter = [this, &steps = row.Enter] { FollowEnter(steps); };
+        if (row.Symbol.On != nullptr) row.Symbol.On->Symbol = true;
+    }
 }
 
 void FieldForm::SetChoices(std::vector<ChoiceRow> choices) {

@@ -13,6 +13,7 @@ const std::string kStateKey = "More State";
 PictureForm::PictureForm(std::string name, PictureOf picture, std::string okButton)
     : ProblemForm(std::move(name), std::move(okButton)), picture_(std::move(picture)) {
     PctInvertedT.Drawing = picture_.Drawing;
+    PctInvertedT.Shows = &figure_;
     CmdMoreLess.OnClick = [this] { CmdMoreLess_Click(); };
 }
 

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "ui/model/ProblemForm.h"
+#include "ui/model/Figure.h"
 
 namespace lithmark {
 
@@ -34,6 +34,7 @@ class PictureForm : public ProblemForm {
     void ShowState();
 
     const PictureOf picture_;
+    const Figure figure_{*this};
     bool more_ = true;
 };
 

@@ -86,9 +86,9 @@ void WriteExample(const std::string& folder) {
     WriteWholeFile(folder + "Empty.PO3", "Version 9\r\n9\r\n0\r\n");
 }
 
-// Of an option its place, of a check box the ticked one.
+// Of an option its place, of a check box the other one.
 int PositionOf(const ChoiceRow& choice, const Control& control) {
-    if (control.Kind == ControlKind::CheckBox) return 1;
+    if (control.Kind == ControlKind::CheckBox) return control.Value ? 0 : 1;
     int position = 0;
     while (&choice.Of[static_cast<std::size_t>(position)] != &control) ++position;
     return position;
