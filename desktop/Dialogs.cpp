@@ -16,6 +16,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "desktop/ManualWindow.h"
 #include "desktop/ReportView.h"
 #include "render/QtText.h"
 #include "services/texts/LanguageTexts.h"
@@ -61,7 +62,12 @@ void ShowTextWindow(QWidget* parent, const QString& title, const QString& text) 
     dialog.exec();
 }
 
-void ShowManual(QWidget* parent, const QString&) {
+void ShowManual(QWidget* parent, const QString& topic) {
+    const std::string page = topic.section(QLatin1Char('#'), 0, 0).toStdString();
+    if (!ManualPage(page).empty()) {
+        ManualWindow(parent, topic.toStdString()).exec();
+        return;
+    }
     ShowTextWindow(parent, Q(Text(160030_text)), Q(Text(903006_text)));
 }
 

@@ -19,6 +19,7 @@
 #include <QSet>
 #include <QTabBar>
 
+#include "desktop/LinkList.h"
 #include "desktop/PictureView.h"
 #include "desktop/ReportView.h"
 #include "desktop/Sizes.h"
@@ -224,6 +225,15 @@ QWidget* FormView::Make(Control& control) {
             widget = tabs;
             break;
         }
+        case ControlKind::List: {
+            auto* list = new LinkList(this);
+            list->OnLink = [this, &control](int row) {
+                control.ListIndex = row;
+                Act(control.OnClick);
+            };
+            widget = list;
+            break;
+        }
     }
     widget->setObjectName(Q(control.Name));
     return widget;
@@ -335,6 +345,9 @@ void FormView::Show(Control& control, QWidget& widget) {
             tabs.setCurrentIndex(control.ListIndex);
             break;
         }
+        case ControlKind::List:
+            static_cast<LinkList&>(widget).ShowItems(control.Items);
+            break;
     }
 }
 

@@ -1,9 +1,12 @@
 #include "ui/frmResultTools.h"
 
+#include "base/NumberText.h"
 #include "base/Utf8.h"
 #include "contour/CurveSets.h"
 #include "core/Catalogue.h"
 #include "core/Session.h"
+#include "report/AfterReport.h"
+#include "report/Notices.h"
 #include "services/FileTools.h"
 #include "services/SharedServices.h"
 #include "ui/frmContour.h"
@@ -38,6 +41,9 @@ frmResultTools::frmResultTools() : Form("frmResultTools") {
     cmdVERDA.OnClick = [this] { cmdVERDA_Click(); };
     cmdok.OnClick = [this] { cmdok_Click(); };
     cmdHelp.OnClick = [this] { cmdHelp_Click(); };
+    chkTables.OnClick = [this] { chkTables_Click(); };
+    lstNotices.OnClick = [this] { lstNotices_Click(); };
+    chkNotices.Value = true;
 }
 
 void frmResultTools::Load() {
@@ -49,6 +55,9 @@ void frmResultTools::Load() {
                  {cmdWord, 90096_text, kButton},
                  {cmdClipboard, 70034_text, kButton},
                  {cmdVERDA, 400198_text, kButton},
+                 {lblNotices, 907200_text, kHeading},
+                 {chkTables, 907261_text, kButton},
+                 {chkNotices, 907262_text, kButton},
                  {cmdok, 6_text, kButton},
                  {cmdHelp, 8_text, kButton}});
     const ProblemRow* problem = FindProblem(Session.ProblemType);
@@ -57,7 +66,40 @@ void frmResultTools::Load() {
     cmdVERDA.Enabled = problem != nullptr && problem->HandsOver;
     txtResult.ReadOnly = true;
     txtResult.FontName = ReportFont();
+    chkTables_Click();
+    ShowNotices();
+}
+
+void frmResultTools::ShowNotices() {
+    lstNotices.Items.clear();
+    lstNotices.ListIndex = -1;
+    for (const Notice& notice : Notices().All()) lstNotices.Items.push_back(NoticeText(notice));
+    const bool told = !lstNotices.Items.empty();
+    lblNotices.Visible = lstNotices.Visible = chkNotices.Visible = told;
+    if (told)
+        Caption = Text(907260_text, {{"|1", Caption}, {"|2", NumberToText(static_cast<int>(lstNotices.Items.size()))}});
+}
+
+void frmResultTools::chkTables_Click() {
     txtResult.Text = FirstCharacters(Session.ResultText, kShownCharacters);
+    if (chkTables.Value) txtResult.Text += StepTablesText();
+}
+
+void frmResultTools::lstNotices_Click() {
+    UnderCommonStep([this] {
+        const auto index = static_cast<std::size_t>(lstNotices.ListIndex);
+        if (index >= Notices().All().size()) return;
+        SharedServices().ShowHelpTopic("notices#" + std::string(NoticeName(Notices().All()[index].Id)));
+    });
+}
+
+std::string frmResultTools::SentText() const {
+    return ReportWith(chkTables.Value ? Behind::Tables : Behind::Nothing);
+}
+
+std::string frmResultTools::DocumentText() const {
+    if (!chkNotices.Value) return SentText();
+    return ReportWith(chkTables.Value ? Behind::NoticesAndTables : Behind::Notices);
 }
 
 void frmResultTools::ShowContours() {
@@ -70,11 +112,11 @@ void frmResultTools::ShowContours() {
 
 void frmResultTools::cmdPrinter_Click() {
     UnderCommonStep(
-        [] { CurrentHost().PrintText(Session.ResultText, ReportFont(), kFontSize, LanguageTexts().RightToLeft()); });
+        [this] { CurrentHost().PrintText(DocumentText(), ReportFont(), kFontSize, LanguageTexts().RightToLeft()); });
 }
 
 void frmResultTools::CmdTextEditor_Click() {
-    UnderCommonStep([] { FileTools().ShowTextEditor(Session.ProgramDir, Session.ResultText); });
+    UnderCommonStep([this] { FileTools().ShowTextEditor(Session.ProgramDir, SentText()); });
 }
 
 void frmResultTools::CmdExcel_Click() {
@@ -91,13 +133,13 @@ void frmResultTools::CmdExcel_Click() {
 }
 
 void frmResultTools::cmdWord_Click() {
-    UnderCommonStep([] {
-        CurrentHost().OpenWordProcessor(Session.ResultText, ReportFont(), kFontSize, LanguageTexts().RightToLeft());
+    UnderCommonStep([this] {
+        CurrentHost().OpenWordProcessor(DocumentText(), ReportFont(), kFontSize, LanguageTexts().RightToLeft());
     });
 }
 
 void frmResultTools::cmdClipboard_Click() {
-    UnderCommonStep([] { CurrentHost().SetClipboardText(Session.ResultText); });
+    UnderCommonStep([this] { CurrentHost().SetClipboardText(SentText()); });
 }
 
 void frmResultTools::cmdVERDA_Click() {

@@ -1,5 +1,8 @@
 // frmResultTools: the result viewer. It shows the report of the last run and sends it on: to the printer, a word
 // processor, the clipboard, a text viewer, as curves, and to the raft program.
+//
+// Under the report stand the notices of the run, each a way to its section of the manual; the window's title tells how
+// many they are. The tables for a check by hand can be switched on behind the report.
 #pragma once
 
 #include "ui/model/Controls.h"
@@ -15,10 +18,15 @@ class frmResultTools : public Form {
     Button cmdPrinter{*this, "cmdPrinter"}, CmdTextEditor{*this, "CmdTextEditor"}, CmdExcel{*this, "CmdExcel"},
         cmdWord{*this, "cmdWord"}, cmdClipboard{*this, "cmdClipboard"}, cmdVERDA{*this, "cmdVERDA"};
     Button cmdok{*this, "cmdok"}, cmdHelp{*this, "cmdHelp"};
+    TextLabel lblNotices{*this, "lblNotices"};
+    ListBox lstNotices{*this, "lstNotices"};
+    CheckBox chkTables{*this, "chkTables"}, chkNotices{*this, "chkNotices"};
 
     void Load() override;
 
-    // All of these send the whole report. A failure is told and ends the step alone.
+    // All of these send the whole report, with the tables behind it when they are shown. To the printer and the word
+    // processor the notices go in a box behind the report, unless their box is unticked. A failure is told and ends the
+    // step alone.
     void cmdPrinter_Click();
     void CmdTextEditor_Click();
     void CmdExcel_Click();
@@ -29,6 +37,14 @@ class frmResultTools : public Form {
     static void ShowContours();
     void cmdok_Click() { Unload(); }
     void cmdHelp_Click();
+    void chkTables_Click();
+    // The manual's section of the notice that is selected.
+    void lstNotices_Click();
+
+  private:
+    void ShowNotices();
+    std::string SentText() const;
+    std::string DocumentText() const;
 };
 
 }  // namespace lithmark

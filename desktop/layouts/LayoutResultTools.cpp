@@ -29,7 +29,11 @@ static const LayoutOf<frmResultTools> kLayout([](FormView& view, frmResultTools&
     });
     auto* text = new QVBoxLayout(result);
     text->addWidget(find);
-    text->addWidget(report);
+    text->addWidget(report, 1);
+    text->addWidget(view.Place(form.lblNotices));
+    text->addWidget(view.Place(form.lstNotices));
+    text->addWidget(view.Place(form.chkTables));
+    text->addWidget(view.Place(form.chkNotices));
 
     auto* buttons = new QVBoxLayout;
     buttons->setSpacing(sizes::kRowGap);

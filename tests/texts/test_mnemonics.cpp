@@ -53,7 +53,7 @@ TEST(MnemonicTest, LettersDifferWithinAWindowOrMenu) {
         {"problem dialog", {140096, 6, 8, 111, 9, 10016}},
         {"time-settlement, curve points", {140096, 6, 8, 111, 9, 10016, 400125, 300044}},
         {"time-settlement, oedometer", {140096, 6, 8, 111, 9, 10016, 400125, 300036}},
-        {"result viewer", {10, 70033, 40086, 90096, 70034, 400198, 6, 8}},
+        {"result viewer", {10, 70033, 40086, 90096, 70034, 400198, 6, 8, 907261, 907262}},
         {"contour window", {400079, 400080, 26, 6, 8}},
         {"choice", {6, 7, 8}},
         {"settings dialog", {111, 7, 8}}};

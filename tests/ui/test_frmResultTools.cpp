@@ -6,6 +6,9 @@
 
 #include "FormTest.h"
 #include "base/Utf8.h"
+#include "report/AfterReport.h"
+#include "report/Notices.h"
+#include "report/StepTables.h"
 #include "ui/frmOptionDraw.h"
 #include "ui/frmResultTools.h"
 
@@ -125,6 +128,84 @@ TEST_F(Viewer, ALongReportIsCutForTheEyeOnly) {
 TEST_F(Viewer, AReportOf30000CharactersIsShownWhole) {
     Session.ResultText = std::string(30000, 'x');
     OnViewer(1, [](frmResultTools& viewer) { EXPECT_EQ(viewer.txtResult.Text, Session.ResultText); });
+}
+
+// --- notices and tables ---
+
+class ViewerOfNotices : public Viewer {
+  protected:
+    ViewerOfNotices() {
+        Notices().Clear();
+        Notices().Raise(NoticeId::RaftTension, 907003_text, {"-121 kN/m²", "12.5 %", "314 kN/m²"});
+        Notices().Raise(NoticeId::IterationEnd, 907011_text, {"12"});
+    }
+    ~ViewerOfNotices() override {
+        Notices().Clear();
+        Steps().Clear();
+    }
+};
+
+TEST_F(ViewerOfNotices, TheyStandUnderTheReportAndTheTitleCountsThem) {
+    OnViewer(9, [](frmResultTools& viewer) {
+        EXPECT_EQ(viewer.Caption, "Settlements under a rigid raft - Notices: 2");
+        EXPECT_EQ(viewer.lblNotices.Caption, "Notices:");
+        EXPECT_EQ(viewer.lstNotices.Items.size(), 2u);
+        EXPECT_EQ(viewer.lstNotices.Items[1],
+                  "The iteration ended after 12 passes, before the settlements stood still.");
+        EXPECT_TRUE(viewer.lstNotices.Visible);
+        EXPECT_EQ(viewer.txtResult.Text, kReport);
+    });
+}
+
+TEST_F(ViewerOfNotices, EachLeadsToItsSectionOfTheManual) {
+    OnViewer(9, [](frmResultTools& viewer) {
+        for (const int row : {1, 0}) {
+            viewer.lstNotices.ListIndex = row;
+            viewer.lstNotices_Click();
+        }
+        viewer.lstNotices.ListIndex = -1;  // none is selected
+        viewer.lstNotices_Click();
+    });
+    EXPECT_THAT(host.HelpTopics, ElementsAre("notices#iteration-end", "notices#raft-tension"));
+}
+
+TEST_F(ViewerOfNotices, StandInDocumentsUnlessTheyAreLeftOut) {
+    OnViewer(9, [&](frmResultTools& viewer) {
+        Click(viewer, "cmdPrinter");
+        Click(viewer, "cmdClipboard");
+        viewer.chkNotices.Value = false;
+        Click(viewer, "cmdWord");
+    });
+    EXPECT_EQ(host.Printed.at(0).Text, kReport + NoticeBox());
+    EXPECT_EQ(host.WordTexts.at(0).Text, kReport);
+    EXPECT_THAT(host.ClipboardTexts, ElementsAre(kReport));
+}
+
+TEST_F(Viewer, WithoutANoticeNothingOfThemIsShown) {
+    Notices().Clear();
+    OnViewer(9, [](frmResultTools& viewer) {
+        EXPECT_EQ(viewer.Caption, "Settlements under a rigid raft");
+        EXPECT_FALSE(viewer.lblNotices.Visible || viewer.lstNotices.Visible || viewer.chkNotices.Visible);
+    });
+}
+
+TEST_F(Viewer, TheTablesAreSwitchedOnBehindTheReportAndGoOutWithIt) {
+    Steps().Add("Sublayers").AddColumn(std::string("No."), "i");
+    OnViewer(4, [&](frmResultTools& viewer) {
+        EXPECT_FALSE(viewer.chkTables.Value);
+        EXPECT_EQ(viewer.txtResult.Text, kReport);
+        viewer.chkTables.Value = true;
+        viewer.chkTables_Click();
+        EXPECT_EQ(viewer.txtResult.Text, kReport + StepTablesText());
+        Click(viewer, "cmdClipboard");
+        Click(viewer, "cmdPrinter");
+        viewer.chkTables.Value = false;
+        viewer.chkTables_Click();
+        EXPECT_EQ(viewer.txtResult.Text, kReport);
+    });
+    EXPECT_THAT(host.ClipboardTexts, ElementsAre(kReport + StepTablesText()));
+    EXPECT_EQ(host.Printed.at(0).Text, kReport + StepTablesText());
+    Steps().Clear();
 }
 
 TEST_F(Viewer, OkClosesIt) {

@@ -30,6 +30,7 @@ using PictureBox = KindControl<ControlKind::Picture>;
 using TextArea = KindControl<ControlKind::TextArea>;
 using DatePicker = KindControl<ControlKind::DatePicker>;
 using TabStrip = KindControl<ControlKind::Tab>;
+using ListBox = KindControl<ControlKind::List>;
 
 // A control array: `ControlArray<OptionButton, 3> optLoadType{*this, "optLoadType"};` holds optLoadType(0) to (2). An
 // array whose first control has another index says so: `ControlArray<OptionButton, 2, 1>` holds (1) and (2).

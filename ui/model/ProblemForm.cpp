@@ -6,6 +6,7 @@
 #include "files/GloableVariable.h"
 #include "files/ProblemData.h"
 #include "kernels/RunKernel.h"
+#include "report/StepTables.h"
 #include "services/FileDialogs.h"
 #include "services/SharedServices.h"
 #include "ui/frmResultTools.h"
@@ -144,6 +145,7 @@ void ProblemForm::cmdResult_Click() {
         StoreData();
         if (!Session.DataValid) return;
         Session.CalcAborted = false;
+        Steps().SwitchOn(true);  // the viewer can show them
         if (!RunProblemKernel()) {
             SharedServices().ShowMessageBox(Text(160030_text), Text(902049_text), MessageIcon::Exclamation);
             return;

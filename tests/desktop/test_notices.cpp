@@ -1,0 +1,71 @@
+// Notices on the screen: a click on one opens the manual at its section.
+#include <gtest/gtest.h>
+
+#include <QTextBlock>
+#include <QTextBrowser>
+
+#include "ScreenRun.h"
+#include "desktop/LinkList.h"
+#include "desktop/ManualWindow.h"
+#include "report/Notices.h"
+#include "support/Places.h"
+#include "ui/frmResultTools.h"
+
+namespace lithmark::tests {
+namespace {
+
+class NoticesOnScreen : public testing::Test {
+  protected:
+    NoticesOnScreen() {
+        Notices().Clear();
+        Notices().Raise(NoticeId::RaftTension, 907003_text, {"-121 kN/m²", "12.5 %", "314 kN/m²"});
+        Notices().Raise(NoticeId::ShearInLine, 907030_text, {"Tau_xz", "8 kN/m²", "-3 kN/m²"});
+    }
+    ~NoticesOnScreen() override { Notices().Clear(); }
+    TestFolder settings_;
+};
+
+// The line at the top of the page.
+std::string TopOf(QWidget& manual) {
+    return Child<QTextBrowser>(manual, "manualPage").cursorForPosition(QPoint(5, 12)).block().text().toStdString();
+}
+
+TEST_F(NoticesOnScreen, AClickOpensTheManualAtTheSection) {
+    ScreenRun run(settings_.Dir());
+    run.Start();
+    Session.ProblemType = 9;
+    Session.ResultText = "Report\r\n";
+    std::string first, second;
+    run.In("frmResultTools", [&](QWidget& viewer) {
+        EXPECT_TRUE(viewer.windowTitle().contains(QStringLiteral("Notices: 2")));
+        auto& list = Child<LinkList>(viewer, "lstNotices");
+        ASSERT_EQ(list.count(), 2);
+        ASSERT_TRUE(list.isVisible());
+        run.In("manualWindow", [&](QWidget& manual) {
+            first = TopOf(manual);
+            ClickOn(manual, "cmdok");
+        });
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(0)).center());
+        run.In("manualWindow", [&](QWidget& manual) {
+            second = TopOf(manual);
+            ClickOn(manual, "cmdok");
+        });
+        list.setCurrentRow(1);
+        list.setFocus();
+        QTest::keyClick(&list, Qt::Key_Return);
+        ClickOn(viewer, "cmdok");
+    });
+    frmResultTools viewer;
+    CurrentHost().ShowForm(viewer);
+    EXPECT_EQ(first, "raft-tension");
+    EXPECT_EQ(second, "shear-in-line");
+}
+
+TEST_F(NoticesOnScreen, ThePagesAreThoseOfTheDocumentation) {
+    EXPECT_EQ(ManualPage("notices"), ReadBytes(SourceDir() / "docs" / "notices.md"));
+    EXPECT_EQ(ManualPage("manual"), ReadBytes(SourceDir() / "docs" / "manual.md"));
+    EXPECT_EQ(ManualPage("7_7"), "");
+}
+
+}  // namespace
+}  // namespace lithmark::tests
