@@ -14,6 +14,13 @@
 
 namespace lithmark {
 
+// The arrays of the record are compiled once.
+extern template class Array<Single>;
+extern template class Array<Integer>;
+extern template class Array<std::string>;
+extern template class Matrix<Single>;
+extern template class Matrix<std::string>;
+
 // A report label or title: nothing, a text number, or a ready text.
 using Label = std::variant<std::monostate, TextId, std::string>;
 // A column's unit: nothing, a selector of UnitLabel, or a ready text.
@@ -22,6 +29,13 @@ using ColumnUnit = std::variant<std::monostate, long, std::string>;
 using ReportValue = std::variant<std::monostate, double, std::string>;
 
 struct SessionRecord {
+    // Made and copied in one place: hundreds of fields would be code in every file that reads the record.
+    SessionRecord();
+    SessionRecord(const SessionRecord&);
+    SessionRecord& operator=(const SessionRecord&);
+    SessionRecord& operator=(SessionRecord&&) noexcept;
+    ~SessionRecord();
+
     // Project location and identity.
     std::string ProgramDir;   // with a trailing separator
     std::string DataDir;      // of the open project, with a trailing separator
@@ -140,7 +154,7 @@ struct SessionRecord {
     std::string CurveChoice, CurveLoadUnit, CurveSettlementUnit, ContourResult;
 };
 
-inline SessionRecord Session;
+extern SessionRecord Session;
 
 // A fresh record, as at the start of the process.
 void ResetSession();

@@ -1,4 +1,5 @@
 // The problem data files: their bytes, their way back, and what surrounds reading and writing.
+#include "core/SessionFields.h"
 #include "files/ProjectFiles.h"
 #include "files/ProjectTest.h"
 

@@ -4,7 +4,10 @@
 
 #include <gmock/gmock.h>
 
-#include <filesystem>
+#include <functional>
+#include <initializer_list>
+#include <string>
+#include <vector>
 
 #include "core/Session.h"
 #include "core/StartSession.h"
@@ -18,38 +21,15 @@ namespace lithmark::tests {
 
 class FormTest : public ::testing::Test {
   protected:
-    FormTest() {
-        std::filesystem::create_directory(folder_ / "settings");
-        std::filesystem::create_directory(folder_ / "data");
-        SharedServices().UseSettingsDirectory(folder_ / "settings/");
-        SharedServices().DecimalSign = '.';
-        StartIn(Language::English);
-    }
-    ~FormTest() override {
-        SharedServices().UseSettingsDirectory("");
-        LanguageTexts().SetCurrent(Language::English);
-        ResetSession();
-        for (int entry = 0; entry < kProblemEntries; ++entry) SetProblemSaved(entry, false);
-    }
+    FormTest();
+    ~FormTest() override;
 
-    void StartIn(Language language) {
-        LanguageTexts().SetCurrent(language);
-        StartSession();
-        Session.ProgramDir = folder_ / "settings/";
-        Session.DataDir = DataDir();
-        Session.ProjectName = "P1";
-    }
+    void StartIn(Language language);
     std::string DataDir() const { return folder_ / "data/"; }
     std::string DataFile(const std::string& name) const { return DataDir() + name; }
     std::string SettingsFile(const std::string& name) const { return Session.ProgramDir + name; }
     // Names of the files in the project's folder.
-    std::vector<std::string> DataFiles() const {
-        std::vector<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator(DataDir()))
-            names.push_back(entry.path().filename());
-        std::sort(names.begin(), names.end());
-        return names;
-    }
+    std::vector<std::string> DataFiles() const;
 
     // Shows a form of type F and plays a script on it.
     template <typename F>
@@ -66,10 +46,6 @@ class FormTest : public ::testing::Test {
 };
 
 // A data file's text: one value a line.
-inline std::string Lines(std::initializer_list<const char*> values) {
-    std::string text;
-    for (const char* value : values) text += std::string(value) + "\r\n";
-    return text;
-}
+std::string Lines(std::initializer_list<const char*> values);
 
 }  // namespace lithmark::tests

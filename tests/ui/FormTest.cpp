@@ -1,0 +1,46 @@
+#include "FormTest.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "core/StartSession.h"
+
+namespace lithmark::tests {
+
+FormTest::FormTest() {
+    std::filesystem::create_directory(folder_ / "settings");
+    std::filesystem::create_directory(folder_ / "data");
+    SharedServices().UseSettingsDirectory(folder_ / "settings/");
+    SharedServices().DecimalSign = '.';
+    StartIn(Language::English);
+}
+
+FormTest::~FormTest() {
+    SharedServices().UseSettingsDirectory("");
+    LanguageTexts().SetCurrent(Language::English);
+    ResetSession();
+    for (int entry = 0; entry < kProblemEntries; ++entry) SetProblemSaved(entry, false);
+}
+
+void FormTest::StartIn(Language language) {
+    LanguageTexts().SetCurrent(language);
+    StartSession();
+    Session.ProgramDir = folder_ / "settings/";
+    Session.DataDir = DataDir();
+    Session.ProjectName = "P1";
+}
+
+std::vector<std::string> FormTest::DataFiles() const {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(DataDir())) names.push_back(entry.path().filename());
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+std::string Lines(std::initializer_list<const char*> values) {
+    std::string text;
+    for (const char* value : values) text += std::string(value) + "\r\n";
+    return text;
+}
+
+}  // namespace lithmark::tests
