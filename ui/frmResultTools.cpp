@@ -157,4 +157,9 @@ void frmResultTools::cmdHelp_Click() {
     ShowHelp(Caption, Text(906001_text));
 }
 
+void ShowResultTools() {
+    frmResultTools viewer;
+    CurrentHost().ShowForm(viewer);
+}
+
 }  // namespace lithmark

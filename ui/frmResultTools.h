@@ -47,4 +47,7 @@ class frmResultTools : public Form {
     std::string DocumentText() const;
 };
 
+// The viewer for SetResultViewer.
+void ShowResultTools();
+
 }  // namespace lithmark

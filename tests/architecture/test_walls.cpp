@@ -3,69 +3,91 @@
 
 #include <filesystem>
 #include <fstream>
-#include <map>
 #include <regex>
-#include <sstream>
 #include <string>
 #include <vector>
 
+#include "architecture/Source.h"
 #include "support/Places.h"
 
+namespace lithmark::tests {
 namespace {
 
 namespace fs = std::filesystem;
 
-// Floors from the lowest up; cli and desktop share the top.
-const std::map<std::string, int> kFloors = {{"base", 0},    {"texts", 1},   {"services", 2}, {"core", 3}, {"files", 4},
-                                            {"report", 5},  {"kernels", 6}, {"contour", 7},  {"ui", 8},   {"study", 9},
-                                            {"render", 10}, {"cli", 11},    {"desktop", 11}};
-
-struct SourceFile {
-    std::string Path;   // relative to the root
-    std::string Floor;  // its first folder
-    std::string Text;
-};
-
-std::vector<SourceFile> Sources() {
-    std::vector<SourceFile> files;
-    const fs::path root(lithmark::tests::SourceDir());
-    for (const auto& [floor, level] : kFloors) {
-        if (!fs::exists(root / floor)) continue;
-        for (const auto& entry : fs::recursive_directory_iterator(root / floor)) {
-            const auto extension = entry.path().extension();
-            if (extension != ".h" && extension != ".cpp" && extension != ".inc") continue;
-            std::ifstream in(entry.path());
-            std::stringstream text;
-            text << in.rdbuf();
-            files.push_back({fs::relative(entry.path(), root).string(), floor, text.str()});
-        }
-    }
-    return files;
+// What stands in a folder, so that a rule about none of them fails.
+int FilesIn(const std::string& folder) {
+    int count = 0;
+    for (const auto& file : Sources()) count += file.Folder == folder || file.Folder.starts_with(folder + "/");
+    return count;
 }
 
-std::vector<std::string> Includes(const std::string& text) {
-    static const std::regex pattern(R"(^[ \t]*#[ \t]*include[ \t]*[<"]([^>"]+)[>"])", std::regex::multiline);
-    std::vector<std::string> names;
-    for (std::sregex_iterator it(text.begin(), text.end(), pattern), end; it != end; ++it) names.push_back((*it)[1]);
-    return names;
+// The files of `folder` (and its sub-folders) include none of a folder of `above`.
+void ExpectNoWay(const std::string& folder, const std::vector<std::string>& above) {
+    EXPECT_GT(FilesIn(folder), 0) << folder;
+    for (const auto& file : Sources()) {
+        if (file.Folder != folder && !file.Folder.starts_with(folder + "/")) continue;
+        for (const auto& name : Includes(file.Text))
+            for (const auto& other : above)
+                EXPECT_FALSE(name.starts_with(other + "/")) << file.Path << " includes " << name;
+    }
 }
 
 TEST(Walls, AFileIncludesOnlyFromItsOwnFloorOrFloorsBelow) {
-    const auto sources = Sources();
-    ASSERT_GT(sources.size(), 20u);
-    for (const auto& file : sources) {
+    ASSERT_GT(Sources().size(), 20u);
+    for (const auto& file : Sources()) {
         for (const auto& name : Includes(file.Text)) {
-            const auto floor = kFloors.find(name.substr(0, name.find('/')));
-            if (floor == kFloors.end() || floor->first == file.Floor) continue;
-            EXPECT_LT(floor->second, kFloors.at(file.Floor)) << file.Path << " includes " << name;
+            const auto floor = Floors().find(name.substr(0, name.find('/')));
+            if (floor == Floors().end() || floor->first == file.Floor) continue;
+            EXPECT_LT(floor->second, Floors().at(file.Floor)) << file.Path << " includes " << name;
         }
+    }
+}
+
+TEST(Walls, TheDrawersOfTheServices) {
+    ExpectNoWay("services/numerics", {"texts", "services/texts", "services/storage", "services/host"});
+    ExpectNoWay("services/texts", {"services/numerics", "services/storage", "services/host"});
+    ExpectNoWay("services/storage", {"services/numerics", "services/host"});
+    ExpectNoWay("services/host", {"services/numerics", "services/storage", "services/texts"});
+    // The operations of the root put the drawers to work; no drawer knows them.
+    for (const auto& file : Sources()) {
+        if (!file.Folder.starts_with("services/")) continue;
+        for (const auto& name : Includes(file.Text))
+            EXPECT_FALSE(name.starts_with("services/") && name.find('/', 9) == std::string::npos)
+                << file.Path << " includes " << name;
+    }
+}
+
+// No family of kernels knows another one; what several need stands in kernels/elastic, or lower.
+TEST(Walls, KernelsStandOnTheElasticFormulasAlone) {
+    const std::vector<std::string> families = {"stress", "raft", "consolidation", "timesettlement", "elastic"};
+    for (const auto& family : families) {
+        std::vector<std::string> others;
+        for (const auto& other : families)
+            if (other != family && other != "elastic") others.push_back("kernels/" + other);
+        ExpectNoWay("kernels/" + family, others);
+    }
+    for (const auto& file : Sources()) {
+        if (!file.Folder.starts_with("kernels/")) continue;
+        for (const auto& name : Includes(file.Text))
+            EXPECT_FALSE(name.starts_with("kernels/Run")) << file.Path << " includes " << name;
+    }
+}
+
+// What forms are made of knows no form.
+TEST(Walls, TheModelOfFormsKnowsNoForm) {
+    EXPECT_GT(FilesIn("ui/model"), 0);
+    for (const auto& file : Sources()) {
+        if (file.Folder != "ui/model") continue;
+        for (const auto& name : Includes(file.Text))
+            EXPECT_TRUE(!name.starts_with("ui/") || name.starts_with("ui/model/")) << file.Path << " includes " << name;
     }
 }
 
 TEST(Walls, NothingBelowRenderIncludesAToolkitHeader) {
     static const std::regex toolkit(R"(^(Q[A-Z]\w*|Qt\w+/.*|qcustomplot\.h|xlsxwriter\.h)$)");
     for (const auto& file : Sources()) {
-        if (kFloors.at(file.Floor) >= kFloors.at("render")) continue;
+        if (Floors().at(file.Floor) >= Floors().at("render")) continue;
         for (const auto& name : Includes(file.Text))
             EXPECT_FALSE(std::regex_match(name, toolkit)) << file.Path << " includes " << name;
     }
@@ -75,7 +97,7 @@ TEST(Walls, OnlyTheNamedServicesUseALibraryBeyondTheStandardOne) {
     static const std::regex library(R"(^(Eigen/.*|zip\.h|nlohmann/.*|CLI/.*|gtest/.*|gmock/.*)$)");
     static const std::regex ofStudies(R"(^(boost/.*|Random123/.*)$)");
     for (const auto& file : Sources()) {
-        if (kFloors.at(file.Floor) >= kFloors.at("render")) continue;
+        if (Floors().at(file.Floor) >= Floors().at("render")) continue;
         for (const auto& name : Includes(file.Text)) {
             if (std::regex_match(name, library)) {
                 EXPECT_EQ(file.Floor, "services") << file.Path << " includes " << name;
@@ -117,7 +139,7 @@ TEST(Walls, WindowsCastToNoForm) {
 }
 
 TEST(Walls, NoFlagLoosensTheArithmetic) {
-    for (const auto& entry : fs::recursive_directory_iterator(lithmark::tests::SourceDir())) {
+    for (const auto& entry : fs::recursive_directory_iterator(SourceDir())) {
         const auto path = entry.path().string();
         if (path.find("/build/") != std::string::npos || path.find("/.git") != std::string::npos) continue;
         const auto name = entry.path().filename().string();
@@ -133,3 +155,4 @@ TEST(Walls, NoFlagLoosensTheArithmetic) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

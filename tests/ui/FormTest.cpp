@@ -4,6 +4,8 @@
 #include <filesystem>
 
 #include "core/StartSession.h"
+#include "ui/frmResultTools.h"
+#include "ui/model/ResultViewer.h"
 
 namespace lithmark::tests {
 
@@ -12,6 +14,7 @@ FormTest::FormTest() {
     std::filesystem::create_directory(folder_ / "data");
     SharedServices().UseSettingsDirectory(folder_ / "settings/");
     SharedServices().DecimalSign = '.';
+    SetResultViewer(ShowResultTools);
     StartIn(Language::English);
 }
 

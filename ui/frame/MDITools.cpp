@@ -9,9 +9,11 @@
 #include "ui/frmDataDir.h"
 #include "ui/frmPreferences.h"
 #include "ui/frmProblemType.h"
+#include "ui/frmResultTools.h"
 #include "ui/frmSplash.h"
 #include "ui/frmUnits.h"
 #include "ui/model/CommonStep.h"
+#include "ui/model/ResultViewer.h"
 
 namespace lithmark {
 
@@ -60,6 +62,7 @@ void ShowTopic(const std::string& topic) {
 }  // namespace
 
 MDITools::MDITools() : Form("MDITools") {
+    SetResultViewer(ShowResultTools);
     for (int i = 0; i < static_cast<int>(RecentFiles.size()); ++i) Menu.At(kRecentArray, i).Visible = false;
 }
 

@@ -9,10 +9,10 @@
 #include "report/StepTables.h"
 #include "services/FileDialogs.h"
 #include "services/SharedServices.h"
-#include "ui/frmResultTools.h"
 #include "ui/model/CommonStep.h"
 #include "ui/model/HelpText.h"
 #include "ui/model/ProjectFlags.h"
+#include "ui/model/ResultViewer.h"
 
 namespace lithmark {
 
@@ -152,8 +152,7 @@ void ProblemForm::cmdResult_Click() {
         }
         EndHourglass();
         if (Session.CalcAborted) return;
-        frmResultTools viewer;
-        CurrentHost().ShowForm(viewer);
+        ShowResultViewer();
     });
 }
 
