@@ -33,7 +33,6 @@ class Array {
     }
     // New upper bound; the content that still fits stays.
     void Grow(int upper) { items_.resize(upper >= lower_ ? static_cast<std::size_t>(upper - lower_) + 1 : 0); }
-    void Erase() { items_.clear(); }
 
     int Lower() const noexcept { return lower_; }
     int Upper() const noexcept { return lower_ + static_cast<int>(items_.size()) - 1; }

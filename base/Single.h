@@ -27,7 +27,7 @@ class Single {
     using Storage = detail::SingleStorage;
 
     constexpr Single() noexcept = default;
-    // Implicit on purpose: assignment is where a quantity is rounded.
+    // Deliberate: implicit, since assignment is where a quantity is rounded.
     constexpr Single(double value) : value_(static_cast<Storage>(value)) {
         if (!(value_ - value_ == 0)) detail::FailNotFinite(value);
     }

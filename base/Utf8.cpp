@@ -36,6 +36,16 @@ char32_t Decode(std::string_view text, std::size_t& position, bool& valid) {
     return 0xFFFD;
 }
 
+constexpr char32_t kReplacement = 0xFFFD;
+
+// Unicode sets the last two code points of every plane and 32 more apart as no characters.
+bool IsPrintable(char32_t c) {
+    if (c == '\t' || c == '\r' || c == '\n') return true;
+    const bool control = c < 0x20 || (c >= 0x7F && c < 0xA0);
+    const bool noCharacter = (c & 0xFFFE) == 0xFFFE || (c >= 0xFDD0 && c <= 0xFDEF);
+    return !control && !noCharacter;
+}
+
 std::string MapAscii(std::string_view text, char first, char last, int shift) {
     std::string result(text);
     for (char& c : result)
@@ -89,6 +99,26 @@ bool IsUtf8(std::string_view bytes) {
     bool valid = true;
     for (std::size_t position = 0; position < bytes.size() && valid;) Decode(bytes, position, valid);
     return valid;
+}
+
+std::string PrintableText(std::string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    bool valid = true;
+    for (std::size_t position = 0; position < text.size();) {
+        const char32_t c = Decode(text, position, valid);
+        AppendCodePoint(result, IsPrintable(c) ? c : kReplacement);
+    }
+    return result;
+}
+
+std::string Excerpt(std::string_view text) {
+    constexpr std::size_t kLongest = 40;
+    const std::string shown = PrintableText(FirstCharacters(text, kLongest));
+    std::string line;
+    for (const char c : shown) line += c == '\t' || c == '\r' || c == '\n' ? ' ' : c;
+    if (CharacterCount(text) > kLongest) line += "...";
+    return line;
 }
 
 std::string UpperAscii(std::string_view text) {

@@ -19,6 +19,12 @@ void AppendCodePoint(std::string& text, char32_t codePoint);
 // True when the bytes are valid UTF-8.
 bool IsUtf8(std::string_view bytes);
 
+// The text as documents, windows and terminals can hold it: control characters other than tabs and line ends, stray
+// bytes, and code points that stand for no character become U+FFFD.
+std::string PrintableText(std::string_view text);
+// A piece of a text for a message: short, printable, on one line.
+std::string Excerpt(std::string_view text);
+
 // Upper and lower case of the ASCII letters only (file name extensions, keywords).
 std::string UpperAscii(std::string_view text);
 std::string LowerAscii(std::string_view text);

@@ -13,6 +13,7 @@
 #include "core/Session.h"
 #include "kernels/elastic/LayerFactors.h"
 #include "kernels/raft/BasRectangularRigidRaft.h"
+#include "kernels/raft/RectangularInfluence.h"
 #include "kernels/raft/RectangularNumerical.h"
 #include "services/numerics/NumericLib.h"
 

@@ -4,8 +4,9 @@
 #include "cli/Output.h"
 #include "contour/CurveSets.h"
 #include "core/Catalogue.h"
+#include "core/CurveRequest.h"
 #include "core/Session.h"
-#include "files/GloableVariable.h"
+#include "files/CommonStep.h"
 #include "kernels/RunProject.h"
 #include "services/SharedServices.h"
 #include "study/CsvText.h"
@@ -35,6 +36,18 @@ Json ListFromOne(const Array<std::string>& items) {
     return list;
 }
 
+const char* NameOf(LineStyle style) {
+    switch (style) {
+        case LineStyle::Points:
+            return "Points";
+        case LineStyle::LinesNoMarkers:
+            return "LinesNoMarkers";
+        case LineStyle::Solid:
+            break;
+    }
+    return "Solid line";
+}
+
 std::string ChartJson(const ChartArguments& chart) {
     Json json = Json::object();
     json["curves"] = ToJson(chart.Curves);
@@ -48,7 +61,8 @@ std::string ChartJson(const ChartArguments& chart) {
     json["cells"] = TableJson(chart.Cells, 1, chart.LastRow);
     json["header"] = TableJson(chart.Header, 0, chart.HeaderRows);
     json["flag"] = chart.Flag;
-    json["lineStyles"] = ListFromOne(chart.LineStyles);
+    json["lineStyles"] = Json::array();
+    for (int i = 1; i <= chart.LineStyles.Upper(); ++i) json["lineStyles"].push_back(NameOf(chart.LineStyles(i)));
     json["xStart"] = ToJson(chart.XStart);
     json["xEnd"] = ToJson(chart.XEnd);
     json["projectText"] = chart.ProjectText;
@@ -82,22 +96,24 @@ std::string ChartIn(const std::string& format, const ChartArguments& chart) {
     FailFormat(format);
 }
 
-// The curve asked for, held against the problem: the fixed set of problem 5, "Tab1" to "Tab4" of the time-settlement
-// problems, "Tab5" and "Tab6" of the rafts. Without one: the curve that the dialog would propose.
+// The curve asked for, held against the problem: the fixed set of problem 5, the sets of the time-settlement problems,
+// those of the rafts. Without one: the curve that the dialog would propose.
 void ChooseCurve(const ChartOptions& chart) {
     const ProblemRow& problem = ProblemInForce();
     const auto fail = [](TextId text, const std::string& subject) {
         throw CommandFailure(ExitStatus::BadCommandLine, Text(text, {{"|1", subject}}));
     };
-    const bool time = problem.Curves == CurveFamily::TimeSettlement, raft = problem.Curves == CurveFamily::MiddleRow;
     if (!problem.Calculated || problem.Curves == CurveFamily::None)
         fail(902030_text, std::to_string(problem.ProblemType));
-    Session.CurveChoice = chart.Curve.empty() ? (raft ? "Tab5" : "Tab1") : chart.Curve;
-    const bool raftCurve = Session.CurveChoice == "Tab5" || Session.CurveChoice == "Tab6";
-    if ((time && raftCurve) || (raft && !raftCurve) || (Session.CurveChoice == "Tab4" && !Session.Ms))
-        fail(902031_text, Session.CurveChoice);
-    Session.CurveLoadUnit = chart.LoadUnit == "%" ? "[%]" : Session.Force1Label;
-    Session.CurveSettlementUnit = chart.SettlementUnit == "%" ? "[%]" : Session.Len2Label;
+    const bool time = problem.Curves == CurveFamily::TimeSettlement, raft = problem.Curves == CurveFamily::MiddleRow;
+    CurveRequest request;
+    request.Set = CurveSetNamed(chart.Curve).value_or(raft ? CurveSet::ContactPressure : CurveSet::Load);
+    if ((time && IsRaftCurve(request.Set)) || (raft && !IsRaftCurve(request.Set)) ||
+        (request.Set == CurveSet::Corrected && !Session.Ms))
+        fail(902031_text, CurveSetName(request.Set));
+    if (chart.LoadUnit == "%") request.LoadUnit = CurveUnit::PerCent;
+    if (chart.SettlementUnit == "%") request.SettlementUnit = CurveUnit::PerCent;
+    RequestCurve(request);
 }
 
 }  // namespace
@@ -109,12 +125,7 @@ ExitStatus ChartCommand(const CommonOptions& options, const ChartOptions& chartO
     RunProject();
     if (Session.CalcAborted) throw CommandFailure(ExitStatus::Aborted, AbortedLine(host));
     ChartArguments chart;
-    try {
-        chart = BuildChart();
-    } catch (const Failure& failure) {
-        FileError(failure);
-        throw CommandFailure(ExitStatus::Aborted, AbortedLine(host));
-    }
+    if (!UnderCommonStep([&] { chart = BuildChart(); })) throw CommandFailure(ExitStatus::Aborted, AbortedLine(host));
     WriteOutput(options.Output, ChartIn(format, chart));
     TellNotices(host);
     return ExitStatus::Done;

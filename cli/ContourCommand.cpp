@@ -3,6 +3,7 @@
 #include "contour/BasContour.h"
 #include "contour/RecordingSurface.h"
 #include "core/Catalogue.h"
+#include "core/CurveRequest.h"
 #include "core/Session.h"
 #include "files/GloableVariable.h"
 #include "kernels/RunProject.h"
@@ -103,7 +104,7 @@ ExitStatus ContourCommand(const CommonOptions& options, const ContourCommandOpti
                              Text(902032_text, {{"|1", std::to_string(Session.ProblemType)}}));
     RunProject();
     if (Session.CalcAborted) throw CommandFailure(ExitStatus::Aborted, AbortedLine(host));
-    Session.ContourResult = contour.Result == "pressure" ? "Tab5" : "Tab6";
+    RequestContours(contour.Result == "pressure" ? CurveSet::ContactPressure : CurveSet::RaftSettlement);
     BasContour plot;
     plot.Prepare();
     WriteOutput(options.Output, ContourIn(format, plot, contour.Size));

@@ -3,10 +3,13 @@
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>
+#include <system_error>
 
 #include "base/Utf8.h"
 #include "cli/Failures.h"
+#include "core/Session.h"
 #include "services/SharedServices.h"
+#include "services/storage/FileNames.h"
 #include "services/storage/WrittenFile.h"
 
 namespace lithmark {
@@ -17,11 +20,24 @@ void WriteOutput(const std::string& path, const std::string& bytes) {
         if (!written || std::fflush(stdout) != 0) throw CommandFailure(ExitStatus::FileTrouble, Text(902001_text));
         return;
     }
+    RefuseProjectFile(path);
     try {
-        WriteWholeFile(path, bytes);
+        WriteWholeFile(path, bytes, WrittenFile::Target::FileOrDevice);
     } catch (const Failure& failure) {
         SharedServices().SetCurrentFile(path);
         throw CommandFailure(ExitStatus::FileTrouble, SharedServices().FailureText(failure));
+    }
+}
+
+void RefuseProjectFile(const std::string& output) {
+    namespace fs = std::filesystem;
+    if (output.empty() || Session.ProjectName.empty()) return;
+    std::error_code error;
+    const fs::path named = fs::weakly_canonical(output, error);
+    for (const std::string_view extension : ProjectExtensions()) {
+        const std::string file = MappedFileName(Session.DataDir + Session.ProjectName + "." + std::string(extension));
+        if (fs::weakly_canonical(file, error) == named || fs::equivalent(file, output, error))
+            throw CommandFailure(ExitStatus::BadCommandLine, Text(909020_text, {{"|1", output}}));
     }
 }
 

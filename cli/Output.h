@@ -11,6 +11,10 @@ namespace lithmark {
 // Writes bytes to `path`, whole or not at all; an empty path means standard output. Throws CommandFailure.
 void WriteOutput(const std::string& path, const std::string& bytes);
 
+// Refuses an output that is a file of the project which was read, under whatever name, as a wrong command line. To be
+// asked before the run; WriteOutput asks it again.
+void RefuseProjectFile(const std::string& output);
+
 // The format in force: as asked, else told by the ending of the output, else the first of `formats`. An ending that is
 // none of `formats` is a failure of the command line.
 std::string FormatInForce(const CommonOptions& options, const std::vector<std::string>& formats);

@@ -1,13 +1,19 @@
 #include "cli/Project.h"
 
+#include <chrono>
 #include <filesystem>
+#include <optional>
+#include <system_error>
+#include <thread>
 #include <utility>
 
 #include "base/Utf8.h"
 #include "cli/Failures.h"
+#include "cli/Output.h"
 #include "core/Catalogue.h"
 #include "core/SessionFields.h"
 #include "core/StartSession.h"
+#include "core/TimeUnits.h"
 #include "files/GloableVariable.h"
 #include "files/ProblemData.h"
 #include "files/ProjectFiles.h"
@@ -19,6 +25,7 @@
 #include "services/SharedServices.h"
 #include "services/storage/FileNames.h"
 #include "services/storage/ProjectArchive.h"
+#include "services/storage/ReadFile.h"
 
 namespace lithmark {
 
@@ -57,7 +64,8 @@ void StartCommand(const CommonOptions& options, ConsoleHost& host) {
     SetCurrentHost(&host);
     SharedServices().SetProgramNumber(6);
     if (!options.Settings.empty()) {
-        if (!std::filesystem::is_directory(options.Settings)) FailFile(options.Settings, 902003_text);
+        std::error_code error;
+        if (!std::filesystem::is_directory(options.Settings, error)) FailFile(options.Settings, 902003_text);
         SharedServices().UseSettingsDirectory(options.Settings);
     }
     SetLanguage(options.Lang);
@@ -75,16 +83,14 @@ void StartCommand(const CommonOptions& options, ConsoleHost& host) {
     if (!host.Messages().empty()) FailRead(Session.ProgramDir);
 }
 
-bool ReadProject(const std::string& path) {
-    if (UpperAscii(std::filesystem::path(path).extension().string()) != ".PO3") FailFile(path, 902004_text);
-    Session.ProjectFile = path;
-    FileDialogs().SplitProjectPath(path, Session.DataDir, Session.ProjectName);
-    Session.WorkDir = Session.DataDir;
-    Session.WorkName = Session.ProjectName;
-    const std::string stem = Session.DataDir + Session.ProjectName;
-    const bool packed = IsArchiveFile(MappedFileName(stem + kStandingExtension));
-    if (!ProjectStore().UnpackProject(stem, kStandingExtension)) FailRead(path);
-    if (packed) packedProject = stem;
+namespace {
+
+ConsoleHost& Console() {
+    return static_cast<ConsoleHost&>(CurrentHost());
+}
+
+// Reads the files of a plain project into Session. True when its data file exists.
+bool ReadPlainProject(const std::string& path) {
     switch (ReadProjectFile()) {
         case ReadOutcome::Missing:
             FailFile(path, 902005_text);
@@ -102,10 +108,52 @@ bool ReadProject(const std::string& path) {
     return outcome == ReadOutcome::Read;
 }
 
+// Reads a project whose files another program may be packing or unpacking just now; nothing then, and Session holds
+// whatever was read. CommandFailure for a failure that is the project's own.
+std::optional<bool> TryReadProject(const std::string& path, const std::string& stem) {
+    const std::string standing = MappedFileName(stem + kStandingExtension);
+    const auto before = MarkOf(standing);
+    if (IsArchiveFile(standing)) {
+        if (!ProjectStore().TakeProject(stem)) return std::nullopt;
+        packedProject = stem;
+        if (!ProjectStore().UnpackProject(stem, kStandingExtension)) FailRead(path);
+        return ReadPlainProject(path);
+    }
+    try {
+        const bool hasData = ReadPlainProject(path);
+        if (MarkOf(standing) == before) return hasData;
+    } catch (const CommandFailure&) {
+        if (MarkOf(standing) == before) throw;
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+bool ReadProject(const std::string& path) {
+    if (UpperAscii(std::filesystem::path(path).extension().string()) != ".PO3") FailFile(path, 902004_text);
+    Session.ProjectFile = path;
+    FileDialogs().SplitProjectPath(path, Session.DataDir, Session.ProjectName);
+    Session.WorkDir = Session.DataDir;
+    Session.WorkName = Session.ProjectName;
+    // Another command that works on the packed project is through with it soon.
+    constexpr int kTries = 40;
+    constexpr std::chrono::milliseconds kPause(50);
+    const std::size_t told = Console().Messages().size();
+    for (int tries = 1;; ++tries) {
+        if (const auto hasData = TryReadProject(path, Session.DataDir + Session.ProjectName)) return *hasData;
+        if (tries == kTries) FailRead(path);
+        Console().ForgetMessages(told);
+        std::this_thread::sleep_for(kPause);
+    }
+}
+
 bool PackProjectAgain() {
     constexpr long kPack = 1;
     const std::string stem = std::exchange(packedProject, {});
-    return stem.empty() || ProjectStore().PackProject(stem, kPack, {}, kStandingExtension);
+    const bool packed = stem.empty() || ProjectStore().PackProject(stem, kPack, {}, kStandingExtension);
+    ProjectStore().LeaveProject();
+    return packed;
 }
 
 void ApplySets(const std::vector<std::string>& sets) {
@@ -118,6 +166,7 @@ void ApplySets(const std::vector<std::string>& sets) {
         if (equals == std::string::npos || name.empty()) fail(902007_text);
         switch (SetSessionField(name, pair.substr(equals + 1))) {
             case SetFieldOutcome::Done:
+                if (name == "TimeUnit") Session.TimeUnit = TimeUnitInForce(Session.TimeUnit);
                 if (!FindProblem(Session.ProblemType)) fail(902010_text);
                 break;
             case SetFieldOutcome::NoSuchField:
@@ -138,6 +187,7 @@ void OpenProjectForRun(const CommonOptions& options) {
         const ProblemRow* problem = FindProblem(Session.ProblemType);
         FailFile(DataFileName(Session.WorkDir, Session.WorkName, problem->Extension), 902005_text);
     }
+    RefuseProjectFile(options.Output);
     ApplySets(options.Sets);
     SetDerivedFields();
 }
@@ -148,9 +198,8 @@ void TellNotices(ConsoleHost& host) {
 }
 
 std::string AbortedLine(const ConsoleHost& host) {
-    std::string line = Text(902011_text, {{"|1", Session.ProjectFile}});
-    if (!host.Messages().empty()) line += " " + host.Messages().back().Text;
-    return line;
+    if (host.Messages().empty()) return Text(902011_text, {{"|1", Session.ProjectFile}});
+    return Session.ProjectFile + ": " + host.Messages().back().Text;
 }
 
 }  // namespace lithmark

@@ -37,7 +37,7 @@ void ApplySets(const std::vector<std::string>& sets);
 // Prints the messages and the notices of a run that is done, a line each.
 void TellNotices(ConsoleHost& host);
 
-// The line for standard error of an aborted run: the last message that the run gave.
+// The line for standard error of an aborted run: the project, and the last message that the run gave.
 std::string AbortedLine(const ConsoleHost& host);
 
 }  // namespace lithmark

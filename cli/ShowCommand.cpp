@@ -1,5 +1,6 @@
 #include <string>
 
+#include "base/Utf8.h"
 #include "cli/Commands.h"
 #include "cli/Output.h"
 #include "core/Catalogue.h"
@@ -16,9 +17,9 @@ ExitStatus ShowCommand(const CommonOptions& options, ConsoleHost&) {
     ApplySets(options.Sets);
     const ProblemRow* problem = FindProblem(Session.ProblemType);
 
-    std::string text = Session.ProjectName + "\n" + Text(problem->MenuText) + "\n\n";
+    std::string text = PrintableText(Session.ProjectName) + "\n" + Text(problem->MenuText) + "\n\n";
     const auto line = [&](std::string_view name, const std::string& value) {
-        text += std::string(name) + " = " + value + "\n";
+        text += std::string(name) + " = " + PrintableText(value) + "\n";
     };
     for (const char* name : {"ProblemType", "Auftr", "Datum", "Proj"})
         line(name, SessionFieldText(FindSessionField(name)->Ref));

@@ -5,6 +5,7 @@
 #include <functional>
 #include <string>
 
+#include "base/RemovedOnEnd.h"
 #include "base/Utf8.h"
 #include "cli/Commands.h"
 #include "cli/StudyCommand.h"
@@ -152,6 +153,7 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "lithmark-cli: %s\n", OneLine(line).c_str());
         return static_cast<int>(status);
     };
+    EndCleanlyOnSignals();
     try {
         LanguageTexts().SetCurrent(LanguageAsked(argc, argv));
         return static_cast<int>(CommandLine().Run(argc, argv));
@@ -160,9 +162,7 @@ int main(int argc, char** argv) {
     } catch (const StudyFailure& failure) {
         const bool request = failure.Why() == StudyFailure::Cause::Request;
         return fail(request ? ExitStatus::BadCommandLine : ExitStatus::FileTrouble, failure.what());
-    } catch (const Failure& failure) {
-        return fail(ExitStatus::FileTrouble, SharedServices().FailureText(failure));
     } catch (const std::exception& error) {
-        return fail(ExitStatus::FileTrouble, error.what());
+        return fail(ExitStatus::FileTrouble, SharedServices().FailureText(FailureFrom(error)));
     }
 }

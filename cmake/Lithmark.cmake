@@ -46,6 +46,13 @@ function(lithmark_reuse target owner)
   endif()
 endfunction()
 
+if(LITHMARK_FUZZ)
+  # The fuzzer watches where an input leads, the sanitizers what it does there. Clang warns of other things than GCC.
+  target_compile_options(lithmark_flags INTERFACE -Wno-error
+    -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(lithmark_flags INTERFACE -fsanitize=address,undefined)
+endif()
+
 # lithmark_floor(NAME FOLDER LIBRARIES...): a static library of the .cpp files of a folder; it links what the folder
 # includes and no more, so that the linker keeps the walls too.
 function(lithmark_floor name folder)

@@ -217,8 +217,8 @@ void BasContour::IsolinesOfTriangle(Surface& surface, const ContourOptions& opti
         const Single bx = between(t.X, m, 2), by = between(t.Y, m, 2);
         surface.Line(ax, ay, bx, by, options.ColorContours ? kColorIsoline : static_cast<int>(ClassColor(k)));
         if (ClassLabelled(k) == 0 && ax > Window.XMin && ax < Window.XMax && ay > Window.YMin && ay < Window.YMax) {
-            // The line lies on the upper limit of its class, the text names the class's middle; kept: existing plots
-            // rely on it.
+            // Deliberate: the line lies on the upper limit of its class, the text names the class's middle, as the
+            // legend does.
             if (options.DisplayValues) surface.Print(ax, ay, ClassLabel(k));
             ClassLabelled(k) = 1;
         }

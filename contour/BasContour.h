@@ -45,8 +45,8 @@ class BasContour {
     void ZoomPrevious();
     void ZoomOriginal();
 
-    // The steps of Prepare. ReadContourData reads the files of Session's open project; Session.ContourResult "Tab5"
-    // asks for contact pressures, "Tab6" for settlements.
+    // The steps of Prepare. ReadContourData reads the files of Session's open project; contact
+    // pressures or settlements, as was asked for (core/CurveRequest.h).
     void ReadContourData();
     void FindBoundary();
     void ComputeWindow();

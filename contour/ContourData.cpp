@@ -3,6 +3,7 @@
 
 #include "base/NumberText.h"
 #include "contour/BasContour.h"
+#include "core/CurveRequest.h"
 #include "core/Session.h"
 #include "core/Units.h"
 #include "files/GloableVariable.h"
@@ -62,7 +63,7 @@ void BasContour::ReadContourData() {
             }
         }
     }
-    const bool pressure = Session.ContourResult == "Tab5";
+    const bool pressure = PressureContoursRequested();
     const ProjectInput file(pressure ? "PH2" : "PH1");
     ZFormat = pressure ? Session.FmtStress : Session.FmtSettlement;
     const double factor = pressure ? FactorOf(Unit::Pressure) : Session.Len2Factor;

@@ -1,11 +1,14 @@
 #include "contour/CurveSets.h"
 
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <vector>
 
 #include "base/NumberText.h"
+#include "base/Utf8.h"
 #include "core/Catalogue.h"
+#include "core/CurveRequest.h"
 #include "core/Session.h"
 #include "core/Units.h"
 #include "report/ToolLib.h"
@@ -17,10 +20,6 @@ namespace lithmark {
 
 namespace {
 
-constexpr const char* kSolidLine = "Solid line";
-constexpr const char* kPoints = "Points";
-constexpr const char* kLinesNoMarkers = "LinesNoMarkers";
-
 // One data column: its head, and what the cell of row i holds.
 struct Column {
     TextId Title;
@@ -30,7 +29,7 @@ struct Column {
 
 struct Curve {
     std::string Legend;
-    const char* Style = kSolidLine;
+    LineStyle Style = LineStyle::Solid;
 };
 
 std::string AxisTitle(TextId title, const std::string& symbol, const std::string& unit) {
@@ -80,67 +79,6 @@ Column TimeColumn() {
     return {10247_text, "t", Session.TimeUnit, [](int i) { return NumberToText(i - 1); }};
 }
 
-bool InPerCent(const std::string& unit) {
-    return unit == "[%]";
-}
-
-// "Tab1": the stepped load line.
-void LoadCurveSet(ChartArguments& chart) {
-    const SessionRecord& p = Session;
-    const bool perCent = InPerCent(p.CurveLoadUnit);
-    const Column time{10247_text, "t", p.TimeUnit, [&](int i) { return NumberToText(p.LoadChartTime(i)); }};
-    const Column load{300053_text, perCent ? "EL" : "Ex", perCent ? "[%]" : p.Force1Label, [&, perCent](int i) {
-                          return perCent ? FormatValue(p.LoadChartNew(i), p.FmtPercent)
-                                         : FormatValue(p.LoadChartNew(i) * p.Force1Factor * p.Pt / 100, p.FmtForce);
-                      }};
-    // The second load series keeps a settlement's title, factor and format; kept: existing charts rely on it.
-    const Column previous{40081_text, "Zse", p.Len2Label, [&, perCent](int i) {
-                              const double value = p.LoadChartPrev(i) * p.Len2Factor;
-                              return FormatValue(perCent ? value : value * p.Pt / 100, p.FmtSettlement);
-                          }};
-    FillTable(chart, p.TimePeriod + p.NLoad, TableTitle(" T1"), {time, load, previous},
-              {{Text(400183_text)}, {Text(400003_text)}});
-    chart.ChartTitle = Text(300019_text);
-    chart.Flag = false;
-}
-
-// "Tab2": settlement under the load applied suddenly.
-void SuddenCurveSet(ChartArguments& chart) {
-    const SessionRecord& p = Session;
-    const bool perCent = InPerCent(p.CurveSettlementUnit);
-    const Column settlement{40081_text, perCent ? "Sts" : "Setn", p.CurveSettlementUnit, [&, perCent](int i) {
-                                return perCent ? FormatValue(p.SuddenPercent(i - 1), p.FmtPercent)
-                                               : FormatValue(p.SuddenSettlement(i - 1) * p.Len2Factor, p.FmtSettlement);
-                            }};
-    FillTable(chart, p.TimePeriod + 1, TableTitle(" T2"), {TimeColumn(), settlement}, {{Text(300052_text)}});
-    chart.ChartTitle = Text(300052_text);
-}
-
-// "Tab3": settlement of the building.
-void BuildingCurveSet(ChartArguments& chart) {
-    const SessionRecord& p = Session;
-    const bool perCent = InPerCent(p.CurveSettlementUnit);
-    const Column settlement{40081_text, "Zse", p.CurveSettlementUnit, [&, perCent](int i) {
-                                return perCent ? FormatValue(Quotient(p.SettlementSum(i) * 100, p.Sc), p.FmtPercent)
-                                               : FormatValue(p.SettlementSum(i) * p.Len2Factor, p.FmtSettlement);
-                            }};
-    FillTable(chart, p.TimePeriod + 1, TableTitle(" T3"), {TimeColumn(), settlement}, {{Text(140188_text)}});
-    chart.ChartTitle = Text(140188_text);
-}
-
-// "Tab4": computed and corrected settlement; the settlement unit choice has no effect here.
-void CorrectedCurveSet(ChartArguments& chart) {
-    const SessionRecord& p = Session;
-    const Column computed{40081_text, "Zse", p.Len2Label,
-                          [&](int i) { return FormatValue(p.SettlementSum(i) * p.Len2Factor, p.FmtSettlement); }};
-    const Column corrected{40081_text, "Zse", p.Len2Label, [&](int i) {
-                               return FormatValue(p.SettlementSum(i) * p.Len2Factor * p.MeasureFactor, p.FmtSettlement);
-                           }};
-    FillTable(chart, p.TimePeriod + 1, TableTitle(" T4"), {TimeColumn(), computed, corrected},
-              {{Text(140188_text)}, {Text(300056_text)}});
-    chart.ChartTitle = Text(300054_text);
-}
-
 std::string LengthCell(Single value) {
     return FormatValue(value * Session.Len1Factor, Session.FmtLength);
 }
@@ -153,7 +91,76 @@ std::string SettlementCell(Single value) {
     return FormatValue(value * Session.Len2Factor, Session.FmtSettlement);
 }
 
-// "Tab5": contact pressure along the middle row. The abscissa is "z" in the table and "x" on the axis; both stay.
+// "Tab1": the stepped load line.
+void LoadCurveSet(ChartArguments& chart, const CurveRequest& request) {
+    const SessionRecord& p = Session;
+    const bool perCent = request.LoadUnit == CurveUnit::PerCent;
+    const auto loadCell = [&, perCent](int i) {
+        if (perCent) return FormatValue(p.LoadChartNew(i), p.FmtPercent);
+        return FormatValue(p.LoadChartNew(i) * p.Force1Factor * p.Pt / 100, p.FmtForce);
+    };
+    // Deliberate: the second load series has a settlement's title, factor and format.
+    const auto previousCell = [&, perCent](int i) {
+        const double value = p.LoadChartPrev(i) * p.Len2Factor;
+        return FormatValue(perCent ? value : value * p.Pt / 100, p.FmtSettlement);
+    };
+    const std::string loadUnit = LabelOf(perCent ? Unit::PerCent : Unit::Force);
+    const Column time{10247_text, "t", p.TimeUnit, [&](int i) { return NumberToText(p.LoadChartTime(i)); }};
+    const Column load{300053_text, perCent ? "EL" : "Ex", loadUnit, loadCell};
+    const Column previous{40081_text, "Zse", p.Len2Label, previousCell};
+    // A long history ends with the last slot, which a period longer than the slots does not reach.
+    const int lastRow = std::min(p.TimePeriod + p.NLoad, p.LoadChartTime.Upper());
+    FillTable(chart, lastRow, TableTitle(" T1"), {time, load, previous}, {{Text(400183_text)}, {Text(400003_text)}});
+    chart.ChartTitle = Text(300019_text);
+    chart.Flag = false;
+}
+
+// A table of settlements over time with one curve, whose legend is the chart's title.
+void SettlementCurveSet(ChartArguments& chart, const char* table, TextId title, const Column& settlement) {
+    FillTable(chart, Session.TimePeriod + 1, TableTitle(table), {TimeColumn(), settlement}, {{Text(title)}});
+    chart.ChartTitle = Text(title);
+}
+
+std::string SettlementUnit(bool perCent) {
+    return LabelOf(perCent ? Unit::PerCent : Unit::Settlement);
+}
+
+// "Tab2": settlement under the load applied suddenly.
+void SuddenCurveSet(ChartArguments& chart, const CurveRequest& request) {
+    const bool perCent = request.SettlementUnit == CurveUnit::PerCent;
+    const auto cell = [perCent](int i) {
+        if (perCent) return FormatValue(Session.SuddenPercent(i - 1), Session.FmtPercent);
+        return SettlementCell(Session.SuddenSettlement(i - 1));
+    };
+    SettlementCurveSet(chart, " T2", 300052_text,
+                       {40081_text, perCent ? "Sts" : "Setn", SettlementUnit(perCent), cell});
+}
+
+// "Tab3": settlement of the building.
+void BuildingCurveSet(ChartArguments& chart, const CurveRequest& request) {
+    const bool perCent = request.SettlementUnit == CurveUnit::PerCent;
+    const auto cell = [perCent](int i) {
+        if (perCent) return FormatValue(Quotient(Session.SettlementSum(i) * 100, Session.Sc), Session.FmtPercent);
+        return SettlementCell(Session.SettlementSum(i));
+    };
+    SettlementCurveSet(chart, " T3", 140188_text, {40081_text, "Zse", SettlementUnit(perCent), cell});
+}
+
+// "Tab4": computed and corrected settlement; the settlement unit choice has no effect here.
+void CorrectedCurveSet(ChartArguments& chart) {
+    const SessionRecord& p = Session;
+    const auto correctedCell = [&](int i) {
+        return FormatValue(p.SettlementSum(i) * p.Len2Factor * p.MeasureFactor, p.FmtSettlement);
+    };
+    const Column computed{40081_text, "Zse", p.Len2Label, [&](int i) { return SettlementCell(p.SettlementSum(i)); }};
+    const Column corrected{40081_text, "Zse", p.Len2Label, correctedCell};
+    FillTable(chart, p.TimePeriod + 1, TableTitle(" T4"), {TimeColumn(), computed, corrected},
+              {{Text(140188_text)}, {Text(300056_text)}});
+    chart.ChartTitle = Text(300054_text);
+}
+
+// "Tab5": contact pressure along the middle row. Deliberate: the abscissa is "z" in the table and "x" on
+// the axis.
 void PressureCurveSet(ChartArguments& chart) {
     const SessionRecord& p = Session;
     const std::string stress = LabelOf(Unit::Pressure);
@@ -176,10 +183,11 @@ void RaftSettlementCurveSet(ChartArguments& chart) {
     const Column line{300080_text, "sm", p.Len2Label, nullptr};
     const Column flexible{300087_text, "sf", p.Len2Label, [&](int i) { return SettlementCell(p.RaftMidFlexible(i)); }};
     FillTable(chart, p.RaftMidCount, TableTitle(" 1"), {place, settlement, line, flexible},
-              {{Text(title), kPoints}, {Text(300080_text), kLinesNoMarkers}, {Text(300087_text), kSolidLine}});
+              {{Text(title), LineStyle::Points},
+               {Text(300080_text), LineStyle::LinesNoMarkers},
+               {Text(300087_text), LineStyle::Solid}});
 
-    // The line is fitted to the shown, rounded numbers and evaluated at the coordinates in metres; kept: existing
-    // charts rely on it.
+    // Deliberate: the line is fitted to the shown, rounded numbers and evaluated at the coordinates in metres.
     const int n = p.RaftMidCount;
     Array<Single> x(1, n), y(1, n);
     for (int i = 1; i <= n; ++i) {
@@ -206,9 +214,48 @@ void IsochroneCurveSet(ChartArguments& chart) {
 }
 
 std::string ProjectText() {
-    const Style label{4};
-    return Text(11_text, label) + Session.Auftr + "\n" + Text(12_text, label) + Session.Datum + "\n" +
-           Text(95_text, label) + Session.Proj + "\n" + Text(107_text, label) + Session.ProjectName + "\n";
+    return Text(11_text, Styles::Heading) + Session.Auftr + "\n" + Text(12_text, Styles::Heading) + Session.Datum +
+           "\n" + Text(95_text, Styles::Heading) + Session.Proj + "\n" + Text(107_text, Styles::Heading) +
+           Session.ProjectName + "\n";
+}
+
+void BuildCurveSet(ChartArguments& chart, const CurveRequest& request) {
+    switch (request.Set) {
+        case CurveSet::Load:
+            return LoadCurveSet(chart, request);
+        case CurveSet::SuddenLoad:
+            return SuddenCurveSet(chart, request);
+        case CurveSet::Building:
+            return BuildingCurveSet(chart, request);
+        case CurveSet::Corrected:
+            return CorrectedCurveSet(chart);
+        case CurveSet::ContactPressure:
+            return PressureCurveSet(chart);
+        case CurveSet::RaftSettlement:
+            return RaftSettlementCurveSet(chart);
+    }
+}
+
+// A raft's curves run over the whole raft, the others from the first to the last place of the table.
+void SetRange(ChartArguments& chart, bool ofRaft) {
+    if (ofRaft && Session.LoadType == LoadShape::Circle) {
+        chart.XStart = -Session.A0;
+        chart.XEnd = Session.A0;
+    } else if (ofRaft && Session.LoadType == LoadShape::Rectangle) {
+        chart.XStart = 0;
+        chart.XEnd = Session.A;
+    } else {
+        chart.XStart = CellNumber(chart.Cells(1, 1));
+        chart.XEnd = CellNumber(chart.Cells(Session.TableLastRow, 1));
+    }
+}
+
+// Units, time units and heading data come from files as they stand there.
+void MakePrintable(ChartArguments& chart) {
+    for (std::string* text : {&chart.XTitle, &chart.YTitle, &chart.TableTitle, &chart.ProjectText, &chart.ChartTitle,
+                              &chart.CompanyLine1, &chart.CompanyLine2})
+        *text = PrintableText(*text);
+    for (std::string& cell : chart.Header.Items()) cell = PrintableText(cell);
 }
 
 }  // namespace
@@ -216,36 +263,14 @@ std::string ProjectText() {
 ChartArguments BuildChart() {
     ChartArguments chart;
     chart.Flag = true;
-    const std::string& choice = Session.CurveChoice;
-    const bool raft = choice == "Tab5" || choice == "Tab6";
-    if (Session.ProblemType == 5)
+    if (Session.ProblemType == Problem::ConsolidationRate) {
         IsochroneCurveSet(chart);
-    else if (choice == "Tab1")
-        LoadCurveSet(chart);
-    else if (choice == "Tab2")
-        SuddenCurveSet(chart);
-    else if (choice == "Tab3")
-        BuildingCurveSet(chart);
-    else if (choice == "Tab4")
-        CorrectedCurveSet(chart);
-    else if (choice == "Tab5")
-        PressureCurveSet(chart);
-    else if (choice == "Tab6")
-        RaftSettlementCurveSet(chart);
-    else
-        Fail(FailureKind::InvalidArgument);
-
-    chart.SettlementsDown =
-        Session.ProblemType != 5 && (choice == "Tab2" || choice == "Tab3" || choice == "Tab4" || choice == "Tab6");
-    if (Session.ProblemType != 5 && raft && Session.LoadType == 3) {
-        chart.XStart = -Session.A0;
-        chart.XEnd = Session.A0;
-    } else if (Session.ProblemType != 5 && raft && Session.LoadType == 2) {
-        chart.XStart = 0;
-        chart.XEnd = Session.A;
+        SetRange(chart, false);
     } else {
-        chart.XStart = CellNumber(chart.Cells(1, 1));
-        chart.XEnd = CellNumber(chart.Cells(Session.TableLastRow, 1));
+        const CurveRequest request = RequestedCurve();
+        BuildCurveSet(chart, request);
+        SetRange(chart, IsRaftCurve(request.Set));
+        chart.SettlementsDown = request.Set != CurveSet::Load && request.Set != CurveSet::ContactPressure;
     }
     chart.ProjectText = ProjectText();
     BuildTableHeader(chart.Header);
@@ -255,6 +280,7 @@ ChartArguments BuildChart() {
     chart.TableTitle = Session.TableTitle;
     chart.CompanyLine1 = Session.FirmaLine1;
     chart.CompanyLine2 = Session.FirmaLine2;
+    MakePrintable(chart);
     return chart;
 }
 

@@ -2,8 +2,8 @@
 //
 // Problem 5 has one fixed set. The time-settlement problems have "Tab1" (load), "Tab2" (sudden-load curve), "Tab3"
 // (settlement of the building) and "Tab4" (corrected settlement); the rafts "Tab5" (contact pressure) and "Tab6"
-// (settlements along the middle row). The choice and its units are Session.CurveChoice, CurveLoadUnit and
-// CurveSettlementUnit.
+// (settlements along the middle row). core/CurveRequest.h has the choice and its
+// units.
 #pragma once
 
 #include <string>

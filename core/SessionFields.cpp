@@ -243,6 +243,11 @@ const SessionField* FindSessionField(std::string_view name) {
     return found == byName.end() ? nullptr : found->second;
 }
 
+std::string_view NameOf(const FieldRef& ref) {
+    const auto found = std::ranges::find(kFields, ref, &SessionField::Ref);
+    return found == kFields.end() ? std::string_view{} : found->Name;
+}
+
 SetFieldOutcome SetSessionField(std::string_view name, std::string_view value) {
     const std::optional<int> index = TakeIndex(name);
     const SessionField* field = FindSessionField(name);

@@ -25,6 +25,9 @@ std::span<const SessionField> SessionFields();
 // The field of a name such as "Es" or "LoadTime", or null.
 const SessionField* FindSessionField(std::string_view name);
 
+// The name of a field; empty for a place that holds none of them.
+std::string_view NameOf(const FieldRef& ref);
+
 enum class SetFieldOutcome { Done, NoSuchField, NoSuchElement, BadValue };
 
 // Puts a text into a field, in base units with "." as decimal sign. "hLayer(2)" or "hLayer[2]" names an array's

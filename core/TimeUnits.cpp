@@ -1,5 +1,6 @@
 #include "core/TimeUnits.h"
 
+#include "base/Utf8.h"
 #include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
@@ -12,8 +13,15 @@ Single SecondsPerTimeUnit(const std::string& word) {
     return 0;
 }
 
+std::string TimeUnitInForce(const std::string& word) {
+    for (const TextId unit : {10001_text, 10002_text, 10003_text, 10004_text})
+        for (const Language language : {Language::German, Language::English, Language::Arabic})
+            if (Trim(word) == TextIn(*FindLanguageRow(unit.Number), language)) return Text(unit);
+    return word;
+}
+
 void FailTimeUnit(const std::string& word) {
-    Fail(FailureKind::DivisionByZero, Text(905001_text, {{"|1", word}}));
+    Fail(FailureKind::BadInput, Text(905001_text, {{"|1", word}}));
 }
 
 }  // namespace lithmark

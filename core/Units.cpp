@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <string_view>
 
 #include "base/NumberText.h"
 #include "base/Single.h"
@@ -14,36 +15,6 @@
 namespace lithmark {
 
 namespace {
-
-constexpr std::array kLengthUnits = {
-    UnitRow{34_text, 28_text, "[m]", 1},
-    UnitRow{35_text, 36_text, "[ft]", 3.28083989501312},
-    UnitRow{37_text, 38_text, "[in]", 39.3700787401575},
-    UnitRow{39_text, 40_text, "[cm]", 100},
-    UnitRow{41_text, 42_text, "[mm]", 1000},
-    UnitRow{43_text, 44_text, "[yd]", 1.09361329833771},
-};
-
-// Deliberate: "[kg]" and "[ton]" count 10 m/s2, unlike "[kgf]", as is usual on building sites.
-constexpr std::array kForceUnits = {
-    UnitRow{45_text, 29_text, "[kN]", 1},
-    UnitRow{46_text, 47_text, "[N]", 1000},
-    UnitRow{48_text, 49_text, "[kgf]", 101.971621297793},
-    UnitRow{50_text, 51_text, "[kip]", 0.224808923655339},
-    UnitRow{52_text, 53_text, "[lbf]", 224.808923655339},
-    UnitRow{54_text, 55_text, "[tonf]", 0.112404474462434},
-    UnitRow{56_text, 57_text, "[kg]", 100},
-    UnitRow{58_text, 59_text, "[ton]", 0.1},
-    UnitRow{60_text, 61_text, "[MN]", 0.001},
-};
-
-// Temperatures have no factor: nothing in the program converts them.
-constexpr std::array kTemperatureUnits = {
-    UnitRow{63_text, 33_text, "[°C]", 1},
-    UnitRow{64_text, 30_text, "[°K]", 1},
-    UnitRow{65_text, 31_text, "[°F]", 1},
-    UnitRow{66_text, 32_text, "[°R]", 1},
-};
 
 constexpr std::array kNumberFormats = {
     NumberFormatRow{&SessionRecord::FmtForce, "0.0"},
@@ -67,7 +38,7 @@ constexpr std::array kNumberFormats = {
 };
 
 // Selectors of UnitFactor and UnitLabel.
-constexpr long kPressure = 0, kUnitWeight = 3, kAreaPerTime = 10, kLengthPerTime = 11;
+constexpr long kPressure = 0, kMoment = 2, kUnitWeight = 3, kAreaPerTime = 10, kLengthPerTime = 11;
 
 // What a unit is made of: a unit group of its own, or a derived unit.
 struct UnitSource {
@@ -91,7 +62,10 @@ UnitSource SourceOf(Unit unit) {
             return {.Selector = kAreaPerTime};
         case Unit::LengthPerTime:
             return {.Selector = kLengthPerTime};
+        case Unit::Moment:
+            return {.Selector = kMoment};
         case Unit::None:
+        case Unit::PerCent:
             break;
     }
     return {};
@@ -105,77 +79,73 @@ std::string CutBrackets(const std::string& label) {
     return label.substr(first, FirstCharacters(label, count - 1).size() - first);
 }
 
-std::string DerivedUnit(long selector) {
-    const std::string length1 = CutBrackets(Session.Len1Label), length2 = CutBrackets(Session.Len2Label);
-    const std::string force1 = CutBrackets(Session.Force1Label), force2 = CutBrackets(Session.Force2Label);
-    const std::string squared = Text(77_text), cubed = Text(78_text);
-    switch (selector) {
-        case 0:
-            return force1 + "/" + length1 + squared;
-        case 1:
-            return force1 + "." + length1 + "/" + length1;
-        case 2:
-            return force1 + "." + length1;
-        case 3:
-            return force1 + "/" + length1 + cubed;
-        case 4:
-            return force1 + "/" + length1;
-        case 5:
-            return length1 + "4";
-        case 6:
-            return length1 + squared;
-        case 7:
-            return length2 + squared + "/" + length1;
-        case 8:
-            return force2 + "/" + length1 + squared;
-        case 9:
-            return force1 + "." + length1 + "/" + CutBrackets(Text(75_text));
-        case 10:
-            return length1 + squared + "/" + CutBrackets(Text(76_text));
-        case 11:
-            return length1 + "/" + CutBrackets(Text(76_text));
+// The factors of the unit groups, by the letters of the formulas.
+struct GroupFactors {
+    double L1 = Session.Len1Factor, L2 = Session.Len2Factor, F1 = Session.Force1Factor, F2 = Session.Force2Factor;
+};
+
+// A derived unit: its factor, and its label with F and L for force and length 1, G and M for force and length 2, 2 and
+// 3 for the raised figures, a and s for the angle and the second.
+struct DerivedUnit {
+    double (*Factor)(const GroupFactors& g);
+    const char* Label;
+};
+// By selector.
+constexpr DerivedUnit kDerivedUnits[] = {
+    {[](const GroupFactors& g) { return Quotient(g.F1, Power(g.L1, 2)); }, "F/L2"},
+    {[](const GroupFactors& g) { return g.F1; }, "F.L/L"},
+    {[](const GroupFactors& g) { return g.L1 * g.F1; }, "F.L"},
+    {[](const GroupFactors& g) { return Quotient(g.F1, Power(g.L1, 3)); }, "F/L3"},
+    {[](const GroupFactors& g) { return Quotient(g.F1, g.L1); }, "F/L"},
+    {[](const GroupFactors& g) { return Power(g.L1, 4); }, "L4"},
+    {[](const GroupFactors& g) { return Power(g.L1, 2); }, "L2"},
+    {[](const GroupFactors& g) { return Quotient(Power(g.L2, 2), g.L1); }, "M2/L"},
+    {[](const GroupFactors& g) { return Quotient(g.F2, Power(g.L1, 2)); }, "G/L2"},
+    {[](const GroupFactors& g) { return g.L1 * g.F1; }, "F.L/a"},
+    {[](const GroupFactors& g) { return Power(g.L1, 2); }, "L2/s"},
+    {[](const GroupFactors& g) { return g.L1; }, "L/s"},
+};
+
+const DerivedUnit* FindDerivedUnit(long selector) {
+    return selector < 0 || selector >= static_cast<long>(std::size(kDerivedUnits)) ? nullptr : &kDerivedUnits[selector];
+}
+
+// What a letter of a derived unit's label stands for; another character stands for itself.
+std::string LabelPart(char letter) {
+    switch (letter) {
+        case 'F':
+            return CutBrackets(Session.Force1Label);
+        case 'G':
+            return CutBrackets(Session.Force2Label);
+        case 'L':
+            return CutBrackets(Session.Len1Label);
+        case 'M':
+            return CutBrackets(Session.Len2Label);
+        case '2':
+            return Text(77_text);
+        case '3':
+            return Text(78_text);
+        case 'a':
+            return CutBrackets(Text(75_text));
+        case 's':
+            return CutBrackets(Text(76_text));
         default:
-            return {};
+            return {letter};
     }
 }
 
 }  // namespace
 
 double UnitFactor(long selector) {
-    const double L1 = Session.Len1Factor, L2 = Session.Len2Factor;
-    const double F1 = Session.Force1Factor, F2 = Session.Force2Factor;
-    switch (selector) {
-        case 0:
-            return Quotient(F1, Power(L1, 2));
-        case 1:
-            return F1;
-        case 2:
-            return L1 * F1;
-        case 3:
-            return Quotient(F1, Power(L1, 3));
-        case 4:
-            return Quotient(F1, L1);
-        case 5:
-            return Power(L1, 4);
-        case 6:
-            return Power(L1, 2);
-        case 7:
-            return Quotient(Power(L2, 2), L1);
-        case 8:
-            return Quotient(F2, Power(L1, 2));
-        case 9:
-            return L1 * F1;
-        case 10:
-            return Power(L1, 2);
-        case 11:
-            return L1;
-        default:
-            return 0;
-    }
+    const DerivedUnit* unit = FindDerivedUnit(selector);
+    return unit == nullptr ? 0 : unit->Factor({});
 }
 
 std::string UnitLabel(long selector) {
-    return "[" + DerivedUnit(selector) + "]";
+    std::string label = "[";
+    if (const DerivedUnit* unit = FindDerivedUnit(selector))
+        for (const char letter : std::string_view(unit->Label)) label += LabelPart(letter);
+    return label + "]";
 }
 
 double FactorOf(Unit unit) {
@@ -187,7 +157,8 @@ double FactorOf(Unit unit) {
 std::string LabelOf(Unit unit) {
     const UnitSource source = SourceOf(unit);
     if (source.Label) return Session.*source.Label;
-    return source.Selector < 0 ? "[-]" : UnitLabel(source.Selector);
+    if (source.Selector >= 0) return UnitLabel(source.Selector);
+    return unit == Unit::PerCent ? "[%]" : "[-]";
 }
 
 std::string FormatValue(double value, const std::string& format) {
@@ -200,25 +171,25 @@ std::string FormatValue(double value, const std::string& format) {
     return text;
 }
 
-std::span<const UnitRow> LengthUnits() {
-    return kLengthUnits;
-}
-
-std::span<const UnitRow> ForceUnits() {
-    return kForceUnits;
-}
-
-std::span<const UnitRow> TemperatureUnits() {
-    return kTemperatureUnits;
-}
-
 void SetDefaultUnits() {
-    Session.Len1Label = Text(28_text);
-    Session.Len2Label = Text(40_text);
-    Session.Force1Label = Text(29_text);
-    Session.Force2Label = Text(61_text);
-    Session.TempLabel = Text(33_text);
-    Session.Len1Factor = Session.Len2Factor = Session.Force1Factor = Session.Force2Factor = 1;
+    SetUnits(BaseUnits());
+}
+
+UnitSettings UnitsInForce() {
+    return {Session.Len1Label,  Session.Len2Label,  Session.Force1Label,  Session.Force2Label, Session.TempLabel,
+            Session.Len1Factor, Session.Len2Factor, Session.Force1Factor, Session.Force2Factor};
+}
+
+void SetUnits(const UnitSettings& units) {
+    Session.Len1Label = units.Len1Label;
+    Session.Len1Factor = units.Len1Factor;
+    Session.Len2Label = units.Len2Label;
+    Session.Len2Factor = units.Len2Factor;
+    Session.Force1Label = units.Force1Label;
+    Session.Force1Factor = units.Force1Factor;
+    Session.Force2Label = units.Force2Label;
+    Session.Force2Factor = units.Force2Factor;
+    Session.TempLabel = units.TempLabel;
 }
 
 std::span<const NumberFormatRow> NumberFormats() {

@@ -4,8 +4,8 @@
 #include <span>
 #include <string>
 
-#include "base/TextId.h"
 #include "core/Session.h"
+#include "services/storage/UnitsFile.h"
 
 namespace lithmark {
 
@@ -17,8 +17,9 @@ double UnitFactor(long selector);
 std::string UnitLabel(long selector);
 
 // What a quantity of the dialogs and reports is counted in.
-enum class Unit { None, Length, Settlement, Force, Pressure, UnitWeight, AreaPerTime, LengthPerTime };
-// Display units per base unit, and the label with its brackets, at this moment; 1 and "[-]" for None. As UnitFactor,
+enum class Unit { None, Length, Settlement, Force, Pressure, UnitWeight, AreaPerTime, LengthPerTime, Moment, PerCent };
+// Display units per base unit, and the label with its brackets, at this moment; 1 and "[-]" for None, 1 and "[%]" for
+// PerCent. As UnitFactor,
 // DivisionByZero when a length factor of 0 stands under the line.
 double FactorOf(Unit unit);
 std::string LabelOf(Unit unit);
@@ -31,18 +32,11 @@ std::string FormatValue(double value, const std::string& format);
 // The format that asks for a date's text.
 inline const std::string kLongDate = "Long Date";
 
-// A row of the unit tables: the long name, the label (with brackets), and the factor to one metre or one kilonewton.
-struct UnitRow {
-    TextId Name, UnitLabel;
-    const char* InFiles;
-    double Factor;
-};
-std::span<const UnitRow> LengthUnits();
-std::span<const UnitRow> ForceUnits();
-std::span<const UnitRow> TemperatureUnits();
-
 // The base units in force: m, cm, kN, MN and degrees Celsius, with labels of the current language and factors of 1.
 void SetDefaultUnits();
+// The units in force as a whole, and others put in force.
+UnitSettings UnitsInForce();
+void SetUnits(const UnitSettings& units);
 
 // A row of the table of number formats: the field and its default. The rows stand in the order of the file "NOFORMAT".
 struct NumberFormatRow {

@@ -47,14 +47,14 @@ ChartWindow::ChartWindow(const ChartArguments& chart, QWidget* parent) : QDialog
         buttons->addWidget(button);
         return button;
     };
-    add(Text(9_text, Style{3}), "cmdExport", [this] { Export(); });
+    add(Text(9_text, Styles::DialogButton), "cmdExport", [this] { Export(); });
     add(Text(26_text), "cmdOriginal", [this, plot] {
         FillPlot(*plot, chart_);
         plot->replot();
     });
     if (chart_.ShowContours) add(Text(140017_text), "cmdContours", [this] { chart_.ShowContours(); });
     buttons->addStretch(1);
-    add(Text(6_text, Style{1}), "cmdok", [this] { accept(); })->setDefault(true);
+    add(Text(6_text, Styles::Button), "cmdok", [this] { accept(); })->setDefault(true);
     column->addLayout(buttons);
     resize(860, 620);
 }

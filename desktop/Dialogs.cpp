@@ -34,12 +34,12 @@ class PlainDialog : public QDialog {
         auto* column = new QVBoxLayout(this);
         column->addLayout(Content, 1);
         auto* buttons = new QDialogButtonBox(this);
-        QPushButton* ok = buttons->addButton(Q(Text(6_text, Style{1})), QDialogButtonBox::AcceptRole);
+        QPushButton* ok = buttons->addButton(Q(Text(6_text, Styles::Button)), QDialogButtonBox::AcceptRole);
         ok->setDefault(true);
         ok->setObjectName(QStringLiteral("cmdok"));
         connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
         if (cancel) {
-            buttons->addButton(Q(Text(7_text, Style{1})), QDialogButtonBox::RejectRole);
+            buttons->addButton(Q(Text(7_text, Styles::Button)), QDialogButtonBox::RejectRole);
             connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
         }
         column->addWidget(buttons);

@@ -10,6 +10,8 @@
 #include <QProcess>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QThread>
 #include <QUrl>
 
@@ -44,6 +46,14 @@ class PlainPointer {
     bool hourglass_;
 };
 
+// The path of a new file for another program, in a folder of its own that no other user can look into.
+std::string HandOverFile(const std::string& name) {
+    QTemporaryDir folder(QDir::temp().filePath(QStringLiteral("lithmark-XXXXXX")));
+    if (!folder.isValid()) FailInFile(FailureKind::WriteError, folder.path().toStdString());
+    folder.setAutoRemove(false);
+    return folder.filePath(Q(name)).toStdString();
+}
+
 }  // namespace
 
 QtHost::QtHost() = default;
@@ -68,7 +78,7 @@ void QtHost::ShowMessage(const std::string& title, const std::string& text, Mess
                 : icon == MessageIcon::Exclamation ? QMessageBox::Warning
                 : icon == MessageIcon::Critical    ? QMessageBox::Critical
                                                    : QMessageBox::NoIcon);
-    box.addButton(Q(Text(6_text, Style{1})), QMessageBox::AcceptRole);
+    box.addButton(Q(Text(6_text, Styles::Button)), QMessageBox::AcceptRole);
     box.exec();
 }
 
@@ -80,9 +90,9 @@ bool QtHost::AskYesNo(const std::string& title, const std::string& text) {
     box.setText(Q(text));
     box.setLayoutDirection(LanguageTexts().RightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     box.setIcon(QMessageBox::Question);
-    QAbstractButton* yes = box.addButton(Q(Text(903001_text, Style{1})), QMessageBox::YesRole);
+    QAbstractButton* yes = box.addButton(Q(Text(903001_text, Styles::Button)), QMessageBox::YesRole);
     yes->setObjectName(QStringLiteral("cmdYes"));
-    box.addButton(Q(Text(903002_text, Style{1})), QMessageBox::NoRole)->setObjectName(QStringLiteral("cmdNo"));
+    box.addButton(Q(Text(903002_text, Styles::Button)), QMessageBox::NoRole)->setObjectName(QStringLiteral("cmdNo"));
     box.setDefaultButton(qobject_cast<QPushButton*>(yes));
     box.exec();
     return box.clickedButton() == yes;
@@ -222,22 +232,24 @@ void QtHost::PrintText(const std::string& text, const std::string& fontName, int
     PrintReport(Parent(), text, fontName, fontSize, rightToLeft);
 }
 
+// The document is the word processor's from then on: what the user writes into it must not go with this program.
 void QtHost::OpenWordProcessor(const std::string& text, const std::string&, int, bool) {
-    const QString path =
-        QDir::temp().filePath(Q(Text(160030_text)) + QStringLiteral("-%1.rtf").arg(QApplication::applicationPid()));
-    WriteWholeFile(path.toStdString(), ReportRtf(text));
-    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(path))) Fail(FailureKind::Other, path.toStdString());
+    const std::string path = HandOverFile(Text(160030_text) + ".rtf");
+    WriteWholeFile(path, ReportRtf(text));
+    const QString opener = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
+    const bool opened = opener.isEmpty() ? QDesktopServices::openUrl(QUrl::fromLocalFile(Q(path)))
+                                         : QProcess::startDetached(opener, {Q(path)});
+    if (!opened) ShowMessage(Text(160030_text), Text(909012_text, {{"|1", path}}), MessageIcon::Exclamation);
 }
 
 void QtHost::SetClipboardText(const std::string& text) {
     QApplication::clipboard()->setText(Q(text));
 }
 
-void QtHost::StartProcess(const std::string& commandLine) {
-    QStringList words = QProcess::splitCommand(Q(commandLine));
-    if (words.isEmpty()) return;
-    const QString program = words.takeFirst();
-    QProcess::startDetached(program, words);
+void QtHost::StartProcess(const std::string& program, const std::vector<std::string>& arguments) {
+    QStringList words;
+    for (const std::string& argument : arguments) words.append(Q(argument));
+    if (!QProcess::startDetached(Q(program), words)) FailInFile(FailureKind::FileMissing, program);
 }
 
 }  // namespace lithmark

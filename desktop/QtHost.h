@@ -50,7 +50,7 @@ class QtHost : public Host {
     void OpenWordProcessor(const std::string& text, const std::string& fontName, int fontSize,
                            bool rightToLeft) override;
     void SetClipboardText(const std::string& text) override;
-    void StartProcess(const std::string& commandLine) override;
+    void StartProcess(const std::string& program, const std::vector<std::string>& arguments) override;
 
   private:
     // The window that a dialog belongs to.

@@ -105,13 +105,13 @@ QWidget* TableEditorDialog::Buttons() {
     redo_ = add(Text(906537_text), "cmdRedo",
                 [this] { Change([&] { rows_.Redo(); }, grid_->currentRow(), grid_->currentColumn()); });
     buttons->addStretch(1);
-    add(Text(8_text, Style{1}), "cmdHelp", [this] {
+    add(Text(8_text, Styles::Button), "cmdHelp", [this] {
         SharedServices().SetHelpText(table_.Help);
         SharedServices().ShowHelpText(windowTitle().toStdString());
     });
-    ok_ = add(Text(6_text, Style{1}), "cmdok", [this] { accept(); });
+    ok_ = add(Text(6_text, Styles::Button), "cmdok", [this] { accept(); });
     ok_->setDefault(true);
-    add(Text(7_text, Style{1}), "CmdCancel", [this] { reject(); });
+    add(Text(7_text, Styles::Button), "CmdCancel", [this] { reject(); });
     return line;
 }
 

@@ -1,5 +1,7 @@
+#include "base/RemovedOnEnd.h"
 #include "desktop/Application.h"
 
 int main(int argc, char** argv) {
+    lithmark::EndCleanlyOnSignals();
     return lithmark::RunDesktop(argc, argv);
 }

@@ -1,12 +1,15 @@
 #include "files/ProblemData.h"
 
 #include <utility>
+#include <variant>
 
 #include "base/NumberText.h"
 #include "core/Catalogue.h"
 #include "core/SessionFields.h"
-#include "files/GloableVariable.h"
+#include "core/TimeUnits.h"
+#include "files/CommonStep.h"
 #include "files/ProjectFiles.h"
+#include "services/ProjectStore.h"
 #include "services/SharedServices.h"
 
 namespace lithmark {
@@ -15,63 +18,77 @@ namespace {
 
 constexpr int kFile = 1;
 
-// One row of a file's layout. A table's count may stand ahead of its rows with other fields between.
-enum class RowKind {
-    Fields,    // a line for each field, or element of an array that always has the same size
-    ListItem,  // a text written as a raw line and read to the next comma. Kept: existing files have both
-    Count,     // the number of rows of the table whose columns are Fields
-    Table      // that table: row by row, a line for each column
+// The layout of a data file is a list of rows, and reading and writing walk the same list. Rows point at Session's
+// fields, so that a field that does not exist, or is of the wrong kind, does not compile.
+using S = SessionRecord;
+using FieldPointer =
+    std::variant<Single S::*, Integer S::*, bool S::*, std::string S::*, Array<Single> S::*, Array<Integer> S::*>;
+using ColumnPointer = std::variant<Array<Single> S::*, Array<Integer> S::*>;
+
+// A line for each field, or element of an array that always has the same size.
+struct Fields {
+    std::vector<FieldPointer> Items;
 };
-struct FileRow {
-    RowKind Kind;
-    std::vector<std::string_view> Fields;
-    std::string_view Count = {};
+// Deliberate: a text written as a raw line and read to the next comma, so that a value behind it is passed over.
+struct ListText {
+    std::string S::*Item;
 };
+// The number of rows of a table; it may stand ahead of the table with other fields between.
+struct Count {
+    Integer S::*Rows;
+    std::vector<ColumnPointer> Columns;
+};
+// The table: row by row, a line for each column.
+struct Table {
+    Integer S::*Rows;
+    std::vector<ColumnPointer> Columns;
+};
+using FileRow = std::variant<Fields, ListText, Count, Table>;
 using FileRows = std::vector<FileRow>;
 
-FileRow Plain(std::vector<std::string_view> fields) {
-    return {RowKind::Fields, std::move(fields)};
-}
-
 // The count of a table, the fields between it and the table, and the table.
-void AddTable(FileRows& rows, std::string_view count, const std::vector<std::string_view>& columns,
-              std::vector<std::string_view> between = {}) {
-    rows.push_back({RowKind::Count, columns, count});
-    if (!between.empty()) rows.push_back(Plain(std::move(between)));
-    rows.push_back({RowKind::Table, columns, count});
+void AddTable(FileRows& rows, Integer S::*count, const std::vector<ColumnPointer>& columns,
+              std::vector<FieldPointer> between = {}) {
+    rows.push_back(Count{count, columns});
+    if (!between.empty()) rows.push_back(Fields{std::move(between)});
+    rows.push_back(Table{count, columns});
 }
 
 FileRows TimeSettlementRows() {
-    FileRows rows = {Plain({"DrainageFaces", "CvChoice", "CvTS", "kf", "EsTS", "Ws", "qv", "qe", "Hm", "h", "Sc", "Pt",
-                            "TimePeriod", "StartDate", "Ms", "Sm", "DesignCode", "TimeUnit"})};
-    AddTable(rows, "NLoad", {"LoadValue", "LoadTime"});
-    AddTable(rows, "NSts", {"StsValue", "StsTime"});
-    rows.push_back({RowKind::ListItem, {"OedUnit"}});
-    AddTable(rows, "NOed", {"OedSettlement", "OedTime"});
+    FileRows rows = {
+        Fields{{&S::DrainageFaces, &S::CvChoice, &S::CvTS, &S::kf, &S::EsTS, &S::Ws, &S::qv, &S::qe, &S::Hm, &S::h,
+                &S::Sc, &S::Pt, &S::TimePeriod, &S::StartDate, &S::Ms, &S::Sm, &S::DesignCode, &S::TimeUnit}}};
+    AddTable(rows, &S::NLoad, {&S::LoadValue, &S::LoadTime});
+    AddTable(rows, &S::NSts, {&S::StsValue, &S::StsTime});
+    rows.push_back(ListText{&S::OedUnit});
+    AddTable(rows, &S::NOed, {&S::OedSettlement, &S::OedTime});
     return rows;
 }
 
 FileRows LayerTableRows() {
-    FileRows rows = {Plain({"ScLoad"})};
-    // The last two columns stand in the order 9, 8. Kept: existing files have it.
-    AddTable(rows, "NScA", {"ScA1", "ScA2", "ScA3", "ScA4", "ScA5", "ScA6", "ScA7", "ScA9", "ScA8"},
-             {"ScValue1", "ScValue2", "ScFlag", "ScValue3", "ScValue4"});
-    AddTable(rows, "NScB", {"ScB1", "ScB2", "ScB3", "ScB4", "ScB5"});
+    FileRows rows = {Fields{{&S::ScLoad}}};
+    // Deliberate: the last two columns stand in the order 9, 8.
+    AddTable(rows, &S::NScA, {&S::ScA1, &S::ScA2, &S::ScA3, &S::ScA4, &S::ScA5, &S::ScA6, &S::ScA7, &S::ScA9, &S::ScA8},
+             {&S::ScValue1, &S::ScValue2, &S::ScFlag, &S::ScValue3, &S::ScValue4});
+    AddTable(rows, &S::NScB, {&S::ScB1, &S::ScB2, &S::ScB3, &S::ScB4, &S::ScB5});
     return rows;
 }
 
 const FileRows& RowsOf(int problemType) {
-    static const FileRows stress = {Plain({"x", "y", "z", "Q", "P", "A", "B", "Nue", "Es", "LoadType"})};
-    static const FileRows consolidation = {Plain(
-        {"x", "y", "z", "Q", "P", "A", "B", "h", "eo", "Po", "Gamma", "Cc", "Es", "LoadType", "SoilPropertyType"})};
-    static const FileRows rate = {Plain({"x", "y", "z", "Q", "P", "A", "B", "LoadType", "U", "T", "NumLayers", "hLayer",
-                                         "CvLayer", "KLayer", "DrainageCondition", "Pressure", "TimeUnit"})};
+    static const FileRows stress = {
+        Fields{{&S::x, &S::y, &S::z, &S::Q, &S::P, &S::A, &S::B, &S::Nue, &S::Es, &S::LoadType}}};
+    static const FileRows consolidation = {
+        Fields{{&S::x, &S::y, &S::z, &S::Q, &S::P, &S::A, &S::B, &S::h, &S::eo, &S::Po, &S::Gamma, &S::Cc, &S::Es,
+                &S::LoadType, &S::SoilPropertyType}}};
+    static const FileRows rate = {
+        Fields{{&S::x, &S::y, &S::z, &S::Q, &S::P, &S::A, &S::B, &S::LoadType, &S::U, &S::T, &S::NumLayers, &S::hLayer,
+                &S::CvLayer, &S::KLayer, &S::DrainageCondition, &S::Pressure, &S::TimeUnit}}};
     static const FileRows timeSettlement = TimeSettlementRows();
-    static const FileRows displacement = {
-        Plain({"Q", "A", "B", "h", "Nue", "Es", "LoadType", "Exz_x", "Exz_y", "AnalysisType", "SettlementAt"})};
+    static const FileRows displacement = {Fields{{&S::Q, &S::A, &S::B, &S::h, &S::Nue, &S::Es, &S::LoadType, &S::Exz_x,
+                                                  &S::Exz_y, &S::AnalysisType, &S::SettlementAt}}};
     static const FileRows raftConsolidation = {
-        Plain({"z", "Q", "A", "B", "h", "eo", "Po", "Cc", "Es", "LoadType", "SoilPropertyType", "Exz_x", "Exz_y",
-               "Gamma", "AnalysisType", "SettlementAt"})};
+        Fields{{&S::z, &S::Q, &S::A, &S::B, &S::h, &S::eo, &S::Po, &S::Cc, &S::Es, &S::LoadType, &S::SoilPropertyType,
+                &S::Exz_x, &S::Exz_y, &S::Gamma, &S::AnalysisType, &S::SettlementAt}}};
     static const FileRows layerTable = LayerTableRows();
     switch (problemType) {
         case Problem::SoilStress:
@@ -95,10 +112,6 @@ const FileRows& RowsOf(int problemType) {
         default:
             Fail(FailureKind::SubscriptRange);
     }
-}
-
-const FieldRef& Field(std::string_view name) {
-    return FindSessionField(name)->Ref;
 }
 
 void ReadValue(Single& value) {
@@ -135,20 +148,9 @@ void WriteValue(const Array<T>& values) {
     for (const T& value : values) WriteValue(value);
 }
 
-// Calls `action` with each array of a table row.
-template <typename Action>
-void ForEachColumn(const FileRow& row, Action&& action) {
-    for (const std::string_view name : row.Fields)
-        std::visit(
-            [&]<typename T>(T* target) {
-                if constexpr (requires { target->Upper(); }) action(*target);
-            },
-            Field(name));
-}
-
 // Takes a table's count and gives its arrays that size; nothing of their old rows stays. A count that no table can have
 // is refused before anything is changed.
-void ReadCount(const FileRow& row) {
+void Read(const Count& row) {
     const long line = LineToRead(kFile);
     Integer count;
     try {
@@ -158,48 +160,54 @@ void ReadCount(const FileRow& row) {
         throw;
     }
     if (count < 1) Fail(FailureKind::BadCount, NumberToText(static_cast<int>(count)), line);
-    *std::get<Integer*>(Field(row.Count)) = count;
-    ForEachColumn(row, [&](auto& column) { column.Redim(1, count); });
+    Session.*row.Rows = count;
+    for (const ColumnPointer& column : row.Columns)
+        std::visit([&](const auto values) { (Session.*values).Redim(1, count); }, column);
+}
+void Write(const Count& row) {
+    WriteValue(Session.*row.Rows);
 }
 
-// The number of rows that a table has by its count.
-int RowsInUse(const FileRow& row) {
-    return *std::get<Integer*>(Field(row.Count));
+void Read(const Fields& row) {
+    for (const FieldPointer& field : row.Items) std::visit([](const auto value) { ReadValue(Session.*value); }, field);
+}
+void Write(const Fields& row) {
+    for (const FieldPointer& field : row.Items) std::visit([](const auto value) { WriteValue(Session.*value); }, field);
 }
 
-void ReadRow(const FileRow& row) {
-    switch (row.Kind) {
-        case RowKind::Fields:
-            for (const std::string_view name : row.Fields)
-                std::visit([](auto* target) { ReadValue(*target); }, Field(name));
-            break;
-        case RowKind::ListItem:
-            *std::get<std::string*>(Field(row.Fields.front())) = ReadListItem(kFile);
-            break;
-        case RowKind::Count:
-            ReadCount(row);
-            break;
-        case RowKind::Table:
-            for (int i = 1; i <= RowsInUse(row); ++i) ForEachColumn(row, [&](auto& column) { ReadValue(column(i)); });
-            break;
-    }
+void Read(const ListText& row) {
+    Session.*row.Item = ReadListItem(kFile);
+}
+void Write(const ListText& row) {
+    WriteValue(Session.*row.Item);
 }
 
-void WriteRow(const FileRow& row) {
-    switch (row.Kind) {
-        case RowKind::Fields:
-        case RowKind::ListItem:
-            for (const std::string_view name : row.Fields)
-                std::visit([](const auto* target) { WriteValue(*target); }, Field(name));
-            break;
-        case RowKind::Count:
-            WriteValue(*std::get<Integer*>(Field(row.Count)));
-            break;
-        case RowKind::Table:
-            for (int i = 1; i <= RowsInUse(row); ++i)
-                ForEachColumn(row, [&](const auto& column) { WriteValue(column(i)); });
-            break;
-    }
+void Read(const Table& row) {
+    for (int i = 1; i <= Session.*row.Rows; ++i)
+        for (const ColumnPointer& column : row.Columns)
+            std::visit([i](const auto values) { ReadValue((Session.*values)(i)); }, column);
+}
+void Write(const Table& row) {
+    for (int i = 1; i <= Session.*row.Rows; ++i)
+        for (const ColumnPointer& column : row.Columns)
+            std::visit([i](const auto values) { WriteValue((Session.*values)(i)); }, column);
+}
+
+// The fields that a row has in the file and no row ahead of it.
+std::vector<FieldPointer> FieldsOf(const Fields& row) {
+    return row.Items;
+}
+std::vector<FieldPointer> FieldsOf(const ListText& row) {
+    return {row.Item};
+}
+std::vector<FieldPointer> FieldsOf(const Count& row) {
+    return {row.Rows};
+}
+std::vector<FieldPointer> FieldsOf(const Table& row) {
+    std::vector<FieldPointer> fields;
+    for (const ColumnPointer& column : row.Columns)
+        std::visit([&](const auto values) { fields.emplace_back(values); }, column);
+    return fields;
 }
 
 std::string NameOfDataFile() {
@@ -210,43 +218,43 @@ std::string NameOfDataFile() {
 
 ReadOutcome ReadProblemData() {
     SharedServices().SetPointer(PointerShape::Hourglass);
-    try {
-        if (OpenDataFile(NameOfDataFile(), FileMode::Input, kFile) != 0) return ReadOutcome::Missing;
-        for (const FileRow& row : RowsOf(Session.ProblemType)) ReadRow(row);
+    ReadOutcome outcome = ReadOutcome::Failed;
+    UnderCommonStep([&] {
+        if (OpenDataFile(NameOfDataFile(), FileMode::Input, kFile) != 0) {
+            outcome = ReadOutcome::Missing;
+            return;
+        }
+        for (const FileRow& row : RowsOf(Session.ProblemType)) std::visit([](const auto& r) { Read(r); }, row);
         CloseDataFile(kFile);
-    } catch (const Failure& failure) {
-        FileError(failure);
-        SharedServices().SetPointer(PointerShape::Default);
-        return ReadOutcome::Failed;
-    }
-    SharedServices().SetPointer(PointerShape::Default);
-    return ReadOutcome::Read;
+        Session.TimeUnit = TimeUnitInForce(Session.TimeUnit);
+        outcome = ReadOutcome::Read;
+    });
+    if (outcome != ReadOutcome::Missing) SharedServices().SetPointer(PointerShape::Default);
+    return outcome;
 }
 
 void WriteProblemData() {
     SharedServices().SetPointer(PointerShape::Hourglass);
     Session.FileSaved = false;
-    try {
+    UnderCommonStep([] {
         const int problem = Session.ProblemType;
+        const auto saving = ProjectStore().BeginSave(Session.WorkDir + Session.WorkName);
+        NumberedFileSet files;
         if (IsTimeSettlement(problem)) WriteProjectFile(Session.WorkDir, Session.WorkName);
         OpenDataFile(NameOfDataFile(), FileMode::Output, kFile);
-        for (const FileRow& row : RowsOf(problem)) WriteRow(row);
+        for (const FileRow& row : RowsOf(problem)) std::visit([](const auto& r) { Write(r); }, row);
         CloseDataFile(kFile);
+        CommitDataFiles(files);
         Session.FileSaved = true;
-    } catch (const Failure& failure) {
-        FileError(failure);
-    }
+    });
     SharedServices().SetPointer(PointerShape::Default);
 }
 
 std::vector<std::string_view> ProblemFieldNames(int problemType) {
     std::vector<std::string_view> names;
-    for (const FileRow& row : RowsOf(problemType)) {
-        if (row.Kind == RowKind::Count)
-            names.push_back(row.Count);
-        else
-            names.insert(names.end(), row.Fields.begin(), row.Fields.end());
-    }
+    for (const FileRow& row : RowsOf(problemType))
+        for (const FieldPointer& field : std::visit([](const auto& r) { return FieldsOf(r); }, row))
+            names.push_back(NameOf(std::visit([](const auto value) { return FieldRef(&(Session.*value)); }, field)));
     return names;
 }
 

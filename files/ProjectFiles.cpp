@@ -1,7 +1,8 @@
 #include "files/ProjectFiles.h"
 
 #include "core/Session.h"
-#include "files/GloableVariable.h"
+#include "files/CommonStep.h"
+#include "services/ProjectStore.h"
 #include "services/SharedServices.h"
 
 namespace lithmark {
@@ -13,15 +14,17 @@ constexpr int kFile = 1;
 // Opens a file, hands it to `read`, closes it. A failure goes through the common step.
 template <typename Read>
 ReadOutcome ReadFile(const std::string& dir, const std::string& name, const std::string& extension, Read&& read) {
-    try {
-        if (OpenDataFile(DataFileName(dir, name, extension), FileMode::Input, kFile) != 0) return ReadOutcome::Missing;
+    ReadOutcome outcome = ReadOutcome::Failed;
+    UnderCommonStep([&] {
+        if (OpenDataFile(DataFileName(dir, name, extension), FileMode::Input, kFile) != 0) {
+            outcome = ReadOutcome::Missing;
+            return;
+        }
         read();
         CloseDataFile(kFile);
-    } catch (const Failure& failure) {
-        FileError(failure);
-        return ReadOutcome::Failed;
-    }
-    return ReadOutcome::Read;
+        outcome = ReadOutcome::Read;
+    });
+    return outcome;
 }
 
 void ReadHeadingData() {
@@ -30,15 +33,17 @@ void ReadHeadingData() {
     Session.Proj = ReadRawLine(kFile);
 }
 
-void ReadProblemNumber() {
-    ReadRawLine(kFile);
-    Session.ProblemType = ReadInteger(kFile);
-}
-
 }  // namespace
 
+ReadOutcome ReadProjectFile(const std::string& dir, const std::string& name, Integer& problemType) {
+    return ReadFile(dir, name, "PO3", [&] {
+        ReadRawLine(kFile);
+        problemType = ReadInteger(kFile);
+    });
+}
+
 ReadOutcome ReadProjectFile() {
-    return ReadFile(Session.DataDir, Session.ProjectName, "PO3", ReadProblemNumber);
+    return ReadProjectFile(Session.DataDir, Session.ProjectName, Session.ProblemType);
 }
 
 ReadOutcome ReadOrderFile() {
@@ -47,8 +52,8 @@ ReadOutcome ReadOrderFile() {
 
 ReadOutcome ReadProjectData() {
     const ReadOutcome order = ReadFile(Session.WorkDir, Session.WorkName, "AUF", ReadHeadingData);
-    if (order != ReadOutcome::Read) return order;
-    return ReadFile(Session.WorkDir, Session.WorkName, "PO3", ReadProblemNumber);
+    const ReadOutcome project = ReadProjectFile(Session.WorkDir, Session.WorkName, Session.ProblemType);
+    return order == ReadOutcome::Failed ? order : project;
 }
 
 void WriteProjectFile(const std::string& dir, const std::string& name) {
@@ -62,17 +67,18 @@ void WriteProjectFile(const std::string& dir, const std::string& name) {
 void WriteProjectData() {
     SharedServices().SetPointer(PointerShape::Hourglass);
     Session.FileSaved = false;
-    try {
+    UnderCommonStep([] {
+        const auto saving = ProjectStore().BeginSave(Session.WorkDir + Session.WorkName);
+        NumberedFileSet files;
         OpenDataFile(DataFileName(Session.WorkDir, Session.WorkName, "AUF"), FileMode::Output, kFile);
         WriteRawLine(kFile, Session.Auftr);
         WriteRawLine(kFile, Session.Datum);
         WriteRawLine(kFile, Session.Proj);
         CloseDataFile(kFile);
         WriteProjectFile(Session.WorkDir, Session.WorkName);
+        CommitDataFiles(files);
         Session.FileSaved = true;
-    } catch (const Failure& failure) {
-        FileError(failure);
-    }
+    });
     SharedServices().SetPointer(PointerShape::Default);
 }
 

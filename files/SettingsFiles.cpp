@@ -3,7 +3,7 @@
 #include "core/Session.h"
 #include "core/StartSession.h"
 #include "core/Units.h"
-#include "files/GloableVariable.h"
+#include "files/CommonStep.h"
 #include "services/SharedServices.h"
 
 namespace lithmark {
@@ -17,19 +17,8 @@ std::string SettingsFileName(const std::string& name) {
     return SharedServices().GetFileName();
 }
 
-// Reads the open settings file. What `read` does not reach keeps its value; a failure is told.
-template <typename Read>
-void ReadOpenFile(Read&& read) {
-    try {
-        read();
-        CloseDataFile(kFile);
-    } catch (const Failure& failure) {
-        FileError(failure);
-    }
-}
-
 // Reads a settings file that may as well not be there: one that is missing or cannot be opened is passed over without
-// a word.
+// a word. What `read` does not reach of a shorter file keeps its value; that is told.
 template <typename Read>
 void ReadOptionalSettings(const std::string& name, Read&& read) {
     try {
@@ -38,56 +27,30 @@ void ReadOptionalSettings(const std::string& name, Read&& read) {
         SharedServices().ClearFileStatus();
         return;
     }
-    ReadOpenFile(read);
+    UnderCommonStep([&] {
+        read();
+        CloseDataFile(kFile);
+    });
 }
 
 // Writes a settings file; false when that failed, which is told.
 template <typename Write>
 bool WriteSettings(const std::string& name, Write&& write) {
-    try {
+    return UnderCommonStep([&] {
         OpenDataFile(SettingsFileName(name), FileMode::Output, kFile);
         write();
         CloseDataFile(kFile);
-    } catch (const Failure& failure) {
-        FileError(failure);
-        return false;
-    }
-    return true;
-}
-
-// The form of a label that no language changes: that of the row whose label text it is.
-std::string CanonicalLabel(std::span<const UnitRow> units, const std::string& label) {
-    for (const UnitRow& unit : units)
-        if (Text(unit.UnitLabel) == label) return unit.InFiles;
-    return label;
+    });
 }
 
 }  // namespace
 
 void LoadUnits() {
-    const UnitSettings units = SharedServices().GetUnits(Session.ProgramDir);
-    Session.Len1Label = units.Len1Label;
-    Session.Len1Factor = units.Len1Factor;
-    Session.Len2Label = units.Len2Label;
-    Session.Len2Factor = units.Len2Factor;
-    Session.Force1Label = units.Force1Label;
-    Session.Force1Factor = units.Force1Factor;
-    Session.Force2Label = units.Force2Label;
-    Session.Force2Factor = units.Force2Factor;
-    Session.TempLabel = units.TempLabel;
+    SetUnits(SharedServices().GetUnits(Session.ProgramDir));
 }
 
 bool WriteUnits() {
-    const auto pair = [](std::span<const UnitRow> units, const std::string& label, double factor) {
-        WriteList(kFile, {CanonicalLabel(units, label), factor});
-    };
-    return WriteSettings("Units", [&] {
-        pair(LengthUnits(), Session.Len1Label, Session.Len1Factor);
-        pair(LengthUnits(), Session.Len2Label, Session.Len2Factor);
-        pair(ForceUnits(), Session.Force1Label, Session.Force1Factor);
-        pair(ForceUnits(), Session.Force2Label, Session.Force2Factor);
-        WriteList(kFile, {CanonicalLabel(TemperatureUnits(), Session.TempLabel)});
-    });
+    return WriteSettings("Units", [] { WriteUnitLines(kFile, UnitsInForce()); });
 }
 
 void LoadNumberFormats() {
@@ -122,19 +85,18 @@ void SavePreferences() {
     });
 }
 
-void ReadDataDirSettings(std::string& dataDir) {
+bool ReadDataDirSettings(std::string& dataDir) {
     dataDir = Session.ProgramDir;
     Session.CompressFlag = 2;
-    try {
+    bool read = false;
+    const bool done = UnderCommonStep([&] {
         if (OpenDataFile(SettingsFileName("STEU"), FileMode::Input, kFile) != 0) return;
-    } catch (const Failure& failure) {
-        FileError(failure);
-        return;
-    }
-    ReadOpenFile([&] {
         dataDir = ReadRawLine(kFile);
         Session.CompressFlag = ReadLong(kFile);
+        CloseDataFile(kFile);
+        read = true;
     });
+    return done && read;
 }
 
 void WriteDataDirSettings(const std::string& dataDir) {

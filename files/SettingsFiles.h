@@ -19,8 +19,9 @@ void LoadPreferences();
 // Writes them and sets Session.FileSaved; a failure goes through FileError.
 void SavePreferences();
 
-// The data directory and Session.CompressFlag of "STEU". Without the file: the program directory and 2.
-void ReadDataDirSettings(std::string& dataDir);
+// The data directory and Session.CompressFlag of "STEU"; true when both could be read. Otherwise the program directory
+// and 2; a damaged file is told.
+bool ReadDataDirSettings(std::string& dataDir);
 // Writes both and sets Session.FileSaved; a failure goes through FileError.
 void WriteDataDirSettings(const std::string& dataDir);
 

@@ -14,8 +14,6 @@
 namespace lithmark {
 
 bool RunProblemKernel() {
-    Notices().Clear();
-    Steps().Clear();
     SessionRecord& p = Session;
     switch (static_cast<int>(p.ProblemType)) {
         case Problem::SoilStress:
@@ -44,10 +42,14 @@ bool RunProblemKernel() {
             else if (p.LoadType == LoadShape::Circle)
                 ComputeCircularRaft(p.z, p.Q, p.A, p.h, p.eo, p.Po, p.Cc, p.Es, p.SoilPropertyType, p.Exz_x, p.Gamma,
                                     p.AnalysisType, p.SettlementAt);
-            return p.LoadType == LoadShape::Rectangle || p.LoadType == LoadShape::Circle;
+            else
+                break;
+            return true;
         default:
-            return false;
+            break;
     }
+    Notices().Clear();
+    return false;
 }
 
 }  // namespace lithmark

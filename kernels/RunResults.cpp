@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "core/Problems.h"
 #include "core/Session.h"
 #include "kernels/stress/PrincipalValues.h"
 
@@ -160,23 +161,23 @@ constexpr auto kTimeTheory = Joined(kTimeSettlement, kTheory);
 
 std::span<const RunResult> ResultsOf(int problemType) {
     switch (problemType) {
-        case 1:
+        case Problem::SoilStress:
             return kStress;
-        case 2:
+        case Problem::SoilStrain:
             return kStrain;
-        case 3:
+        case Problem::SoilDisplacement:
             return kPoint;
-        case 4:
+        case Problem::Consolidation:
             return kConsolidation;
-        case 5:
+        case Problem::ConsolidationRate:
             return kConsolidationRate;
-        case 6:
-        case 7:
+        case Problem::TimeDirect:
+        case Problem::TimeOedometer:
             return kTimeSettlement;
-        case 8:
+        case Problem::TimeTheory:
             return kTimeTheory;
-        case 9:
-        case 10:
+        case Problem::RaftDisplacement:
+        case Problem::RaftConsolidation:
             return kRaft;
         default:
             return {};

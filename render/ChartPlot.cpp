@@ -36,12 +36,12 @@ void AddCurve(QCustomPlot& plot, const ChartArguments& chart, int i) {
     curve->setName(Q(chart.Legends(i)));
     const auto slot = static_cast<std::size_t>(i - 1) % kCurveColors.size();
     const QColor color = QColor::fromRgb(kCurveColors[slot]);
-    const std::string& style = chart.LineStyles(i);
+    const LineStyle style = chart.LineStyles(i);
     curve->setPen(QPen(color, 2, kCurvePens[slot]));
-    if (style == "Points") curve->setLineStyle(QCPCurve::lsNone);
-    if (style != "LinesNoMarkers") {
+    if (style == LineStyle::Points) curve->setLineStyle(QCPCurve::lsNone);
+    if (style != LineStyle::LinesNoMarkers) {
         QCPScatterStyle marker(slot == 0 ? QCPScatterStyle::ssDisc : QCPScatterStyle::ssSquare, color,
-                               slot == 0 ? color : QColor(Qt::white), style == "Points" ? 7 : 5);
+                               slot == 0 ? color : QColor(Qt::white), style == LineStyle::Points ? 7 : 5);
         marker.setPen(QPen(color, 1.5));
         curve->setScatterStyle(marker);
     }

@@ -14,7 +14,7 @@ void WriteCell(lxw_worksheet* sheet, lxw_row_t row, lxw_col_t col, const std::st
     if (const auto number = ParseNumber(cell, decimalSign))
         worksheet_write_number(sheet, row, col, *number, nullptr);
     else
-        worksheet_write_string(sheet, row, col, cell.c_str(), nullptr);
+        WriteText(sheet, row, col, cell, nullptr);
 }
 
 void AddScatterChart(Workbook& workbook, lxw_worksheet* sheet, const std::string& sheetName,
@@ -25,19 +25,19 @@ void AddScatterChart(Workbook& workbook, lxw_worksheet* sheet, const std::string
         chart_series_set_categories(series, sheetName.c_str(), firstRow, 0, lastRow, 0);
         const auto column = static_cast<lxw_col_t>(i);
         chart_series_set_values(series, sheetName.c_str(), firstRow, column, lastRow, column);
-        chart_series_set_name(series, arguments.Legends(i).c_str());
-        const std::string& style = arguments.LineStyles(i);
-        if (style == "Points") {
+        chart_series_set_name(series, PrintableText(arguments.Legends(i)).c_str());
+        const LineStyle style = arguments.LineStyles(i);
+        if (style == LineStyle::Points) {
             lxw_chart_line line = {};
             line.none = LXW_TRUE;
             chart_series_set_line(series, &line);
         }
-        chart_series_set_marker_type(series,
-                                     style == "LinesNoMarkers" ? LXW_CHART_MARKER_NONE : LXW_CHART_MARKER_CIRCLE);
+        chart_series_set_marker_type(
+            series, style == LineStyle::LinesNoMarkers ? LXW_CHART_MARKER_NONE : LXW_CHART_MARKER_CIRCLE);
     }
-    chart_title_set_name(chart, arguments.ChartTitle.c_str());
-    chart_axis_set_name(chart->x_axis, arguments.XTitle.c_str());
-    chart_axis_set_name(chart->y_axis, arguments.YTitle.c_str());
+    chart_title_set_name(chart, PrintableText(arguments.ChartTitle).c_str());
+    chart_axis_set_name(chart->x_axis, PrintableText(arguments.XTitle).c_str());
+    chart_axis_set_name(chart->y_axis, PrintableText(arguments.YTitle).c_str());
     chart_axis_set_min(chart->x_axis, arguments.XStart);
     chart_axis_set_max(chart->x_axis, arguments.XEnd);
     if (arguments.SettlementsDown) chart_axis_set_reverse(chart->y_axis);
@@ -56,7 +56,7 @@ std::string ChartXlsx(const ChartArguments& chart) {
     lxw_worksheet* sheet = workbook.AddSheet(sheetName);
     lxw_row_t row = 0;
     const auto text = [&](const std::string& line, lxw_format* format) {
-        if (!line.empty()) worksheet_write_string(sheet, row++, 0, line.c_str(), format);
+        if (!line.empty()) WriteText(sheet, row++, 0, line, format);
     };
     text(chart.CompanyLine1, workbook.Bold);
     text(chart.CompanyLine2, workbook.Bold);
@@ -65,7 +65,7 @@ std::string ChartXlsx(const ChartArguments& chart) {
     text(chart.TableTitle, workbook.Bold);
     worksheet_set_column(sheet, 0, static_cast<lxw_col_t>(chart.LastColumn - 1), 18, nullptr);
     for (int c = 1; c <= chart.LastColumn; ++c)
-        worksheet_write_string(sheet, row, static_cast<lxw_col_t>(c - 1), ColumnHead(chart, c).c_str(), workbook.Head);
+        WriteText(sheet, row, static_cast<lxw_col_t>(c - 1), ColumnHead(chart, c), workbook.Head);
     const lxw_row_t firstRow = row + 1;
     for (int r = 1; r <= chart.LastRow; ++r)
         for (int c = 1; c <= chart.LastColumn; ++c)
@@ -83,7 +83,7 @@ std::string TableXlsx(const std::string& sheetName, const std::vector<std::vecto
             const auto row = static_cast<lxw_row_t>(r);
             const auto col = static_cast<lxw_col_t>(c);
             if (r == 0)
-                worksheet_write_string(sheet, row, col, table[r][c].c_str(), workbook.Head);
+                WriteText(sheet, row, col, table[r][c], workbook.Head);
             else
                 WriteCell(sheet, row, col, table[r][c], '.');
         }

@@ -3,6 +3,7 @@
 #include <qcustomplot.h>
 
 #include "core/Catalogue.h"
+#include "core/CurveRequest.h"
 #include "core/Session.h"
 #include "core/Units.h"
 #include "render/PictureFile.h"
@@ -28,7 +29,7 @@ QFont TextFont(double pixels, bool bold = false) {
 
 // What is shown, with its unit.
 std::string PlotTitle() {
-    const bool pressure = Session.ContourResult == "Tab5";
+    const bool pressure = PressureContoursRequested();
     const TextId title = pressure ? 90098_text : ProblemInForce().RaftSettlement;
     return Text(title) + " " + (pressure ? LabelOf(Unit::Pressure) : Session.Len2Label);
 }

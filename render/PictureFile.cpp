@@ -8,6 +8,7 @@
 #include <QSvgGenerator>
 #include <algorithm>
 
+#include "base/Utf8.h"
 #include "render/RenderApplication.h"
 
 namespace lithmark {
@@ -41,7 +42,8 @@ std::string SvgOf(const QSize& size, const QString& title, const Draw& draw) {
         generator.setTitle(title);
         DrawAsVectors(generator, size, size, draw);
     }
-    return buffer.data().toStdString();
+    // What XML does not allow may stand in any text that was drawn.
+    return PrintableText(buffer.data().toStdString());
 }
 
 std::string PngOf(const QSize& size, int scale, const Draw& draw) {

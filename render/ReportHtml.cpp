@@ -8,7 +8,8 @@ namespace lithmark {
 namespace {
 
 std::string Escaped(std::string_view text) {
-    return ReplaceAll(ReplaceAll(ReplaceAll(ReplaceAll(text, "&", "&amp;"), "<", "&lt;"), ">", "&gt;"), "\"", "&quot;");
+    return ReplaceAll(ReplaceAll(ReplaceAll(ReplaceAll(PrintableText(text), "&", "&amp;"), "<", "&lt;"), ">", "&gt;"),
+                      "\"", "&quot;");
 }
 
 std::string LanguageCode() {

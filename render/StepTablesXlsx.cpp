@@ -18,15 +18,14 @@ void WriteCell(lxw_worksheet* sheet, lxw_row_t row, lxw_col_t column, const Step
     if (cell.Number)
         worksheet_write_number(sheet, row, column, *cell.Number, format);
     else if (!cell.Word.empty())
-        worksheet_write_string(sheet, row, column, cell.Word.c_str(), format);
+        WriteText(sheet, row, column, cell.Word, format);
 }
 
 void WriteTable(Workbook& workbook, lxw_worksheet* sheet, const StepTable& table) {
-    worksheet_write_string(sheet, 0, 0, table.Title.c_str(), workbook.Bold);
+    WriteText(sheet, 0, 0, table.Title, workbook.Bold);
     worksheet_set_column(sheet, 0, static_cast<lxw_col_t>(table.Columns.size() - 1), 16, nullptr);
     lxw_col_t column = 0;
-    for (const StepColumn& head : table.Columns)
-        worksheet_write_string(sheet, 1, column++, head.Head().c_str(), workbook.Head);
+    for (const StepColumn& head : table.Columns) WriteText(sheet, 1, column++, head.Head(), workbook.Head);
     const lxw_row_t first = 2;
     lxw_row_t row = first;
     for (const auto& cells : table.Rows) {
@@ -36,7 +35,7 @@ void WriteTable(Workbook& workbook, lxw_worksheet* sheet, const StepTable& table
     }
     const lxw_row_t last = row - 1;
     for (const StepSum& sum : table.Sums) {
-        worksheet_write_string(sheet, row, 0, sum.Label.c_str(), workbook.Bold);
+        WriteText(sheet, row, 0, sum.Label, workbook.Bold);
         column = 1;
         for (const StepCell& cell : sum.Cells) {
             if (sum.Kind == StepSum::Of::Column && cell.Number)
@@ -48,7 +47,7 @@ void WriteTable(Workbook& workbook, lxw_worksheet* sheet, const StepTable& table
         }
         ++row;
     }
-    for (const std::string& note : table.Notes) worksheet_write_string(sheet, ++row, 0, note.c_str(), nullptr);
+    for (const std::string& note : table.Notes) WriteText(sheet, ++row, 0, note, nullptr);
     worksheet_freeze_panes(sheet, first, 0);
 }
 

@@ -1,16 +1,20 @@
-// A spreadsheet file in memory.
+// A spreadsheet file in memory. Texts that a sheet cannot hold as they stand are made so.
 #pragma once
 
 #include <unistd.h>
 #include <xlsxwriter.h>
 
+#include <cerrno>
+#include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "base/Failure.h"
+#include "base/RemovedOnEnd.h"
 #include "base/Utf8.h"
-#include "services/storage/WrittenFile.h"
+#include "services/storage/ReadFile.h"
 #include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
@@ -19,12 +23,16 @@ namespace lithmark {
 class Workbook {
   public:
     Workbook() {
-        path_ = (std::filesystem::temp_directory_path() / "lithmark-XXXXXX").string();
+        folder_ = std::filesystem::temp_directory_path().string();
+        path_ = folder_ + "/lithmark-XXXXXX";
         const int descriptor = mkstemp(path_.data());
-        if (descriptor < 0) Fail(FailureKind::WriteError, path_);
+        if (descriptor < 0) FailWithSystemError(errno, FailureKind::WriteError, path_);
         close(descriptor);
-        book_ = workbook_new(path_.c_str());
-        if (!book_) Fail(FailureKind::OutOfMemory);
+        registered_.emplace(path_);
+        lxw_workbook_options options = {};
+        options.tmpdir = folder_.data();
+        book_ = workbook_new_opt(path_.c_str(), &options);
+        if (!book_) FailInFile(FailureKind::OutOfMemory, path_);
         Bold = workbook_add_format(book_);
         format_set_bold(Bold);
         Head = workbook_add_format(book_);
@@ -46,10 +54,10 @@ class Workbook {
     lxw_worksheet* AddSheet(const std::string& name) {
         // A sheet's name has at most 31 characters and none of []:*?/\ .
         std::string clean;
-        for (const char c : FirstCharacters(name, 31))
+        for (const char c : FirstCharacters(PrintableText(name), 31))
             clean += std::string_view("[]:*?/\\'").find(c) == std::string_view::npos ? c : '_';
         lxw_worksheet* sheet = workbook_add_worksheet(book_, clean.empty() ? nullptr : clean.c_str());
-        if (!sheet) Fail(FailureKind::WriteError);
+        if (!sheet) FailInFile(FailureKind::WriteError, path_);
         if (LanguageTexts().RightToLeft()) worksheet_right_to_left(sheet);
         return sheet;
     }
@@ -57,16 +65,25 @@ class Workbook {
     std::string Bytes() {
         const lxw_error error = workbook_close(book_);
         book_ = nullptr;
-        if (error != LXW_NO_ERROR) Fail(FailureKind::WriteError, lxw_strerror(error));
-        return ReadWholeFile(path_);
+        if (error != LXW_NO_ERROR) FailInFile(FailureKind::WriteError, path_);
+        return ReadWholeFile(path_, kMostBytes);
     }
 
     lxw_format* Bold = nullptr;
     lxw_format* Head = nullptr;
 
   private:
+    static constexpr std::uint64_t kMostBytes = std::uint64_t{1} << 30;
+
     lxw_workbook* book_ = nullptr;
-    std::string path_;
+    std::string folder_, path_;
+    std::optional<RemovedOnEnd> registered_;
 };
+
+// A text in a cell, as a sheet takes it.
+inline void WriteText(lxw_worksheet* sheet, lxw_row_t row, lxw_col_t column, const std::string& text,
+                      lxw_format* format) {
+    worksheet_write_string(sheet, row, column, PrintableText(text).c_str(), format);
+}
 
 }  // namespace lithmark

@@ -1,32 +1,42 @@
 // The one failure path of a kernel.
 #pragma once
 
-#include <new>
+#include <exception>
+#include <string>
+#include <utility>
 
-#include "base/Failure.h"
 #include "core/Session.h"
-#include "files/GloableVariable.h"
+#include "files/CommonStep.h"
 #include "report/Notices.h"
 #include "report/StepTables.h"
 
 namespace lithmark {
 
+// The failure as it is told: one of a calculation that says no more than its kind names the input that it comes from,
+// where `cause` knows one.
+Failure WithCause(Failure failure, const std::string& cause);
+
 // Runs the body of a kernel, with an empty board of notices and no tables of steps. Any run-time failure ends it: the
-// shared failure routine tells it and drops the open file, and Session.CalcAborted is set. The pointer stays as the
-// body left it. No exception leaves.
-template <typename Body>
-void RunKernel(Body&& body) {
+// shared failure routine tells it, with what `cause` then says of the input (report/Causes.h), and drops the open file,
+// and Session.CalcAborted is set. A run that the user ends leaves the notices of the one before it. The pointer stays as
+// the body left it. No exception leaves.
+template <typename Body, typename Cause>
+void RunKernel(Body&& body, Cause&& cause) {
+    const NoticeBoard former = Notices();
     Notices().Clear();
     Steps().Clear();
     try {
         body();
-    } catch (const Failure& failure) {
-        FileError(failure);
-        Session.CalcAborted = true;
-    } catch (const std::bad_alloc&) {
-        FileError(Failure(FailureKind::OutOfMemory));
+    } catch (const std::exception& error) {
+        const Failure failure = FailureFrom(error);
+        FileError(WithCause(failure, cause()));
+        if (failure.Kind() == FailureKind::Cancelled) Notices() = former;
         Session.CalcAborted = true;
     }
+}
+template <typename Body>
+void RunKernel(Body&& body) {
+    RunKernel(std::forward<Body>(body), [] { return std::string(); });
 }
 
 }  // namespace lithmark

@@ -58,11 +58,11 @@ std::string MeasuredForce(double kilonewtons) {
 }
 
 std::string MeasuredMoment(double kilonewtonMetres) {
-    return MeasuredIn(kilonewtonMetres * UnitFactor(2), UnitLabel(2));
+    return MeasuredIn(kilonewtonMetres * FactorOf(Unit::Moment), LabelOf(Unit::Moment));
 }
 
 std::string MeasuredPressure(double value) {
-    return MeasuredIn(value * UnitFactor(0), UnitLabel(0));
+    return MeasuredIn(value * FactorOf(Unit::Pressure), LabelOf(Unit::Pressure));
 }
 
 }  // namespace lithmark

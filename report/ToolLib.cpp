@@ -48,7 +48,7 @@ std::string PadInFront(const std::string& text, int width) {
 }
 
 void AppendLine(const std::string& line) {
-    Session.ResultText += line;
+    Session.ResultText += PrintableText(line);
     Session.ResultText += kLineEnd;
 }
 
@@ -89,7 +89,7 @@ std::string ResolvedValue(const ReportValue& value, const std::string& format) {
 // titles.
 const std::string& ResolvedTitle(int column) {
     Label& title = Session.ColumnTitles(column);
-    if (const auto* id = std::get_if<TextId>(&title)) title = Text(*id, Style{16});
+    if (const auto* id = std::get_if<TextId>(&title)) title = Text(*id, Styles::ColumnTitle);
     if (std::holds_alternative<std::monostate>(title)) title = std::string();
     return std::get<std::string>(title);
 }
@@ -123,10 +123,10 @@ void ReportHeading() {
     AppendLine(Centred(Text(91_text, {{"|1", LanguageTexts().VersionText()}})));
     AppendLine(Centred(Text(90_text) + LanguageTexts().AuthorsText()));
     AppendLine(stars);
-    AppendLine(Text(11_text, Style{4}) + Session.Auftr);
-    AppendLine(Text(12_text, Style{4}) + Session.Datum);
-    AppendLine(Text(95_text, Style{4}) + Session.Proj);
-    AppendLine(Text(107_text, Style{4}) + Session.ProjectName);
+    AppendLine(Text(11_text, Styles::Heading) + Session.Auftr);
+    AppendLine(Text(12_text, Styles::Heading) + Session.Datum);
+    AppendLine(Text(95_text, Styles::Heading) + Session.Proj);
+    AppendLine(Text(107_text, Styles::Heading) + Session.ProjectName);
     AppendLine("");
     AppendLine(Ruler());
     ClearParameters();
@@ -291,7 +291,7 @@ void ReportSectionTitle(const std::string& tableNumber) {
 
 void AddSection(TextId heading) {
     AddParameter();
-    AddParameter(Text(heading, Style{4}));
+    AddParameter(Text(heading, Styles::Heading));
 }
 
 }  // namespace lithmark

@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <system_error>
 
-#include "base/NumberText.h"
+#include "base/Utf8.h"
 #include "services/SharedServices.h"
 #include "services/storage/DataFile.h"
 #include "services/storage/FileNames.h"
@@ -20,21 +20,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Label texts of the unit groups; a file holds a label's canonical form, which is the English one.
-constexpr std::array kLengthLabels = {28_text, 36_text, 38_text, 40_text, 42_text, 44_text};
-constexpr std::array kForceLabels = {29_text, 47_text, 49_text, 51_text, 53_text, 55_text, 57_text, 59_text, 61_text};
-constexpr std::array kTemperatureLabels = {33_text, 30_text, 31_text, 32_text};
-
 constexpr int kFile = 1;
-
-// The folder of the running program, with a trailing separator.
-std::string ExecutableDir() {
-    std::array<char, PATH_MAX> path;
-    const ssize_t length = ::readlink("/proc/self/exe", path.data(), path.size());
-    std::error_code error;
-    if (length <= 0) return WithSeparator(fs::current_path(error).string());
-    return WithSeparator(fs::path(std::string(path.data(), static_cast<std::size_t>(length))).parent_path().string());
-}
 
 // The user's own settings directory, with a trailing separator; empty when the user has no home.
 std::string UserSettingsDir() {
@@ -52,27 +38,6 @@ bool IsWritable(const std::string& dir) {
     return ::access(dir.c_str(), W_OK | X_OK) == 0;
 }
 
-// The label in the current language of a label in a file.
-template <std::size_t N>
-std::string LabelOf(const std::string& inFile, const std::array<TextId, N>& labels, long line) {
-    for (const TextId id : labels)
-        if (inFile == TextIn(*FindLanguageRow(id.Number), Language::English)) return Text(id);
-    Fail(FailureKind::BadWord, inFile, line);
-}
-
-// One line of the file "Units": label and factor.
-template <std::size_t N>
-void ReadUnit(const std::array<TextId, N>& labels, std::string& label, double& factor) {
-    const long line = LineToRead(kFile);
-    label = LabelOf(ReadListItem(kFile), labels, line);
-    factor = ReadDouble(kFile);
-    if (!(factor > 0)) Fail(FailureKind::BadNumber, NumberToText(factor), line);
-}
-
-UnitSettings DefaultUnits() {
-    return {Text(28_text), Text(40_text), Text(29_text), Text(61_text), Text(33_text)};
-}
-
 // The word by which a language is stored, the same as it calls itself: text 140156.
 std::string LanguageWord(Language language) {
     return TextIn(*FindLanguageRow((140156_text).Number), language);
@@ -82,7 +47,15 @@ std::string LanguageWord(Language language) {
 
 void SharedServicesService::UseSettingsDirectory(const std::string& dir) {
     settingsDir_ = WithSeparator(dir);
-    unwritableStoreTold_ = false;
+    storeTold_ = false;
+}
+
+std::string SharedServicesService::ExecutableDir() const {
+    std::array<char, PATH_MAX> path;
+    const ssize_t length = ::readlink("/proc/self/exe", path.data(), path.size());
+    std::error_code error;
+    if (length <= 0) return WithSeparator(fs::current_path(error).string());
+    return WithSeparator(fs::path(std::string(path.data(), static_cast<std::size_t>(length))).parent_path().string());
 }
 
 std::string SharedServicesService::ResourceDir() const {
@@ -126,8 +99,8 @@ Directories SharedServicesService::GetDirectories() {
         CloseNumberedFile(kFile);
         if (!dataDir.empty()) result.DataDir = WithSeparator(MappedFileName(dataDir));
         return result;
-    } catch (const Failure& failure) {
-        TellDamage(file, failure);
+    } catch (const std::exception& error) {
+        TellDamage(file, FailureFrom(error));
         return defaults;
     }
 }
@@ -138,21 +111,15 @@ std::string SharedServicesService::GetHelpFile(const std::string& key) {
 
 UnitSettings SharedServicesService::GetUnits(const std::string& programDir) {
     const std::string file = programDir + "Units";
-    if (FileMissing(file, true)) return DefaultUnits();
+    if (FileMissing(file, true)) return BaseUnits();
     try {
-        UnitSettings units;
         OpenNumberedFile(kFile, file, FileMode::Input);
-        ReadUnit(kLengthLabels, units.Len1Label, units.Len1Factor);
-        ReadUnit(kLengthLabels, units.Len2Label, units.Len2Factor);
-        ReadUnit(kForceLabels, units.Force1Label, units.Force1Factor);
-        ReadUnit(kForceLabels, units.Force2Label, units.Force2Factor);
-        const long line = LineToRead(kFile);
-        units.TempLabel = LabelOf(ReadListItem(kFile), kTemperatureLabels, line);
+        const UnitSettings units = ReadUnitLines(kFile);
         CloseNumberedFile(kFile);
         return units;
-    } catch (const Failure& failure) {
-        TellDamage(file, failure);
-        return DefaultUnits();
+    } catch (const std::exception& error) {
+        TellDamage(file, FailureFrom(error));
+        return BaseUnits();
     }
 }
 
@@ -190,31 +157,34 @@ void SharedServicesService::StoreLanguage(Language language) {
 
 std::optional<SettingValue> SharedServicesService::StoredValue(const std::string& app, const std::string& section,
                                                                const std::string& key) {
-    std::string damaged;
-    auto value = ReadSetting(SettingsFile(), app, section, key, damaged);
-    TellStoreSetAside(damaged);
+    StoreTrouble trouble;
+    auto value = ReadSetting(SettingsFile(), app, section, key, trouble);
+    Tell(trouble);
     return value;
 }
 
-void SharedServicesService::TellStoreSetAside(const std::string& damagedName) {
-    if (damagedName.empty()) return;
-    ShowMessageBox(Text(160030_text), Text(901006_text, {{"|1", damagedName}}), MessageIcon::Exclamation);
+void SharedServicesService::Tell(const StoreTrouble& trouble) {
+    if (!trouble.SetAside.empty())
+        ShowMessageBox(Text(160030_text), Text(901006_text, {{"|1", trouble.SetAside}}), MessageIcon::Exclamation);
+    if (trouble.Unreadable) TellStoreOnce(Text(909011_text, {{"|1", SettingsFile()}}));
+}
+
+void SharedServicesService::TellStoreOnce(const std::string& text) {
+    if (!storeTold_) ShowMessageBox(Text(160030_text), text, MessageIcon::Exclamation);
+    storeTold_ = true;
 }
 
 void SharedServicesService::SaveSetting(const std::string& app, const std::string& section, const std::string& key,
                                         const SettingValue& value) {
-    const std::string file = SettingsFile();
-    std::string damaged;
+    StoreTrouble trouble;
     try {
-        WriteSetting(file, app, section, key, value, damaged);
+        WriteSetting(SettingsFile(), app, section, key, value, trouble);
+        Tell(trouble);
     } catch (const Failure& failure) {
-        if (!unwritableStoreTold_) {
-            unwritableStoreTold_ = true;
-            SetCurrentFile(file);
-            ShowFileError(failure);
-        }
+        Tell(trouble);
+        SetCurrentFile(SettingsFile());
+        TellStoreOnce(FailureText(failure));
     }
-    TellStoreSetAside(damaged);
 }
 
 bool SharedServicesService::GetSetting(const std::string& app, const std::string& section, const std::string& key,

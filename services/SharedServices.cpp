@@ -68,12 +68,30 @@ std::optional<TextId> FileText(const Failure& failure) {
             return 900009_text;
         case FailureKind::DamagedArchive:
             return 900011_text;
+        case FailureKind::TooLarge:
+            return 909000_text;
+        case FailureKind::ArchiveTooLarge:
+            return 909001_text;
+        case FailureKind::ProjectInUse:
+            return 909002_text;
+        case FailureKind::BadInput:
+            return 909100_text;
+        case FailureKind::OutOfMemory:  // for a file, or for a calculation
+            if (!failure.File().empty()) return 909003_text;
+            return std::nullopt;
         case FailureKind::Overflow:  // a number in a file, or one of a calculation
             if (failure.Line() > 0) return 900010_text;
             return std::nullopt;
         default:
             return std::nullopt;
     }
+}
+
+// A detail that the text has no place for stands behind it.
+bool AppendsDetail(const Failure& failure) {
+    if (failure.Line() > 0 || failure.Detail().empty()) return false;
+    return failure.Kind() == FailureKind::ReadError || failure.Kind() == FailureKind::WriteError ||
+           failure.Kind() == FailureKind::DamagedArchive;
 }
 
 TextId CalculationText(FailureKind kind) {
@@ -135,10 +153,10 @@ void SharedServicesService::ClearFileStatus() {
 
 std::string SharedServicesService::FailureText(const Failure& failure) const {
     if (const auto id = FileText(failure)) {
+        const std::string& file = failure.File().empty() ? currentFile_ : failure.File();
         const std::string text =
-            Text(*id, {{"|1", currentFile_}, {"|2", std::to_string(failure.Line())}, {"|3", failure.Detail()}});
-        const bool namesDetail = failure.Line() > 0 || failure.Detail().empty();
-        return namesDetail ? text : text + " (" + failure.Detail() + ")";
+            Text(*id, {{"|1", file}, {"|2", std::to_string(failure.Line())}, {"|3", failure.Detail()}});
+        return AppendsDetail(failure) ? text + " (" + failure.Detail() + ")" : text;
     }
     const std::string text = Text(CalculationText(failure.Kind()));
     return failure.Detail().empty() ? text : text + " " + failure.Detail();

@@ -10,15 +10,10 @@
 #include "base/Failure.h"
 #include "services/host/Host.h"
 #include "services/storage/SettingsStore.h"
+#include "services/storage/UnitsFile.h"
 #include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
-
-// What the file "Units" gives: labels in the current language, factors in display units per base unit.
-struct UnitSettings {
-    std::string Len1Label, Len2Label, Force1Label, Force2Label, TempLabel;
-    double Len1Factor = 1, Len2Factor = 1, Force1Factor = 1, Force2Factor = 1;
-};
 
 struct Directories {
     std::string ProgramDir, DataDir;
@@ -42,6 +37,8 @@ class SharedServicesService {
     // Where the program's own files lie (help pages, pictures), with a trailing separator; they are only read.
     std::string ResourceDir() const;
     std::string GetHelpFile(const std::string& key);
+    // The folder of the running program, with a trailing separator.
+    std::string ExecutableDir() const;
     // The file "Units" in the program directory; without it m, cm, kN, MN and degrees Celsius, each with factor 1. A
     // damaged file is told and counts as missing.
     UnitSettings GetUnits(const std::string& programDir);
@@ -115,7 +112,8 @@ class SharedServicesService {
     bool ConfirmQuit();
 
     // Persistent settings by application title, section and key. A value of another type than asked for counts as
-    // missing. A store that cannot be written is told once, and the program goes on.
+    // missing. A store that cannot be read or written is told once, stays as it is, and the
+    // program goes on.
     void SaveSetting(const std::string& app, const std::string& section, const std::string& key,
                      const SettingValue& value);
     bool GetSetting(const std::string& app, const std::string& section, const std::string& key, bool defaultValue);
@@ -132,12 +130,13 @@ class SharedServicesService {
     std::string SettingsFile() const;
     void TellDamage(const std::string& file, const Failure& failure);
     std::optional<SettingValue> StoredValue(const std::string& app, const std::string& section, const std::string& key);
-    void TellStoreSetAside(const std::string& damagedName);
+    void Tell(const StoreTrouble& trouble);
+    void TellStoreOnce(const std::string& text);
 
     std::string fileName_, currentFile_, helpText_, settingsDir_;
     TextId currentTextId_{};
     std::chrono::steady_clock::time_point lastProgress_{};
-    bool unwritableStoreTold_ = false;
+    bool storeTold_ = false;
 };
 
 // The title under which the program keeps its settings.

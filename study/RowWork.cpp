@@ -99,10 +99,8 @@ RowOutcome RowWork::Run(const RowInput& input) const {
         outcome.Notices = NoticeIds();
         outcome.Aborted = Session.CalcAborted;
         if (!outcome.Aborted) TakeResults(outcome);
-    } catch (const Failure& failure) {
-        fail(SharedServices().FailureText(failure));
     } catch (const std::exception& error) {
-        fail(error.what());
+        fail(SharedServices().FailureText(FailureFrom(error)));
     }
     return outcome;
 }

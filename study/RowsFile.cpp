@@ -8,6 +8,7 @@
 #include "base/NumberText.h"
 #include "base/Utf8.h"
 #include "services/SharedServices.h"
+#include "services/storage/ReadFile.h"
 #include "services/storage/WrittenFile.h"
 #include "study/CsvText.h"
 #include "study/StudyFailure.h"

@@ -43,6 +43,7 @@ constexpr LanguageRow kRows[] = {
 #include "texts/tables/own_notices.inc"
 #include "texts/tables/own_help.inc"
 #include "texts/tables/own_dialogs.inc"
+#include "texts/tables/own_storage.inc"
     // clang-format on
 };
 

@@ -15,7 +15,7 @@ void frmAbout::Load() {
     SetCaptions({{lblTitle, 160030_text},
                  {lblDescription, 140123_text},
                  {lblDisclaimer, 904011_text},
-                 {cmdok, 6_text, Style{1}}});
+                 {cmdok, 6_text, Styles::Button}});
     lblVersion.Caption = Text(91_text, {{"|1", LanguageTexts().VersionText()}});
     ShowProgramPicture(imgLogo, "Lithmark.bmp");
 }

@@ -5,7 +5,6 @@ namespace lithmark {
 namespace {
 
 using R = SessionRecord;
-constexpr Style kHeading{4};
 
 }  // namespace
 
@@ -36,10 +35,10 @@ frmConsolidation::frmConsolidation() : LoadForm("frmConsolidation", {"Consolidat
                           [this] { optLoadType_Click(); }),
                 ChoiceRow(optSoilPeropertyType, {30003_text, 30005_text}, {&R::SoilPropertyType, {1, 2}},
                           [this] { optSoilPeropertyType_Click(); })});
-    SetCaptionRows({{frmSelectOption, 300003_text, kHeading},
-                    {fraData, 140095_text, kHeading},
-                    {fraPointCoordinates, 400128_text, kHeading},
-                    {frmSoilProperties, 140162_text, kHeading}});
+    SetCaptionRows({{frmSelectOption, 300003_text, Styles::Heading},
+                    {fraData, 140095_text, Styles::Heading},
+                    {fraPointCoordinates, 400128_text, Styles::Heading},
+                    {frmSoilProperties, 140162_text, Styles::Heading}});
 }
 
 void frmConsolidation::optSoilPeropertyType_Click() {

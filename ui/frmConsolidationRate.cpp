@@ -5,7 +5,6 @@ namespace lithmark {
 namespace {
 
 using R = SessionRecord;
-constexpr Style kHeading{4};
 
 // "Layer thickness 2": a property of one of the layers.
 std::function<std::string()> OfLayer(TextId property, int layer) {
@@ -56,10 +55,10 @@ frmConsolidationRate::frmConsolidationRate()
          ChoiceRow(cmbDrainageConditions, {300011_text, 300010_text}, {&R::DrainageCondition, {1, 2}}),
          ChoiceRow(cmbTimeUnit, {10001_text, 10002_text, 10003_text, 10004_text},
                    {&R::TimeUnit, {10001_text, 10002_text, 10003_text, 10004_text}}, [this] { cmbTimeUnit_Click(); })});
-    SetCaptionRows({{frmSelectOption, 300012_text, kHeading},
-                    {fraPointCoordinates, 300013_text, kHeading},
-                    {fraData, 140095_text, kHeading},
-                    {frmSoilProperties, 140162_text, kHeading}});
+    SetCaptionRows({{frmSelectOption, 300012_text, Styles::Heading},
+                    {fraPointCoordinates, 300013_text, Styles::Heading},
+                    {fraData, 140095_text, Styles::Heading},
+                    {frmSoilProperties, 140162_text, Styles::Heading}});
 }
 
 void frmConsolidationRate::cmbTimeUnit_Click() {

@@ -3,8 +3,8 @@
 #include "core/Catalogue.h"
 #include "core/Session.h"
 #include "core/Units.h"
+#include "files/CommonStep.h"
 #include "services/SharedServices.h"
-#include "ui/model/CommonStep.h"
 #include "ui/model/HelpText.h"
 
 namespace lithmark {
@@ -23,11 +23,10 @@ frmContour::frmContour() : Form("frmContour") {
 }
 
 void frmContour::Load() {
-    constexpr Style kButton{1}, kHeading{4};
     SharedServices().PrepareForm(*this);
     Caption = Text(140017_text);
     const bool pressure = Session.ContourResult == "Tab5";
-    SetCaptions({{fraResult, pressure ? 90098_text : ProblemInForce().RaftSettlement, kHeading},
+    SetCaptions({{fraResult, pressure ? 90098_text : ProblemInForce().RaftSettlement, Styles::Heading},
                  {chkColorContours, 80093_text},
                  {chkDisplaylines, 80094_text},
                  {chkDrawGrid, 400078_text},
@@ -40,8 +39,8 @@ void frmContour::Load() {
                  {cmdURight, 400082_text},
                  {cmdLLeft, 400083_text},
                  {cmdLRight, 400084_text},
-                 {cmdok, 6_text, kButton},
-                 {cmdHelp, 8_text, kButton}});
+                 {cmdok, 6_text, Styles::Button},
+                 {cmdHelp, 8_text, Styles::Button}});
     for (CheckBox* box : {&chkColorContours, &chkDisplaylines, &chkDrawGrid, &chkchkDisplayValues}) box->Value = true;
     chkDisplaylines.Enabled = true;
     chkFineLabels.Value = false;

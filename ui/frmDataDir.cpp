@@ -4,18 +4,16 @@
 #include <system_error>
 
 #include "core/Session.h"
+#include "files/CommonStep.h"
 #include "files/SettingsFiles.h"
 #include "services/SharedServices.h"
 #include "services/storage/FileNames.h"
-#include "ui/model/CommonStep.h"
 
 namespace lithmark {
 
 namespace {
 
-constexpr Style kButton{1};
 constexpr long kPackingOn = 1 | 2 | 4, kPackingOff = 0;
-constexpr long kUnticked = 1;  // the flag that clears the box
 
 bool DirectoryExists(const std::string& path) {
     std::error_code error;
@@ -38,15 +36,13 @@ void frmDataDir::Load() {
     SetCaptions({{Frame3D1, 140161_text},
                  {FraCompressFlag, 10271_text},
                  {chkCompressFlag[0], 10271_text},
-                 {cmdSave, 111_text, kButton},
-                 {CmdCancel, 7_text, kButton},
-                 {cmdHelp, 8_text, kButton}});
+                 {cmdSave, 111_text, Styles::Button},
+                 {CmdCancel, 7_text, Styles::Button},
+                 {cmdHelp, 8_text, Styles::Button}});
     CmdBrowse.Caption = "...";
-    ReadDataDirSettings(txtDataDir.Text);
-    // A stored "on" clears the box and a stored "off" ticks it, the reverse of what a save then writes. Kept: what the
-    // box shows for a settings file is relied on.
-    if (!SharedServices().FileMissing(Session.ProgramDir + "STEU", true))
-        chkCompressFlag[0].Value = (Session.CompressFlag & kUnticked) == 0;
+    // Ticked when projects are packed as they are left. Without a setting they are not.
+    const bool set = ReadDataDirSettings(txtDataDir.Text);
+    chkCompressFlag[0].Value = set && Session.CompressFlag != kPackingOff;
 }
 
 void frmDataDir::CmdBrowse_Click() {

@@ -14,17 +14,16 @@ frmMethodtype::frmMethodtype() : Form("frmMethodtype") {
 }
 
 void frmMethodtype::Load() {
-    constexpr Style kButton{1}, kHeading{4};
     SharedServices().PrepareForm(*this);
     Session.DialogOk = false;
     Caption = Text(300045_text);
-    SetCaptions({{fraModelType, 300032_text, kHeading},
+    SetCaptions({{fraModelType, 300032_text, Styles::Heading},
                  {OptMethodType[0], 300047_text},
                  {OptMethodType[1], 300048_text},
                  {OptMethodType[2], 300033_text},
-                 {cmdok, 6_text, kButton},
-                 {CmdCancel, 7_text, kButton},
-                 {cmdHelp, 8_text, kButton}});
+                 {cmdok, 6_text, Styles::Button},
+                 {CmdCancel, 7_text, Styles::Button},
+                 {cmdHelp, 8_text, Styles::Button}});
     const bool oneOfThem = IsTimeSettlement(Session.ProblemType);
     SelectOption(OptMethodType[oneOfThem ? Session.ProblemType - Problem::TimeDirect : 0]);
 }

@@ -1,7 +1,9 @@
 #include "ui/frmOptionDraw.h"
 
 #include "core/Catalogue.h"
+#include "core/CurveRequest.h"
 #include "core/Session.h"
+#include "core/Units.h"
 #include "services/SharedServices.h"
 #include "ui/model/HelpText.h"
 
@@ -9,13 +11,13 @@ namespace lithmark {
 
 namespace {
 
-constexpr Style kButton{1};
-constexpr const char* kPerCent = "[%]";
-constexpr int kContactPressure = 4, kRaftSettlement = 5, kCorrected = 3;
-constexpr int kCurveSets = 6;
+// The options stand in the order of the curve sets.
+constexpr int kContactPressure = static_cast<int>(CurveSet::ContactPressure);
+constexpr int kRaftSettlement = static_cast<int>(CurveSet::RaftSettlement);
+constexpr int kCorrected = static_cast<int>(CurveSet::Corrected);
 
-std::string CurveSetName(int index) {
-    return "Tab" + std::to_string(index + 1);
+CurveUnit UnitOf(const OptionButton& perCent) {
+    return perCent.Value ? CurveUnit::PerCent : CurveUnit::InForce;
 }
 
 }  // namespace
@@ -29,9 +31,7 @@ frmOptionDraw::frmOptionDraw() : Form("frmOptionDraw") {
 void frmOptionDraw::Load() {
     SharedServices().PrepareForm(*this);
     // Every opening starts from the same choice.
-    Session.CurveChoice = CurveSetName(0);
-    Session.CurveLoadUnit = Session.Force1Label;
-    Session.CurveSettlementUnit = Session.Len2Label;
+    RequestCurve({});
     Session.DialogOk = false;
 
     Caption = Text(400002_text);
@@ -44,14 +44,14 @@ void frmOptionDraw::Load() {
                  {optDraw[6], 40080_text},
                  {fraLoadUnit, 300039_text},
                  {fraSettlementUnit, 300040_text},
-                 {cmdok, 6_text, kButton},
-                 {CmdCancel, 7_text, kButton},
-                 {cmdHelp, 8_text, kButton}});
+                 {cmdok, 6_text, Styles::Button},
+                 {CmdCancel, 7_text, Styles::Button},
+                 {cmdHelp, 8_text, Styles::Button}});
     const bool raft = IsRaft(Session.ProblemType);
     if (raft) optDraw[kRaftSettlement].Caption = Text(ProblemInForce().MenuText);
-    SetCaptions({{optLoadUnit[0], kPerCent},
+    SetCaptions({{optLoadUnit[0], LabelOf(Unit::PerCent)},
                  {optLoadUnit[1], Session.Force1Label},
-                 {optSettlementUnit[0], kPerCent},
+                 {optSettlementUnit[0], LabelOf(Unit::PerCent)},
                  {optSettlementUnit[1], Session.Len2Label}});
 
     Show({optDraw[0], optDraw[1], optDraw[2]}, !raft);
@@ -66,9 +66,9 @@ void frmOptionDraw::Load() {
 }
 
 void frmOptionDraw::cmdok_Click() {
-    if (const int index = optDraw.Selected(); index < kCurveSets) Session.CurveChoice = CurveSetName(index);
-    Session.CurveLoadUnit = optLoadUnit[0].Value ? std::string(kPerCent) : Session.Force1Label;
-    Session.CurveSettlementUnit = optSettlementUnit[0].Value ? std::string(kPerCent) : Session.Len2Label;
+    const int chosen = optDraw.Selected();
+    RequestCurve({chosen >= 0 && chosen < kCurveSets ? static_cast<CurveSet>(chosen) : CurveSet::Load,
+                  UnitOf(optLoadUnit[0]), UnitOf(optSettlementUnit[0])});
     Session.DialogOk = true;
     Unload();
 }

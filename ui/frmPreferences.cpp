@@ -3,9 +3,9 @@
 #include "base/NumberText.h"
 #include "core/Session.h"
 #include "core/Units.h"
+#include "files/CommonStep.h"
 #include "files/SettingsFiles.h"
 #include "services/SharedServices.h"
-#include "ui/model/CommonStep.h"
 #include "ui/model/HelpText.h"
 
 namespace lithmark {
@@ -13,7 +13,6 @@ namespace lithmark {
 namespace {
 
 using R = SessionRecord;
-constexpr Style kButton{1}, kHeading{4};
 constexpr int kGeometryTab = 0, kIterationTab = 1;
 constexpr double kLeastSize = 0.25;  // m
 constexpr double kMostWhole = 32000;
@@ -42,11 +41,11 @@ frmPreferences::frmPreferences() : FieldForm("frmPreferences") {
         FieldRow({lblTol, 400134_text}, {}, txtTol, {}, &R::PrefTol, {1e-14}, {GoTo(txtImax)}),
         FieldRow({lblImax, 400105_text}, {}, txtImax, {}, &R::PrefImax, {1, kMostWhole}, {Press(cmdSave)}),
     });
-    SetCaptionRows({{fraGeometry, 400129_text, kHeading},
+    SetCaptionRows({{fraGeometry, 400129_text, Styles::Heading},
                     {fraIteration, 400130_text},
-                    {cmdSave, 111_text, kButton},
-                    {CmdCancel, 7_text, kButton},
-                    {cmdHelp, 8_text, kButton}});
+                    {cmdSave, 111_text, Styles::Button},
+                    {CmdCancel, 7_text, Styles::Button},
+                    {cmdHelp, 8_text, Styles::Button}});
     cmdSave.OnClick = [this] { cmdSave_Click(); };
     CmdCancel.OnClick = [this] { CmdCancel_Click(); };
     cmdHelp.OnClick = [this] { cmdHelp_Click(); };

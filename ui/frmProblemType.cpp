@@ -1,20 +1,21 @@
 #include "ui/frmProblemType.h"
 
+#include <utility>
+
 #include "core/Catalogue.h"
 #include "core/Session.h"
+#include "files/CommonStep.h"
 #include "files/ProjectFiles.h"
 #include "services/FileDialogs.h"
+#include "services/ProjectStore.h"
 #include "services/SharedServices.h"
 #include "services/TextTools.h"
-#include "ui/model/CommonStep.h"
 #include "ui/model/HelpText.h"
 #include "ui/model/ProjectFlags.h"
 
 namespace lithmark {
 
 namespace {
-
-constexpr Style kButton{1}, kDialogButton{3}, kHeading{4};
 
 // The rows of the list are the problem menu's entries from 1 on; an entry whose problem is not calculated has no row.
 int ListRowOf(const ProblemRow& problem) {
@@ -23,6 +24,12 @@ int ListRowOf(const ProblemRow& problem) {
 
 const ProblemRow* ProblemOfRow(int row) {
     return row < 0 ? nullptr : FirstProblemOf(row + 1);
+}
+
+void ClearHeading() {
+    Session.Auftr.clear();
+    Session.Datum = TextTools().LongDateOfToday();
+    Session.Proj.clear();
 }
 
 }  // namespace
@@ -40,13 +47,24 @@ frmProblemType::frmProblemType(std::function<void()> saved)
          FieldRow({lblDatum, 12_text}, {}, txtDatum, {}, {}, {}, {GoTo(txtProj)}, CheckedWhen::Always, {}, &DTPicker1),
          FieldRow({lblProjekt, 95_text}, {}, txtProj, {}, {}, {}, {Press(cmdSave)}),
          FieldRow({lblItem, 140242_text}, {}, cmbItem)});
-    SetCaptionRows({{Frame3D1, 160_text, kHeading},
-                    {frmSelectOption, 300003_text, kHeading},
-                    {cmdSave, 111_text, kButton},
-                    {cmdSaveAs, 9_text, kDialogButton},
-                    {cmdOpen, 10016_text, kDialogButton},
-                    {CmdCancel, 7_text, kButton},
-                    {cmdHelp, 8_text, kButton}});
+    SetCaptionRows({{Frame3D1, 160_text, Styles::Heading},
+                    {frmSelectOption, 300003_text, Styles::Heading},
+                    {cmdSave, 111_text, Styles::Button},
+                    {cmdSaveAs, 9_text, Styles::DialogButton},
+                    {cmdOpen, 10016_text, Styles::DialogButton},
+                    {CmdCancel, 7_text, Styles::Button},
+                    {cmdHelp, 8_text, Styles::Button}});
+}
+
+frmProblemType::ProjectData frmProblemType::DataOfSession() {
+    return {Session.ProblemType, Session.Auftr, Session.Datum, Session.Proj};
+}
+
+void frmProblemType::GiveToSession(const ProjectData& data) {
+    Session.ProblemType = data.ProblemType;
+    Session.Auftr = data.Auftr;
+    Session.Datum = data.Datum;
+    Session.Proj = data.Proj;
 }
 
 void frmProblemType::Load() {
@@ -59,16 +77,19 @@ void frmProblemType::Load() {
             if (problem->Calculated) cmbItem.Items.push_back(std::to_string(row + 1) + "- " + Text(problem->MenuText));
         DTPicker1.Text = TextTools().LongDateOfToday();
 
-        before_ = {Session.ProblemType, Session.Auftr, Session.Datum, Session.Proj};
+        before_ = DataOfSession();
         saved_ = false;
         Session.DialogOk = false;
-        Session.ProblemType = Problem::SoilStress;
-        Session.Auftr.clear();
-        Session.Datum = TextTools().LongDateOfToday();
-        Session.Proj.clear();
+        const bool projectOpen = !Session.ProjectName.empty();
+        // The number of an open project stays, whatever its files have lost.
+        if (!projectOpen) Session.ProblemType = Problem::SoilStress;
+        ClearHeading();
         Session.WorkDir = Session.DataDir;
         Session.WorkName = Session.ProjectName;
-        if (ProblemSaved(0)) ReadProjectData();
+        if (ProblemSaved(kProjectEntry))
+            ReadProjectData();
+        else if (projectOpen)
+            ReadProjectFile();
         ShowProjectFields();
     });
 }
@@ -76,10 +97,7 @@ void frmProblemType::Load() {
 void frmProblemType::Unloading() {
     if (saved_) return;
     Session.DialogOk = false;
-    Session.ProblemType = before_.ProblemType;
-    Session.Auftr = before_.Auftr;
-    Session.Datum = before_.Datum;
-    Session.Proj = before_.Proj;
+    GiveToSession(before_);
 }
 
 // The texts come first: a problem that the list does not have fails, and must not take the heading data with it.
@@ -114,8 +132,9 @@ void frmProblemType::cmdSave_Click() {
         Session.FileSaved = false;  // may stand from an earlier save
         StoreProjectFields();
         if (Session.ProjectName.empty()) {
-            cmdSaveAs_Click();
-            if (!Session.FileSaved) return;
+            const std::string file = SaveUnderNewName();
+            if (!Session.FileSaved || !ProjectStore().TakeProject(Session.WorkDir + Session.WorkName)) return;
+            Session.ProjectFile = file;
             Session.DataDir = Session.WorkDir;
             Session.ProjectName = Session.WorkName;
         } else {
@@ -126,28 +145,38 @@ void frmProblemType::cmdSave_Click() {
         if (!Session.FileSaved) return;
         saved_ = true;
         if (tellSaved_) tellSaved_();
-        SetProblemSaved(0, true);
         Unload();
     });
 }
 
 void frmProblemType::cmdSaveAs_Click() {
-    UnderCommonStep([&] {
-        if (!FileDialogs().SaveFileDialog(Session.ProjectFile, Session.DataDir, Session.WorkDir, Session.WorkName,
-                                          "PO3"))
-            return;
-        StoreProjectFields();
-        WriteProjectData();
-    });
+    UnderCommonStep([&] { SaveUnderNewName(); });
 }
 
+// The file that the user chose; Session.FileSaved tells whether it was written.
+std::string frmProblemType::SaveUnderNewName() {
+    std::string file;
+    if (FileDialogs().SaveFileDialog(file, Session.DataDir, Session.WorkDir, Session.WorkName, "PO3")) {
+        StoreProjectFields();
+        WriteProjectData();
+    }
+    return file;
+}
+
+// A project that cannot be read whole changes nothing here.
 void frmProblemType::cmdOpen_Click() {
     UnderCommonStep([&] {
-        if (!FileDialogs().OpenFileDialog(Session.ProjectFile, Session.DataDir, Session.WorkDir, Session.WorkName,
-                                          "*.PO3"))
-            return;
-        ReadProjectData();
-        ShowProjectFields();
+        std::string file, dir, name;
+        if (!FileDialogs().OpenFileDialog(file, Session.DataDir, dir, name, "*.PO3")) return;
+        if (!ProjectStore().UnpackProject(dir + name, ".po3")) return;
+        const ProjectData before = DataOfSession();
+        const std::string workDir = std::exchange(Session.WorkDir, dir);
+        const std::string workName = std::exchange(Session.WorkName, name);
+        ClearHeading();
+        if (ReadProjectData() == ReadOutcome::Read) return ShowProjectFields();
+        GiveToSession(before);
+        Session.WorkDir = workDir;
+        Session.WorkName = workName;
     });
 }
 

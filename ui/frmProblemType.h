@@ -48,6 +48,10 @@ class frmProblemType : public FieldForm {
         int ProblemType = Problem::SoilStress;
         std::string Auftr, Datum, Proj;
     };
+    static ProjectData DataOfSession();
+    static void GiveToSession(const ProjectData& data);
+    std::string SaveUnderNewName();
+
     const std::function<void()> tellSaved_;
     ProjectData before_;
     bool saved_ = false;

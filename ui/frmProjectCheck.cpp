@@ -6,11 +6,7 @@
 
 namespace lithmark {
 
-namespace {
-
-constexpr Style kButton{1};
-
-}  // namespace
+namespace {}  // namespace
 
 frmProjectCheck::frmProjectCheck(std::string title, std::string missing)
     : Form("frmProjectCheck"), missing_(std::move(missing)) {
@@ -24,9 +20,9 @@ void frmProjectCheck::Load() {
     SharedServices().PrepareForm(*this);
     SetCaptions({{fraProjectCheck, 60001_text},
                  {lblProjectCheck, 10018_text},
-                 {cmdok, 6_text, kButton},
-                 {CmdCancel, 7_text, kButton},
-                 {cmdHelp, 8_text, kButton}});
+                 {cmdok, 6_text, Styles::Button},
+                 {CmdCancel, 7_text, Styles::Button},
+                 {cmdHelp, 8_text, Styles::Button}});
     txtProjectCheck.Text = missing_;
     txtProjectCheck.ReadOnly = true;
 }

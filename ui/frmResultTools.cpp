@@ -5,25 +5,23 @@
 #include "contour/CurveSets.h"
 #include "core/Catalogue.h"
 #include "core/Session.h"
+#include "files/CommonStep.h"
 #include "report/AfterReport.h"
 #include "report/Notices.h"
 #include "services/FileTools.h"
 #include "services/SharedServices.h"
 #include "ui/frmContour.h"
 #include "ui/frmOptionDraw.h"
-#include "ui/model/CommonStep.h"
 #include "ui/model/HelpText.h"
 
 namespace lithmark {
 
 namespace {
 
-constexpr Style kButton{1}, kHeading{4};
 constexpr int kFontSize = 8;
 // What the text area holds at most; the ways out know no such limit.
 constexpr std::size_t kShownCharacters = 30000;
-// Deliberate: the one place where the raft program is installed for the hand-over of a case.
-const std::string kRaftProgramDir = "F:\\KORVAN Setup\\";
+// The raft analysis program stands beside this one.
 const std::string kRaftProgram = "verda.exe";
 
 std::string ReportFont() {
@@ -48,18 +46,18 @@ frmResultTools::frmResultTools() : Form("frmResultTools") {
 
 void frmResultTools::Load() {
     SharedServices().PrepareForm(*this);
-    SetCaptions({{fraResult, 140096_text, kHeading},
-                 {cmdPrinter, 10_text, kButton},
-                 {CmdTextEditor, 70033_text, kButton},
-                 {CmdExcel, 40086_text, kButton},
-                 {cmdWord, 90096_text, kButton},
-                 {cmdClipboard, 70034_text, kButton},
-                 {cmdVERDA, 400198_text, kButton},
-                 {lblNotices, 907200_text, kHeading},
-                 {chkTables, 907261_text, kButton},
-                 {chkNotices, 907262_text, kButton},
-                 {cmdok, 6_text, kButton},
-                 {cmdHelp, 8_text, kButton}});
+    SetCaptions({{fraResult, 140096_text, Styles::Heading},
+                 {cmdPrinter, 10_text, Styles::Button},
+                 {CmdTextEditor, 70033_text, Styles::Button},
+                 {CmdExcel, 40086_text, Styles::Button},
+                 {cmdWord, 90096_text, Styles::Button},
+                 {cmdClipboard, 70034_text, Styles::Button},
+                 {cmdVERDA, 400198_text, Styles::Button},
+                 {lblNotices, 907200_text, Styles::Heading},
+                 {chkTables, 907261_text, Styles::Button},
+                 {chkNotices, 907262_text, Styles::Button},
+                 {cmdok, 6_text, Styles::Button},
+                 {cmdHelp, 8_text, Styles::Button}});
     const ProblemRow* problem = FindProblem(Session.ProblemType);
     if (problem != nullptr) Caption = Text(problem->Subject);
     CmdExcel.Enabled = problem != nullptr && problem->Curves != CurveFamily::None;
@@ -146,10 +144,9 @@ void frmResultTools::cmdVERDA_Click() {
     UnderCommonStep([] {
         SharedServices().SetFileName(Session.DataDir + Session.ProjectName + ".PO1");
         const std::string caseFile = SharedServices().GetFileName();
-        if (SharedServices().FileMissing(caseFile, false))
-            CurrentHost().StartProcess(Session.ProgramDir + kRaftProgram);
-        else
-            CurrentHost().StartProcess(kRaftProgramDir + kRaftProgram + " " + caseFile);
+        std::vector<std::string> arguments;
+        if (!SharedServices().FileMissing(caseFile, false)) arguments.push_back(caseFile);
+        CurrentHost().StartProcess(SharedServices().ExecutableDir() + kRaftProgram, arguments);
     });
 }
 

@@ -1,6 +1,6 @@
 #include "ui/frmTimeSettlement1.h"
 
-#include "ui/model/CommonStep.h"
+#include "files/CommonStep.h"
 #include "ui/model/TableRows.h"
 
 namespace lithmark {
@@ -9,7 +9,7 @@ frmTimeSettlement1::frmTimeSettlement1()
     : TimeSettlementForm("frmTimeSettlement1", {"TimeSettlement1.bmp", "TimeSettlement Form", "building"}) {
     SetFields({RowSm(), RowPt(), RowSc(), RowTimePeriod(), RowDate(), RowTimeOfMeasurement()});
     SetChoices({TimeUnits(), Measured()});
-    SetCaptionRows(WithSharedCaptions({{CmdTimeSettlementPoints, 300044_text, Style{1}}}));
+    SetCaptionRows(WithSharedCaptions({{CmdTimeSettlementPoints, 300044_text, Styles::Button}}));
     CmdTimeSettlementPoints.OnClick = [this] { CmdTimeSettlementPoints_Click(); };
 }
 

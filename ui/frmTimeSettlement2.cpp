@@ -1,6 +1,6 @@
 #include "ui/frmTimeSettlement2.h"
 
-#include "ui/model/CommonStep.h"
+#include "files/CommonStep.h"
 #include "ui/model/TableRows.h"
 
 namespace lithmark {
@@ -31,8 +31,8 @@ frmTimeSettlement2::frmTimeSettlement2()
                            [] { return Text(300042_text) + " " + UnitOf(1); }},
                           {}, [this] { optOdomterUnit_Click(); }),
                 Measured()});
-    SetCaptionRows(
-        WithSharedCaptions({{frmOdomterUnit, 300041_text, Style{4}}, {CmdOdomterSettlement, 300036_text, Style{1}}}));
+    SetCaptionRows(WithSharedCaptions(
+        {{frmOdomterUnit, 300041_text, Styles::Heading}, {CmdOdomterSettlement, 300036_text, Styles::Button}}));
     CmdOdomterSettlement.OnClick = [this] { CmdOdomterSettlement_Click(); };
 }
 

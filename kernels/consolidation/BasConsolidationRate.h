@@ -25,9 +25,9 @@ namespace lithmark {
 // x, y, z, A, B, hLayer in m (z: depth of the top of layer 1), Q in kN, P and U in kN/m2, CvLayer in m2/s, T in
 // TimeUnit, which is the word of the current language.
 //
-// Session.PrefDz is overwritten with the interval of layer 1; kept: existing projects rely on it. The circular load
+// Deliberate: Session.PrefDz is overwritten with the interval of layer 1, which the run worked with. The circular load
 // numbers its nodes one too high in the pass that sets initial pressures and rows, so that node 0 is not drained and
-// the last node is idle; kept for the same reason.
+// the last node is idle; docs/time-theory.md tells what it makes.
 //
 // Session.CalcAborted is set when the run stops: after a message when T takes more than 32000 steps, after the shared
 // failure routine for any run-time failure, such as an unknown time unit, Cv 0 in all layers, a rectangular load with

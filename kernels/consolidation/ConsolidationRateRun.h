@@ -25,4 +25,7 @@ struct ConsolidationRateInput {
 // Failure; a drainage condition that is neither 1 nor 2 has no drainage length and so divides by zero.
 void WriteConsolidationRateReport(const ConsolidationRateInput& in, Single c);
 
+// Which input made a run fail, as report/Causes.h has it; empty when it was none of them.
+std::string CauseInConsolidationRate(const ConsolidationRateInput& in);
+
 }  // namespace lithmark

@@ -19,9 +19,9 @@ void AddSoilRows(const ConsolidationInput& in) {
         AddParameter(300004_text, "Cc", "[-]", in.Cc, Session.FmtRatio);
         AddParameter(10175_text, "eo", "[-]", in.eo, Session.FmtRatio);
         addStress(120001_text, "po", in.Po, Session.FmtStress);
-        // In kN/m3 whatever the units are: the label changes, the number does not. Kept: existing projects rely on it.
+        // Deliberate: in kN/m3 whatever the units are; the label changes, the number does not.
         AddParameter(10244_text, "Gamma_c", LabelOf(Unit::UnitWeight), in.Gamma, Session.FmtUnitWeight);
-        // The overburden once more, under a second symbol. Kept: existing reports have it.
+        // Deliberate: the overburden once more, under its second symbol.
         addStress(120001_text, "Gamma*z", in.Po, Session.FmtStress);
     }
 }

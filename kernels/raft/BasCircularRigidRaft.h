@@ -1,13 +1,12 @@
 // Rigid circular raft: settlements, contact pressures and forces on an elastic layer (problem 9) or on a clay layer
 // (problem 10).
 //
-// - The raft of radius A carries Q [kN] at the eccentricity Exz_x [m] along x; it is smooth, weightless and stays a
-// plane.
+// - The raft of radius A carries Q [kN] at the eccentricity Exz_x [m] along x; it is smooth, weightless and stays
+//   plane.
 // - The mesh is that of PolarMesh.h with Session.PrefND divisions. The unknowns are the contact forces at its nodes.
-// - Analytical analysis: the contact pressure of a rigid punch on a half-space (Boussinesq, 1885), settlements in
-// closed
-//   form or by superposition (CircularPunch.h); the layer begins at the surface and `h` plays no part, but the clay by
-//   Cc has its limiting depth.
+// - Analytical analysis: the contact pressure of a rigid punch on a half-space (Boussinesq, 1885), settlements by a
+//   closed form or by superposition (CircularPunch.h); the layer begins at the surface and `h` plays no part, but the
+//   clay by Cc has its limiting depth.
 // - Numerical analysis: the flexibility of the soil at the nodes is inverted and the plane of the raft follows from
 //   vertical and moment equilibrium; an elastic layer as the half-space less what lies below it (Steinbrenner, 1934),
 //   clay by mean stresses and Es or the semi-logarithmic law (Terzaghi, 1925).

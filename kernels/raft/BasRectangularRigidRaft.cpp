@@ -4,10 +4,13 @@
 #include "core/Session.h"
 #include "kernels/elastic/LayerFactors.h"
 #include "kernels/raft/Conditioning.h"
+#include "kernels/raft/FormerResults.h"
 #include "kernels/raft/RaftNotices.h"
+#include "kernels/raft/RaftProgress.h"
 #include "kernels/raft/RaftRun.h"
 #include "kernels/raft/RaftTables.h"
 #include "kernels/raft/RectangularAnalytical.h"
+#include "kernels/raft/RectangularInfluence.h"
 #include "kernels/raft/RectangularNumerical.h"
 #include "report/KernelRun.h"
 #include "report/StepTables.h"
@@ -40,6 +43,7 @@ class RectangularRaft {
         RaiseRaftNotices(entered_, result_);
         if (Steps().On()) AddNodeTable(result_);
         ExportRaft(result_);
+        Session.Nue = SoilFileNue(result_.Input);
         WriteRaftReport(result_);
         SharedServices().SetPointer(PointerShape::Default);
     }
@@ -66,7 +70,7 @@ class RectangularRaft {
         if (input_.AnalysisType)
             ElasticPunchSettlement(mesh_, input_, nu, Session.NodeForce, Session.NodeSettlement);
         else
-            SolveElasticLayer(Grid(mesh_), input_);
+            SolveElasticLayer(mesh_, input_);
         if (input_.AnalysisType)
             CompareHalfSpace(nu);
         else
@@ -81,7 +85,7 @@ class RectangularRaft {
                 CompareHalfSpace(0);
                 return;
             }
-            SolveUniformClay(Grid(mesh_), input_);
+            SolveUniformClay(mesh_, input_);
             CompareClay({});
         } else if (input_.SoilPropertyType == SoilDefinition::ByCompressionIndex) {
             CompareClay(SettleCompressibleClay());
@@ -95,19 +99,21 @@ class RectangularRaft {
             return AnalyticalClay(input_, depthStep_);
         }
         ClayLayer clay = NumericalClay(input_, depthStep_);
-        const Grid grid(mesh_);
         if (clay.Thick)
-            SolveThickClay(grid, input_, clay);
+            SolveThickClay(mesh_, input_, clay);
         else
-            SolveThinClay(grid, input_, clay);
+            SolveThinClay(mesh_, input_, clay);
         return clay;
     }
 
     // Flexible comparison: the settlement of the middle row under the mean pressure alone.
     template <typename At>
     void CompareMiddleRow(const At& at) {
-        for (int i = 1; i <= Session.RaftMidCount; ++i)
+        for (int i = 1; i <= Session.RaftMidCount; ++i) {
+            compared_ = kSettled + (1 - kSettled) * (i - 1) / Session.RaftMidCount;
+            SharedServices().ReportProgress(compared_);
             Session.RaftMidFlexible(i) = at(mesh_.Node(i, mesh_.MiddleRow()));
+        }
     }
     template <typename PointFactor>
     void CompareElastic(Single cornerFactor, const PointFactor& pointFactor) {
@@ -124,6 +130,7 @@ class RectangularRaft {
         const NodeLoads loads = LoadsByPressure(mesh_, Session.RaftMeanPressure);
         CompareMiddleRow([&](int t) {
             return FlexibleClaySettlement(input_, clay, [&](Single z1, Single z2) {
+                SharedServices().ReportProgress(compared_);
                 return SuperposeAt(mesh_, t, loads, MeanCornerFactor(mesh_.ElemHalfX, mesh_.ElemHalfY, z1, z2),
                                    [&](Single dx, Single dy) { return MeanPointFactor(dx, dy, z1, z2); });
             });
@@ -155,6 +162,7 @@ class RectangularRaft {
     Single depthStep_;
     RectangularMesh mesh_;
     RaftResult result_;
+    double compared_ = kSettled;  // how far the run is in the flexible comparison
 };
 
 }  // namespace
@@ -162,23 +170,11 @@ class RectangularRaft {
 void ComputeRectangularRaft(Single& z, Single Q, Single A, Single B, Single& h, Single eo, Single Po, Single Cc,
                             Single Es, Integer SoilPropertyType, Single Exz_x, Single Exz_y, Single Gamma,
                             bool AnalysisType, bool SettlementAt) {
-    RaftInput input;
-    input.z = z;
-    input.Q = Q;
-    input.A = A;
-    input.B = B;
-    input.h = h;
-    input.eo = eo;
-    input.Po = Po;
-    input.Cc = Cc;
-    input.Es = Es;
-    input.SoilPropertyType = SoilPropertyType;
-    input.Exz_x = Exz_x;
-    input.Exz_y = Exz_y;
-    input.Gamma = Gamma;
-    input.AnalysisType = AnalysisType;
-    input.SettlementAt = SettlementAt;
-    RunKernel([&] { RectangularRaft(input, z, h).Run(); });
+    const RaftInput input{z,           Q, A, B, h, eo, Po, Cc, Es, SoilPropertyType, Exz_x, Exz_y, Gamma, AnalysisType,
+                          SettlementAt};
+    const double dx = Session.PrefDx, dy = Session.PrefDy;
+    RunKernel([&] { RunUnlessCancelled(z, h, [&] { RectangularRaft(input, z, h).Run(); }); },
+              [&] { return CauseInRaft(input, dx, dy); });
 }
 
 }  // namespace lithmark

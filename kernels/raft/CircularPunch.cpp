@@ -6,7 +6,7 @@
 #include "kernels/raft/ClayLayer.h"
 #include "kernels/raft/PolarSymmetry.h"
 #include "kernels/raft/RaftEquilibrium.h"
-#include "services/SharedServices.h"
+#include "kernels/raft/RaftProgress.h"
 #include "services/numerics/NumericLib.h"
 
 namespace lithmark {
@@ -65,9 +65,10 @@ Array<Single> PunchSettlements(const PolarMesh& mesh, const RaftInput& input, co
     const HalfSpaceInfluence influence(mesh, nu, input.Es);
     Array<Single> settlement(1, mesh.NTotal);
     const int last = LastTarget(mesh, input.Exz_x);
+    const auto progress = ProgressBetween(0, kSettled);
     for (int t = 1; t <= last; ++t) {
         settlement(t) = SumOfForces(influence, t, nodeForce, 100);
-        SharedServices().ReportProgress(0.9 * t / last);
+        progress(static_cast<double>(t) / last);
     }
     CopyBySymmetry(mesh.NHalf, mesh.NQuarter, mesh.NTotal, mesh.NRing, input.Exz_x, settlement);
     return settlement;
@@ -100,6 +101,7 @@ Array<Single> PunchClaySettlements(const PolarMesh& mesh, RaftInput& input, cons
 
     Array<Single> settlement(1, mesh.NTotal);
     const int last = LastTarget(mesh, input.Exz_x);
+    const auto progress = ProgressBetween(0, kSettled);
     for (int t = 1; t <= last; ++t) {
         ClayColumn column = freshColumn();
         if (t == 1)
@@ -107,7 +109,7 @@ Array<Single> PunchClaySettlements(const PolarMesh& mesh, RaftInput& input, cons
         else
             SettleToDepth(column, input.h, below(t));
         settlement(t) = column.Settlement();
-        SharedServices().ReportProgress(0.9 * t / last);
+        progress(static_cast<double>(t) / last);
     }
     CopyBySymmetry(mesh.NHalf, mesh.NQuarter, mesh.NTotal, mesh.NRing, input.Exz_x, settlement);
     return settlement;

@@ -23,9 +23,11 @@ CircularPunchForces PunchContactForces(const PolarMesh& mesh, Single Q, Single e
 
 // Settlements [cm] of all nodes on an elastic half-space: problem 9 with its Poisson's ratio, problem 10 by Es with
 // nu = 0. "At the centre and the edge" is the closed form s0; a tilted raft then takes the straight line through s0 at
-// the centre and s0 (1 + 3 e/R) at the edge. That is deliberately twice the tilt of theory, s0 (1 + 3 e/(2 R)) at the
-// edge; kept: existing results rely on it. "At all nodes" superposes the node forces and shows the small differences of
-// the point-load sum.
+// the centre and s0 (1 + 3 e/R) at the edge. "At all nodes" superposes the node forces and shows the small differences
+// of the point-load sum.
+//
+// Deliberate: the closed form tilts twice as much as theory, which has s0 (1 + 3 e/(2 R)) at the edge; on the safe
+// side.
 Array<Single> PunchSettlements(const PolarMesh& mesh, const RaftInput& input, const Array<Single>& nodeForce,
                                Single nu);
 
@@ -34,7 +36,7 @@ Array<Single> PunchSettlements(const PolarMesh& mesh, const RaftInput& input, co
 //
 // "At the centre and the edge" searches at the centre, where the first ray's forces stand for their whole rings. A
 // tilted raft takes the line through that settlement at x = 0 and the settlement of the outermost node of the first
-// ray, deliberately placed at x = R though the node stands a little inside. Kept: existing results rely on it.
+// ray at x = R. Deliberate: the node stands a little inside, but it speaks for the edge.
 Array<Single> PunchClaySettlements(const PolarMesh& mesh, RaftInput& input, const CircularPunchForces& forces);
 
 }  // namespace lithmark

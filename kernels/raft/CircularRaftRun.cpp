@@ -12,16 +12,16 @@
 #include "kernels/raft/PolarSymmetry.h"
 #include "kernels/raft/PolarSystem.h"
 #include "kernels/raft/RaftEquilibrium.h"
+#include "kernels/raft/RaftProgress.h"
 #include "kernels/raft/ThickClay.h"
 #include "kernels/raft/ThinClay.h"
-#include "services/SharedServices.h"
 
 namespace lithmark {
 
 namespace {
 
-// The shares of the progress: up to where each stage of a run brings it.
-constexpr double kFlexibilityDone = 0.3, kSolved = 0.9;
+// The flexibility takes a larger share of the progress than the rectangle's.
+constexpr double kCircleFlexibilityDone = 0.3;
 
 class Run {
   public:
@@ -116,8 +116,9 @@ class Run {
         const int m = FoldedSize(mesh_, case_);
         const Single S0 = clay_.S0;
         const RaftEquilibrium equilibrium = Equilibrium(K);
-        const ThinClayTilt tilt = SearchThinClayTilt(equilibrium, m, K, mesh_.NodeX, mesh_.NodeY,
-                                                     FoldedWeights(mesh_, case_), load_, S0, D0, Session.PrefTol);
+        const UnitMoments moments = SumUnitMoments(case_, m, K, mesh_.NodeX, mesh_.NodeY, FoldedWeights(mesh_, case_));
+        const ThinClayTilt tilt =
+            SearchThinClayTilt(equilibrium, moments, mesh_.NodeX, mesh_.NodeY, load_, S0, D0, Session.PrefTol);
         Array<Single> D(1, m);
         for (int i = 1; i <= m; ++i) D(i) = ThinClayIncrease(S0, D0, tilt, mesh_.NodeX(i), mesh_.NodeY(i));
         for (int r = 1; r <= m; ++r) {
@@ -142,26 +143,26 @@ class Run {
             for (int k = 1; k <= clay_.M; ++k) {
                 const double factor = Quotient(clay_.LayerFactor, clay_.SubStress(k));
                 flexibility.Add(factor, sublayers[static_cast<std::size_t>(k - 1)], [&](double part) {
-                    SharedServices().ReportProgress(kFlexibilityDone * (k - 1 + part) / clay_.M);
+                    SharedServices().ReportProgress(kCircleFlexibilityDone * (k - 1 + part) / clay_.M);
                 });
             }
             F = FoldFlexibility(flexibility, case_);
         }
         Matrix<Single> K;
-        InvertFlexibility(m, F, K);
+        InvertFlexibility(m, F, K, ProgressBetween(kCircleFlexibilityDone, kInverseDone));
         const RaftEquilibrium equilibrium = Equilibrium(K);
 
         ThickClaySystem system;
         system.n = m;
-        system.Flexibility = &F;
-        system.Stiffness = &K;
+        UseMatrices(system, F, K);
         system.Equilibrium = &equilibrium;
         system.Load = load_;
         system.u = &mesh_.NodeX;
         system.v = &mesh_.NodeY;
         system.Spread = [this](Array<Single>& values) { Spread(values); };
-        system.TrueSettlement = [&](Array<Single>& settlement) {
+        system.TrueSettlement = [&](Array<Single>& settlement, const auto& progress) {
             for (int r = 1; r <= m; ++r) {
+                progress(static_cast<double>(r) / m);
                 Single s;
                 for (int k = 1; k <= clay_.M; ++k) {
                     Single D = SumOfUnitForces(sublayers[static_cast<std::size_t>(k - 1)], r, Session.NodeForce);
@@ -175,7 +176,7 @@ class Run {
     }
 
     void AddInfluence(PolarFlexibility& flexibility, const PolarInfluence& influence) const {
-        flexibility.Add(1, influence, [](double part) { SharedServices().ReportProgress(kFlexibilityDone * part); });
+        flexibility.Add(1, influence, ProgressBetween(0, kCircleFlexibilityDone));
     }
 
     RaftEquilibrium Equilibrium(const Matrix<Single>& stiffness) const {
@@ -184,7 +185,8 @@ class Run {
 
     // Turns a folded flexibility into its inverse, in place, and solves for a linear soil. Leaves Session.NodeForce.
     RaftPlane SolveLinear(Matrix<Single>& matrix) const {
-        InvertFlexibility(FoldedSize(mesh_, case_), matrix, matrix);
+        InvertFlexibility(FoldedSize(mesh_, case_), matrix, matrix,
+                          ProgressBetween(kCircleFlexibilityDone, kInverseDone));
         const RaftEquilibrium equilibrium = Equilibrium(matrix);
         const RaftPlane plane = equilibrium.Solve(load_, {});
         equilibrium.NodeForces(plane, Session.NodeForce);
@@ -218,7 +220,7 @@ class Run {
                 Session.RaftMidFlexible(t) = FlexibleClaySettlement(input_, clay_, [this, t, p](Single z1, Single z2) {
                     return SumOfPressure(MeanStressInfluence(mesh_, z1, z2), t, p);
                 });
-            SharedServices().ReportProgress(kSolved + (1 - kSolved) * t / mesh_.NRing);
+            SharedServices().ReportProgress(kSettled + (1 - kSettled) * t / mesh_.NRing);
         }
         MirrorProfile(Session.RaftMidCount, mesh_.NRing, Session.RaftMidFlexible);
     }

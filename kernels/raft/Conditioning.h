@@ -8,6 +8,8 @@
 // node spacing the rows grow alike and it jumps to 1e5 and more.
 #pragma once
 
+#include <functional>
+
 #include "base/Array.h"
 #include "base/Single.h"
 
@@ -18,11 +20,12 @@ inline constexpr double kLastBit = 1.0 / (1 << 24);
 
 // What a raft run leaves for its notices; a run starts with a fresh one.
 struct RaftMeasures {
-    double Condition = 0;  // the condition number, 0 when no matrix was inverted
+    double Condition = 0;  // the condition number, 0 when no system was solved
 };
 RaftMeasures& MeasuresOfRaft();
 
 // NumericLib::Invert, and the condition number to MeasuresOfRaft: two readings of the matrix beside its inversion.
-void InvertFlexibility(int n, const Matrix<Single>& flexibility, Matrix<Single>& stiffness);
+void InvertFlexibility(int n, const Matrix<Single>& flexibility, Matrix<Single>& stiffness,
+                       const std::function<void(double part)>& progress = {});
 
 }  // namespace lithmark

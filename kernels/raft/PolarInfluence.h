@@ -64,8 +64,8 @@ class HalfSpaceInfluence : public PolarInfluence {
 class LayerInfluence : public HalfSpaceInfluence {
   public:
     LayerInfluence(const PolarMesh& mesh, Single nu, Single Es, Single h);
-    // Deliberately without the factor (1 + nu) on the first integral at depth h of a sector, which the disc has: the
-    // sectors' own terms are a little high for nu > 0. Kept: existing results rely on it.
+    // Deliberate: no factor (1 + nu) on the first integral at depth h of a sector, though the disc has it; the sectors'
+    // own terms are a little high for nu > 0.
     double Own(int k, double pressure) const override;
     double Point(int t, int i) const override;
 

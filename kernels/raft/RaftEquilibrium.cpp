@@ -1,5 +1,6 @@
 #include "kernels/raft/RaftEquilibrium.h"
 
+#include "kernels/raft/RaftProgress.h"
 #include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
@@ -29,6 +30,7 @@ RaftEquilibrium::RaftEquilibrium(LoadCase k, int n, const Matrix<Single>& stiffn
                                  const Array<Single>& v, const Array<Single>& weight)
     : k_(k), n_(n), t_(3, n), g_(3, 3), w_(n, 3) {
     const bool alongX = TiltsAlongX(k), alongY = TiltsAlongY(k);
+    const auto progress = ProgressBetween(kInverseDone, kEquilibriumDone);
     // Row by row, so that the matrix is read as it lies in memory; each sum still runs in ascending r.
     for (int r = 1; r <= n; ++r) {
         const auto row = stiffness.Row(r);
@@ -43,6 +45,7 @@ RaftEquilibrium::RaftEquilibrium(LoadCase k, int n, const Matrix<Single>& stiffn
             if (alongY) w_(r, 2) += v(c + 1) * row[i];
             if (alongX) w_(r, 3) += u(c + 1) * row[i];
         }
+        if (r % 64 == 0) progress(static_cast<double>(r) / n);
     }
     for (int m = 1; m <= 3; ++m) {
         for (int c = 1; c <= n; ++c) {
@@ -50,6 +53,26 @@ RaftEquilibrium::RaftEquilibrium(LoadCase k, int n, const Matrix<Single>& stiffn
             if (alongY) g_(m, 2) += v(c) * t_(m, c);
             if (alongX) g_(m, 3) += u(c) * t_(m, c);
         }
+    }
+}
+
+RaftEquilibrium::RaftEquilibrium(LoadCase k, const UnitForces& forces, const Array<Single>& u, const Array<Single>& v)
+    : k_(k), n_(static_cast<int>(forces.Settled.size())), t_(3, n_), g_(3, 3), w_(n_, 3) {
+    const std::vector<double>* const parts[] = {&forces.Settled, &forces.TiltedY, &forces.TiltedX};
+    for (int m = 1; m <= 3; ++m) {
+        const std::vector<double>& part = *parts[m - 1];
+        double sum = 0, momentY = 0, momentX = 0;
+        for (std::size_t i = 0; i < part.size(); ++i) {
+            const int node = static_cast<int>(i) + 1;
+            // The stiffness is symmetric: what a unit plane puts on a node is what the node's column sums up to.
+            t_(m, node) = w_(node, m) = part[i];
+            sum += part[i];
+            momentY += v(node) * part[i];
+            momentX += u(node) * part[i];
+        }
+        g_(m, 1) = sum;
+        if (TiltsAlongY(k)) g_(m, 2) = momentY;
+        if (TiltsAlongX(k)) g_(m, 3) = momentX;
     }
 }
 

@@ -5,6 +5,8 @@
 // running sum, are Singles; sums run in ascending node order.
 #pragma once
 
+#include <vector>
+
 #include "base/Array.h"
 #include "base/Single.h"
 
@@ -32,6 +34,11 @@ struct RaftLoad {
 // Q, Q ey, Q ex.
 RaftLoad EccentricLoad(Single q, Single exzX, Single exzY);
 
+// The node forces under settlements of 1, v and u; what the load case does not need is empty.
+struct UnitForces {
+    std::vector<double> Settled, TiltedY, TiltedX;
+};
+
 class RaftEquilibrium {
   public:
     // `stiffness` is n by n; u, v are the nodes' distances from the raft's centre [m] and `weight` tells how many nodes
@@ -39,6 +46,9 @@ class RaftEquilibrium {
     // of the arrays are read; v is not read in a load case without tilt along y.
     RaftEquilibrium(LoadCase k, int n, const Matrix<Single>& stiffness, const Array<Single>& u, const Array<Single>& v,
                     const Array<Single>& weight);
+    // The same of a symmetric stiffness that is known by the forces of unit planes alone, without folding. Sums run in
+    // 64 bits; the stored values are Singles.
+    RaftEquilibrium(LoadCase k, const UnitForces& forces, const Array<Single>& u, const Array<Single>& v);
 
     // The plane that carries `load` less `carried`, which other forces carry already. DivisionByZero when the system is
     // singular.
@@ -50,6 +60,8 @@ class RaftEquilibrium {
     // Sums over r of weight(r) times K(r, c) [row 1], v(r) K(r, c) [row 2], u(r) K(r, c) [row 3]; rows that the load
     // case does not need stay 0.
     const Matrix<Single>& ColumnSums() const noexcept { return t_; }
+    // The sums of these rows: forces and moments of a unit settlement.
+    Single ColumnSumTotal(int row) const { return g_(row, 1); }
 
   private:
     LoadCase k_;

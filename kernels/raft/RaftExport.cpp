@@ -136,7 +136,7 @@ void WriteMeshWithEdges(const RaftResult& result, const std::vector<MeshLib::Ele
 }
 
 void WriteOutline(const RaftResult& result, const MeshLib::MeshValues& values) {
-    // A circular raft, too, is outlined as a rectangle, with the width that the record happens to hold; kept.
+    // Deliberate: a circular raft, too, is outlined as a rectangle, with the width that the record happens to hold.
     const Single a = result.Input.A, b = result.Circular ? Session.B : result.Input.B, o = 0;
     TextExport file("PL8");
     file.Put(Integer(4));
@@ -219,16 +219,15 @@ constexpr double kStiff = 200000000;  // kN/m2, soil above the clay
 
 SoilLayer ClayOf(const RaftInput& input) {
     const bool byModulus = input.SoilPropertyType == SoilDefinition::ByModulus;
-    const Single modulus = byModulus ? input.Es : input.Cc;
-    return {input.z + input.h,
-            modulus,
-            modulus,
-            byModulus ? Single(18) : input.Gamma,
-            "T/vi",
-            0,
-            30,
-            byModulus ? Single(0) : input.eo,
-            byModulus ? 2 : 3};
+    SoilLayer clay;
+    clay.Depth = input.z + input.h;
+    clay.Modulus1 = clay.Modulus2 = byModulus ? input.Es : input.Cc;
+    clay.UnitWeight = byModulus ? Single(18) : input.Gamma;
+    clay.Soil = "T/vi";
+    clay.Cohesion = 30;
+    clay.Poisson = byModulus ? Single(0) : input.eo;
+    clay.Kind = byModulus ? 2 : 3;
+    return clay;
 }
 
 SoilModel NumericalModel(const RaftInput& input) {
@@ -250,8 +249,7 @@ SoilModel NumericalModel(const RaftInput& input) {
     return model;
 }
 
-// An analytical run has one layer without values. In problem 10 it overwrites Poisson's ratio in the record, which
-// stays so after the run; kept, because reports and files of existing projects show it.
+// An analytical run has one layer without values.
 SoilModel AnalyticalModel(const RaftInput& input) {
     SoilModel model;
     model.Layers.emplace_back();
@@ -264,7 +262,6 @@ SoilModel AnalyticalModel(const RaftInput& input) {
     const bool byModulus = input.SoilPropertyType == SoilDefinition::ByModulus;
     model.CaseCode = byModulus ? 5 : 6;
     model.CaseValue = byModulus ? input.Es : input.Cc;
-    Session.Nue = byModulus ? Single(0) : input.eo;
     model.Shift2 = 30;
     return model;
 }
@@ -274,7 +271,7 @@ void WriteSoil(const RaftInput& input) {
     const Single zero = 0;
     RecordExport file("BAU");
     file.Put(Single(1));
-    file.Put(Session.Nue);
+    file.Put(SoilFileNue(input));
     file.Put(Single(1));
     file.Put(Integer(1));  // borings
     file.Put(model.CaseValue);
@@ -352,12 +349,17 @@ void SetRaftExport(bool on) {
     exportOn = on;
 }
 
+Single SoilFileNue(const RaftInput& input) {
+    if (!input.AnalysisType || Session.ProblemType == Problem::RaftDisplacement) return Session.Nue;
+    return input.SoilPropertyType == SoilDefinition::ByModulus ? Single(0) : input.eo;
+}
+
 void ExportRaft(const RaftResult& result) {
     NumberedFileSet files;
     try {
         WriteFiles(result);
     } catch (const Failure&) {
-        // The failure of the file that could not be written is the one to be told.
+        // What stands before the failure is put in place; the failure is the one to be told.
         try {
             files.Commit([](const std::string&) {});
         } catch (const Failure&) {

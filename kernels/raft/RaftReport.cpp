@@ -1,5 +1,6 @@
 // The report of problems 9 and 10: data, middle row, all nodes. Both shapes of raft write the same; a circle has no row
-// for the width, and its middle row runs along a diameter. The second eccentricity has no row, deliberately.
+// for the width, and its middle row runs along a diameter. Deliberate: the second eccentricity has
+// no row.
 #include "base/NumberText.h"
 #include "core/Catalogue.h"
 #include "core/Session.h"
@@ -77,7 +78,8 @@ void FillColumn(int column, const Array<Single>& values, double factor, const st
         Session.TableCells(row, column) = FormatValue(values(row) * factor, format);
 }
 
-// Contact pressure, contact force and settlement along the middle row. The force takes the stress format, deliberately.
+// Contact pressure, contact force and settlement along the middle row. Deliberate: the force takes the
+// stress format.
 void WriteMiddleRow(const RaftResult& result) {
     ReportSectionTitle("T1");
     TableColumns(4, Session.RaftMidCount,

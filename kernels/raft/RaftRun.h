@@ -12,7 +12,8 @@
 
 namespace lithmark {
 
-// Input as the kernel works with it, in base units; z and h change during a run.
+// Input as the kernel works with it, in base units and in the order of the kernels' arguments; z and h change during a
+// run.
 struct RaftInput {
     Single z, Q, A, B, h, eo, Po, Cc, Es;
     Integer SoilPropertyType = 1;
@@ -33,11 +34,17 @@ struct RaftResult {
 // Appends the report of problems 9 and 10 to a new Session.ResultText.
 void WriteRaftReport(const RaftResult& result);
 // Writes the eleven export files of the project, in their order. They come to the disk together and then take their
-// places; when one cannot be written, those finished before it take theirs, and the Failure is thrown. Sets Session.Nue
-// to 0 or eo after an analytical run of problem 10 (see RaftExport.cpp).
+// places; when one cannot be written, those finished before it take theirs, and the Failure is thrown.
 void ExportRaft(const RaftResult& result);
+// Poisson's ratio as the soil file tells it: Session.Nue, but 0 or eo for an analytical run on clay. Deliberate: it is
+// Session.Nue from the end of the run on, so that the record and the files agree.
+Single SoilFileNue(const RaftInput& input);
 // Off: the runs that follow write no files. Nothing else changes: what would fail for its numbers fails all the same.
 // On at the start of the program.
 void SetRaftExport(bool on);
+
+// Which input made a run fail, as report/Causes.h has it; empty when it was none of them. The element sizes are those
+// before the run.
+std::string CauseInRaft(const RaftInput& input, double dx, double dy);
 
 }  // namespace lithmark

@@ -5,8 +5,8 @@
 #include "core/Session.h"
 #include "kernels/elastic/LayerFactors.h"
 #include "kernels/raft/RaftEquilibrium.h"
+#include "kernels/raft/RaftProgress.h"
 #include "kernels/raft/RectangularInfluence.h"
-#include "services/SharedServices.h"
 
 namespace lithmark {
 
@@ -63,8 +63,9 @@ void SettleNodes(const RectangularMesh& mesh, bool centreOnly, Array<Single>& se
         for (Single& s : settlement) s = value;
         return;
     }
+    const auto progress = ProgressBetween(0, kSettled);
     for (int t = 1; t <= mesh.Nodes(); ++t) {
-        if (mesh.NodeCol(t) == 1) SharedServices().ReportProgress(static_cast<double>(t) / mesh.Nodes());
+        progress(static_cast<double>(t) / mesh.Nodes());
         settlement(t) = at(t);
     }
 }
@@ -125,12 +126,12 @@ void ClayPunchSettlement(const RectangularMesh& mesh, RaftInput& input, Single d
     Array<Single> meanStress;
     while (columns.front().Top() != input.h) {
         const Single z1 = columns.front().Top(), z2 = columns.front().Bottom();
-        SharedServices().ReportProgress(0.5 + 0.5 * Quotient(z1, input.h));
         const Single corner = cornerFactor(z1, z2);
         for (std::size_t i = 0; i < own.size(); ++i) own[i] = loads.Own[i] * corner;
         OffsetFactors factors(
             grid, [&](Single dx, Single dy) { return MeanPointFactor(dx, dy, z1, z2); }, true);
-        SuperposeAtAllNodes(grid, factors, own, loads.Force, meanStress);
+        const auto share = [&](double depth) { return 0.5 + (kSettled - 0.5) * Quotient(depth, input.h); };
+        SuperposeAtAllNodes(grid, factors, own, loads.Force, meanStress, ProgressBetween(share(z1), share(z2)));
         for (int t = 1; t <= mesh.Nodes(); ++t) columns[static_cast<std::size_t>(t - 1)].Add(meanStress(t));
     }
     for (int t = 1; t <= mesh.Nodes(); ++t) settlement(t) = columns[static_cast<std::size_t>(t - 1)].Settlement();

@@ -1,9 +1,11 @@
 // A rigid rectangular raft whose contact stress is taken from the rigid punch.
 //
 // Contact stress of the punch on a half-space in each direction: q(x) = 2/(pi A) / sqrt(1 - (2x/A)^2) (Sadowsky, 1928),
-// as a product for the two directions, so the force of a node is the product of two differences of arcsines. The load
-// is taken as central whatever its eccentricity: deliberate, the method is for central loads. Settlements follow by
-// superposition of the node forces on a half-space (Boussinesq, 1885; Schleicher, 1926) and are in cm.
+// as a product for the two directions, so the force of a node is the product of two differences of arcsines.
+// Settlements follow by superposition of the node forces on a half-space (Boussinesq, 1885; Schleicher, 1926) and are
+// in cm.
+//
+// Deliberate: the load is taken as central whatever its eccentricity; the method is for central loads.
 #pragma once
 
 #include "base/Array.h"

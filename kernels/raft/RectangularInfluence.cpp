@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "services/SharedServices.h"
+#include "kernels/raft/RaftProgress.h"
 
 namespace lithmark {
 
@@ -59,8 +59,9 @@ void FillFlexibility(const Grid& grid, OffsetFactors& factors, const Array<Singl
     const RectangularMesh& mesh = grid.Mesh;
     const int n = mesh.Nodes(), columns = mesh.Columns();
     flexibility.Redim(1, n, 1, n);
+    const auto progress = ProgressBetween(0, kFlexibilityDone);
     for (int j = 1; j <= mesh.Rows(); ++j) {
-        SharedServices().ReportProgress(0.1 * j / mesh.Rows());
+        progress(static_cast<double>(j) / mesh.Rows());
         for (int k = 1; k <= mesh.Rows(); ++k) {
             const std::span<const Single> between = factors.Between(j, k);
             for (int i = 1; i <= columns; ++i) {
@@ -75,7 +76,8 @@ void FillFlexibility(const Grid& grid, OffsetFactors& factors, const Array<Singl
 }
 
 void SuperposeAtAllNodes(const Grid& grid, OffsetFactors& factors, std::span<const double> own,
-                         std::span<const double> force, Array<Single>& sums) {
+                         std::span<const double> force, Array<Single>& sums,
+                         const std::function<void(double)>& progress) {
     using Stored = Single::Storage;
     const RectangularMesh& mesh = grid.Mesh;
     const auto columns = static_cast<std::size_t>(mesh.Columns());
@@ -108,6 +110,7 @@ void SuperposeAtAllNodes(const Grid& grid, OffsetFactors& factors, std::span<con
             if (!std::isfinite(row[t])) Fail(FailureKind::Overflow);
             sums(mesh.Node(static_cast<int>(t) + 1, j)) = row[t];
         }
+        if (progress) progress(static_cast<double>(j) / mesh.Rows());
     }
 }
 

@@ -68,9 +68,10 @@ void FillFlexibility(const Grid& grid, OffsetFactors& factors, const Array<Singl
                      Matrix<Single>& flexibility);
 
 // The sum at each node r over all nodes in their order: own[r - 1] for r itself, factor times force[c - 1] for the
-// others.
+// others. `progress` is told after each row of nodes, 0 to 1.
 void SuperposeAtAllNodes(const Grid& grid, OffsetFactors& factors, std::span<const double> own,
-                         std::span<const double> force, Array<Single>& sums);
+                         std::span<const double> force, Array<Single>& sums,
+                         const std::function<void(double)>& progress = {});
 
 // What each node carries: its force, and what its own corner factor is multiplied by.
 struct NodeLoads {

@@ -15,8 +15,8 @@ Integer Divide(Single side, Single& size) {
     return count;
 }
 
-// Coordinates of the grid lines as texts, and as the numbers that these texts hold: three decimals are deliberate, the
-// export files carry the texts.
+// Coordinates of the grid lines as texts, and as the numbers that these texts hold. Deliberate: three decimals, so that
+// the run and the texts of the export files are of one mesh.
 void DrawLines(int intervals, Single size, Array<std::string>& texts, Array<Single>& lines) {
     texts.Redim(1, intervals + 1);
     lines.Redim(1, intervals + 1);

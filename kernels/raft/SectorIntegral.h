@@ -10,7 +10,7 @@ namespace lithmark {
 
 // The kernel of the polar integrals, with D the square of the distance in plan between the radius r0 on the axis and
 // the point (r, theta), and z a depth [m]. By kind:
-//   0  r/(D + z^2)^(5/2)   stress at a depth (kept: no kernel asks for it)
+//   0  r/(D + z^2)^(5/2)   stress at a depth
 //   2  r/D^(1/2)           settlement of the surface
 //   3  r/(D + z^2)^(1/2)   settlement at a depth, first term
 //   4  r/(D + z^2)^(3/2)   settlement at a depth, second term

@@ -2,8 +2,8 @@
 
 #include "base/NumberText.h"
 #include "core/Session.h"
+#include "kernels/raft/RaftProgress.h"
 #include "report/Notices.h"
-#include "services/SharedServices.h"
 #include "services/numerics/NumericLib.h"
 
 namespace lithmark {
@@ -24,6 +24,16 @@ Single MomentSum(const Array<Single>& distances, const Array<Single>& forces) {
 
 }  // namespace
 
+void UseMatrices(ThickClaySystem& system, const Matrix<Single>& flexibility, const Matrix<Single>& stiffness) {
+    const auto product = [n = system.n](const Matrix<Single>& matrix) {
+        return [n, &matrix](const Array<Single>& x, Array<Single>& y, const ThickClaySystem::Progress& progress) {
+            NumericLib::MatVec(n, matrix, x, y, progress);
+        };
+    };
+    system.Settlements = product(flexibility);
+    system.Forces = product(stiffness);
+}
+
 void IterateThickClay(const ThickClaySystem& system) {
     const int n = system.n, all = Session.NodeForce.Upper();
     RaftLoad carried;
@@ -35,8 +45,13 @@ void IterateThickClay(const ThickClaySystem& system) {
         PlaneSettlements(plane, *system.u, *system.v, Session.NodeSettlement);
         for (int i = 1; i <= all; ++i) Session.NodeForce(i) += extra(i);
 
-        system.TrueSettlement(trueSettlement);
-        NumericLib::MatVec(n, *system.Flexibility, Session.NodeForce, linear);
+        const auto share = [pass](double from, double to) {
+            const double width = (kSettled - kEquilibriumDone) / (Session.PrefImax + 1.0);
+            const double start = kEquilibriumDone + (pass - 1) * width;
+            return ProgressBetween(start + from * width, start + to * width);
+        };
+        system.TrueSettlement(trueSettlement, share(0, 0.6));
+        system.Settlements(Session.NodeForce, linear, share(0.6, 0.7));
         for (int i = 1; i <= n; ++i) {
             lack(i) = linear(i) - trueSettlement(i);
             current(i) = Session.NodeSettlement(i) / 100;
@@ -47,10 +62,9 @@ void IterateThickClay(const ThickClaySystem& system) {
             Notices().Raise(NoticeId::IterationEnd, 907011_text, {NumberToText(pass)});
             return;
         }
-        SharedServices().ReportProgress(0.9 + 0.1 * pass / (Session.PrefImax + 1.0));
 
         extra.Redim(1, n);
-        NumericLib::MatVec(n, *system.Stiffness, lack, extra);
+        system.Forces(lack, extra, share(0.7, 1));
         extra.Grow(all);
         if (system.Spread) system.Spread(extra);
         carried = {Sum(extra), MomentSum(*system.v, extra), MomentSum(*system.u, extra)};

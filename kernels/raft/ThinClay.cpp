@@ -1,35 +1,59 @@
 #include "kernels/raft/ThinClay.h"
 
+#include <algorithm>
 #include <cmath>
+#include <functional>
+#include <vector>
 
 #include "base/NumberText.h"
+#include "kernels/raft/RaftProgress.h"
 #include "report/Notices.h"
 
 namespace lithmark {
 
 namespace {
 
+// Sum over c and, inside it, r of distances(r) K(r, c) weight(r). The matrix is read as it lies in memory, some columns
+// at a time.
+Single UnitMoment(int n, const Matrix<Single>& stiffness, const Array<Single>& distances, const Array<Single>& weight,
+                  const std::function<void(double)>& progress) {
+    constexpr int kColumns = 64;
+    std::vector<double> terms(static_cast<std::size_t>(n) * kColumns);
+    Single sum;
+    for (int c = 0; c < n; c += kColumns) {
+        const int columns = std::min(kColumns, n - c);
+        for (int r = 1; r <= n; ++r) {
+            const auto row = stiffness.Row(r);
+            for (int k = 0; k < columns; ++k)
+                terms[static_cast<std::size_t>(k) * static_cast<std::size_t>(n) + static_cast<std::size_t>(r - 1)] =
+                    distances(r) * row[static_cast<std::size_t>(c + k)] * weight(r);
+        }
+        for (std::size_t i = 0; i < static_cast<std::size_t>(columns) * static_cast<std::size_t>(n); ++i)
+            sum += terms[i];
+        progress(static_cast<double>(c) / n);
+    }
+    return sum;
+}
+
 // The imbalance of the moments, in the unit of a moment per initial stress, as a function of one exponent.
 class Imbalance {
   public:
-    // distances: u or v; columnSums: sums over r of weight(r) distance(r) K(r, c).
-    Imbalance(int n, const Matrix<Single>& stiffness, const Array<Single>& distances, const Array<Single>& weight,
-              std::span<const Single> columnSums, double moment, double s0, double d0)
-        : n_(n), distances_(distances), columnSums_(columnSums) {
-        for (int c = 1; c <= n; ++c)
-            for (int r = 1; r <= n; ++r) constant_ += distances(r) * stiffness(r, c) * weight(r);
+    // distances: u or v; columnSums: sums over r of weight(r) distance(r) K(r, c); unitMoment: that of UnitMoments.
+    Imbalance(const Array<Single>& distances, std::span<const Single> columnSums, Single unitMoment, double moment,
+              double s0, double d0)
+        : distances_(distances), columnSums_(columnSums), constant_(unitMoment) {
         constant_ += Quotient(moment, s0);
         constant_ = Quotient(constant_, Quotient(d0, s0) + 1);
     }
 
     Single operator()(double exponent) const {
         Single e = constant_;
-        for (int c = 1; c <= n_; ++c) e -= columnSums_[static_cast<std::size_t>(c - 1)] * Exp(distances_(c) * exponent);
+        for (std::size_t c = 0; c < columnSums_.size(); ++c)
+            e -= columnSums_[c] * Exp(distances_(static_cast<int>(c) + 1) * exponent);
         return e;
     }
 
   private:
-    int n_;
     const Array<Single>& distances_;
     std::span<const Single> columnSums_;
     Single constant_;
@@ -48,6 +72,7 @@ Single SearchExponent(const Imbalance& imbalance, double tolerance, Integer& cou
         }
         exponent += step;
         ++count;
+        SharedServices().ReportProgress(kSettled);
         if (count == kMostSteps) {
             Notices().Raise(NoticeId::IterationEnd, 907012_text, {NumberToText(kMostSteps)});
             return exponent;
@@ -57,19 +82,27 @@ Single SearchExponent(const Imbalance& imbalance, double tolerance, Integer& cou
 
 }  // namespace
 
-ThinClayTilt SearchThinClayTilt(const RaftEquilibrium& equilibrium, int n, const Matrix<Single>& stiffness,
-                                const Array<Single>& u, const Array<Single>& v, const Array<Single>& weight,
-                                const RaftLoad& load, Single s0, Single d0, double tolerance) {
+UnitMoments SumUnitMoments(LoadCase k, int n, const Matrix<Single>& stiffness, const Array<Single>& u,
+                           const Array<Single>& v, const Array<Single>& weight) {
+    UnitMoments moments;
+    constexpr double kHalf = (kEquilibriumDone + kSettled) / 2;
+    if (TiltsAlongX(k)) moments.AlongX = UnitMoment(n, stiffness, u, weight, ProgressBetween(kEquilibriumDone, kHalf));
+    if (TiltsAlongY(k)) moments.AlongY = UnitMoment(n, stiffness, v, weight, ProgressBetween(kHalf, kSettled));
+    return moments;
+}
+
+ThinClayTilt SearchThinClayTilt(const RaftEquilibrium& equilibrium, const UnitMoments& moments, const Array<Single>& u,
+                                const Array<Single>& v, const RaftLoad& load, Single s0, Single d0, double tolerance) {
     ThinClayTilt tilt;
-    // Deliberately one count for both searches: after a first search that used it up, the second one ends by its
-    // tolerance or by the overflow of the count. Kept: existing results rely on it.
+    // Deliberate: one count for both searches bounds them together; after a first search that used it up, the second
+    // one ends by its tolerance or by the overflow of the count.
     Integer count = 0;
     if (TiltsAlongX(equilibrium.Case())) {
-        const Imbalance alongX(n, stiffness, u, weight, equilibrium.ColumnSums().Row(3), load.MomX, s0, d0);
+        const Imbalance alongX(u, equilibrium.ColumnSums().Row(3), moments.AlongX, load.MomX, s0, d0);
         tilt.a = SearchExponent(alongX, tolerance, count);
     }
     if (TiltsAlongY(equilibrium.Case())) {
-        const Imbalance alongY(n, stiffness, v, weight, equilibrium.ColumnSums().Row(2), load.MomY, s0, d0);
+        const Imbalance alongY(v, equilibrium.ColumnSums().Row(2), moments.AlongY, load.MomY, s0, d0);
         tilt.b = SearchExponent(alongY, tolerance, count);
     }
     return tilt;

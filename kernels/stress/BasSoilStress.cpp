@@ -49,8 +49,8 @@ void SolveSoilStress(const SoilStressInput& in, CornerRecord* record) {
 
 void ComputeSoilStress(Single x, Single y, Single z, Single Q, Single P, Single A, Single B, Single Nue, Single Es,
                        Integer LoadType) {
-    RunKernel([&] {
-        const SoilStressInput in{x, y, z, Q, P, A, B, Nue, Es, LoadType};
+    const SoilStressInput in{x, y, z, Q, P, A, B, Nue, Es, LoadType};
+    const auto run = [&] {
         SharedServices().SetPointer(PointerShape::Hourglass);
         Session.A0 = A;
         CornerRecord corners;
@@ -59,7 +59,8 @@ void ComputeSoilStress(Single x, Single y, Single z, Single Q, Single P, Single 
         WriteSoilStressReport(in);
         RaiseStressNotices(in);
         if (Steps().On()) AddCornerTables(in, corners);
-    });
+    };
+    RunKernel(run, [&] { return CauseInStress(in); });
 }
 
 }  // namespace lithmark

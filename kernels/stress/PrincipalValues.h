@@ -11,9 +11,8 @@ struct PrincipalStresses {
     Single max_Tau, max_Sigma, min_Sigma, p, q;
 };
 
-// From stresses in kN/m2; Overflow when a value does not fit 32 bits. The intermediate stress that q uses is taken from
-// the mean instead of the sum of the normal stresses, so q is not the deviatoric stress of textbooks. Kept: existing
-// projects rely on it.
+// From stresses in kN/m2; Overflow when a value does not fit 32 bits. Deliberate: the intermediate stress that q uses
+// is taken from the mean instead of the sum of the normal stresses, so q is not the deviatoric stress of textbooks.
 PrincipalStresses ComputePrincipalStresses(Single Sigma_x, Single Sigma_y, Single Sigma_z, Single Tau_xz);
 
 // Without unit. Epsilon_p is the volumetric strain, the sum of the normal strains.

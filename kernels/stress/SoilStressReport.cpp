@@ -32,7 +32,8 @@ std::string ComponentText(TextId id, Style style, Axis first) {
 }
 
 std::string ComponentText(TextId id, Axis first, Axis second) {
-    return Text(id, Style{32}, {{"|1", LanguageTexts().AxisName(first)}, {"|2", LanguageTexts().AxisName(second)}});
+    return Text(id, Styles::Component,
+                {{"|1", LanguageTexts().AxisName(first)}, {"|2", LanguageTexts().AxisName(second)}});
 }
 
 void AddStressRows() {
@@ -41,9 +42,9 @@ void AddStressRows() {
     const auto add = [&](const Label& label, const char* symbol, Single value) {
         AddParameter(label, symbol, unit, value * factor, Session.FmtStress);
     };
-    add(ComponentText(140179_text, Style{0}, Axis::X), "Sigma_x", Session.Sigma_x);
-    add(ComponentText(140179_text, Style{0}, Axis::Y), "Sigma_y", Session.Sigma_y);
-    add(ComponentText(140179_text, Style{0}, Axis::Z), "Sigma_z", Session.Sigma_z);
+    add(ComponentText(140179_text, Styles::Plain, Axis::X), "Sigma_x", Session.Sigma_x);
+    add(ComponentText(140179_text, Styles::Plain, Axis::Y), "Sigma_y", Session.Sigma_y);
+    add(ComponentText(140179_text, Styles::Plain, Axis::Z), "Sigma_z", Session.Sigma_z);
     add(ComponentText(140180_text, Axis::X, Axis::Y), "Tau_xy", Session.Tau_xy);
     add(ComponentText(140180_text, Axis::X, Axis::Z), "Tau_xz", Session.Tau_xz);
     add(ComponentText(140180_text, Axis::Y, Axis::Z), "Tau_yz", Session.Tau_yz);
@@ -60,9 +61,9 @@ void AddStrainRows() {
     const auto add = [](const Label& label, const char* symbol, Single value) {
         AddParameter(label, symbol, "[-]", value, Session.FmtStrain);
     };
-    add(ComponentText(140181_text, Style{32}, Axis::X), "Varepsilon_x", Session.Varepsilon_x);
-    add(ComponentText(140181_text, Style{32}, Axis::Y), "Varepsilon_y", Session.Varepsilon_y);
-    add(ComponentText(140181_text, Style{32}, Axis::Z), "Varepsilon_z", Session.Varepsilon_z);
+    add(ComponentText(140181_text, Styles::Component, Axis::X), "Varepsilon_x", Session.Varepsilon_x);
+    add(ComponentText(140181_text, Styles::Component, Axis::Y), "Varepsilon_y", Session.Varepsilon_y);
+    add(ComponentText(140181_text, Styles::Component, Axis::Z), "Varepsilon_z", Session.Varepsilon_z);
     add(ComponentText(140182_text, Axis::X, Axis::Y), "Gamma_xy", Session.Gamma_xy);
     add(ComponentText(140182_text, Axis::X, Axis::Z), "Gamma_xz", Session.Gamma_xz);
     add(ComponentText(140182_text, Axis::Y, Axis::Z), "Gamma_yz", Session.Gamma_yz);
@@ -76,14 +77,13 @@ void AddStrainRows() {
 }
 
 void AddDisplacementRows() {
-    // In cm whatever the small length unit is: its label changes, the number does not. Kept: existing projects rely on
-    // it.
+    // Deliberate: in cm whatever the small length unit is; its label changes, the number does not.
     const auto add = [](const Label& label, const char* symbol, Single value) {
         AddParameter(label, symbol, Session.Len2Label, value, Session.FmtSettlement);
     };
-    add(ComponentText(140178_text, Style{32}, Axis::X), "u", Session.u);
-    add(ComponentText(140178_text, Style{32}, Axis::Y), "v", Session.v);
-    add(ComponentText(140178_text, Style{32}, Axis::Z), "w", Session.w);
+    add(ComponentText(140178_text, Styles::Component, Axis::X), "u", Session.u);
+    add(ComponentText(140178_text, Styles::Component, Axis::Y), "v", Session.v);
+    add(ComponentText(140178_text, Styles::Component, Axis::Z), "w", Session.w);
     add(40081_text, "s", Session.s);
 }
 

@@ -108,7 +108,7 @@ void EvaluateMeasurement(TimeSettlementRun& run) {
 }  // namespace
 
 void ComputeTimeSettlement() {
-    RunKernel([] {
+    const auto calculate = [] {
         SharedServices().SetPointer(PointerShape::Hourglass);
         TimeSettlementRun run;
         ZeroResults();
@@ -125,7 +125,8 @@ void ComputeTimeSettlement() {
         WriteTimeSettlementReport(run);
         RaiseHistoryNotices();
         if (Steps().On()) AddHistoryTables();
-    });
+    };
+    RunKernel(calculate, CauseInTimeSettlement);
 }
 
 }  // namespace lithmark

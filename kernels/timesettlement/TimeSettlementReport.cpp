@@ -1,7 +1,7 @@
 // The report of problems 6, 7 and 8.
 //
-// Settlements of the parameter block and the thicknesses carry the labels of the units in force but no factor, those of
-// the tables have both; kept: existing projects rely on it.
+// Deliberate: settlements of the parameter block and the thicknesses carry the labels of the units in force but no
+// factor, those of the tables have both.
 
 #include <string>
 
@@ -79,7 +79,7 @@ void TheoryRows(const TimeSettlementRun& run) {
         AddParameter(300023_text, "qv", pressureUnit, Session.qv * pressureFactor, Session.FmtStress);
         AddParameter(300024_text, "qe", pressureUnit, Session.qe * pressureFactor, Session.FmtStress);
         AddParameter(300057_text, "Est", pressureUnit, run.EstMix * pressureFactor, Session.FmtModulus);
-        // Told here and once more below; kept: existing reports rely on it.
+        // Deliberate: told among the data that it comes from and once more as a result.
         CvRow();
     }
     CvRow();

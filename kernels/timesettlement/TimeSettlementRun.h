@@ -32,4 +32,7 @@ struct TimeSettlementRun {
 // for a TimePeriod that asks for a slot beyond the last.
 void WriteTimeSettlementReport(const TimeSettlementRun& run);
 
+// Which input made a run fail, as report/Causes.h has it; empty when it was none of them.
+std::string CauseInTimeSettlement();
+
 }  // namespace lithmark

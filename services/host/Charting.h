@@ -11,6 +11,8 @@
 
 namespace lithmark {
 
+enum class LineStyle { Solid, Points, LinesNoMarkers };
+
 struct ChartArguments {
     Integer Curves = 0;
     Integer LastColumn = 0;
@@ -22,8 +24,8 @@ struct ChartArguments {
     Matrix<std::string> Cells;   // rows 0 .. LastRow, columns 0 .. LastColumn; row and column 0 stay empty
     Matrix<std::string> Header;  // rows 0 .. HeaderRows, columns 0 .. LastColumn
     bool Flag = false;
-    bool SettlementsDown = false;   // the y axis points down, since settlements are drawn
-    Array<std::string> LineStyles;  // 0 .. Curves: "Solid line", "Points" or "LinesNoMarkers"
+    bool SettlementsDown = false;  // the y axis points down, since settlements are drawn
+    Array<LineStyle> LineStyles;   // 0 .. Curves, from 1 in use
     Single XStart, XEnd;
     std::string ProjectText;  // four lines, each ended by a line feed
     std::string ChartTitle;

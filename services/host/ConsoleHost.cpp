@@ -5,6 +5,9 @@
 #include <algorithm>
 #include <csignal>
 
+#include "base/RemovedOnEnd.h"
+#include "base/Utf8.h"
+
 namespace lithmark {
 
 namespace {
@@ -15,7 +18,10 @@ constexpr int kExitAfterInterrupt = 130;  // 128 + SIGINT, as shells tell it
 volatile std::sig_atomic_t interrupted = 0;
 
 extern "C" void OnInterrupt(int) {
-    if (interrupted != 0) ::_exit(kExitAfterInterrupt);
+    if (interrupted != 0) {
+        RemoveRegisteredFiles();
+        ::_exit(kExitAfterInterrupt);
+    }
     interrupted = 1;
 }
 
@@ -23,7 +29,7 @@ extern "C" void OnInterrupt(int) {
 
 std::string OneLine(const std::string& text) {
     std::string line;
-    for (const char c : text) {
+    for (const char c : PrintableText(text)) {
         const char plain = c == '\r' || c == '\n' || c == '\t' ? ' ' : c;
         if (plain != ' ' || (!line.empty() && line.back() != ' ')) line += plain;
     }
@@ -55,6 +61,10 @@ void ConsoleHost::EndOnTermination() {
 
 void ConsoleHost::ShowMessage(const std::string& title, const std::string& text, MessageIcon) {
     messages_.push_back({title, text});
+}
+
+void ConsoleHost::ForgetMessages(std::size_t from) {
+    messages_.resize(std::min(messages_.size(), std::max(from, printed_)));
 }
 
 void ConsoleHost::PrintMessages() {

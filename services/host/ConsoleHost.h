@@ -10,7 +10,7 @@
 
 namespace lithmark {
 
-// A text as one line: line ends and tabs become blanks, several of them one.
+// A text as one printable line: line ends and tabs become blanks, several of them one.
 std::string OneLine(const std::string& text);
 
 class ConsoleHost : public Host {
@@ -29,6 +29,8 @@ class ConsoleHost : public Host {
 
     // Every message so far, in order.
     const std::vector<Message>& Messages() const noexcept { return messages_; }
+    // Takes back the messages from the n-th on, from 0, that have not been printed.
+    void ForgetMessages(std::size_t from);
     // Prints the messages that have not been printed, each as one line. The caller decides when: a command that fails
     // has one line to say.
     void PrintMessages();

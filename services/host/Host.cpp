@@ -89,7 +89,7 @@ void Host::SetClipboardText(const std::string&) {
     NotOffered("SetClipboardText");
 }
 
-void Host::StartProcess(const std::string&) {
+void Host::StartProcess(const std::string&, const std::vector<std::string>&) {
     NotOffered("StartProcess");
 }
 

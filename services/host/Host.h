@@ -74,7 +74,9 @@ class Host {
     virtual void OpenWordProcessor(const std::string& text, const std::string& fontName, int fontSize,
                                    bool rightToLeft);
     virtual void SetClipboardText(const std::string& text);
-    virtual void StartProcess(const std::string& commandLine);
+    // Starts a program with its arguments, never by way of a command line, and does not wait for it. FileMissing when
+    // it cannot be started.
+    virtual void StartProcess(const std::string& program, const std::vector<std::string>& arguments);
 };
 
 // The host in force. Until one is set it is a host that keeps silent about messages and offers nothing else.

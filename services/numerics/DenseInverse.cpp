@@ -113,20 +113,29 @@ void MultiplyBlock(SimdLevel level, const Product& p, int firstRow, int lastRow)
 }
 
 // The product by blocks of rows; the threads take the next free block. Who works a block does not change its digits.
-void Multiply(SimdLevel level, int threads, const Product& p) {
+// `done` is told by this thread how much of it is behind, 0 to 1; when it throws, the others stop at their next block.
+template <typename Done>
+void Multiply(SimdLevel level, int threads, const Product& p, const Done& done) {
     std::atomic<int> next = 0;
-    const auto work = [&] {
-        for (int row = next.fetch_add(kRowBlock); row < p.Rows; row = next.fetch_add(kRowBlock))
+    const auto work = [&](const auto& blockDone) {
+        for (int row = next.fetch_add(kRowBlock); row < p.Rows; row = next.fetch_add(kRowBlock)) {
             MultiplyBlock(level, p, row, std::min(row + kRowBlock, p.Rows));
+            blockDone(static_cast<double>(row) / p.Rows);
+        }
     };
     std::vector<std::jthread> helpers;
     try {
         helpers.reserve(static_cast<std::size_t>(threads - 1));
-        while (static_cast<int>(helpers.size()) < threads - 1) helpers.emplace_back(work);
+        while (static_cast<int>(helpers.size()) < threads - 1) helpers.emplace_back([&work] { work([](double) {}); });
     } catch (const std::system_error&) {
         // A thread that cannot be started is missed by nobody: this one takes all blocks that are left.
     }
-    work();
+    try {
+        work(done);
+    } catch (...) {
+        next = p.Rows;
+        throw;
+    }
 }
 
 // The matrix, or a block of its columns, under elimination.
@@ -138,8 +147,8 @@ struct Table {
 
 class Elimination {
   public:
-    Elimination(SimdLevel level, int n, int threads)
-        : level_(level), n_(n), threads_(threads), swaps_(static_cast<std::size_t>(n)) {
+    Elimination(SimdLevel level, int n, int threads, const std::function<void(double)>& progress)
+        : level_(level), n_(n), threads_(threads), progress_(progress), swaps_(static_cast<std::size_t>(n)) {
         const int outer = std::min(n, kOuterBlock);
         block_[0].resize(static_cast<std::size_t>(n + kTallest) * outer);
         block_[1].resize(static_cast<std::size_t>(n + kTallest) * std::min(n, kInnerBlock));
@@ -153,10 +162,22 @@ class Elimination {
         for (int i = 0; i < n_; ++i) {
             Real* row = whole.Row(i);
             for (int k = n_ - 1; k >= 0; --k) std::swap(row[k], row[swaps_[k]]);
+            if (!std::all_of(row, row + n_, [](Real value) { return std::isfinite(value); }))
+                Fail(FailureKind::SingularMatrix);
+            if (i % kRowBlock == 0) Report(kEliminated + (1 - kEliminated) * i / n_);
         }
+        Report(1);
     }
 
   private:
+    // Shares of the time: the elimination in the whole; in it, what a block of columns takes until its product begins.
+    static constexpr double kEliminated = 0.98, kNarrow = 0.2;
+
+    void Report(double part) const {
+        if (progress_) progress_(part);
+    }
+    void ReportColumns(double columns) const { Report(kEliminated * columns / n_); }
+
     // Eliminates all columns of the table; column c has its pivot in row firstPivot + c. depth 0 is the whole matrix,
     // depth 1 a block of its columns.
     void Blocks(const Table& t, int firstPivot, int depth) {
@@ -168,7 +189,13 @@ class Elimination {
                 Blocks(block, c, 1);
             else
                 Columns(block, firstPivot + c);
-            Apply(t, c, firstPivot + c, block, depth == 0 ? threads_ : 1);
+            if (depth == 0) {
+                Apply(t, c, c, block, threads_,
+                      [&](double part) { ReportColumns(c + block.Cols * (kNarrow + (1 - kNarrow) * part)); });
+            } else {
+                Apply(t, c, firstPivot + c, block, 1, [](double) {});
+                ReportColumns(firstPivot + kNarrow * c);
+            }
         }
     }
 
@@ -198,7 +225,8 @@ class Elimination {
     }
 
     // Brings the other columns of the table to the state of an eliminated block at column c, and stores the block.
-    void Apply(const Table& t, int c, int firstPivot, const Table& block, int threads) {
+    template <typename Done>
+    void Apply(const Table& t, int c, int firstPivot, const Table& block, int threads, const Done& done) {
         const int depth = block.Cols;
         for (int k = 0; k < depth; ++k) {
             const int p = firstPivot + k;
@@ -216,12 +244,14 @@ class Elimination {
             }
             std::fill_n(row, t.Cols, Real(0));
         }
-        Multiply(level_, threads, {t.Rows, t.Cols, depth, block.Items, flat_.data(), t.Items, std::size_t(t.Cols)});
+        Multiply(level_, threads, {t.Rows, t.Cols, depth, block.Items, flat_.data(), t.Items, std::size_t(t.Cols)},
+                 done);
         for (int i = 0; i < t.Rows; ++i) std::copy_n(block.Row(i), depth, t.Row(i) + c);
     }
 
     const SimdLevel level_;
     const int n_, threads_;
+    const std::function<void(double)>& progress_;
     std::vector<int> swaps_;      // row that was exchanged with each pivot row
     std::vector<Real> block_[2];  // the columns under elimination, of the matrix and of such a block
     std::vector<Real> flat_;      // their pivot rows
@@ -244,11 +274,9 @@ int UsefulThreads(int n) {
     return std::clamp(processors, 1, std::max(1, n / (2 * kRowBlock)));
 }
 
-void InvertInPlace(int n, Single::Storage* matrix, SimdLevel level, int threads) {
-    Elimination(level, n, threads).Run(matrix);
-    const auto count = static_cast<std::size_t>(n) * static_cast<std::size_t>(n);
-    if (!std::all_of(matrix, matrix + count, [](Real value) { return std::isfinite(value); }))
-        Fail(FailureKind::SingularMatrix);
+void InvertInPlace(int n, Single::Storage* matrix, SimdLevel level, int threads,
+                   const std::function<void(double)>& progress) {
+    Elimination(level, n, threads, progress).Run(matrix);
 }
 
 }  // namespace lithmark::detail

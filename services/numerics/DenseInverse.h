@@ -9,6 +9,8 @@
 // are the same for every instruction set, number of threads, machine and build type.
 #pragma once
 
+#include <functional>
+
 #include "base/Single.h"
 
 namespace lithmark::detail {
@@ -21,7 +23,10 @@ SimdLevel WidestSimdLevel();
 int UsefulThreads(int n);
 
 // Replaces the n by n matrix, stored row by row without gaps, by its inverse. SingularMatrix when a pivot is exactly 0
-// or the elimination leaves the range of the stored width; the matrix then holds nothing of use.
-void InvertInPlace(int n, Single::Storage* matrix, SimdLevel level, int threads);
+// or the elimination leaves the range of the stored width; the matrix then holds nothing of use. `progress` is told by
+// the calling thread how much is done, 0 to 1 and never less than before; it may be empty. What it throws ends the work
+// within one block of rows, some hundredths of a second, and leaves; the matrix is of no use then.
+void InvertInPlace(int n, Single::Storage* matrix, SimdLevel level, int threads,
+                   const std::function<void(double)>& progress = {});
 
 }  // namespace lithmark::detail

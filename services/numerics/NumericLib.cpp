@@ -22,13 +22,13 @@ void Require(const Array<Single>& v, int n) {
 
 }  // namespace
 
-void Invert(int n, const Matrix<Single>& m, Matrix<Single>& inverse) {
+void Invert(int n, const Matrix<Single>& m, Matrix<Single>& inverse, const Progress& progress) {
     static_assert(sizeof(Single) == sizeof(Single::Storage));
     if (n < 1) Fail(FailureKind::InvalidArgument);
     Require(m, n, n);
     if (&m == &inverse && (m.UpperRow() - m.LowerRow() + 1 != n || m.UpperCol() - m.LowerCol() + 1 != n)) {
         const Matrix<Single> leading = std::move(inverse);
-        return Invert(n, leading, inverse);
+        return Invert(n, leading, inverse, progress);
     }
     if (&m != &inverse) {
         inverse.Redim(1, n, 1, n);
@@ -38,10 +38,10 @@ void Invert(int n, const Matrix<Single>& m, Matrix<Single>& inverse) {
         }
     }
     auto* items = reinterpret_cast<Single::Storage*>(inverse.Items().data());
-    detail::InvertInPlace(n, items, detail::WidestSimdLevel(), detail::UsefulThreads(n));
+    detail::InvertInPlace(n, items, detail::WidestSimdLevel(), detail::UsefulThreads(n), progress);
 }
 
-void MatVec(int n, const Matrix<Single>& m, const Array<Single>& x, Array<Single>& y) {
+void MatVec(int n, const Matrix<Single>& m, const Array<Single>& x, Array<Single>& y, const Progress& progress) {
     if (n < 1) Fail(FailureKind::InvalidArgument);
     constexpr std::size_t lanes = 8;
     const auto size = static_cast<std::size_t>(n);
@@ -57,6 +57,7 @@ void MatVec(int n, const Matrix<Single>& m, const Array<Single>& x, Array<Single
             for (std::size_t k = 0; k < lanes; ++k) sum[k] += row[j + k] * wide[j + k];
         for (std::size_t k = 0; j + k < size; ++k) sum[k] += row[j + k] * wide[j + k];
         y(i) = ((sum[0] + sum[1]) + (sum[2] + sum[3])) + ((sum[4] + sum[5]) + (sum[6] + sum[7]));
+        if (progress && i % 512 == 0) progress(static_cast<double>(i) / n);
     }
 }
 

@@ -4,20 +4,25 @@
 // operation, indices from 1. An argument that is too small for the counts is a SubscriptRange failure.
 #pragma once
 
+#include <functional>
+
 #include "base/Array.h"
 #include "base/Single.h"
 
 namespace lithmark::NumericLib {
 
+using Progress = std::function<void(double part)>;
+
 // The inverse of an n by n matrix, n from 1 on, by Gauss-Jordan elimination with row pivoting in the stored width. Both
 // may be the same matrix; otherwise `m` stays. Besides the two, less than a tenth of their memory is needed. On a
 // well-conditioned matrix an element is wrong by a few units of the last place of the greatest element; the error grows
 // with the condition number. SingularMatrix when a pivot is exactly 0 or the elimination overflows; `inverse` is then
-// of no use. The digits are the same on every machine.
-void Invert(int n, const Matrix<Single>& m, Matrix<Single>& inverse);
+// of no use. The digits are the same on every machine. `progress` is told now and then how much is done, 0 to 1; what
+// it throws ends the work at once and leaves.
+void Invert(int n, const Matrix<Single>& m, Matrix<Single>& inverse, const Progress& progress = {});
 // y = M x. An element is the sum of eight partial sums in 64 bits (columns 1, 9, ..; 2, 10, ..; and so on), rounded
-// once. x and y may be the same.
-void MatVec(int n, const Matrix<Single>& m, const Array<Single>& x, Array<Single>& y);
+// once. x and y may be the same. `progress` as for Invert.
+void MatVec(int n, const Matrix<Single>& m, const Array<Single>& x, Array<Single>& y, const Progress& progress = {});
 // The product of a rows by inner and an inner by cols matrix, sums in 64 bits, rounded once. `product` is neither a nor
 // b.
 void MatMul(int rows, int inner, int cols, const Matrix<Single>& a, const Matrix<Single>& b, Matrix<Single>& product);

@@ -13,6 +13,7 @@
 #include "base/NumberText.h"
 #include "base/Utf8.h"
 #include "services/storage/FileEncoding.h"
+#include "services/storage/ReadFile.h"
 #include "services/storage/WrittenFile.h"
 #include "services/texts/LanguageTexts.h"
 
@@ -21,16 +22,6 @@ namespace lithmark {
 namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
-
-// A piece of a damaged line, short and printable, for a message.
-std::string Excerpt(std::string_view text) {
-    constexpr std::size_t kLongest = 40;
-    std::string shown = FirstCharacters(text, kLongest);
-    if (shown.size() < text.size()) shown += "...";
-    for (char& c : shown)
-        if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F) c = '?';
-    return shown;
-}
 
 // Walks through the values of a text.
 class TextReader {

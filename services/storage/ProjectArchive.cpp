@@ -3,18 +3,21 @@
 #include <zip.h>
 
 #include <algorithm>
-#include <fstream>
 #include <memory>
+#include <utility>
+#include <vector>
 
 #include "base/Failure.h"
 #include "base/Utf8.h"
 #include "services/storage/FileNames.h"
+#include "services/storage/ReadFile.h"
 
 namespace lithmark {
 
 namespace {
 
 constexpr std::string_view kArchiveStart = "PK\x03\x04";
+constexpr std::size_t kPiece = 1 << 16;
 
 struct Discard {
     void operator()(zip_t* archive) const { zip_discard(archive); }
@@ -38,7 +41,7 @@ Source MemorySource(std::string_view bytes) {
 }
 
 [[noreturn]] void FailDamaged(std::string_view what) {
-    Fail(FailureKind::DamagedArchive, std::string(what));
+    Fail(FailureKind::DamagedArchive, Excerpt(what));
 }
 
 // The extension of an entry that may come out.
@@ -50,28 +53,30 @@ std::string CheckedExtension(const std::string& name) {
     return extension;
 }
 
-std::string EntryBytes(zip_t* archive, zip_uint64_t index, const std::string& name, zip_uint64_t size) {
+// The content of an entry, piece by piece. `left` is what may still come out of the archive.
+std::string EntryBytes(zip_t* archive, zip_uint64_t index, const zip_stat_t& status, std::uint64_t mostBytes,
+                       std::uint64_t& left) {
+    const std::string name = status.name;
     const Entry entry(zip_fopen_index(archive, index, 0));
     if (!entry) FailDamaged(name);
-    std::string bytes(static_cast<std::size_t>(size), '\0');
-    std::size_t length = 0;
-    while (length < bytes.size()) {
-        const zip_int64_t count = zip_fread(entry.get(), bytes.data() + length, bytes.size() - length);
-        if (count <= 0) FailDamaged(name);
-        length += static_cast<std::size_t>(count);
+    std::string bytes;
+    std::vector<char> piece(kPiece);
+    // The checksum is compared where the entry ends.
+    while (const zip_int64_t count = zip_fread(entry.get(), piece.data(), piece.size())) {
+        if (count < 0) FailDamaged(name);
+        const auto length = static_cast<std::uint64_t>(count);
+        if (length > left) Fail(FailureKind::ArchiveTooLarge, std::to_string(mostBytes >> 20));
+        left -= length;
+        bytes.append(piece.data(), static_cast<std::size_t>(length));
     }
-    char beyond = 0;  // the checksum is compared where the entry ends
-    if (zip_fread(entry.get(), &beyond, 1) != 0) FailDamaged(name);
+    if (bytes.size() != status.size) FailDamaged(name);
     return bytes;
 }
 
 }  // namespace
 
 bool IsArchiveFile(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::string start(kArchiveStart.size(), '\0');
-    file.read(start.data(), static_cast<std::streamsize>(start.size()));
-    return file && start == kArchiveStart;
+    return BeginsWith(path, kArchiveStart);
 }
 
 std::string BuildArchive(const std::string& name, const ProjectFiles& files) {
@@ -86,10 +91,10 @@ std::string BuildArchive(const std::string& name, const ProjectFiles& files) {
         const std::string entry = std::string(stem).append(".").append(extension);
         if (zip_file_add(archive.get(), entry.c_str(), content, ZIP_FL_ENC_UTF_8) < 0) {
             zip_source_free(content);
-            Fail(FailureKind::WriteError, zip_strerror(archive.get()));
+            Fail(FailureKind::WriteError);
         }
     }
-    if (zip_close(archive.get()) != 0) Fail(FailureKind::WriteError, zip_strerror(archive.get()));
+    if (zip_close(archive.get()) != 0) Fail(FailureKind::WriteError);
     static_cast<void>(archive.release());  // closed, and with that gone
 
     zip_stat_t status;
@@ -108,7 +113,7 @@ ProjectFiles ReadArchive(std::string_view archive, std::uint64_t mostBytes) {
     const Archive opened = OpenArchive(whole.get(), ZIP_RDONLY | ZIP_CHECKCONS);
     if (!opened) FailDamaged({});
     ProjectFiles files;
-    zip_uint64_t total = 0;
+    std::uint64_t left = mostBytes;
     const zip_int64_t count = zip_get_num_entries(opened.get(), 0);
     for (zip_int64_t i = 0; i < count; ++i) {
         const auto index = static_cast<zip_uint64_t>(i);
@@ -118,8 +123,8 @@ ProjectFiles ReadArchive(std::string_view archive, std::uint64_t mostBytes) {
             FailDamaged({});
         const std::string name = status.name;
         const std::string extension = CheckedExtension(name);
-        if (status.size > mostBytes || (total += status.size) > mostBytes) FailDamaged(name);
-        if (!files.emplace(extension, EntryBytes(opened.get(), index, name, status.size)).second) FailDamaged(name);
+        std::string bytes = EntryBytes(opened.get(), index, status, mostBytes, left);
+        if (!files.emplace(extension, std::move(bytes)).second) FailDamaged(name);
     }
     if (!files.contains("PO3")) FailDamaged({});
     return files;

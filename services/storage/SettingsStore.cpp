@@ -1,10 +1,12 @@
 #include "services/storage/SettingsStore.h"
 
+#include <cstdint>
 #include <cstdio>
 #include <filesystem>
 #include <nlohmann/json.hpp>
 #include <system_error>
 
+#include "services/storage/ReadFile.h"
 #include "services/storage/WrittenFile.h"
 
 namespace lithmark {
@@ -13,17 +15,44 @@ namespace {
 
 using Json = nlohmann::json;
 
-Json ReadStore(const std::string& file, std::string& damagedName) {
+constexpr std::uint64_t kMostBytes = std::uint64_t{4} << 20;
+constexpr int kDeepest = 16;  // the store itself needs three
+
+// True when brackets stand deeper in each other than any store has them. A parser would take memory for each.
+bool TooDeep(const std::string& content) {
+    int depth = 0;
+    bool inText = false;
+    for (std::size_t i = 0; i < content.size() && depth <= kDeepest; ++i) {
+        const char c = content[i];
+        if (inText && c == '\\')
+            ++i;
+        else if (c == '"')
+            inText = !inText;
+        else if (!inText && (c == '{' || c == '['))
+            ++depth;
+        else if (!inText && (c == '}' || c == ']'))
+            --depth;
+    }
+    return depth > kDeepest;
+}
+
+Json ReadStore(const std::string& file, StoreTrouble& trouble) {
     std::string content;
     try {
-        content = ReadWholeFile(file);
-    } catch (const Failure&) {  // no file yet, or one that cannot be read: defaults serve
+        content = ReadWholeFile(file, kMostBytes);
+    } catch (const Failure& failure) {
+        if (failure.Kind() != FailureKind::FileMissing) trouble.Unreadable = failure;
         return Json::object();
     }
-    Json store = Json::parse(content, nullptr, false);
-    if (store.is_object()) return store;
+    if (!TooDeep(content)) {
+        Json store = Json::parse(content, nullptr, false);
+        if (store.is_object()) return store;
+    }
     const std::string aside = file + ".damaged";
-    if (std::rename(file.c_str(), aside.c_str()) == 0) damagedName = aside;
+    if (std::rename(file.c_str(), aside.c_str()) == 0)
+        trouble.SetAside = aside;
+    else
+        trouble.Unreadable = Failure(FailureKind::ReadError).InFile(file);
     return Json::object();
 }
 
@@ -42,8 +71,8 @@ Json& ObjectMember(Json& object, const std::string& name) {
 }  // namespace
 
 std::optional<SettingValue> ReadSetting(const std::string& file, const std::string& app, const std::string& section,
-                                        const std::string& key, std::string& damagedName) {
-    const Json store = ReadStore(file, damagedName);
+                                        const std::string& key, StoreTrouble& trouble) {
+    const Json store = ReadStore(file, trouble);
     const Json* value = Member(Member(Member(&store, app), section), key);
     if (value == nullptr) return std::nullopt;
     if (value->is_boolean()) return value->get<bool>();
@@ -53,8 +82,9 @@ std::optional<SettingValue> ReadSetting(const std::string& file, const std::stri
 }
 
 void WriteSetting(const std::string& file, const std::string& app, const std::string& section, const std::string& key,
-                  const SettingValue& value, std::string& damagedName) {
-    Json store = ReadStore(file, damagedName);
+                  const SettingValue& value, StoreTrouble& trouble) {
+    Json store = ReadStore(file, trouble);
+    if (trouble.Unreadable) throw Failure(*trouble.Unreadable);
     Json& place = ObjectMember(ObjectMember(store, app), section)[key];
     std::visit([&](const auto& plain) { place = plain; }, value);
     std::error_code error;  // a folder that cannot be made shows in the write

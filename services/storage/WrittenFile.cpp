@@ -4,10 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <atomic>
 #include <cerrno>
-#include <chrono>
-#include <cstdio>
 #include <filesystem>
 #include <set>
 #include <system_error>
@@ -20,20 +17,20 @@ namespace lithmark {
 namespace {
 
 constexpr std::size_t kBufferSize = 1 << 16;
-constexpr char kTemporaryStart[] = ".lithmark-", kTemporaryEnd[] = ".tmp";
 
-// Writes all bytes, at an offset or, when it is negative, at the current place.
-void WriteAll(int descriptor, std::string_view bytes, std::int64_t offset) {
+// Writes all bytes, at an offset or, when it is negative, at the current place. The error's number, 0 for none.
+int WriteAll(int descriptor, std::string_view bytes, std::int64_t offset) {
     while (!bytes.empty()) {
         const ssize_t written = offset < 0 ? ::write(descriptor, bytes.data(), bytes.size())
                                            : ::pwrite(descriptor, bytes.data(), bytes.size(), offset);
         if (written < 0) {
             if (errno == EINTR) continue;
-            FailWithSystemError(errno, FailureKind::WriteError);
+            return errno;
         }
         bytes.remove_prefix(static_cast<std::size_t>(written));
         if (offset >= 0) offset += written;
     }
+    return 0;
 }
 
 // The file that a path stands for, behind symbolic links.
@@ -52,51 +49,35 @@ std::string FolderOf(const std::string& path) {
 
 }  // namespace
 
-void FailWithSystemError(int error, FailureKind otherwise) {
-    const FailureKind kind = error == ENOENT || error == ENOTDIR                   ? FailureKind::FileMissing
-                             : error == EISDIR                                     ? FailureKind::NotAFile
-                             : error == EACCES || error == EPERM || error == EROFS ? FailureKind::PermissionDenied
-                             : error == ENOSPC || error == EDQUOT                  ? FailureKind::DiskFull
-                             : error == ENOMEM                                     ? FailureKind::OutOfMemory
-                                                                                   : otherwise;
-    Fail(kind, std::generic_category().message(error));
-}
-
-WrittenFile::WrittenFile(const std::string& path) : target_(RealTarget(path)) {
+WrittenFile::WrittenFile(const std::string& path, Target kind) : path_(path), target_(RealTarget(path)) {
     struct stat status {};
     if (::stat(target_.c_str(), &status) == 0) {
-        if (::access(target_.c_str(), W_OK) != 0) FailWithSystemError(errno, FailureKind::WriteError);
-        if (!S_ISREG(status.st_mode)) {
-            descriptor_ = ::open(target_.c_str(), O_WRONLY | O_CLOEXEC);
-            if (descriptor_ < 0) FailWithSystemError(errno, FailureKind::WriteError);
+        if (S_ISREG(status.st_mode)) {
+            if (::access(target_.c_str(), W_OK) != 0) FailToWrite(errno);
+            mode_ = status.st_mode & 07777;
+        } else {
+            if (kind == Target::File || S_ISDIR(status.st_mode)) FailToWrite(EISDIR);
+            device_ = ::open(target_.c_str(), O_WRONLY | O_CLOEXEC);
+            if (device_ < 0) FailToWrite(errno);
             return;
         }
-        mode_ = status.st_mode & 07777;
     } else if (errno != ENOENT) {
-        FailWithSystemError(errno, FailureKind::WriteError);
+        FailToWrite(errno);
     }
-    OpenTemporary();
+    temporary_ = std::make_unique<TemporaryFile>(FolderOf(target_), path_);
+    if (mode_ != 0) ::fchmod(temporary_->Descriptor(), mode_);
 }
 
 WrittenFile::~WrittenFile() {
     Drop();
 }
 
-void WrittenFile::OpenTemporary() {
-    static std::atomic<unsigned> counter = 0;
-    const std::string folder = FolderOf(target_);
-    // The name is short whatever the target is called, so that long names can be written too.
-    do {
-        temporary_ =
-            folder + kTemporaryStart + std::to_string(::getpid()) + "-" + std::to_string(++counter) + kTemporaryEnd;
-        descriptor_ = ::open(temporary_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    } while (descriptor_ < 0 && errno == EEXIST);
-    if (descriptor_ < 0) {
-        const int error = errno;
-        temporary_.clear();
-        FailWithSystemError(error, FailureKind::WriteError);
-    }
-    if (mode_ != 0) ::fchmod(descriptor_, mode_);
+void WrittenFile::FailToWrite(int error) const {
+    FailWithSystemError(error, FailureKind::WriteError, path_);
+}
+
+int WrittenFile::Descriptor() const noexcept {
+    return temporary_ ? temporary_->Descriptor() : device_;
 }
 
 void WrittenFile::Append(std::string_view bytes) {
@@ -105,44 +86,49 @@ void WrittenFile::Append(std::string_view bytes) {
 }
 
 void WrittenFile::WriteAt(std::int64_t offset, std::string_view bytes) {
-    WriteAll(descriptor_, bytes, offset);
+    if (const int error = WriteAll(Descriptor(), bytes, offset)) FailToWrite(error);
 }
 
 void WrittenFile::Flush() {
     const std::string bytes = std::exchange(buffer_, {});
-    WriteAll(descriptor_, bytes, -1);
+    if (const int error = WriteAll(Descriptor(), bytes, -1)) FailToWrite(error);
 }
 
 void WrittenFile::Sync() {
     Flush();
-    if (const int error = SyncError()) FailWithSystemError(error, FailureKind::WriteError);
+    if (const int error = SyncError()) FailToWrite(error);
 }
 
 int WrittenFile::SyncError() const noexcept {
-    return temporary_.empty() || ::fsync(descriptor_) == 0 ? 0 : errno;
+    return !temporary_ || ::fsync(temporary_->Descriptor()) == 0 ? 0 : errno;
 }
 
 void WrittenFile::Close() {
-    if (::close(std::exchange(descriptor_, -1)) != 0) FailWithSystemError(errno, FailureKind::WriteError);
+    if (temporary_)
+        temporary_->Close(path_);
+    else if (::close(std::exchange(device_, -1)) != 0)
+        FailToWrite(errno);
 }
 
-void WrittenFile::TakePlace() {
-    if (temporary_.empty()) return;
-    if (std::rename(temporary_.c_str(), target_.c_str()) != 0) FailWithSystemError(errno, FailureKind::WriteError);
-    temporary_.clear();
+// True when the file was put in place, and not written there directly.
+bool WrittenFile::TakePlace() {
+    if (!temporary_) return false;
+    temporary_->TakePlaceOf(target_, path_);
+    temporary_.reset();
+    return true;
 }
 
 void WrittenFile::Commit() {
-    const bool replaces = !temporary_.empty();
+    bool placed = false;
     try {
         Sync();
         Close();
-        TakePlace();
+        placed = TakePlace();
     } catch (...) {
         Drop();
         throw;
     }
-    if (replaces) SyncFolderOf(target_);
+    if (placed) SyncFolderOf(target_);
 }
 
 void WrittenFile::CommitTogether(std::span<const std::unique_ptr<WrittenFile>> files,
@@ -170,13 +156,11 @@ void WrittenFile::CommitTogether(std::span<const std::unique_ptr<WrittenFile>> f
             }
         }
         each([&](std::size_t i) {
-            if (errors[i] != 0) FailWithSystemError(errors[i], FailureKind::WriteError);
+            if (errors[i] != 0) files[i]->FailToWrite(errors[i]);
             files[i]->Close();
         });
         each([&](std::size_t i) {
-            const bool replaces = !files[i]->temporary_.empty();
-            files[i]->TakePlace();
-            if (replaces) folders.insert(FolderOf(files[i]->target_));
+            if (files[i]->TakePlace()) folders.insert(FolderOf(files[i]->target_));
         });
     } catch (...) {
         for (const auto& file : files) file->Drop();
@@ -188,59 +172,14 @@ void WrittenFile::CommitTogether(std::span<const std::unique_ptr<WrittenFile>> f
 
 void WrittenFile::Drop() noexcept {
     buffer_.clear();
-    if (descriptor_ >= 0) ::close(std::exchange(descriptor_, -1));
-    if (!temporary_.empty()) ::unlink(temporary_.c_str());
-    temporary_.clear();
+    temporary_.reset();
+    if (device_ >= 0) ::close(std::exchange(device_, -1));
 }
 
-void WriteWholeFile(const std::string& path, std::string_view content) {
-    WrittenFile file(path);
+void WriteWholeFile(const std::string& path, std::string_view content, WrittenFile::Target kind) {
+    WrittenFile file(path, kind);
     file.Append(content);
     file.Commit();
-}
-
-std::string ReadWholeFile(const std::string& path) {
-    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    if (descriptor < 0) FailWithSystemError(errno, FailureKind::ReadError);
-    std::string content;
-    int error = 0;
-    try {
-        struct stat status {};
-        if (::fstat(descriptor, &status) != 0) {
-            error = errno;
-        } else if (!S_ISREG(status.st_mode)) {
-            error = EISDIR;
-        } else {
-            content.resize(static_cast<std::size_t>(status.st_size) + 1);
-            std::size_t length = 0;
-            for (;;) {
-                const ssize_t count = ::read(descriptor, content.data() + length, content.size() - length);
-                if (count < 0 && errno == EINTR) continue;
-                if (count < 0) error = errno;
-                if (count <= 0) break;
-                length += static_cast<std::size_t>(count);
-                if (length == content.size()) content.resize(content.size() * 2);
-            }
-            content.resize(length);
-        }
-    } catch (const std::exception&) {  // no memory for the content
-        error = ENOMEM;
-    }
-    ::close(descriptor);
-    if (error != 0) FailWithSystemError(error, FailureKind::ReadError);
-    return content;
-}
-
-void RemoveStaleTemporaries(const std::string& folder) noexcept {
-    namespace fs = std::filesystem;
-    std::error_code error;
-    for (fs::directory_iterator it(folder, error), end; !error && it != end; it.increment(error)) {
-        const std::string name = it->path().filename().string();
-        if (!name.starts_with(kTemporaryStart) || !name.ends_with(kTemporaryEnd)) continue;
-        std::error_code ofFile;
-        const auto age = fs::file_time_type::clock::now() - it->last_write_time(ofFile);
-        if (!ofFile && age > std::chrono::hours(24)) fs::remove(it->path(), ofFile);
-    }
 }
 
 void SyncFolderOf(const std::string& path) noexcept {

@@ -2,8 +2,8 @@
 //
 // The content goes to a file of another name beside the target. Commit puts it in the target's place in one step, so
 // that after a crash, a full disk or a pulled plug the target is either the old file or the new one. Without Commit the
-// target stays as it was and nothing is left behind. A target that is no regular file (a device, a pipe) is written
-// directly. A symbolic link stays a link: the file that it points to is replaced.
+// target stays as it was and nothing is left behind. A symbolic link stays a link: the file that it points to is
+// replaced. Every failure names the path that was to be written.
 #pragma once
 
 #include <cstdint>
@@ -14,14 +14,19 @@
 #include <string_view>
 
 #include "base/Failure.h"
+#include "services/storage/TemporaryFile.h"
 
 namespace lithmark {
 
 class WrittenFile {
   public:
+    // A device or a pipe is written directly where the user may name one, as the output of a command; no file of a
+    // project is ever one.
+    enum class Target { File, FileOrDevice };
+
     // NotAFile for a directory, PermissionDenied where the target or its folder must not be written, FileMissing
     // without a folder, DiskFull, WriteError for the rest.
-    explicit WrittenFile(const std::string& path);
+    explicit WrittenFile(const std::string& path, Target kind = Target::File);
     ~WrittenFile();
     WrittenFile(const WrittenFile&) = delete;
     WrittenFile& operator=(const WrittenFile&) = delete;
@@ -31,8 +36,8 @@ class WrittenFile {
     void WriteAt(std::int64_t offset, std::string_view bytes);
     // Everything on the disk, but not in place yet.
     void Sync();
-    // Where the content stands until Commit.
-    const std::string& TemporaryName() const noexcept { return temporary_; }
+    // Where the content of a regular file stands until Commit.
+    const std::string& TemporaryName() const noexcept { return temporary_->Name(); }
     // Everything on the disk and in place. When it fails, the target is as it was.
     void Commit();
 
@@ -43,30 +48,25 @@ class WrittenFile {
                                const std::function<void(std::size_t place)>& at);
 
   private:
-    void OpenTemporary();
+    [[noreturn]] void FailToWrite(int error) const;
+    int Descriptor() const noexcept;
     void Flush();
     int SyncError() const noexcept;
     void Close();
-    void TakePlace();
+    bool TakePlace();
     void Drop() noexcept;
 
-    std::string target_, temporary_, buffer_;
-    int descriptor_ = -1;
+    std::string path_, target_, buffer_;
+    std::unique_ptr<TemporaryFile> temporary_;
+    int device_ = -1;
     unsigned mode_ = 0;  // of the file to be replaced; 0 when there is none
 };
 
 // Writes a whole file by way of a WrittenFile.
-void WriteWholeFile(const std::string& path, std::string_view content);
-// The bytes of a regular file. FileMissing, NotAFile, PermissionDenied or ReadError.
-std::string ReadWholeFile(const std::string& path);
+void WriteWholeFile(const std::string& path, std::string_view content,
+                    WrittenFile::Target kind = WrittenFile::Target::File);
 
 // Makes what was done to a folder's entries lasting, as far as the file system can.
 void SyncFolderOf(const std::string& path) noexcept;
-
-// Removes what a crash more than a day ago left in a folder: content that never took its target's place.
-void RemoveStaleTemporaries(const std::string& folder) noexcept;
-
-// The failure that a system error number stands for.
-[[noreturn]] void FailWithSystemError(int error, FailureKind otherwise);
 
 }  // namespace lithmark

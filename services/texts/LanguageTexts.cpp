@@ -7,11 +7,6 @@ namespace lithmark {
 
 namespace {
 
-constexpr int kButton = 1;
-constexpr int kDialogButton = 3;
-constexpr int kHeading = 4;
-constexpr int kColumnTitle = 16;
-
 // Texts with a value right behind them in the heading of a report: order, date, project, file.
 constexpr TextId kHeadingLines[] = {11_text, 12_text, 95_text, 107_text};
 
@@ -68,15 +63,15 @@ std::string LanguageTextsService::Text(TextId id, Style style, const Replacement
     if (current_ == Language::Ids)
         return Contains(kSameInIds, id) ? Replaced(row->English, replacements) : IdsText(id, replacements);
 
-    if (style.Number == kColumnTitle)
+    if (style == Styles::ColumnTitle)
         if (const LanguageRow* title = FindColumnTitle(id.Number)) row = title;
 
     // The mark goes before the replacements come in: a "&" in a path is no mark.
     const std::string_view stored = TextIn(*row, current_);
-    const bool keepsMnemonic = style.Number == kButton || style.Number == kDialogButton;
+    const bool keepsMnemonic = style == Styles::Button || style == Styles::DialogButton;
     std::string text = Replaced(keepsMnemonic ? std::string(stored) : WithoutMnemonic(stored), replacements);
-    if (style.Number == kDialogButton) text += "...";
-    if (style.Number == kHeading) {
+    if (style == Styles::DialogButton) text += "...";
+    if (style == Styles::Heading) {
         if (!text.ends_with(':')) text += ':';
         if (Contains(kHeadingLines, id)) text += ' ';
     }

@@ -11,10 +11,23 @@
 
 namespace lithmark {
 
-// How a text is wanted. 0: as it stands. What each style does is told beside LanguageTextsService::Text.
+// How a text is wanted, by the number of the style; numbers that are not named in Styles give the plain text.
 struct Style {
     int Number = 0;
+
+    constexpr bool operator==(const Style&) const = default;
 };
+
+namespace Styles {
+inline constexpr Style Plain{0};         // as it stands, without the mnemonic mark "&"
+inline constexpr Style Button{1};        // the caption of a button or menu entry, with its mnemonic mark
+inline constexpr Style DialogButton{3};  // the same for one that opens a file dialog, ended by "..."
+// A heading, without the mark, ended by a colon where the text itself brings none. The labels of the heading lines (11
+// order, 12 date, 95 project, 107 file) end in ": ", because their value follows at once.
+inline constexpr Style Heading{4};
+inline constexpr Style ColumnTitle{16};  // a table column's title with its line feeds
+inline constexpr Style Component{32};    // a quantity's name with its axes put in; as it stands
+}  // namespace Styles
 
 // Pairs of a place-holder ("|1") and what takes its place.
 using Replacements = std::vector<std::pair<std::string, std::string>>;
@@ -29,18 +42,12 @@ class LanguageTextsService {
     bool RightToLeft() const noexcept { return current_ == Language::Arabic; }
 
     // The text of a number, its place-holders replaced. An unknown number is a failure of the program and gives
-    // "?<number>?". Styles:
-    //   0, 32  as it stands, without the mnemonic mark "&"; so does every number not named here
-    //   1      the caption of a button or menu entry, with its mnemonic mark
-    //   3      the same for one that opens a file dialog, ended by "..."
-    //   4      a heading, without the mark, ended by a colon where the text itself brings none; the labels of the
-    //   heading
-    //          lines (11 order, 12 date, 95 project, 107 file) end in ": ", because their value follows at once
-    //   16     a table column's title with its line feeds
-    // In Ids every text reads "T<number>" or "T<number>(r1,r2)", whatever the style, but for the few that the program
-    // takes apart or compares.
+    // "?<number>?". In Ids every text reads "T<number>" or "T<number>(r1,r2)", whatever the style, but for the few that
+    // the program takes apart or compares.
     std::string Text(TextId id, Style style = {}, const Replacements& replacements = {}) const;
-    std::string Text(TextId id, const Replacements& replacements) const { return Text(id, Style{0}, replacements); }
+    std::string Text(TextId id, const Replacements& replacements) const {
+        return Text(id, Styles::Plain, replacements);
+    }
 
     // The names of the coordinate axes; Arabic has letters of its own.
     std::string AxisName(Axis axis) const;
@@ -60,7 +67,7 @@ inline std::string Text(TextId id, Style style = {}, const Replacements& replace
     return LanguageTexts().Text(id, style, replacements);
 }
 inline std::string Text(TextId id, const Replacements& replacements) {
-    return LanguageTexts().Text(id, Style{0}, replacements);
+    return LanguageTexts().Text(id, Styles::Plain, replacements);
 }
 
 }  // namespace lithmark

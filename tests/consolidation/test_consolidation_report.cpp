@@ -73,7 +73,7 @@ TEST_F(ConsolidationReport, OfARectangleByCompressionIndex) {
                 ElementsAre("T<400181>", Ruler(), "", "T<140095>", "T<300002> p [kN/m²] = 120.0",
                             "T<400001> a [m] = 4.00", "T<101> b [m] = 3.00", "", "T<140162>", "T<300004> Cc [-] = 0.22",
                             "T<10175> eo [-] = 0.85", "T<120001> po [kN/m²] = 32.5", "T<10244> Gamma_c [kN/m³] = 9.5",
-                            // The overburden once more; kept: existing reports have it.
+                            // Deliberate: the overburden once more.
                             "T<120001> Gamma*z [kN/m²] = 32.5", "", "T<400128>", "T<90001>(x) x [m] = 0.00",
                             "T<90001>(y) y [m] = 0.00", "T<90001>(z) z [m] = 2.00", "T<40052> h [m] = 3.00", "",
                             "T<140096>", "T<140186> s [cm] = 1.25"));

@@ -71,7 +71,7 @@ TEST_F(Rate, NodesOfTwoLayersShareTheInterfaceNode) {
 }
 
 // The first layer counts one interval too many, so layer 2 (dz 5/6 m) is printed dz(1) - dz(2) = 1/6 m too deep.
-TEST_F(Rate, NodesOfLayer2ArePrintedDeeperThanTheyLieKept) {
+TEST_F(Rate, NodesOfLayer2ArePrintedDeeperThanTheyLieDeliberately) {
     RateCase c;
     c.NumLayers = 2;
     c.z = 3;
@@ -82,7 +82,7 @@ TEST_F(Rate, NodesOfLayer2ArePrintedDeeperThanTheyLieKept) {
     EXPECT_THAT(NumbersOf(Session.IsoZ), Pointwise(IsNear(1e-5), expected));
 }
 
-TEST_F(Rate, PrefDzIsOverwrittenWithTheIntervalOfLayer1AlsoWhenLayer2ConsolidatesFasterKept) {
+TEST_F(Rate, PrefDzIsOverwrittenWithTheIntervalOfLayer1AlsoWhenLayer2ConsolidatesFasterDeliberately) {
     RateCase c;
     c.NumLayers = 2;
     c.h = Array<Single>::Of({10, 3});
@@ -129,7 +129,7 @@ TEST_F(Rate, ThePartOfTheLastStepIsInterpolated) {
                                                           (77.77778 + 68.05556) / 2, 0}));
 }
 
-TEST_F(Rate, LessThanOneStepGoesOnFromTheFirstStepByItsFractionKept) {
+TEST_F(Rate, LessThanOneStepGoesOnFromTheFirstStepByItsFractionDeliberately) {
     RateCase c = StepCase(4);
     c.T = TimeOfSteps(c, 0.5);
     Run(c);
@@ -139,7 +139,7 @@ TEST_F(Rate, LessThanOneStepGoesOnFromTheFirstStepByItsFractionKept) {
     EXPECT_NEAR(Session.Uc, (1 - 268.05556 / 400) * 100, kTolerance);
 }
 
-TEST_F(Rate, TimeZeroLeavesNoPressureAndUc100Kept) {
+TEST_F(Rate, TimeZeroLeavesNoPressureAndUc100Deliberately) {
     RateCase c = StepCase(4);
     c.T = 0;
     Run(c);
@@ -147,7 +147,7 @@ TEST_F(Rate, TimeZeroLeavesNoPressureAndUc100Kept) {
     EXPECT_EQ(Session.Uc, 100);
 }
 
-TEST_F(Rate, ExactlyOneStepLeavesNoPressureAndUc100Kept) {
+TEST_F(Rate, ExactlyOneStepLeavesNoPressureAndUc100Deliberately) {
     RateCase c = StepCase(4);
     c.T = TimeOfSteps(c, 1);
     Run(c);
@@ -317,7 +317,7 @@ double AxisStress(double p, double a, double z) {
     return p * (1 - std::pow(1 + a * a / (z * z), -1.5));
 }
 
-TEST_F(Rate, CircleMovesPressuresUpOneNodeAndSkipsEverySecondDepthKept) {
+TEST_F(Rate, CircleMovesPressuresUpOneNodeAndSkipsEverySecondDepthDeliberately) {
     RateCase c;
     c.Pressure = false;
     c.LoadType = 3;
@@ -330,7 +330,7 @@ TEST_F(Rate, CircleMovesPressuresUpOneNodeAndSkipsEverySecondDepthKept) {
         EXPECT_NEAR(Session.IsoU0(m), AxisStress(150, 4, 2 + 2 * m), 0.02 * AxisStress(150, 4, 2 + 2 * m));
 }
 
-TEST_F(Rate, CircleLeavesTheLastNodeIdleKept) {
+TEST_F(Rate, CircleLeavesTheLastNodeIdleDeliberately) {
     RateCase c;
     c.Pressure = false;
     c.LoadType = 3;
@@ -339,7 +339,7 @@ TEST_F(Rate, CircleLeavesTheLastNodeIdleKept) {
     EXPECT_EQ(Session.IsoUf(4), 0);
 }
 
-TEST_F(Rate, CircleDoesNotDrainNode0Kept) {
+TEST_F(Rate, CircleDoesNotDrainNode0Deliberately) {
     RateCase c = StepCase(4);
     c.Pressure = false;
     c.LoadType = 3;

@@ -73,7 +73,7 @@ TEST_F(RateReport, TwoLayersTellPermeabilitiesAndTvOfLayer1) {
     EXPECT_EQ(ValueOf("Tv"), "2.37");
 }
 
-TEST_F(RateReport, SideAOfTheRectangleIsScaledTwiceAndBOnceKept) {
+TEST_F(RateReport, SideAOfTheRectangleIsScaledTwiceAndBOnceDeliberately) {
     c.Pressure = false;
     c.B = 3;
     Session.Len1Factor = 10;

@@ -177,7 +177,7 @@ TEST_F(RateTheory, SecondLayerThinnerThan2m31UnderALayerOf4mIsUnstable) {
 
 // What the circular load's numbering costs, against the same scheme with the pressures on the axis of the circle
 // (Boussinesq 1885; Love 1929) at the nodes that they belong to: a = 2 m, layer of 4 m from 1 m on, dz = 1 m.
-TEST_F(RateTheory, CircleRunsBehindTheSameLoadOnItsNodesByUpTo20PointsKept) {
+TEST_F(RateTheory, CircleRunsBehindTheSameLoadOnItsNodesByUpTo20PointsDeliberately) {
     std::vector<double> u0;
     for (int m = 0; m <= 4; ++m) u0.push_back(150 * (1 - std::pow(1 + 4 / ((1.0 + m) * (1 + m)), -1.5)));
     RateCase c;

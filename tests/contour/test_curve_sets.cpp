@@ -33,8 +33,9 @@ Rows HeaderOf(const ChartArguments& chart) {
     return rows;
 }
 
-std::vector<std::string> FromOne(const Array<std::string>& items) {
-    std::vector<std::string> list;
+template <typename T>
+std::vector<T> FromOne(const Array<T>& items) {
+    std::vector<T> list;
     for (int i = 1; i <= items.Upper(); ++i) list.push_back(items(i));
     return list;
 }
@@ -112,7 +113,7 @@ TEST_F(CurveSets, Tab1HasTheLoadInForceUnitsAndTheSecondSeriesAsASettlement) {
     EXPECT_EQ(chart.XTitle, "Time t months");
     EXPECT_EQ(chart.YTitle, "Loading Ex [kN]");
     EXPECT_THAT(FromOne(chart.Legends), ElementsAre("Load after the load step", "Load before the load step"));
-    EXPECT_THAT(FromOne(chart.LineStyles), ElementsAre("Solid line", "Solid line"));
+    EXPECT_THAT(FromOne(chart.LineStyles), ElementsAre(LineStyle::Solid, LineStyle::Solid));
     EXPECT_FALSE(chart.Flag);
     // Titles hang from the top; symbols have the suffix, the axis titles have none.
     EXPECT_EQ(
@@ -217,7 +218,7 @@ TEST_F(CurveSets, Tab6FitsALineToTheShownSettlements) {
     EXPECT_EQ(chart.YTitle, "Settlement s [cm]");
     EXPECT_EQ(chart.ChartTitle, "Settlement");
     EXPECT_THAT(FromOne(chart.Legends), ElementsAre("Settlement", "Mean settlement", "Settlement of a flexible raft"));
-    EXPECT_THAT(FromOne(chart.LineStyles), ElementsAre("Points", "LinesNoMarkers", "Solid line"));
+    EXPECT_THAT(FromOne(chart.LineStyles), ElementsAre(LineStyle::Points, LineStyle::LinesNoMarkers, LineStyle::Solid));
     const Rows header = HeaderOf(chart);
     EXPECT_EQ(header[header.size() - 2], (std::vector<std::string>{"x", "s", "sm", "sf"}));
     Session.ProblemType = 10;
@@ -290,7 +291,30 @@ TEST_F(CurveSets, RowAndColumnZeroStayEmpty) {
     for (int c = 0; c <= chart.LastColumn; ++c) EXPECT_EQ(chart.Cells(0, c), "");
     for (int r = 0; r <= chart.LastRow; ++r) EXPECT_EQ(chart.Cells(r, 0), "");
     EXPECT_EQ(chart.Legends(0), "");
-    EXPECT_EQ(chart.LineStyles(0), "");
+}
+
+// A period and a history that together have more rows than the curve has slots.
+TEST_F(CurveSets, Tab1EndsWithTheLastSlot) {
+    SetTimeProblem();
+    Session.TimePeriod = 60;
+    Session.NLoad = 20;
+    for (int i = 0; i <= 70; ++i) Session.LoadChartTime(i) = i;
+    const ChartArguments chart = Chart("Tab1");
+    EXPECT_EQ(chart.LastRow, 70);
+    EXPECT_EQ(chart.Cells(70, 1), "70");
+    EXPECT_EQ(chart.XEnd, 70.0);
+}
+
+TEST_F(CurveSets, WhatFilesHoldComesPrintableIntoTheChart) {
+    SetTimeProblem();
+    Session.TimeUnit = "mon\x1Bths";
+    Session.Proj = std::string("Hall\0e", 6);
+    Session.FirmaLine1 = "Lithos\uFFFE";
+    const ChartArguments chart = Chart("Tab1");
+    EXPECT_EQ(chart.XTitle, "Time t mon\uFFFDths");
+    EXPECT_THAT(chart.ProjectText, testing::HasSubstr("Hall\uFFFDe\n"));
+    EXPECT_EQ(chart.CompanyLine1, "Lithos\uFFFD");
+    EXPECT_EQ(HeaderOf(chart).back().front(), "mon\uFFFDths");
 }
 
 // With a decimal comma cells are shown with it and read back with it.

@@ -3,6 +3,7 @@
 
 #include "core/Catalogue.h"
 #include "support/DistinctFields.h"
+#include "support/Files.h"
 #include "support/TestSession.h"
 
 using namespace lithmark;
@@ -26,6 +27,53 @@ TEST(ProblemCatalogue, HasElevenRowsInOrderWithTheirMenuEntryTextAndExtension) {
         EXPECT_EQ(row.MenuText.Number, expected[i].MenuText);
         EXPECT_EQ(row.Extension, expected[i].Extension);
         EXPECT_EQ(FindProblem(row.ProblemType), &row);
+    }
+}
+
+// The captions of the results, and what can be done with them.
+TEST(ProblemCatalogue, TellsWhatBecomesOfTheResults) {
+    const struct {
+        int ProblemType, Subject;
+        bool Curves, Contours, HandsOver, Calculated;
+    } expected[] = {
+        {1, 140185, false, false, false, true}, {2, 300100, false, false, false, true},
+        {3, 300001, false, false, false, true}, {4, 140186, false, false, false, true},
+        {5, 140187, true, false, false, true},  {6, 300047, true, false, false, true},
+        {7, 300048, true, false, false, true},  {8, 300033, true, false, false, true},
+        {9, 140189, true, true, true, true},    {10, 140190, true, true, true, true},
+        {11, 400190, true, false, true, false},
+    };
+    for (const auto& row : expected) {
+        SCOPED_TRACE(row.ProblemType);
+        const ProblemRow& problem = *FindProblem(row.ProblemType);
+        EXPECT_EQ(problem.Subject.Number, row.Subject);
+        EXPECT_EQ(problem.Curves != CurveFamily::None, row.Curves);
+        EXPECT_EQ(problem.HasContours(), row.Contours);
+        EXPECT_EQ(problem.HandsOver, row.HandsOver);
+        EXPECT_EQ(problem.Calculated, row.Calculated);
+    }
+}
+
+TEST(ProblemCatalogue, AnEntryLeadsToItsFirstProblem) {
+    const int expected[] = {1, 2, 3, 4, 5, 6, 9, 10, 11};
+    for (int entry = 1; entry <= kLastProblemEntry; ++entry)
+        EXPECT_EQ(FirstProblemOf(entry)->ProblemType, expected[entry - 1]) << entry;
+    for (const int entry : {-1, kProjectEntry, kLastProblemEntry + 1}) EXPECT_EQ(FirstProblemOf(entry), nullptr);
+}
+
+TEST(ProblemCatalogue, TheProblemInForceHasARowOrFails) {
+    FreshSession();
+    Session.ProblemType = 7;
+    EXPECT_EQ(ProblemInForce().ProblemType, 7);
+    Session.ProblemType = 12;
+    EXPECT_EQ(KindOf([] { ProblemInForce(); }), FailureKind::SubscriptRange);
+}
+
+TEST(ProblemCatalogue, FamiliesOfProblems) {
+    for (int problem = 0; problem <= 12; ++problem) {
+        EXPECT_EQ(IsSoilStress(problem), problem >= 1 && problem <= 3) << problem;
+        EXPECT_EQ(IsTimeSettlement(problem), problem >= 6 && problem <= 8) << problem;
+        EXPECT_EQ(IsRaft(problem), problem == 9 || problem == 10) << problem;
     }
 }
 

@@ -63,6 +63,30 @@ TEST_F(Units, AnotherSelectorGivesZeroAndEmptyBrackets) {
     }
 }
 
+TEST_F(Units, AQuantityHasTheFactorAndTheLabelOfItsUnit) {
+    Session.Len1Factor = 10;
+    Session.Len2Factor = 2;
+    Session.Force1Factor = 3;
+    const struct {
+        Unit In;
+        double Factor;
+        const char* Label;
+    } expected[] = {{Unit::None, 1, "[-]"},
+                    {Unit::PerCent, 1, "[%]"},
+                    {Unit::Length, 10, "[m]"},
+                    {Unit::Settlement, 2, "[cm]"},
+                    {Unit::Force, 3, "[kN]"},
+                    {Unit::Pressure, 0.03, "[kN/m²]"},
+                    {Unit::Moment, 30, "[kN.m]"},
+                    {Unit::UnitWeight, 0.003, "[kN/m³]"},
+                    {Unit::AreaPerTime, 100, "[m²/s]"},
+                    {Unit::LengthPerTime, 10, "[m/s]"}};
+    for (const auto& row : expected) {
+        EXPECT_DOUBLE_EQ(FactorOf(row.In), row.Factor) << row.Label;
+        EXPECT_EQ(LabelOf(row.In), row.Label);
+    }
+}
+
 TEST_F(Units, ALengthFactorOfZeroUnderTheLineIsADivisionByZero) {
     Session.Len1Factor = 0;
     for (const long selector : {0L, 3L, 4L, 7L, 8L})

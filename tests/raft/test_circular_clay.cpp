@@ -78,7 +78,7 @@ TEST_F(CircularClay, ThinAndEccentric) {
     EXPECT_LT(ForceSum(), 1.02 * 7854);
 }
 
-// Steps go upward only: from 0 the search for a negative tilt backs by halves to -0.001 in all. Deliberate.
+// Deliberate: steps go upward only; from 0 the search for a negative tilt backs by halves to -0.001 in all.
 TEST_F(CircularClay, ThinWithNegativeEccentricityStopsAtTheFirstStep) {
     Input.h = 3;
     Input.Exz_x = -0.5;

@@ -91,7 +91,7 @@ TEST_F(CircularPunch, ClosedFormSettlement) {
     for (int i = 1; i <= Session.NodeSettlement.Upper(); ++i) ASSERT_NEAR(Session.NodeSettlement(i), 15.708, 2e-6);
 }
 
-// The edge gets s0 (1 + 3 e/R) though theory has s0 (1 + 3 e/(2 R)). Deliberate.
+// Deliberate: the edge gets s0 (1 + 3 e/R) though theory has s0 (1 + 3 e/(2 R)).
 TEST_F(CircularPunch, EccentricClosedFormTiltsTwiceAsMuchAsTheory) {
     Input.Exz_x = 0.5;
     Calculate();

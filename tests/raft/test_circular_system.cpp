@@ -90,8 +90,8 @@ TEST(PolarInfluence, OwnTermOfASector) {
     }
 }
 
-// Below a sector the layer's own term takes off (2 (1 - nu) I3 + (1 + nu) h^2 I4)/(pi E A): the factor (1 + nu) of the
-// first integral is missing. Deliberate.
+// Deliberate: below a sector the layer's own term takes off (2 (1 - nu) I3 + (1 + nu) h^2 I4)/(pi E A), without the
+// factor (1 + nu) of the first integral.
 TEST(PolarInfluence, SectorOnALayerLacksOnePlusNuInItsFirstDeepTerm) {
     const PolarMesh mesh = BuildPolarMesh(6, 5);
     const double nu = 0.4, E = 7000, h = 4, p = 10;
@@ -181,8 +181,8 @@ TEST(PolarSystem, WeightsCountTheNodesOfTheRaft) {
         }
 }
 
-// With an odd ND the ray at 90 degrees does not exist, and the ray whose number equals NRing is weighted as an axis all
-// the same. Deliberate.
+// Deliberate: with an odd ND the ray at 90 degrees does not exist, and the ray whose number equals NRing is weighted as
+// an axis all the same.
 TEST(PolarSystem, AnOddNDWeighsTheRayOfTheRingCountAsAnAxis) {
     const PolarMesh mesh = BuildPolarMesh(7, 5);
     const Array<Single> weight = FoldedWeights(mesh, LoadCase::Central);

@@ -236,7 +236,8 @@ class ThinSprings : public testing::Test {
     }
     ThinClayTilt Search(LoadCase k, double momX, double momY, double tolerance) {
         const RaftEquilibrium equilibrium(k, 9, stiffness_, u_, v_, Ones(9));
-        return SearchThinClayTilt(equilibrium, 9, stiffness_, u_, v_, Ones(9), {1000, momY, momX}, 50, 100, tolerance);
+        const UnitMoments moments = SumUnitMoments(k, 9, stiffness_, u_, v_, Ones(9));
+        return SearchThinClayTilt(equilibrium, moments, u_, v_, {1000, momY, momX}, 50, 100, tolerance);
     }
     Matrix<Single> stiffness_;
     Array<Single> u_, v_;
@@ -293,7 +294,7 @@ TEST_F(ThinSprings, HugeMomentEnds) {
     EXPECT_NEAR(tilt.a, 1, 1e-4);  // 1000 steps of 0.001
     EXPECT_EQ(KindOf([&] {
                   const RaftEquilibrium equilibrium(LoadCase::AlongX, 9, stiffness_, u_, v_, Ones(9));
-                  SearchThinClayTilt(equilibrium, 9, stiffness_, u_, v_, Ones(9), {1000, 0, 200}, 0, 100, 1e-5);
+                  SearchThinClayTilt(equilibrium, {}, u_, v_, {1000, 0, 200}, 0, 100, 1e-5);
               }),
               FailureKind::DivisionByZero);  // no initial stress
 }
@@ -340,13 +341,12 @@ class ThickSprings : public testing::Test {
         const RaftEquilibrium equilibrium(k, 3, stiffness_, u_, v_, Ones(3));
         ThickClaySystem system;
         system.n = 3;
-        system.Flexibility = &flexibility_;
-        system.Stiffness = &stiffness_;
+        UseMatrices(system, flexibility_, stiffness_);
         system.Equilibrium = &equilibrium;
         system.Load = load;
         system.u = &u_;
         system.v = &v_;
-        system.TrueSettlement = [this](Array<Single>& settlement) {
+        system.TrueSettlement = [this](Array<Single>& settlement, const auto&) {
             ++passes_;
             for (int i = 1; i <= 3; ++i) settlement(i) = std::log(1 + Session.NodeForce(i));
         };
@@ -410,8 +410,7 @@ TEST_F(ThickSprings, SpreadFillsTheOtherNodes) {
     const RaftEquilibrium equilibrium(LoadCase::AlongX, 3, stiffness_, u, v, weight);
     ThickClaySystem system;
     system.n = 3;
-    system.Flexibility = &flexibility_;
-    system.Stiffness = &stiffness_;
+    UseMatrices(system, flexibility_, stiffness_);
     system.Equilibrium = &equilibrium;
     system.Load = {12, 0, 4};
     system.u = &u;
@@ -419,7 +418,7 @@ TEST_F(ThickSprings, SpreadFillsTheOtherNodes) {
     system.Spread = [](Array<Single>& values) {
         for (int i = 1; i <= 3; ++i) values(i + 3) = values(i);
     };
-    system.TrueSettlement = [](Array<Single>& settlement) {
+    system.TrueSettlement = [](Array<Single>& settlement, const auto&) {
         for (int i = 1; i <= 3; ++i) settlement(i) = std::log(1 + Session.NodeForce(i));
     };
     IterateThickClay(system);

@@ -259,46 +259,6 @@ TEST_F(RectangularRun, TooManyNodesFailAtOnce) {
     EXPECT_TRUE(folder_.Names().empty());
 }
 
-// The user may end a run at every report of progress; nothing is written then.
-class RunsThatCanBeEnded : public RectangularRun, public testing::WithParamInterface<const char*> {
-  protected:
-    // 1681 nodes, so that the run is long enough to tell how far it is.
-    void Start(int cancelAt) {
-        Fresh();
-        const std::string name = GetParam();
-        Session.A = Session.B = 20;
-        Session.PrefDx = Session.PrefDy = 0.5;
-        if (name.find("Clay") != std::string::npos) {
-            Session.ProblemType = 10;
-            Session.SoilPropertyType = 2;
-            Session.h = 40;
-        }
-        Session.AnalysisType = name.find("Punch") != std::string::npos;
-        Session.SettlementAt = false;
-        host_.ProgressReports.clear();
-        host_.CancelAtProgress(cancelAt);
-        RunRectangle();
-    }
-};
-
-TEST_P(RunsThatCanBeEnded, LeaveNothingBehind) {
-    for (const int at : {1, 2}) {
-        host_.Messages.clear();
-        Start(at);
-        EXPECT_TRUE(Session.CalcAborted);
-        EXPECT_TRUE(folder_.Names().empty());
-        EXPECT_EQ(host_.Messages.size(), 1u);
-        EXPECT_EQ(host_.ProgressReports.size(), static_cast<std::size_t>(at));
-    }
-    Start(0);
-    EXPECT_FALSE(Session.CalcAborted);
-    EXPECT_EQ(host_.ProgressReports.front(), 0);
-    EXPECT_EQ(host_.ProgressReports.back(), 1);
-    EXPECT_TRUE(std::is_sorted(host_.ProgressReports.begin(), host_.ProgressReports.end()));
-}
-
-INSTANTIATE_TEST_SUITE_P(Analyses, RunsThatCanBeEnded, testing::Values("Layer", "ThickClay", "Punch", "PunchOnClay"));
-
 // --- laws of whole runs ---
 
 // The same raft turned by a quarter gives the same settlements with its axes exchanged.

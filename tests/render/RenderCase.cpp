@@ -8,6 +8,10 @@ void RenderTest::RunExample(const std::string& name, Language language) {
         if (entry.is_regular_file())
             fs::copy_file(entry.path(), folder / entry.path().filename().string(),
                           fs::copy_options::overwrite_existing);
+    ReadAndRun(name, language);
+}
+
+void RenderTest::ReadAndRun(const std::string& name, Language language) {
     FreshSession(language);
     Session.DataDir = Session.WorkDir = folder.Dir();
     Session.ProjectName = Session.WorkName = name;

@@ -25,6 +25,8 @@ class RenderTest : public testing::Test {
   protected:
     // Runs a copy of an example in a language.
     void RunExample(const std::string& name, Language language = Language::English);
+    // Runs a project of the test's folder in a language.
+    void ReadAndRun(const std::string& name, Language language);
     static ChartArguments Chart(const std::string& choice);
     static BasContour Contour(const std::string& result);
     void TearDown() override { LanguageTexts().SetCurrent(Language::English); }

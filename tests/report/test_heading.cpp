@@ -26,6 +26,16 @@ TEST_F(Heading, ReplacesTheReportByElevenLinesInTheirOrder) {
                             "T<12>2024-05-17", "T<95>Lagerhalle, Prüffeld", "T<107>Halle17", "", std::string(60, '-')));
 }
 
+// A report goes to terminals and into documents that cannot hold every code point.
+TEST_F(Heading, WhatFilesHoldComesPrintableIntoTheReport) {
+    Session.Auftr = "\x1B]0;title\x07";
+    Session.Proj = std::string("a\0b", 3) + "\uFFFE";
+    ReportHeading();
+    const auto lines = ReportLinesOf(Session.ResultText);
+    EXPECT_EQ(lines.at(5), "T<11>\uFFFD]0;title\uFFFD");
+    EXPECT_EQ(lines.at(7), "T<95>a\uFFFDb\uFFFD");
+}
+
 TEST_F(Heading, LeavesAnEmptyParameterBlockSoThatItsFirstLineIsEmpty) {
     AddParameter("left over");
     ReportHeading();

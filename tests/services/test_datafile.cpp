@@ -6,6 +6,7 @@
 #include <random>
 
 #include "services/storage/DataFile.h"
+#include "services/storage/WrittenFile.h"
 #include "services/texts/LanguageTexts.h"
 #include "support/Files.h"
 
@@ -152,7 +153,7 @@ TEST_F(DataFile, TheFailureShowsAShortPrintablePieceOfTheLine) {
     const auto longLine = FailureOf([] { ReadSingle(1); });
     ASSERT_TRUE(longLine);
     EXPECT_EQ(longLine->Detail(), std::string(40, 'x') + "...");
-    EXPECT_EQ(FailureOf([] { ReadSingle(1); })->Detail(), "??z");
+    EXPECT_EQ(FailureOf([] { ReadSingle(1); })->Detail(), "\uFFFD\uFFFDz");
 }
 
 TEST_F(DataFile, BinaryContentIsAFailureOfEveryReader) {
@@ -403,15 +404,14 @@ TEST_F(DataFile, ANameAsLongAsTheFileSystemAllowsIsWritten) {
 }
 
 TEST_F(DataFile, AFullDiskIsAFailureWhereTheFileIsClosedOrBefore) {
-    OpenNumberedFile(1, "/dev/full", FileMode::Output);
-    WriteRawLine(1, "new");
-    EXPECT_EQ(KindOf([] { CloseNumberedFile(1); }), FailureKind::DiskFull);
-    EXPECT_FALSE(IsNumberedFileOpen(1));
-    OpenNumberedFile(1, "/dev/full", FileMode::Output);
-    EXPECT_EQ(KindOf([] {
-                  for (int i = 0; i < 100000; ++i) WriteRawLine(1, "many lines");
-              }),
-              FailureKind::DiskFull);
+    WrittenFile shortOne("/dev/full", WrittenFile::Target::FileOrDevice);
+    shortOne.Append("new");
+    EXPECT_EQ(KindOf([&] { shortOne.Commit(); }), FailureKind::DiskFull);
+    WrittenFile longOne("/dev/full", WrittenFile::Target::FileOrDevice);
+    const auto failure = FailureOf([&] { longOne.Append(std::string(1000000, 'x')); });
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->Kind(), FailureKind::DiskFull);
+    EXPECT_EQ(failure->File(), "/dev/full");
 }
 
 TEST_F(DataFile, ADiskThatFillsUpLeavesTheOldFileAndNothingElse) {

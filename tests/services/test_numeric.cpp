@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <Eigen/LU>
+#include <algorithm>
 #include <cstring>
 #include <random>
 
@@ -173,6 +174,54 @@ TEST(Invert, FailsOnASingularMatrix) {
     Matrix<Single> tiny(1, 1);
     tiny(1, 1) = std::numeric_limits<Real>::denorm_min();
     EXPECT_EQ(KindOf([&] { NumericLib::Invert(1, tiny, inverse); }), FailureKind::SingularMatrix);
+}
+
+// The longest stretch without a word is a block of columns, however many threads work.
+TEST(Invert, TellsHowFarItIs) {
+    const Matrix<Single> m = Flexibility(960);
+    for (const int threads : {1, 2}) {
+        std::vector<Real> items = Stored(m);
+        std::vector<double> told = {0};
+        detail::InvertInPlace(960, items.data(), detail::WidestSimdLevel(), threads,
+                              [&](double part) { told.push_back(part); });
+        EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));
+        EXPECT_EQ(told.back(), 1);
+        for (std::size_t i = 1; i < told.size(); ++i) EXPECT_LE(told[i] - told[i - 1], 96.0 / 960);
+        if (threads == 1) {
+            EXPECT_GT(told.size(), 100u);
+        }
+    }
+    Matrix<Single> inverse;
+    int calls = 0;
+    NumericLib::Invert(300, Flexibility(300), inverse, [&](double) { ++calls; });
+    EXPECT_GT(calls, 0);
+}
+
+// What the listener throws ends the work, wherever it is, and no thread goes on behind it.
+TEST(Invert, EndsWhenItsListenerWantsItTo) {
+    struct Enough {};
+    const Matrix<Single> m = Flexibility(960);
+    for (const double end : {0.0, 0.3, 0.9, 0.99, 1.0}) {
+        std::vector<Real> items = Stored(m);
+        int later = 0;
+        EXPECT_THROW(detail::InvertInPlace(960, items.data(), detail::WidestSimdLevel(), 3,
+                                           [&](double part) {
+                                               if (part < end) return;
+                                               ++later;
+                                               throw Enough();
+                                           }),
+                     Enough);
+        EXPECT_EQ(later, 1);
+    }
+}
+
+TEST(MatVec, TellsHowFarItIs) {
+    Matrix<Single> m(600, 600);
+    Array<Single> x(1, 600), y;
+    std::vector<double> told;
+    NumericLib::MatVec(600, m, x, y, [&](double part) { told.push_back(part); });
+    EXPECT_FALSE(told.empty());
+    EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));
 }
 
 TEST(Invert, TakesTheLeadingPartAndWorksInPlace) {

@@ -1,4 +1,5 @@
 #include <gmock/gmock.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <zip.h>
@@ -170,15 +171,102 @@ TEST_F(ProjectStoreTest, ALinkIsTheUsersOwnAndStays) {
     EXPECT_EQ(ReadBytes(folder / "Raft1.BAU"), "shared");
 }
 
-TEST_F(ProjectStoreTest, WhatAnOldCrashLeftBehindIsTidiedUp) {
+// A file system or a copy may keep whole seconds alone.
+TEST_F(ProjectStoreTest, ANewerFileWinsInTheSameSecondToo) {
     EXPECT_TRUE(Pack());
-    WriteBytes(folder / ".lithmark-1-1.tmp", "old");
-    WriteBytes(folder / ".lithmark-1-2.tmp", "in use");
-    std::filesystem::last_write_time(folder / ".lithmark-1-1.tmp",
-                                     std::filesystem::file_time_type::clock::now() - std::chrono::hours(25));
+    const auto packed = std::filesystem::last_write_time(folder / "Raft1.PO3");
+    const auto second = std::chrono::floor<std::chrono::seconds>(packed);
+    WriteBytes(folder / "Raft1.RDE", "saved at once");
+    std::filesystem::last_write_time(folder / "Raft1.RDE", second);
+    WriteBytes(folder / "Raft1.AUF", "a second older");
+    std::filesystem::last_write_time(folder / "Raft1.AUF", second - std::chrono::nanoseconds(1));
     EXPECT_TRUE(Unpack());
-    EXPECT_FALSE(std::filesystem::exists(folder / ".lithmark-1-1.tmp"));
-    EXPECT_TRUE(std::filesystem::exists(folder / ".lithmark-1-2.tmp"));
+    EXPECT_EQ(ReadBytes(folder / "Raft1.RDE"), "saved at once");
+    EXPECT_EQ(ReadBytes(folder / "Raft1.AUF"), kProject.at("Raft1.AUF"));
+}
+
+// Only a regular file is passed over for: anything else in the way stops the unpacking, and the archive stays.
+TEST_F(ProjectStoreTest, ANewerFolderOrPipeIsNoNewerFile) {
+    EXPECT_TRUE(Pack());
+    const std::string archive = ReadBytes(folder / "Raft1.PO3");
+    std::filesystem::create_directory(folder / "Raft1.RDE");
+    EXPECT_FALSE(Unpack());
+    EXPECT_EQ(ReadBytes(folder / "Raft1.PO3"), archive);
+    std::filesystem::remove(folder / "Raft1.RDE");
+    ASSERT_EQ(::mkfifo((folder / "Raft1.RDE").c_str(), 0600), 0);
+    EXPECT_FALSE(Unpack());
+    EXPECT_EQ(ReadBytes(folder / "Raft1.PO3"), archive);
+    EXPECT_THAT(host.Messages, SizeIs(2));
+    std::filesystem::remove(folder / "Raft1.RDE");
+    EXPECT_TRUE(Unpack());
+    EXPECT_EQ(Content(), kProject);
+}
+
+// --- other programs ------------------------------------------------------------------------------------------------
+
+// Saves a file as programs do, by a rename, and as others do, in place.
+void SaveMeanwhile(const std::string& path, const std::string& content, bool byRename) {
+    if (!byRename) return WriteBytes(path, content);
+    WriteBytes(path + "~", content);
+    std::filesystem::rename(path + "~", path);
+}
+
+TEST_F(ProjectStoreTest, AFileThatAnotherProgramSavesWhileItIsPackedIsNeverLost) {
+    for (const bool byRename : {true, false})
+        for (int step = 0; step < 8; ++step) {
+            Write(kProject);
+            int left = step;
+            ProjectStore().BetweenSteps = [&] {
+                if (left-- == 0) SaveMeanwhile(folder / "Raft1.RDE", "saved meanwhile", byRename);
+            };
+            EXPECT_TRUE(Pack());
+            ProjectStore().BetweenSteps = nullptr;
+            if (left >= 0) break;  // the packing has no such step
+            EXPECT_TRUE(Unpack());
+            Files expected = kProject;
+            expected["Raft1.RDE"] = "saved meanwhile";
+            EXPECT_EQ(Content(), expected) << step << byRename;
+        }
+}
+
+TEST_F(ProjectStoreTest, AProjectThatKeepsChangingStaysPlain) {
+    int change = 0;
+    ProjectStore().BetweenSteps = [&] { WriteBytes(folder / "Raft1.RDE", std::string(++change, 'x')); };
+    EXPECT_TRUE(Pack());
+    EXPECT_FALSE(IsArchiveFile(folder / "Raft1.PO3"));
+    EXPECT_EQ(ReadBytes(folder / "Raft1.RDE"), std::string(change, 'x'));
+    EXPECT_EQ(Content().size(), kProject.size());
+    EXPECT_THAT(host.Messages, IsEmpty());
+}
+
+TEST_F(ProjectStoreTest, AProjectFileSavedMeanwhileIsNotReplaced) {
+    ProjectStore().BetweenSteps = [&] { SaveMeanwhile(folder / "Raft1.PO3", "Version 9\r\n10\r\n0\r\n", true); };
+    EXPECT_TRUE(Pack());
+    EXPECT_EQ(ReadBytes(folder / "Raft1.PO3"), "Version 9\r\n10\r\n0\r\n");
+}
+
+TEST_F(ProjectStoreTest, AProjectThatAnArchiveMustNotHoldStaysPlain) {
+    std::filesystem::resize_file(folder / "Raft1.TO1", kMostArchivedBytes);
+    EXPECT_TRUE(Pack());
+    EXPECT_FALSE(IsArchiveFile(folder / "Raft1.PO3"));
+    EXPECT_TRUE(std::filesystem::exists(folder / "Raft1.RDE"));
+}
+
+// --- an archive is replaced by unpacking alone ---------------------------------------------------------------------
+
+TEST_F(ProjectStoreTest, ASaveIntoAPackedProjectUnpacksItFirst) {
+    EXPECT_TRUE(Pack());
+    const auto lock = ProjectStore().BeginSave(folder / "Raft1");
+    EXPECT_NE(lock, nullptr);
+    Files content = Content();
+    content.erase(".lithmark-Raft1.lock");
+    EXPECT_EQ(content, kProject);
+}
+
+TEST_F(ProjectStoreTest, ASaveIntoADamagedArchiveIsRefused) {
+    WriteBytes(folder / "Raft1.PO3", "PK\x03\x04 broken");
+    EXPECT_EQ(KindOf([this] { return ProjectStore().BeginSave(folder / "Raft1"); }), FailureKind::DamagedArchive);
+    EXPECT_EQ(ReadBytes(folder / "Raft1.PO3"), "PK\x03\x04 broken");
 }
 
 // --- damage --------------------------------------------------------------------------------------------------------
@@ -227,8 +315,28 @@ TEST_F(ProjectStoreTest, EntriesThatAreNoProjectFilesOrWouldLeaveTheFolderAreRef
 
 TEST_F(ProjectStoreTest, AnArchiveThatSwellsBeyondAllMeasureIsRefused) {
     const std::string archive = BuildArchive("Raft1", {{"PO3", "p"}, {"TO1", std::string(999, '0')}});
-    EXPECT_EQ(KindOf([&] { ReadArchive(archive, 999); }), FailureKind::DamagedArchive);
+    EXPECT_EQ(KindOf([&] { ReadArchive(archive, 999); }), FailureKind::ArchiveTooLarge);
     EXPECT_EQ(ReadArchive(archive, 1000).size(), 2u);
+}
+
+// The length that an archive claims is taken for nothing: here 0x3FFFFFFF bytes, out of one.
+TEST_F(ProjectStoreTest, WhatAnArchiveSaysOfItsSizeTakesNoMemory) {
+    std::string archive = BuildArchive("Raft1", {{"PO3", "p"}, {"SSD", std::string(70, '0')}});
+    const std::string size("\x46\0\0\0", 4), claimed("\xFF\xFF\xFF\x3F", 4);
+    int places = 0;
+    for (std::size_t at = 0; (at = archive.find(size, at)) != std::string::npos; ++places)
+        archive.replace(at, 4, claimed);
+    ASSERT_EQ(places, 2);  // in the entry's own head and in the archive's list
+    const rlim_t kLittle = rlim_t{512} << 20;
+    rlimit before{};
+    ::getrlimit(RLIMIT_AS, &before);
+#ifndef __SANITIZE_ADDRESS__
+    const rlimit little{kLittle, before.rlim_max};
+    ::setrlimit(RLIMIT_AS, &little);
+#endif
+    const auto kind = KindOf([&] { ReadArchive(archive); });
+    ::setrlimit(RLIMIT_AS, &before);
+    EXPECT_EQ(kind, FailureKind::DamagedArchive);
 }
 
 // A reader of archives gives files or DamagedArchive, whatever the bytes.

@@ -151,7 +151,7 @@ TEST(Host, AHostOffersNothingButSilentMessagesUnlessItSaysSo) {
     EXPECT_THROW(host.PrintText("", "", 8, false), Failure);
     EXPECT_THROW(host.OpenWordProcessor("", "", 8, false), Failure);
     EXPECT_THROW(host.SetClipboardText(""), Failure);
-    EXPECT_THROW(host.StartProcess(""), Failure);
+    EXPECT_THROW(host.StartProcess("", {}), Failure);
 }
 
 }  // namespace

@@ -83,6 +83,41 @@ TEST_F(Settings, AStoreThatCannotBeWrittenIsToldOnce) {
     EXPECT_FALSE(SharedServices().GetSetting("App", "Settings", "A", false));
 }
 
+// What cannot be read may hold everything that its user set.
+TEST_F(Settings, AStoreThatCannotBeReadIsToldOnceAndNotReplaced) {
+    SharedServices().SaveSetting("App", "Settings", "A", true);
+    const std::string store = ReadBytes(folder / "settings.json");
+    std::filesystem::rename(folder / "settings.json", folder / "real");
+    std::filesystem::create_symlink("settings.json", folder / "settings.json");  // a ring of links
+    EXPECT_FALSE(SharedServices().GetSetting("App", "Settings", "A", false));
+    SharedServices().SaveSetting("App", "Settings", "A", false);
+    SharedServices().SaveSetting("App", "Settings", "B", false);
+    ASSERT_THAT(host.Messages, SizeIs(1));
+    EXPECT_THAT(host.LastMessage().Text, AllOf(HasSubstr("settings.json"), HasSubstr("stay as they are")));
+    EXPECT_TRUE(std::filesystem::is_symlink(folder / "settings.json"));
+    std::filesystem::rename(folder / "real", folder / "settings.json");
+    EXPECT_EQ(ReadBytes(folder / "settings.json"), store);
+    EXPECT_TRUE(SharedServices().GetSetting("App", "Settings", "A", false));
+}
+
+TEST_F(Settings, AStoreOfBracketsInBracketsTakesNoMemory) {
+    const std::string deep = "{\"a\":" + std::string(3000000, '[');
+    WriteBytes(folder / "settings.json", deep);
+    EXPECT_TRUE(SharedServices().GetSetting("App", "Settings", "A", true));
+    EXPECT_EQ(ReadBytes(folder / "settings.json.damaged"), deep);
+    WriteBytes(folder / "settings.json", R"({"App": {"Settings": {"A": "[[[[[[[[[[[[[[[[[[[[\"[[[[[["}}})");
+    EXPECT_EQ(SharedServices().GetSetting("App", "Settings", "A", ""), "[[[[[[[[[[[[[[[[[[[[\"[[[[[[");
+}
+
+TEST_F(Settings, AHugeStoreIsNotRead) {
+    WriteBytes(folder / "settings.json", "{}");
+    std::filesystem::resize_file(folder / "settings.json", std::uintmax_t{600} << 30);
+    EXPECT_TRUE(SharedServices().GetSetting("App", "Settings", "A", true));
+    SharedServices().SaveSetting("App", "Settings", "A", false);
+    ASSERT_THAT(host.Messages, SizeIs(1));
+    EXPECT_EQ(std::filesystem::file_size(folder / "settings.json"), std::uintmax_t{600} << 30);
+}
+
 TEST_F(Settings, TheStoresFolderIsMadeWhenItIsNeeded) {
     SharedServices().UseSettingsDirectory(folder / "new/deep");
     SharedServices().SaveSetting("App", "Settings", "A", true);
@@ -109,6 +144,14 @@ TEST_F(Settings, TheSettingFileTellsDataDirectoryAndPacking) {
     directories = SharedServices().GetDirectories();
     EXPECT_EQ(directories.DataDir, "/data/old projects/");
     EXPECT_EQ(directories.CompressFlag, 0);
+}
+
+TEST_F(Settings, AnOverlongWordOfAUnitIsCutInTheMessage) {
+    WriteBytes(folder / "Units", "[" + std::string(100000, 'x') + "\x1B[2J],1\r\n");
+    SharedServices().GetUnits(folder.Dir());
+    ASSERT_THAT(host.Messages, SizeIs(1));
+    EXPECT_LT(host.LastMessage().Text.size(), 200u + folder.Dir().size());
+    EXPECT_THAT(host.LastMessage().Text, HasSubstr("[xxx"));
 }
 
 TEST_F(Settings, ADamagedSettingFileIsToldAndCountsAsMissing) {

@@ -12,8 +12,13 @@ const std::filesystem::path& TestOutputDir() {
     return path;
 }
 
+const std::filesystem::path& BuildDir() {
+    static const std::filesystem::path path = LITHMARK_BUILD_DIR;
+    return path;
+}
+
 const std::filesystem::path& CommandLineTool() {
-    static const std::filesystem::path path = LITHMARK_CLI;
+    static const std::filesystem::path path = BuildDir() / "cli/lithmark-cli";
     return path;
 }
 

@@ -191,8 +191,8 @@ void ScriptedHost::SetClipboardText(const std::string& text) {
     ClipboardTexts.push_back(text);
 }
 
-void ScriptedHost::StartProcess(const std::string& commandLine) {
-    Processes.push_back(commandLine);
+void ScriptedHost::StartProcess(const std::string& program, const std::vector<std::string>& arguments) {
+    Processes.push_back({program, arguments});
 }
 
 Control* UsableControl(Form& form, std::string_view name) {

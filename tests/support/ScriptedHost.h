@@ -85,8 +85,9 @@ class ScriptedHost : public Host {
     std::vector<std::string> FolderQuestions;  // the start folders
     std::vector<TableEdit> TablesShown;        // as the editor got them
     std::vector<Message> HelpTexts;
-    std::vector<std::string> HelpTopics, EditorTexts, ClipboardTexts, Processes;
-    std::vector<std::pair<std::string, std::string>> FileLists;  // folder, extension
+    std::vector<std::string> HelpTopics, EditorTexts, ClipboardTexts;
+    std::vector<std::pair<std::string, std::vector<std::string>>> Processes;  // program, arguments
+    std::vector<std::pair<std::string, std::string>> FileLists;               // folder, extension
     std::vector<ChartArguments> Charts;
     std::vector<SentText> Printed, WordTexts;
     std::vector<PointerShape> Pointers;
@@ -128,7 +129,7 @@ class ScriptedHost : public Host {
     void PrintText(const std::string& text, const std::string& font, int size, bool rightToLeft) override;
     void OpenWordProcessor(const std::string& text, const std::string& font, int size, bool rightToLeft) override;
     void SetClipboardText(const std::string& text) override;
-    void StartProcess(const std::string& commandLine) override;
+    void StartProcess(const std::string& program, const std::vector<std::string>& arguments) override;
 
   private:
     static void FailOnAnotherForm(const Form& form);

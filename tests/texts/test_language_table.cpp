@@ -138,21 +138,20 @@ TEST(LanguageTableTest, AColonOrQuestionMarkAtTheEndStandsInAllThreeLanguages) {
                 IsEmpty());
 }
 
-// Captions that users know in this very wording, doubled blanks, a misspelling and abbreviations included. Kept: they
-// are not to be mended.
+// Deliberate: these captions stand in this very wording, doubled blanks and abbreviations included.
 TEST(LanguageTableTest, KnownCaptionsKeepTheirOddWording) {
     struct Caption {
         int Number;
         Language In;
         std::string_view Wording;
     };
-    constexpr Caption kKept[] = {
+    constexpr Caption kCaptions[] = {
         {10018, Language::German, "Die folgenden Daten nicht gefunden:"},
         {10141, Language::German, "Längen  (1): Tiefen, Koordinaten, Abmessungen, Dicken"},
         {10142, Language::German, "Längen  (2): Bewehrung, Betondeckung, Setzungen, Exzentrizität"},
         {10144, Language::German, "Kräfte (2): Durchstanzenspannung, Steifemodul, Elastizitätsmodul"},
     };
-    for (const Caption& caption : kKept)
+    for (const Caption& caption : kCaptions)
         EXPECT_EQ(TextIn(*FindLanguageRow(caption.Number), caption.In), caption.Wording) << caption.Number;
 }
 

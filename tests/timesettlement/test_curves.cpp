@@ -138,7 +138,7 @@ TEST_F(Curves, OedometerWithOneSidedDrainageUsesTheWholeLayerAndNeverHalvesTheSp
     EXPECT_NEAR(run.CurveTime(2), 60 * 64 / (0.019 * 0.019 * 86400), 1e-3);
 }
 
-TEST_F(Curves, OedometerReadingsInMillimetresStillCountAsPerCentKept) {
+TEST_F(Curves, OedometerReadingsInMillimetresStillCountAsPerCentDeliberately) {
     StartTimeSettlement(7);
     ASSERT_EQ(Session.OedUnit, Text(42_text));
     TimeSettlementRun run;

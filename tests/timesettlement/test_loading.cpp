@@ -121,8 +121,8 @@ TEST_F(Loading, ARunLeavesNothingOfTheOneBefore) {
     }
 }
 
-// Row (4, 50) fills the slots up to 4 with 0; row (2, 100) overwrites slot 2, and what follows slot 5, which no row has
-// reached, stays without load; kept.
+// Deliberate: a history is taken in the order in which it stands. Row (4, 50) fills the slots up to 4 with 0; row
+// (2, 100) overwrites slot 2, and what follows slot 5, which no row has reached, stays without load.
 TEST_F(Loading, AHistoryOutOfOrderEndsWithoutLoadBehindItsLatestTime) {
     SetLoads({{4, 50}, {2, 100}});
     RunWell();
@@ -131,7 +131,7 @@ TEST_F(Loading, AHistoryOutOfOrderEndsWithoutLoadBehindItsLatestTime) {
     EXPECT_EQ(Session.LoadCurve(70), 0);
 }
 
-// Slot 0 is the state ahead of the first time: the row after it comes one slot too early and is not held; kept.
+// Deliberate: slot 0 is the state ahead of the first time; the row after it comes one slot too early and is not held.
 TEST_F(Loading, ARowAtTimeZeroLeavesTheRowAfterItUnheld) {
     SetLoads({{0, 30}, {1, 100}});
     RunWell();

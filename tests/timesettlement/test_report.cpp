@@ -136,7 +136,7 @@ TEST_F(TimeReport, AMeasuredSettlementOfZeroLeavesOutFactorAndCorrection) {
 
 // Lengths in mm and forces in N: the tables are scaled, settlements and thicknesses of the parameters keep their
 // numbers.
-TEST_F(TimeReport, OtherUnitsScaleTheTablesAndForcesButNotTheSettlementsOfTheParametersKept) {
+TEST_F(TimeReport, OtherUnitsScaleTheTablesAndForcesButNotTheSettlementsOfTheParametersDeliberately) {
     StartTimeSettlement(7);
     Session.Len1Label = Text(42_text);
     Session.Len1Factor = 1000;
@@ -157,7 +157,7 @@ TEST_F(TimeReport, OtherUnitsScaleTheTablesAndForcesButNotTheSettlementsOfThePar
     EXPECT_EQ(Words(RowOf("T2", 1))[3], text);
 }
 
-TEST_F(TimeReport, OedometerRowsTellTheLastReadingWithoutItsUnitKept) {
+TEST_F(TimeReport, OedometerRowsTellTheLastReadingWithoutItsUnitDeliberately) {
     StartTimeSettlement(7);
     RunReport();
     const auto reading = std::find_if(lines.begin(), lines.end(), [](const std::string& line) {
@@ -174,7 +174,7 @@ TEST_F(TimeReport, OedometerRowsTellTheLastReadingWithoutItsUnitKept) {
     EXPECT_EQ(Words(RowOf("T2", 18))[1], "1.31");
 }
 
-TEST_F(TimeReport, TheoryTellsCvTwiceWhereItIsComputedKept) {
+TEST_F(TimeReport, TheoryTellsCvTwiceWhereItIsComputedDeliberately) {
     StartTimeSettlement(8);
     RunReport();
     EXPECT_EQ(CountOf("Cv"), 2);

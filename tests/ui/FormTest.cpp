@@ -4,6 +4,9 @@
 #include <filesystem>
 
 #include "core/StartSession.h"
+#include "report/Notices.h"
+#include "services/ProjectStore.h"
+#include "services/SharedServices.h"
 #include "ui/frmResultTools.h"
 #include "ui/model/ResultViewer.h"
 
@@ -15,10 +18,12 @@ FormTest::FormTest() {
     SharedServices().UseSettingsDirectory(folder_ / "settings/");
     SharedServices().DecimalSign = '.';
     SetResultViewer(ShowResultTools);
+    Notices().Clear();
     StartIn(Language::English);
 }
 
 FormTest::~FormTest() {
+    ProjectStore().LeaveProject();
     SharedServices().UseSettingsDirectory("");
     LanguageTexts().SetCurrent(Language::English);
     ResetSession();
@@ -35,7 +40,8 @@ void FormTest::StartIn(Language language) {
 
 std::vector<std::string> FormTest::DataFiles() const {
     std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(DataDir())) names.push_back(entry.path().filename());
+    for (const auto& entry : std::filesystem::directory_iterator(DataDir()))
+        if (entry.path().extension() != ".lock") names.push_back(entry.path().filename());
     std::sort(names.begin(), names.end());
     return names;
 }

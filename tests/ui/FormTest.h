@@ -11,6 +11,7 @@
 
 #include "core/Session.h"
 #include "core/StartSession.h"
+#include "services/ProjectStore.h"
 #include "services/SharedServices.h"
 #include "services/texts/LanguageTexts.h"
 #include "support/Files.h"
@@ -28,7 +29,7 @@ class FormTest : public ::testing::Test {
     std::string DataDir() const { return folder_ / "data/"; }
     std::string DataFile(const std::string& name) const { return DataDir() + name; }
     std::string SettingsFile(const std::string& name) const { return Session.ProgramDir + name; }
-    // Names of the files in the project's folder.
+    // Names of the files in the project's folder, without the lock of the open project.
     std::vector<std::string> DataFiles() const;
 
     // Shows a form of type F and plays a script on it.

@@ -167,28 +167,4 @@ TEST_F(FieldForms, InputsAreWhatTheUserCanChange) {
     EXPECT_EQ(form.Inputs(), before);
 }
 
-TEST(FieldUnits, EachUnitHasItsFactorAndLabel) {
-    StartSession();
-    Session.Len1Factor = 10;  // base units otherwise
-    Session.Len2Factor = 2;
-    Session.Force1Factor = 3;
-    EXPECT_EQ(FactorOf(Unit::None), 1);
-    EXPECT_EQ(FactorOf(Unit::Length), 10);
-    EXPECT_EQ(FactorOf(Unit::Settlement), 2);
-    EXPECT_EQ(FactorOf(Unit::Force), 3);
-    EXPECT_DOUBLE_EQ(FactorOf(Unit::Pressure), 0.03);
-    EXPECT_DOUBLE_EQ(FactorOf(Unit::UnitWeight), 0.003);
-    EXPECT_DOUBLE_EQ(FactorOf(Unit::AreaPerTime), 100);
-    EXPECT_DOUBLE_EQ(FactorOf(Unit::LengthPerTime), 10);
-    EXPECT_EQ(LabelOf(Unit::None), "[-]");
-    EXPECT_EQ(LabelOf(Unit::Length), "[m]");
-    EXPECT_EQ(LabelOf(Unit::Settlement), "[cm]");
-    EXPECT_EQ(LabelOf(Unit::Force), "[kN]");
-    EXPECT_EQ(LabelOf(Unit::Pressure), "[kN/m²]");
-    EXPECT_EQ(LabelOf(Unit::UnitWeight), "[kN/m³]");
-    EXPECT_EQ(LabelOf(Unit::AreaPerTime), "[m²/s]");
-    EXPECT_EQ(LabelOf(Unit::LengthPerTime), "[m/s]");
-    ResetSession();
-}
-
 }  // namespace

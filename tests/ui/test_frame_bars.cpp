@@ -56,7 +56,7 @@ TEST_F(FrameBars, TheWordsOfABarStandInTheOrderOfTheControl) {
     EXPECT_THAT(frame.Bars[0].Words, ElementsAre("T<68>", "T<70>", "T<69>"));
 }
 
-// The keys of the last bars do not say what they hold; existing settings rely on them.
+// Deliberate: the keys of the last bars do not say what they hold.
 TEST_F(FrameBars, TheSettingsKeysOfTheBarsAreCrossed) {
     Start();
     EXPECT_EQ(frame.Bars[0].SettingsKey, "File Bar");

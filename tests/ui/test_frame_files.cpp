@@ -51,6 +51,7 @@ TEST_F(FrameFiles, SaveAsLeavesOutWhatIsNotTicked) {
 TEST_F(FrameFiles, SaveAsKnowsTheFileOfEveryEntry) {
     const std::map<int, const char*> extensions = {{2, "SSD"}, {3, "SSD"}, {4, "CON"}, {5, "RAT"},
                                                    {6, "TST"}, {7, "RDE"}, {8, "RCO"}, {9, "SC1"}};
+    WriteBytes(DataFile("P1.PO3"), Lines({"Version 9", "7", "0"}));
     for (const auto& [entry, extension] : extensions) {
         frame.NewProjectState();
         Session.ProjectName = "P1";
@@ -60,8 +61,75 @@ TEST_F(FrameFiles, SaveAsKnowsTheFileOfEveryEntry) {
         host.AnswerFileToSave(DataFile(name));
         frame.m_cMenu_Click("mnuSaveProjectAs");
         EXPECT_EQ(ReadBytes(DataFile(name + "." + extension)), extension);
-        EXPECT_FALSE(std::filesystem::exists(DataFile(name + ".PO3")));
     }
+}
+
+// Time-settlement projects have no heading file when their method alone was saved.
+TEST_F(FrameFiles, SaveAsCopiesTheProjectFileAlwaysAndTheHeadingIfThereIsOne) {
+    for (const bool heading : {true, false}) {
+        WriteProject("P1", 7);
+        WriteBytes(DataFile("P1.TST"), "data");
+        if (!heading) std::filesystem::remove(DataFile("P1.AUF"));
+        OpenByDialog("P1.PO3");
+        const std::string name = heading ? "Q" : "R";
+        host.AnswerFileToSave(DataFile(name));
+        frame.m_cMenu_Click("mnuSaveProjectAs");
+        EXPECT_EQ(ReadBytes(DataFile(name + ".PO3")), Lines({"Version 9", "7", "0"}));
+        EXPECT_EQ(ReadBytes(DataFile(name + ".TST")), "data");
+        EXPECT_EQ(std::filesystem::exists(DataFile(name + ".AUF")), heading);
+        // A copy that was made can be opened.
+        OpenByDialog("P1.PO3");
+        OpenByDialog(name + ".PO3");
+        EXPECT_EQ(Session.ProjectName, name);
+        EXPECT_EQ(Session.ProblemType, 7);
+        EXPECT_EQ(TickedProblems(), heading ? std::vector<int>({0, 6}) : std::vector<int>({6}));
+    }
+    EXPECT_THAT(host.Messages, IsEmpty());
+}
+
+TEST_F(FrameFiles, SaveAsThatCannotWriteLeavesTheOldProjectOpenAndSaysSoOnce) {
+    OpenStressProject("P1");
+    std::filesystem::create_directory(DataFile("folder.PO3"));
+    std::filesystem::create_directory(DataFile("data.SSD"));
+    WriteBytes(DataFile("packed.PO3"), "PK\x03\x04 broken");
+    const std::vector<std::string> before = DataFiles();
+    for (const char* name : {"folder", "data", "packed", "no/such/folder/Q"}) {
+        SCOPED_TRACE(name);
+        host.Messages.clear();
+        host.AnswerFileToSave(DataFile(name));
+        frame.m_cMenu_Click("mnuSaveProjectAs");
+        ASSERT_EQ(host.Messages.size(), 1u);
+        EXPECT_THAT(host.LastMessage().Text, HasSubstr(name));
+        EXPECT_EQ(Session.ProjectName, "P1");
+        EXPECT_EQ(Session.ProjectFile, DataFile("P1.PO3"));
+        EXPECT_EQ(Session.DataDir, DataDir());
+        EXPECT_EQ(frame.Caption, "Lithmark - [P1]");
+        EXPECT_THAT(Recent(), ElementsAre(DataFile("P1.PO3")));
+        EXPECT_EQ(DataFiles(), before);  // nothing of a copy either
+    }
+}
+
+TEST_F(FrameFiles, SaveAsOnAFullDiskLeavesTheOldProjectAndNoPieceOfACopy) {
+    OpenStressProject("P1");
+    const std::vector<std::string> before = DataFiles();
+    EXPECT_TRUE(OnAFullDisk(20, [&] {
+        host.AnswerFileToSave(DataFile("Q"));
+        frame.m_cMenu_Click("mnuSaveProjectAs");
+        return host.Messages.size() == 1 && Session.ProjectName == "P1" && frame.Caption == "Lithmark - [P1]";
+    }));
+    EXPECT_EQ(DataFiles(), before);
+}
+
+TEST_F(FrameFiles, SaveAsOntoAPackedProjectUnpacksItFirst) {
+    WriteStressProject("Q");
+    WriteBytes(DataFile("Q.CON"), "of another problem");
+    ASSERT_TRUE(ProjectStore().PackProject(DataFile("Q"), 7, "", ".po3"));
+    OpenStressProject("P1");
+    host.AnswerFileToSave(DataFile("Q"));
+    frame.m_cMenu_Click("mnuSaveProjectAs");
+    EXPECT_EQ(Session.ProjectName, "Q");
+    EXPECT_EQ(ReadBytes(DataFile("Q.AUF")), Lines({"Order P1", "1 May", "House P1"}));
+    EXPECT_EQ(ReadBytes(DataFile("Q.CON")), "of another problem");
 }
 
 TEST_F(FrameFiles, SaveAsOntoTheSameNameChangesNothing) {
@@ -83,17 +151,6 @@ TEST_F(FrameFiles, SaveAsDoesNothingWithoutAProjectOrWhenCancelled) {
     host.AnswerFileToSave(std::nullopt);
     frame.m_cMenu_Click("mnuSaveProjectAs");
     EXPECT_THAT(DataFiles(), ElementsAre("P1.AUF", "P1.PO3", "P1.SSD"));
-}
-
-TEST_F(FrameFiles, SaveAsTellsAFileThatItCannotCopyAndCopiesTheOthers) {
-    OpenStressProject("P1");
-    std::filesystem::remove(DataFile("P1.AUF"));
-    host.AnswerFileToSave(DataFile("Q"));
-    frame.m_cMenu_Click("mnuSaveProjectAs");
-    EXPECT_THAT(DataFiles(), ElementsAre("P1.PO3", "P1.SSD", "Q.PO3", "Q.SSD"));
-    ASSERT_EQ(host.Messages.size(), 1u);
-    EXPECT_THAT(host.LastMessage().Text, HasSubstr("P1.AUF"));
-    EXPECT_EQ(Session.ProjectName, "Q");
 }
 
 TEST_F(FrameFiles, TheFileListUnpacksTheOpenProject) {

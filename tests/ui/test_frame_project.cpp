@@ -92,8 +92,7 @@ TEST_F(FrameProject, ADialogClosedAtItsCornerCountsAsCancelled) {
     EXPECT_THAT(Recent(), ElementsAre(DataFile("P1.PO3")));
 }
 
-// The entries are disabled before the question is asked.
-TEST_F(FrameProject, StayingWithAnIncompleteProjectKeepsItButDisablesItsMenu) {
+TEST_F(FrameProject, StayingAtANewProjectLeavesTheFrameAsItWas) {
     WriteProject("P1", 1);
     GoOn();
     OpenByDialog("P1.PO3");
@@ -101,8 +100,9 @@ TEST_F(FrameProject, StayingWithAnIncompleteProjectKeepsItButDisablesItsMenu) {
     frame.m_cMenu_Click("mnuNewProject");
     EXPECT_EQ(Session.ProjectName, "P1");
     EXPECT_EQ(frame.Caption, "Lithmark - [P1]");
-    EXPECT_FALSE(Enabled("mnuMainProblem"));
-    EXPECT_FALSE(Enabled("mnuSaveProjectAs"));
+    EXPECT_TRUE(Enabled("mnuMainProblem"));
+    EXPECT_TRUE(Enabled("mnuSaveProjectAs"));
+    EXPECT_THAT(VisibleProblems(), ElementsAre(0, 1));
     EXPECT_THAT(host.FormsShown, ElementsAre("frmProjectCheck", "frmProjectCheck"));
 }
 
@@ -172,12 +172,6 @@ TEST_F(FrameProject, AFileOfAnotherExtensionOpensNothing) {
     EXPECT_THAT(Recent(), ElementsAre(DataFile("P1.PO3")));
     EXPECT_THAT(DataFiles(), ElementsAre("P1.AUF", "P1.PO3", "P1.SSD", "note.txt"));
 
-    WriteProject("P2", 4);
-    Session.ProjectFile = DataFile("P2.txt");
-    Session.ProjectName = "P2";
-    frame.OpenProject();
-    EXPECT_EQ(Session.ProblemType, 1);
-    EXPECT_EQ(frame.Caption, "Lithmark - [P1]");
     EXPECT_THAT(host.Messages, IsEmpty());
 }
 
@@ -198,17 +192,6 @@ TEST_F(FrameProject, AProjectWithoutAHeadingFileHasNoneOfTheProjectBefore) {
     EXPECT_EQ(Session.Proj, "");
     EXPECT_THAT(TickedProblems(), ElementsAre(1));
     EXPECT_THAT(host.FormsShown, IsEmpty());  // a missing heading file is on no list
-}
-
-TEST_F(FrameProject, ADamagedProjectFileIsToldAndTheMenuStays) {
-    OpenStressProject("P1");
-    WriteBytes(DataFile("P2.PO3"), "Version 9\r\nabc\r\n");
-    OpenByDialog("P2.PO3");
-    ASSERT_EQ(host.Messages.size(), 1u);
-    EXPECT_THAT(host.LastMessage().Text, HasSubstr("P2.PO3"));
-    EXPECT_EQ(frame.Caption, "Lithmark - [P1]");
-    EXPECT_THAT(VisibleProblems(), ElementsAre(0, 1));
-    EXPECT_EQ(host.Pointer(), PointerShape::Default);
 }
 
 TEST_F(FrameProject, AProblemNumberThatDoesNotExistShowsNoProblem) {
@@ -338,15 +321,6 @@ TEST_F(FrameProject, OpeningTheOpenProjectAgainPacksNothing) {
     OpenStressProject("P1");
     OpenByDialog("P1.PO3");
     EXPECT_THAT(DataFiles(), ElementsAre("P1.AUF", "P1.PO3", "P1.SSD"));
-}
-
-TEST_F(FrameProject, ADamagedArchiveIsToldOnceAndLeftAlone) {
-    const std::string archive = "PK\x03\x04 broken";
-    WriteBytes(DataFile("P1.PO3"), archive);
-    OpenByDialog("P1.PO3");
-    EXPECT_EQ(host.Messages.size(), 1u);
-    EXPECT_EQ(ReadBytes(DataFile("P1.PO3")), archive);
-    EXPECT_FALSE(Enabled("mnuMainProblem"));
 }
 
 }  // namespace

@@ -34,9 +34,8 @@ TEST_F(DataDirDialog, WithoutAFileTheProgramDirectoryIsShown) {
     });
 }
 
-// A stored "on" has the flag 1 in it, and that clears the box; everything else ticks it. Kept as it is.
-TEST_F(DataDirDialog, TheBoxIsClearedByTheFlagOne) {
-    const std::map<std::string, bool> ticked = {{"7", false}, {"1", false}, {"0", true}, {"2", true}, {"6", true}};
+TEST_F(DataDirDialog, TheBoxIsTickedWhenProjectsArePackedOnLeaving) {
+    const std::map<std::string, bool> ticked = {{"7", true}, {"1", true}, {"0", false}, {"2", true}, {"6", true}};
     for (const auto& [flag, value] : ticked) {
         WriteBytes(SettingsFile("STEU"), Lines({"/somewhere/", flag.c_str()}));
         OnShown<frmDataDir>([&, flag = flag, value = value](frmDataDir& form) {
@@ -45,6 +44,23 @@ TEST_F(DataDirDialog, TheBoxIsClearedByTheFlagOne) {
             EXPECT_EQ(Session.CompressFlag, std::stol(flag));
         });
     }
+}
+
+TEST_F(DataDirDialog, ASaveWithoutAnEditStoresWhatWasStored) {
+    const std::string dir = DataDir();
+    for (const char* flag : {"7", "0"}) {
+        WriteBytes(SettingsFile("STEU"), Lines({dir.c_str(), flag}));
+        OnShown<frmDataDir>([](frmDataDir& form) { Click(form, "cmdSave"); });
+        EXPECT_EQ(ReadBytes(SettingsFile("STEU")), Lines({dir.c_str(), flag}));
+    }
+}
+
+TEST_F(DataDirDialog, ADamagedSettingIsToldAndTicksNothing) {
+    WriteBytes(SettingsFile("STEU"), Lines({"/somewhere/", "seven"}));
+    OnShown<frmDataDir>([this](frmDataDir& form) {
+        EXPECT_EQ(host.Messages.size(), 1u);
+        EXPECT_FALSE(form.chkCompressFlag[0].Value);
+    });
 }
 
 TEST_F(DataDirDialog, ASaveWritesTheDirectoryAndTheFlag) {

@@ -19,7 +19,7 @@ class ProjectDialog : public FrameTest {
     ProjectDialog() { frame.Load(); }
 
     void OnDialog(std::function<void(frmProblemType&)> script) {
-        frmProblemType form([this] { frame.ProjectSaved(); });
+        frmProblemType form([this] { frame.ShowProject(); });
         host.OnForm<frmProblemType>(std::move(script));
         CurrentHost().ShowForm(form);
     }
@@ -83,13 +83,39 @@ TEST_F(ProjectDialog, TheProjectsDataAreShown) {
     });
 }
 
-TEST_F(ProjectDialog, WithoutATickTheFilesAreNotRead) {
-    HaveProject(10);
-    SetProblemSaved(0, false);
-    OnDialog([](frmProblemType& form) {
-        EXPECT_EQ(form.txtAuftr.Text, "");
-        EXPECT_EQ(form.cmbItem.ListIndex, 0);
-    });
+TEST_F(ProjectDialog, AProjectWithoutAHeadingFileKeepsItsProblem) {
+    for (const bool projectFile : {true, false}) {
+        HaveProject(10);
+        Session.ProblemType = 10;
+        Session.Auftr = "of another project";
+        std::filesystem::remove(DataFile("P1.AUF"));
+        if (!projectFile) std::filesystem::remove(DataFile("P1.PO3"));
+        SetProblemSaved(0, false);
+        OnDialog([](frmProblemType& form) {
+            EXPECT_EQ(form.txtAuftr.Text, "");
+            EXPECT_EQ(form.txtProj.Text, "");
+            EXPECT_EQ(form.cmbItem.ListIndex, 7);
+            Click(form, "cmdSave");
+        });
+        EXPECT_EQ(ReadBytes(DataFile("P1.PO3")), Lines({"Version 9", "10", "0"}));
+    }
+    EXPECT_THAT(host.Messages, IsEmpty());
+}
+
+// A damaged file must not make the dialog's save write a problem that nobody chose.
+TEST_F(ProjectDialog, AProjectWithDamagedFilesKeepsItsProblem) {
+    for (const char* damaged : {"P1.AUF", "P1.PO3"}) {
+        HaveProject(10);
+        Session.ProblemType = 10;
+        WriteBytes(DataFile(damaged), "x\r\n");
+        host.Messages.clear();
+        OnDialog([](frmProblemType& form) {
+            EXPECT_EQ(form.cmbItem.ListIndex, 7);
+            Click(form, "cmdSave");
+        });
+        EXPECT_EQ(host.Messages.size(), 1u) << damaged;
+        EXPECT_EQ(ReadBytes(DataFile("P1.PO3")), Lines({"Version 9", "10", "0"})) << damaged;
+    }
 }
 
 TEST_F(ProjectDialog, EachProblemHasItsRow) {
@@ -203,6 +229,60 @@ TEST_F(ProjectDialog, AProjectWithoutANameIsAskedForOne) {
     EXPECT_EQ(host.SaveQuestions.back().Pattern, "PO3");
 }
 
+// The problems 1 to 3 share a data file, and a project may have been calculated as another problem before.
+TEST_F(ProjectDialog, AfterASaveTheChosenProblemIsTickedExactlyWhenItsDataFileExists) {
+    WriteStressProject("P1");
+    WriteBytes(DataFile("P1.RDE"), "");
+    const std::map<int, std::vector<int>> ticks = {{0, {0, 1}}, {1, {0, 2}}, {2, {0, 3}}, {3, {0}},
+                                                   {4, {0}},    {5, {0}},    {6, {0, 7}}, {7, {0}}};
+    Session.ProjectName = "P1";
+    SetProblemSaved(0, true);
+    for (const auto& [row, expected] : ticks) {
+        OnDialog([row = row](frmProblemType& form) {
+            Select(form, "cmbItem", row);
+            Click(form, "cmdSave");
+        });
+        EXPECT_EQ(TickedProblems(), expected) << row;
+    }
+}
+
+TEST_F(ProjectDialog, ANewProjectOverAnOldOneFindsItsDataFile) {
+    WriteStressProject("Old");
+    OnDialog([this](frmProblemType& form) {
+        Select(form, "cmbItem", 1);
+        host.AnswerFileToSave(DataFile("Old.PO3"));
+        Click(form, "cmdSave");
+    });
+    EXPECT_THAT(TickedProblems(), ElementsAre(0, 2));
+    EXPECT_EQ(Session.ProjectFile, DataFile("Old.PO3"));
+}
+
+TEST_F(ProjectDialog, ASaveOverAPackedProjectUnpacksItAndLosesNothingOfIt) {
+    WriteStressProject("Old");
+    const std::string data = ReadBytes(DataFile("Old.SSD"));
+    ASSERT_TRUE(ProjectStore().PackProject(DataFile("Old"), 7, "", ".po3"));
+    OnDialog([this](frmProblemType& form) {
+        host.AnswerFileToSave(DataFile("Old.PO3"));
+        Click(form, "cmdSave");
+        EXPECT_TRUE(form.Unloaded());
+    });
+    EXPECT_EQ(ReadBytes(DataFile("Old.SSD")), data);
+}
+
+TEST_F(ProjectDialog, ADamagedArchiveIsNotReplacedByASave) {
+    const std::string archive = "PK\x03\x04 broken";
+    WriteBytes(DataFile("Old.PO3"), archive);
+    OnDialog([&](frmProblemType& form) {
+        host.AnswerFileToSave(DataFile("Old.PO3"));
+        Click(form, "cmdSave");
+        EXPECT_FALSE(form.Unloaded());
+        EXPECT_EQ(Session.ProjectName, "");
+    });
+    EXPECT_EQ(host.Messages.size(), 1u);
+    EXPECT_EQ(ReadBytes(DataFile("Old.PO3")), archive);
+    EXPECT_THAT(DataFiles(), ElementsAre("Old.PO3"));  // no heading file either
+}
+
 TEST_F(ProjectDialog, ASaveThatFailsLeavesTheDialogAndAsksForAnotherNameNext) {
     std::filesystem::create_directory(DataFile("Turm.PO3"));
     OnDialog([this](frmProblemType& form) {
@@ -251,18 +331,72 @@ TEST_F(ProjectDialog, AnotherProjectsDataCanBeLoaded) {
     EXPECT_EQ(ReadBytes(DataFile("P1.AUF")), Lines({"Order Q", "1 May", "House Q"}));
 }
 
-TEST_F(ProjectDialog, ACancelledOpenOrAMissingFileChangesNothing) {
+TEST_F(ProjectDialog, AnotherProjectWithoutAHeadingGivesItsProblemAndAnEmptyHeading) {
     HaveProject(2);
     WriteBytes(DataFile("bare.PO3"), Lines({"Version 9", "9", "0"}));
     OnDialog([this](frmProblemType& form) {
-        host.AnswerFileToOpen(std::nullopt);
+        host.AnswerFileToOpen(DataFile("bare.PO3"));
         Click(form, "cmdOpen");
-        host.AnswerFileToOpen(DataFile("bare.PO3"));  // without a heading file
-        Click(form, "cmdOpen");
-        EXPECT_EQ(form.txtAuftr.Text, "Order P1");
-        EXPECT_EQ(form.cmbItem.ListIndex, 1);
+        EXPECT_EQ(form.txtAuftr.Text, "");
+        EXPECT_EQ(form.cmbItem.ListIndex, 6);
     });
     EXPECT_THAT(host.Messages, IsEmpty());
+}
+
+TEST_F(ProjectDialog, AnOpenThatIsCancelledOrFailsChangesNothing) {
+    HaveProject(2);
+    WriteProject("damaged", 9);
+    WriteBytes(DataFile("damaged.PO3"), Lines({"Version 9", "nine"}));
+    WriteBytes(DataFile("packed.PO3"), "PK\x03\x04 broken");
+    OnDialog([this](frmProblemType& form) {
+        Type(form, "txtProj", "typed");
+        host.AnswerFileToOpen(std::nullopt);
+        Click(form, "cmdOpen");
+        for (const char* file : {"damaged.PO3", "packed.PO3", "missing.PO3"}) {
+            host.AnswerFileToOpen(DataFile(file));
+            Click(form, "cmdOpen");
+            EXPECT_EQ(form.txtAuftr.Text, "Order P1");
+            EXPECT_EQ(form.txtProj.Text, "typed");
+            EXPECT_EQ(form.cmbItem.ListIndex, 1);
+            EXPECT_EQ(Session.WorkName, "P1");
+        }
+        EXPECT_EQ(host.Messages.size(), 2u);
+        Click(form, "cmdSave");
+    });
+    EXPECT_EQ(ReadBytes(DataFile("P1.PO3")), Lines({"Version 9", "2", "0"}));
+    EXPECT_EQ(ReadBytes(DataFile("damaged.PO3")), Lines({"Version 9", "nine"}));
+    EXPECT_EQ(ReadBytes(DataFile("packed.PO3")), "PK\x03\x04 broken");
+}
+
+TEST_F(ProjectDialog, APackedProjectIsUnpackedBeforeItsDataAreLoaded) {
+    HaveProject(2);
+    WriteStressProject("Q");
+    WriteProject("Q", 3);
+    ASSERT_TRUE(ProjectStore().PackProject(DataFile("Q"), 7, "", ".po3"));
+    OnDialog([this](frmProblemType& form) {
+        host.AnswerFileToOpen(DataFile("Q.PO3"));
+        Click(form, "cmdOpen");
+        EXPECT_EQ(form.txtAuftr.Text, "Order Q");
+        EXPECT_EQ(form.cmbItem.ListIndex, 2);
+    });
+    EXPECT_TRUE(std::filesystem::exists(DataFile("Q.SSD")));
+    EXPECT_THAT(host.Messages, IsEmpty());
+}
+
+// Which project is open, the dialog's way to other files does not change.
+TEST_F(ProjectDialog, LoadingFromAndSavingToOtherProjectsLeavesTheOpenOne) {
+    HaveProject(2);
+    WriteProject("Q", 9);
+    Session.ProjectFile = DataFile("P1.PO3");
+    OnDialog([this](frmProblemType& form) {
+        host.AnswerFileToOpen(DataFile("Q.PO3"));
+        Click(form, "cmdOpen");
+        host.AnswerFileToSave(DataFile("R"));
+        Click(form, "cmdSaveAs");
+        Click(form, "CmdCancel");
+    });
+    EXPECT_EQ(Session.ProjectFile, DataFile("P1.PO3"));
+    EXPECT_EQ(Session.ProjectName, "P1");
 }
 
 // --- cancel ---

@@ -243,7 +243,9 @@ struct BareHost : ScriptedHost {
     }
     void SetClipboardText(const std::string& text) override { Host::SetClipboardText(text); }
     void ShowTextEditor(const std::string& text) override { Host::ShowTextEditor(text); }
-    void StartProcess(const std::string& commandLine) override { Host::StartProcess(commandLine); }
+    void StartProcess(const std::string& program, const std::vector<std::string>& arguments) override {
+        Host::StartProcess(program, arguments);
+    }
     void ShowChart(const ChartArguments& chart) override { Host::ShowChart(chart); }
 };
 
@@ -269,7 +271,9 @@ TEST_F(Viewer, AWayOutThatFailsIsToldAndTheViewerStays) {
 TEST_F(Viewer, AWayOutThatBreaksDownIsToldToo) {
     struct BreakingHost : ScriptedHost {
         void PrintText(const std::string&, const std::string&, int, bool) override { throw std::bad_alloc(); }
-        void StartProcess(const std::string&) override { throw std::runtime_error("no process"); }
+        void StartProcess(const std::string&, const std::vector<std::string>&) override {
+            throw std::runtime_error("no process");
+        }
     } breaking;
     Session.ProblemType = 9;
     frmResultTools viewer;
@@ -277,28 +281,38 @@ TEST_F(Viewer, AWayOutThatBreaksDownIsToldToo) {
     EXPECT_NO_THROW(Click(viewer, "cmdPrinter"));
     EXPECT_EQ(breaking.LastMessage().Text, Text(900017_text));
     EXPECT_NO_THROW(Click(viewer, "cmdVERDA"));
-    EXPECT_THAT(breaking.LastMessage().Text, HasSubstr("no process"));
+    EXPECT_EQ(breaking.LastMessage().Text, Text(900020_text));  // a library's words are no user's
     EXPECT_FALSE(viewer.Unloaded());
 }
 
 // --- hand-over to the raft program ---
 
-TEST_F(Viewer, WithoutARaftExportTheRaftProgramStartsFromTheProgramDirectory) {
-    OnViewer(9, [](frmResultTools& viewer) { Click(viewer, "cmdVERDA"); });
-    EXPECT_THAT(host.Processes, ElementsAre(Session.ProgramDir + "verda.exe"));
+using Started = std::vector<std::pair<std::string, std::vector<std::string>>>;
+
+std::string RaftProgram() {
+    return SharedServices().ExecutableDir() + "verda.exe";
 }
 
-// Deliberate: the path is a fixed one here, unlike without an export.
-TEST_F(Viewer, WithARaftExportTheRaftProgramStartsOnItFromItsFixedPlace) {
-    WriteBytes(DataFile("P1.PO1"), "");
+TEST_F(Viewer, TheRaftProgramIsLookedForBesideTheExecutable) {
+    OnViewer(9, [](frmResultTools& viewer) { Click(viewer, "cmdVERDA"); });
+    EXPECT_EQ(host.Processes, (Started{{RaftProgram(), {}}}));
+    EXPECT_TRUE(std::filesystem::equivalent(SharedServices().ExecutableDir(),
+                                            std::filesystem::read_symlink("/proc/self/exe").parent_path()));
+}
+
+// A name is one argument, whatever a command line would make of it.
+TEST_F(Viewer, TheRaftExportIsHandedOverAsOneArgument) {
+    Session.ProjectName = "Halle \"7\"; rm -rf $HOME & more";
+    const std::string file = DataFile(Session.ProjectName + ".PO1");
+    WriteBytes(file, "");
     OnViewer(10, [](frmResultTools& viewer) { Click(viewer, "cmdVERDA"); });
-    EXPECT_THAT(host.Processes, ElementsAre("F:\\KORVAN Setup\\verda.exe " + DataFile("P1.PO1")));
+    EXPECT_EQ(host.Processes, (Started{{RaftProgram(), {file}}}));
 }
 
 TEST_F(Viewer, TheRaftExportOfAnotherProjectIsNotHandedOver) {
     WriteBytes(DataFile("P2.PO1"), "");
     OnViewer(9, [](frmResultTools& viewer) { Click(viewer, "cmdVERDA"); });
-    EXPECT_THAT(host.Processes, ElementsAre(Session.ProgramDir + "verda.exe"));
+    EXPECT_EQ(host.Processes, (Started{{RaftProgram(), {}}}));
 }
 
 // --- curves ---

@@ -114,7 +114,7 @@ TEST_F(UnitsDialog, EveryRowIsFoundAgain) {
         EXPECT_EQ(Session.Len1Label, lengths[row].first);
         EXPECT_EQ(Session.Len1Factor, lengths[row].second);
     }
-    // Kilogram and ton are rounded on purpose.
+    // Deliberate: kilogram and ton count 10 m/s2.
     const std::vector<std::pair<const char*, double>> forces = {{"[kN]", 1},
                                                                 {"[N]", 1000},
                                                                 {"[kgf]", 101.971621297793},

@@ -1,10 +1,13 @@
 // The frame's project commands.
+#include <algorithm>
 #include <utility>
 
 #include "base/Utf8.h"
 #include "core/Catalogue.h"
 #include "core/Session.h"
+#include "files/CommonStep.h"
 #include "files/GloableVariable.h"
+#include "files/ProjectCopy.h"
 #include "files/ProjectFiles.h"
 #include "services/FileDialogs.h"
 #include "services/FileTools.h"
@@ -12,12 +15,9 @@
 #include "services/SharedServices.h"
 #include "services/TextTools.h"
 #include "services/host/Host.h"
-#include "services/storage/FileNames.h"
-#include "services/storage/WrittenFile.h"
 #include "ui/frame/MDITools.h"
 #include "ui/frmProblemType.h"
 #include "ui/frmProjectCheck.h"
-#include "ui/model/CommonStep.h"
 #include "ui/model/ProjectFlags.h"
 
 namespace lithmark {
@@ -27,21 +27,6 @@ namespace {
 const std::string kProblemArray = "mnuProblem", kRecentArray = "MnuRecentFile";
 const std::string kStandsForProject = ".po3";
 
-// The extensions of an entry's files.
-std::vector<std::string> FilesOf(int entry) {
-    if (entry == kProjectEntry) return {"PO3", "AUF"};
-    const ProblemRow* problem = FirstProblemOf(entry);
-    return problem == nullptr ? std::vector<std::string>{} : std::vector<std::string>{problem->Extension};
-}
-
-// Copies a file under the name that it gets in another project.
-void CopyFile(const std::string& source, const std::string& target) {
-    SharedServices().SetCurrentFile(source);
-    const std::string content = ReadWholeFile(source);
-    SharedServices().SetCurrentFile(target);
-    WriteWholeFile(target, content);
-}
-
 std::string OpenProjectPath() {
     return Session.DataDir + Session.ProjectName;
 }
@@ -50,8 +35,30 @@ bool IsProjectFile(const std::string& file) {
     return UpperAscii(file).ends_with("PO3");
 }
 
-void PackLeftProject(const std::string& dir, const std::string& name, const std::string& newFile) {
-    if (!name.empty()) ProjectStore().PackProject(dir + name, Session.CompressFlag, newFile, kStandsForProject);
+// The extensions of the files that make a copy of the open project, its own file last: the heading where there is one,
+// and the data of the problems that are ticked.
+std::vector<std::string> FilesToCopy() {
+    std::vector<std::string> extensions;
+    const auto add = [&](const std::string& extension) {
+        const bool listed = std::ranges::find(extensions, extension) != extensions.end();
+        if (!listed && ProjectHasFile(extension)) extensions.push_back(extension);
+    };
+    for (const ProblemRow& problem : ProblemCatalogue())
+        if (ProblemSaved(problem.MenuEntry)) add(problem.Extension);
+    add("AUF");
+    extensions.push_back("PO3");
+    return extensions;
+}
+
+void PackLeftProject(const std::string& newFile) {
+    if (!Session.ProjectName.empty())
+        ProjectStore().PackProject(OpenProjectPath(), Session.CompressFlag, newFile, kStandsForProject);
+}
+
+void ClearHeading() {
+    Session.Auftr.clear();
+    Session.Datum = TextTools().LongDateOfToday();
+    Session.Proj.clear();
 }
 
 void EndHourglass() {
@@ -75,9 +82,14 @@ bool MDITools::ProjectOpen() const {
 
 void MDITools::NewProjectState() {
     Session.ProjectName.clear();
+    Session.ProjectFile.clear();
     Session.ProblemType = Problem::SoilStress;
     Session.WorkName = Text(93_text);
+    ClearHeading();
     for (int entry = 0; entry < kProblemEntries; ++entry) SetProblemSaved(entry, false);
+    Menu["mnuMainProblem"].Enabled = false;
+    Menu["mnuSaveProjectAs"].Enabled = false;
+    ProjectStore().LeaveProject();
     ShowTitle(Text(93_text));
 }
 
@@ -90,32 +102,44 @@ void MDITools::SetProblemMenu() {
     Refresh();
 }
 
+// Until everything that makes it a project has been read, no project is open: whatever is told in between is told over
+// a frame that shows none, and a failure leaves it so.
 void MDITools::OpenProject() {
+    if (!IsProjectFile(Session.ProjectFile)) return;
+    const std::string file = Session.ProjectFile, dir = Session.DataDir, name = Session.ProjectName;
+    NewProjectState();
+    bool taken = false;
     UnderCommonStep([&] {
-        if (!IsProjectFile(Session.ProjectFile)) return;
-        if (!ProjectStore().UnpackProject(OpenProjectPath(), kStandsForProject)) return;
-        if (ReadProjectFile() != ReadOutcome::Read) return;
+        taken = ProjectStore().TakeProject(dir + name);
+        if (!taken || !ProjectStore().UnpackProject(dir + name, kStandsForProject)) return;
+        Integer problem;
+        if (ReadProjectFile(dir, name, problem) != ReadOutcome::Read) return;
+        Session.ProjectFile = file;
+        Session.DataDir = dir;
+        Session.ProjectName = name;
+        Session.ProblemType = problem;
+        ShowProject();
+        ReadOrderFile();
         CheckProjectFiles();
-        if (ProblemSaved(0)) {
-            ReadOrderFile();
-        } else {
-            // The heading data of the project before are not those of this one.
-            Session.Auftr.clear();
-            Session.Datum = TextTools().LongDateOfToday();
-            Session.Proj.clear();
-        }
     });
+    if (taken && !ProjectOpen()) ProjectStore().LeaveProject();
     Refresh();
+}
+
+// Menu, ticks and title of the open project.
+void MDITools::ShowProject() {
+    SetProblemMenu();
+    for (int entry = 0; entry < kProblemEntries; ++entry) SetProblemSaved(entry, Menu.At(kProblemArray, entry).Visible);
+    if (!ProjectHasFile("AUF")) SetProblemSaved(kProjectEntry, false);
+    const ProblemRow* problem = FindProblem(Session.ProblemType);
+    if (problem != nullptr && !ProjectHasFile(problem->Extension)) SetProblemSaved(problem->MenuEntry, false);
+    Menu["mnuSaveProjectAs"].Enabled = true;
+    ShowTitle(Session.ProjectName);
 }
 
 void MDITools::CheckProjectFiles() {
     SharedServices().SetPointer(PointerShape::Hourglass);
-    SetProblemMenu();
-    for (int entry = 0; entry < kProblemEntries; ++entry) SetProblemSaved(entry, Menu.At(kProblemArray, entry).Visible);
-    if (!ProjectHasFile("AUF")) SetProblemSaved(0, false);
-    const ProblemRow* problem = FindProblem(Session.ProblemType);
-    if (problem != nullptr && !ProjectHasFile(problem->Extension)) SetProblemSaved(problem->MenuEntry, false);
-    ShowTitle(Session.ProjectName);
+    ShowProject();
     bool ok = false;
     ProjectCheck(0, ok);
     EndHourglass();
@@ -147,72 +171,58 @@ void MDITools::ProjectCheck(int ask, bool& ok) {
     ok = Session.DialogOk;
 }
 
-// Deliberate: asks first and packs nothing; the project that is left by a new one stays plain.
+bool MDITools::MayLeaveProject() {
+    if (!ProjectOpen()) return true;
+    bool ok = false;
+    ProjectCheck(0, ok);
+    return ok;
+}
+
+// Deliberate: packs nothing; the project that is left by a new one stays plain.
 void MDITools::mnuNewProject_Click() {
     UnderCommonStep([&] {
-        Menu["mnuMainProblem"].Enabled = false;
-        Menu["mnuSaveProjectAs"].Enabled = false;
-        Refresh();
-        if (ProjectOpen()) {
-            bool ok = false;
-            ProjectCheck(0, ok);
-            if (!ok) return;
-        }
+        if (!MayLeaveProject()) return;
         NewProjectState();
-        frmProblemType form([this] { ProjectSaved(); });
+        frmProblemType form([this] { ShowProject(); });
         CurrentHost().ShowForm(form);
         if (Session.DialogOk) AddToRecentFiles(OpenProjectPath() + kStandsForProject);
     });
     Refresh();
 }
 
-void MDITools::ProjectSaved() {
-    SetProblemMenu();
-    ShowTitle(Session.WorkName);
-    Menu["mnuSaveProjectAs"].Enabled = true;
-}
-
 void MDITools::mnuOpenProject_Click() {
     UnderCommonStep([&] {
-        if (ProjectOpen()) {
-            bool ok = false;
-            ProjectCheck(0, ok);
-            if (!ok) return;
-        }
+        if (!MayLeaveProject()) return;
         std::string file = Session.ProjectFile, dir = Session.DataDir, name = Session.ProjectName;
-        if (!FileDialogs().OpenFileDialog(file, Session.DataDir, dir, name, "*.PO3")) return;
-        // A file that is no project changes nothing: the open project stays.
-        if (!IsProjectFile(file)) return;
-        PackLeftProject(Session.DataDir, Session.ProjectName, file);
-        Session.ProjectFile = file;
-        Session.DataDir = dir;
-        Session.ProjectName = name;
-        OpenProject();
-        if (!ProjectOpen()) return NewProjectState();
-        AddToRecentFiles(OpenProjectPath() + ".PO3");
-        Menu["mnuSaveProjectAs"].Enabled = true;
+        if (FileDialogs().OpenFileDialog(file, Session.DataDir, dir, name, "*.PO3")) ChangeProject(file);
     });
     Refresh();
+}
+
+// Leaves the open project for another. A file that is no project changes nothing: the open project stays.
+void MDITools::ChangeProject(const std::string& file) {
+    if (!IsProjectFile(file)) return;
+    PackLeftProject(file);
+    Session.ProjectFile = file;
+    FileDialogs().SplitProjectPath(file, Session.DataDir, Session.ProjectName);
+    OpenProject();
+    if (ProjectOpen()) AddToRecentFiles(OpenProjectPath() + ".PO3");
 }
 
 void MDITools::mnuSaveProjectAs_Click() {
     if (!ProjectOpen()) return;
     UnderCommonStep([&] {
-        std::string newDir = Session.DataDir, newName = Session.ProjectName;
-        if (!FileDialogs().SaveFileDialog(Session.ProjectFile, Session.DataDir, newDir, newName, "PO3")) return;
+        std::string file = Session.ProjectFile, dir = Session.DataDir, name = Session.ProjectName;
+        if (!FileDialogs().SaveFileDialog(file, Session.DataDir, dir, name, "PO3")) return;
         SharedServices().SetPointer(PointerShape::Hourglass);
-        AddToRecentFiles(Session.ProjectFile);
-        for (int entry = kProjectEntry; entry <= kLastProblemEntry; ++entry) {
-            if (!ProblemSaved(entry)) continue;
-            for (const std::string& extension : FilesOf(entry)) {
-                const std::string source = DataFileName(Session.DataDir, Session.ProjectName, extension);
-                const std::string target = DataFileName(newDir, newName, extension);
-                // A file that cannot be copied is told, and the others are copied all the same.
-                if (source != target) UnderCommonStep([&] { CopyFile(source, target); });
-            }
+        if (dir + name != OpenProjectPath()) {
+            CopyProjectFiles(FilesToCopy(), dir, name);
+            if (!ProjectStore().TakeProject(dir + name)) return;
         }
-        Session.ProjectName = newName;
-        Session.DataDir = newDir;
+        Session.ProjectFile = file;
+        Session.DataDir = dir;
+        Session.ProjectName = name;
+        AddToRecentFiles(file);
         ShowTitle(Session.ProjectName);
     });
     EndHourglass();
@@ -228,22 +238,11 @@ void MDITools::mnuFileList_Click() {
 void MDITools::MnuRecentFile_Click(int index) {
     if (index == 0) return;
     const bool done = UnderCommonStep([&] {
-        if (ProjectOpen()) {
-            bool ok = false;
-            ProjectCheck(0, ok);
-            if (!ok) return;
-        }
+        if (!MayLeaveProject()) return;
         SyncRecentFromMenu();
         const std::string path = ListTools().GetRecentFile(kApplicationTitle, index, RecentFiles);
         SyncRecentToMenu();
-        if (path.empty()) return;
-        PackLeftProject(Session.DataDir, Session.ProjectName, path);
-        Session.ProjectFile = path;
-        FileDialogs().SplitProjectPath(path, Session.DataDir, Session.ProjectName);
-        OpenProject();
-        if (!ProjectOpen()) return NewProjectState();
-        AddToRecentFiles(path);
-        Menu["mnuSaveProjectAs"].Enabled = true;
+        if (!path.empty()) ChangeProject(path);
     });
     if (!done) {
         for (int i = 0; i < static_cast<int>(RecentFiles.size()); ++i) Menu.At(kRecentArray, i).Visible = false;

@@ -4,6 +4,7 @@
 #include "base/Utf8.h"
 #include "core/Session.h"
 #include "core/StartSession.h"
+#include "files/CommonStep.h"
 #include "files/SettingsFiles.h"
 #include "services/FileDialogs.h"
 #include "services/ProjectStore.h"
@@ -11,7 +12,6 @@
 #include "services/host/Host.h"
 #include "ui/frame/MDITools.h"
 #include "ui/frmSplash.h"
-#include "ui/model/CommonStep.h"
 
 namespace lithmark {
 
@@ -120,7 +120,7 @@ void MDITools::OpenFromCommandLine(std::string text) {
             return;
         SharedServices().SetPointer(PointerShape::Hourglass);
         OpenProject();
-        AddToRecentFiles(Session.DataDir + Session.ProjectName + ".PO3");
+        if (ProjectOpen()) AddToRecentFiles(Session.DataDir + Session.ProjectName + ".PO3");
     });
     SharedServices().SetPointer(PointerShape::Default);
     Refresh();
@@ -147,6 +147,7 @@ void MDITools::ExitProgram() {
     PassingOverErrors([&] {
         if (ProjectOpen())
             ProjectStore().PackProject(Session.DataDir + Session.ProjectName, Session.CompressFlag, "", ".po3");
+        ProjectStore().LeaveProject();
     });
     PassingOverErrors([] { SharedServices().CloseServices(); });
     Ended = true;

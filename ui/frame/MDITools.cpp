@@ -3,6 +3,7 @@
 
 #include "core/Catalogue.h"
 #include "core/Session.h"
+#include "files/CommonStep.h"
 #include "services/SharedServices.h"
 #include "ui/frame/ProblemDialogs.h"
 #include "ui/frmAbout.h"
@@ -12,7 +13,6 @@
 #include "ui/frmResultTools.h"
 #include "ui/frmSplash.h"
 #include "ui/frmUnits.h"
-#include "ui/model/CommonStep.h"
 #include "ui/model/ResultViewer.h"
 
 namespace lithmark {
@@ -112,7 +112,7 @@ void MDITools::mnuProblem_Click(int index) {
     if (index < 0 || index > kLastProblemEntry) return;
     UnderCommonStep([&] {
         if (index == 0) {
-            frmProblemType form([this] { ProjectSaved(); });
+            frmProblemType form([this] { ShowProject(); });
             CurrentHost().ShowForm(form);
         } else {
             ShowProblemDialog(index);

@@ -92,12 +92,14 @@ class MDITools : public Form {
 
     // --- project ---
 
+    // No project: Session, menu, ticks, title and the project's lock.
     void NewProjectState();
     // Shows the one problem entry of the project, beside the project's own.
     void SetProblemMenu();
-    // After the project dialog saved the open project: menu and title follow.
-    void ProjectSaved();
+    // Opens the project that Session names. Behind a failure, which has been told, no project is open.
     void OpenProject();
+    // Menu, ticks and title of the open project by its problem and by the files that it has.
+    void ShowProject();
     void CheckProjectFiles();
     // Tells what is missing and asks whether to go on; without missing data asks for the end if `ask` is not 0.
     void ProjectCheck(int ask, bool& ok);
@@ -154,6 +156,8 @@ class MDITools : public Form {
     // Waits only when the splash is marked to.
     void TakeSplashAway();
     void ResetToolbars();
+    bool MayLeaveProject();
+    void ChangeProject(const std::string& file);
     std::vector<std::string> MissingData();
     void AddToRecentFiles(const std::string& path);
     void SyncRecentFromMenu();

@@ -11,7 +11,6 @@ namespace lithmark {
 
 namespace {
 
-constexpr Style kEntry{1}, kDialogEntry{3};
 const std::string kProblem = "mnuProblem";
 
 std::string KeyOf(std::string_view array, int index) {
@@ -51,21 +50,21 @@ void MenuItem::SetChecked(bool checked) {
 }
 
 MenuTree::MenuTree() {
-    const auto add = [this](const std::string& key, const std::string& parent, TextId id, Style as = kEntry,
+    const auto add = [this](const std::string& key, const std::string& parent, TextId id, Style as = Styles::Button,
                             const std::string& shortcut = {}) { items_.emplace_back(key, parent, id, as, shortcut); };
     const auto separator = [this](const std::string& key, const std::string& parent) {
         items_.emplace_back(key, parent).Caption = "-";
     };
 
     add("mnuFile", "", 107_text);
-    add("mnuNewProject", "mnuFile", 10340_text, kEntry, "Ctrl+N");
-    add("mnuOpenProject", "mnuFile", 124_text, kDialogEntry, "Ctrl+O");
-    add("mnuSaveProjectAs", "mnuFile", 10339_text, kDialogEntry);
+    add("mnuNewProject", "mnuFile", 10340_text, Styles::Button, "Ctrl+N");
+    add("mnuOpenProject", "mnuFile", 124_text, Styles::DialogButton, "Ctrl+O");
+    add("mnuSaveProjectAs", "mnuFile", 10339_text, Styles::DialogButton);
     add("mnuFileList", "mnuFile", 70025_text);
     separator("MnuRecentFile(0)", "mnuFile");
     for (int i = 1; i <= 4; ++i) items_.emplace_back(KeyOf("MnuRecentFile", i), "mnuFile");
     separator("mnuFileDash2", "mnuFile");
-    add("mnuFileExit", "mnuFile", 110_text, kEntry, "Ctrl+Q");
+    add("mnuFileExit", "mnuFile", 110_text, Styles::Button, "Ctrl+Q");
 
     add("MnuVeiw", "", 116_text);
     add("MnuStatusBar", "MnuVeiw", 79_text);

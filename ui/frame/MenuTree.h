@@ -15,7 +15,7 @@ namespace lithmark {
 // that others name as their parent; the top entries have none and stand in the bar.
 class MenuItem {
   public:
-    MenuItem(std::string key, std::string parent, TextId id = {}, Style as = {1}, std::string shortcut = {});
+    MenuItem(std::string key, std::string parent, TextId id = {}, Style as = Styles::Button, std::string shortcut = {});
 
     const std::string Key, Parent;
     const TextId Id;  // number 0: a separator, or a caption that is no text by number

@@ -12,7 +12,7 @@ struct BarRow {
     const char* Menu;
     const char* SettingsKey;
 };
-// The keys of the second bar and the last two do not say what they hold. Kept: existing settings rely on them.
+// Deliberate: the keys of the second bar and the last two do not say what they hold; they are names in the store alone.
 constexpr BarRow kBars[Toolbars::kCount] = {
     {"mnuFile", "File Bar"},
     {"mnuMainProblem", "Solve Bar"},

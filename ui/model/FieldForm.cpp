@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "files/CommonStep.h"
 #include "services/SharedServices.h"
-#include "ui/model/CommonStep.h"
 
 namespace lithmark {
 

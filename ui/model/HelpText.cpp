@@ -1,7 +1,7 @@
 #include "ui/model/HelpText.h"
 
+#include "files/CommonStep.h"
 #include "services/SharedServices.h"
-#include "ui/model/CommonStep.h"
 
 namespace lithmark {
 

@@ -3,13 +3,13 @@
 #include <utility>
 
 #include "core/Catalogue.h"
+#include "files/CommonStep.h"
 #include "files/GloableVariable.h"
 #include "files/ProblemData.h"
 #include "kernels/RunKernel.h"
 #include "report/StepTables.h"
 #include "services/FileDialogs.h"
 #include "services/SharedServices.h"
-#include "ui/model/CommonStep.h"
 #include "ui/model/HelpText.h"
 #include "ui/model/ProjectFlags.h"
 #include "ui/model/ResultViewer.h"
@@ -17,8 +17,6 @@
 namespace lithmark {
 
 namespace {
-
-constexpr Style kButton{1}, kDialogButton{3};
 
 // A run that failed and a file that is missing leave the hourglass; a form that waits for its user does not.
 void EndHourglass() {
@@ -60,12 +58,12 @@ void ProblemForm::Load() {
     ShowData();
     Caption = Text(ProblemInForce().MenuText);
     ShowCaptions();
-    SetCaptions({{cmdok, 6_text, kButton},
-                 {cmdHelp, 8_text, kButton},
-                 {cmdSave, 111_text, kButton},
-                 {cmdSaveAs, 9_text, kDialogButton},
-                 {cmdOpen, 10016_text, kDialogButton},
-                 {cmdResult, 140096_text, kButton}});
+    SetCaptions({{cmdok, 6_text, Styles::Button},
+                 {cmdHelp, 8_text, Styles::Button},
+                 {cmdSave, 111_text, Styles::Button},
+                 {cmdSaveAs, 9_text, Styles::DialogButton},
+                 {cmdOpen, 10016_text, Styles::DialogButton},
+                 {cmdResult, 140096_text, Styles::Button}});
     ShowForProblem();
     MarkSaved();
 }

@@ -68,10 +68,9 @@ ChoiceRow RaftForm::SettlementPlaces() {
 }
 
 std::vector<CaptionRow> RaftForm::SharedCaptions() {
-    constexpr Style kHeading{4};
-    return {{frmSelectOption, 300003_text, kHeading},    {fraData, 140095_text, kHeading},
-            {fraAnalysisType, 300081_text, kHeading},    {fraSettlementAt, 300084_text, kHeading},
-            {fraPointCoordinates, 90150_text, kHeading}, {frmSoilProperties, 140162_text, kHeading}};
+    return {{frmSelectOption, 300003_text, Styles::Heading},    {fraData, 140095_text, Styles::Heading},
+            {fraAnalysisType, 300081_text, Styles::Heading},    {fraSettlementAt, 300084_text, Styles::Heading},
+            {fraPointCoordinates, 90150_text, Styles::Heading}, {frmSoilProperties, 140162_text, Styles::Heading}};
 }
 
 void RaftForm::optLoadType_Click() {

@@ -4,8 +4,8 @@
 
 #include "base/NumberText.h"
 #include "core/Units.h"
+#include "files/CommonStep.h"
 #include "services/TextTools.h"
-#include "ui/model/CommonStep.h"
 #include "ui/model/TableRows.h"
 
 namespace lithmark {
@@ -92,11 +92,10 @@ ChoiceRow TimeSettlementForm::Measured() {
 }
 
 std::vector<CaptionRow> TimeSettlementForm::WithSharedCaptions(std::vector<CaptionRow> own) {
-    constexpr Style kHeading{4}, kButton{1};
-    own.insert(own.end(), {{fraData, 300021_text, kHeading},
-                           {frmSelectTimeUnit, 300037_text, kHeading},
-                           {frmEMS, 300030_text, kHeading},
-                           {cmdTimeLoad, 400125_text, kButton}});
+    own.insert(own.end(), {{fraData, 300021_text, Styles::Heading},
+                           {frmSelectTimeUnit, 300037_text, Styles::Heading},
+                           {frmEMS, 300030_text, Styles::Heading},
+                           {cmdTimeLoad, 400125_text, Styles::Button}});
     return own;
 }
 

@@ -1,8 +1,7 @@
-// How commands end that go wrong: no exception leaves them.
+// The common step after a failure: no exception leaves a kernel, a file routine or a command.
 #pragma once
 
 #include <exception>
-#include <new>
 #include <utility>
 
 #include "base/Failure.h"
@@ -16,12 +15,8 @@ bool UnderCommonStep(Command&& command) {
     try {
         std::forward<Command>(command)();
         return true;
-    } catch (const Failure& failure) {
-        FileError(failure);
-    } catch (const std::bad_alloc&) {
-        FileError(Failure(FailureKind::OutOfMemory));
     } catch (const std::exception& error) {
-        FileError(Failure(FailureKind::Other, error.what()));
+        FileError(FailureFrom(error));
     }
     return false;
 }

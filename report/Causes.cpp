@@ -1,0 +1,61 @@
+#include "report/Causes.h"
+
+#include <cmath>
+
+#include "base/NumberText.h"
+#include "base/Utf8.h"
+
+namespace lithmark {
+
+namespace {
+
+constexpr double kHuge = 1e12;
+
+}  // namespace
+
+// Labels begin with a capital and may end in a colon. English has small letters inside a sentence, German keeps the
+// capitals of its nouns, Arabic knows none.
+std::string QuantityName(TextId label) {
+    std::string name = Trim(Text(label));
+    if (name.ends_with(':')) name.pop_back();
+    const bool word = name.size() > 1 && name[1] >= 'a' && name[1] <= 'z';
+    if (LanguageTexts().Current() == Language::English && word) name[0] = LowerAscii(name.substr(0, 1))[0];
+    return name;
+}
+
+std::string QuantityName(TextId label, int number) {
+    return QuantityName(label) + " " + NumberToText(number);
+}
+
+std::string QuantityName(Axis axis) {
+    return Text(90001_text, {{"|1", LanguageTexts().AxisName(axis)}});
+}
+
+std::string IfZero(const std::string& name, double value) {
+    return value == 0 ? Text(909101_text, {{"|1", name}}) : std::string();
+}
+
+std::string IfNegative(const std::string& name, double value) {
+    return value < 0 ? Text(909102_text, {{"|1", name}}) : std::string();
+}
+
+std::string IfHuge(const std::string& name, double value) {
+    return std::abs(value) > kHuge ? Text(909103_text, {{"|1", name}}) : std::string();
+}
+
+std::string IfOutside(const std::string& name, double value, double lower, double upper) {
+    if (value >= lower && value <= upper) return {};
+    return Text(909104_text, {{"|1", name}, {"|2", NumberToText(lower)}, {"|3", NumberToText(upper)}});
+}
+
+std::string IfBelow(const std::string& name, double value, const std::string& otherName, double other) {
+    return value < other ? Text(909105_text, {{"|1", name}, {"|2", otherName}}) : std::string();
+}
+
+std::string FirstCause(std::initializer_list<std::string> causes) {
+    for (const std::string& cause : causes)
+        if (!cause.empty()) return cause;
+    return {};
+}
+
+}  // namespace lithmark

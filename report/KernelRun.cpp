@@ -1,0 +1,20 @@
+#include "report/KernelRun.h"
+
+namespace lithmark {
+
+Failure WithCause(Failure failure, const std::string& cause) {
+    switch (failure.Kind()) {
+        case FailureKind::DivisionByZero:
+        case FailureKind::Overflow:
+        case FailureKind::InvalidArgument:
+        case FailureKind::SubscriptRange:
+        case FailureKind::SingularMatrix:
+        case FailureKind::OutOfMemory:
+            if (cause.empty() || !failure.Detail().empty() || !failure.File().empty()) return failure;
+            return Failure(FailureKind::BadInput, cause);
+        default:
+            return failure;
+    }
+}
+
+}  // namespace lithmark

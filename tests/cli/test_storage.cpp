@@ -1,0 +1,160 @@
+// What a command does to files: its project's, its output, those of others.
+#include <sys/stat.h>
+
+#include <csignal>
+#include <thread>
+
+#include "cli/CliCase.h"
+#include "services/ProjectStore.h"
+#include "services/storage/ProjectArchive.h"
+
+namespace lithmark::tests {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+class CliStorage : public CliTest {};
+
+// --- output ---
+
+TEST_F(CliStorage, AnOutputThatIsAFileOfTheProjectIsRefused) {
+    const std::string project = New("Raft1", 9, {"LoadType=2", "A=4", "B=4", "h=5"});
+    const std::vector<std::string> before = work.Names();
+    const std::string data = ReadBytes(work / "Raft1.RDE");
+    std::filesystem::create_directory(work / "sub");
+    std::filesystem::create_symlink(work / "Raft1.RDE", work / "sub/link.txt");
+    for (const char* name : {"Raft1.PO3", "Raft1.RDE", "Raft1.rde", "Raft1.AUF", "Raft1.TO1", "Raft1.SSD",
+                             "sub/../Raft1.RDE", "sub/link.txt"}) {
+        SCOPED_TRACE(name);
+        ExpectFailure(Run({"report", project, "--format", "txt", "--output", work / name}), 2,
+                      {"would replace a file of the project"});
+        ExpectFailure(Run({"report", project, "--format", "json", "--output", work / name}), 2, {"replace"});
+    }
+    EXPECT_EQ(ReadBytes(work / "Raft1.RDE"), data);
+    EXPECT_FALSE(std::filesystem::exists(work / "Raft1.TO1"));  // told before the run
+    EXPECT_EQ(Run({"report", project, "--format", "txt", "--output", work / "Raft2.RDE"}).Status, 0);
+}
+
+TEST_F(CliStorage, APackedProjectIsNotReplacedByItsReport) {
+    const std::string project = New("Footing", 1);
+    ASSERT_TRUE(ProjectStore().PackProject(work / "Footing", 1, "", ".po3"));
+    ExpectFailure(Run({"report", project, "--format", "txt", "--output", project}), 2, {"replace"});
+    EXPECT_TRUE(IsArchiveFile(project));
+}
+
+// --- time units ---
+
+TEST_F(CliStorage, AProjectMadeUnderOneLanguageRunsUnderEveryOther) {
+    for (const int problem : {5, 8}) {
+        const std::string name = "P" + std::to_string(problem);
+        ASSERT_EQ(Run({"new", work / name, "--problem", std::to_string(problem), "--lang", "de"}).Status, 0);
+        ASSERT_TRUE(ProjectStore().PackProject(work / name, 1, "", ".po3"));
+        for (const char* lang : {"de", "en", "ar", "ids"}) {
+            const CliResult result = Run({"report", work / (name + ".PO3"), "--lang", lang});
+            EXPECT_EQ(result.Status, 0) << lang << result.Err;
+        }
+        // And a unit may be set by the word of any language.
+        EXPECT_EQ(Run({"report", work / (name + ".PO3"), "--set", "TimeUnit=Wochen"}).Status, 0);
+        ExpectFailure(Run({"report", work / (name + ".PO3"), "--set", "TimeUnit=moons"}), 3, {"moons"});
+    }
+}
+
+// --- other programs ---
+
+TEST_F(CliStorage, CommandsAtTheSameTimeOnAPackedProjectWaitForEachOther) {
+    const std::string project = New("Raft1", 9, {"LoadType=2", "A=4", "B=4", "h=5"});
+    ASSERT_TRUE(ProjectStore().PackProject(work / "Raft1", 1, "", ".po3"));
+    const std::string tool = CommandLineTool();
+    const std::string script = "for i in 1 2 3 4 5 6; do '" + tool + "' report '" + project +
+                               "' --set Q=$((1000 * i)) > '" + (work / "out") + "$i' 2> '" + (work / "err") +
+                               "$i' || echo failed >> '" + (work / "failed") + "' & done; wait";
+    ASSERT_EQ(std::system(script.c_str()), 0);
+    std::string errors;
+    for (int i = 1; i <= 6; ++i) {
+        EXPECT_THAT(ReadBytes(work / ("out" + std::to_string(i))), HasSubstr("Raft1"));
+        errors += ReadBytes(work / ("err" + std::to_string(i)));
+    }
+    EXPECT_FALSE(std::filesystem::exists(work / "failed")) << errors;
+    // Whoever came last has left it packed, or plain with everything in place; it opens either way.
+    EXPECT_THAT(Run({"show", project}).Out, HasSubstr("LoadType = 2\n"));
+}
+
+TEST_F(CliStorage, AProjectThatAnotherProgramHasPackedAndOpenIsToldWithWho) {
+    const std::string project = New("Footing", 1);
+    ASSERT_TRUE(ProjectStore().PackProject(work / "Footing", 1, "", ".po3"));
+    const ProjectLock lock(work / "Footing");
+    const CliResult result = Run({"show", project});
+    ExpectFailure(result, 1, {"is open already", "process " + std::to_string(::getpid())});
+    EXPECT_TRUE(IsArchiveFile(project));
+}
+
+TEST_F(CliStorage, AProjectThatIsOpenInTheWindowCanBeReported) {
+    const std::string project = New("Footing", 1);
+    const ProjectLock lock(work / "Footing");
+    EXPECT_EQ(Run({"report", project}).Status, 0);
+    ExpectFailure(Run({"new", work / "Footing", "--problem", "2"}), 1, {"Footing"});
+}
+
+TEST_F(CliStorage, ASignalThatEndsTheProgramLeavesNothingBehind) {
+    const std::string project = New("Raft1", 9, {"LoadType=2", "A=40", "B=40", "h=5", "AnalysisType=false"});
+    ASSERT_TRUE(ProjectStore().PackProject(work / "Raft1", 1, "", ".po3"));
+    runner = "timeout -s TERM 0.3 env ";
+    const CliResult result = RunPlain({"report", project});
+    EXPECT_EQ(result.Status, 124) << result.Err;
+    for (const std::string& name : work.Names()) EXPECT_THAT(name, Not(testing::StartsWith(".lithmark")));
+    runner.clear();
+    EXPECT_EQ(Run({"show", project}).Status, 0);
+}
+
+// --- files that no command should read ---
+
+TEST_F(CliStorage, HugeFilesPipesAndDevicesAreRefusedAtOnce) {
+    const std::string project = New("Footing", 1);
+    runner = "timeout 10 env ";
+    std::filesystem::resize_file(work / "Footing.SSD", std::uintmax_t{600} << 20);
+    ExpectFailure(Run({"report", project}), 1, {"Footing.SSD", "larger than 32 MB"});
+    std::filesystem::remove(work / "Footing.SSD");
+    ASSERT_EQ(::mkfifo((work / "Footing.SSD").c_str(), 0600), 0);
+    ExpectFailure(Run({"report", project}), 1, {"Footing.SSD is not a file"});
+    ASSERT_EQ(::mkfifo((work / "Pipe.PO3").c_str(), 0600), 0);
+    ExpectFailure(Run({"report", work / "Pipe.PO3"}), 1, {"Pipe.PO3 is not a file"});
+    std::filesystem::create_symlink("/dev/zero", work / "Zero.PO3");
+    ExpectFailure(Run({"report", work / "Zero.PO3"}), 1, {"Zero.PO3 is not a file"});
+}
+
+TEST_F(CliStorage, ControlCharactersDoNotReachTheTerminal) {
+    const std::string project = New("Footing", 1, {"Proj=a\x1B]0;owned\x07z"});
+    for (const char* command : {"report", "show"}) {
+        const CliResult result = Run({command, project});
+        EXPECT_EQ(result.Status, 0) << result.Err;
+        EXPECT_THAT(result.Out, HasSubstr("a\uFFFD]0;owned\uFFFDz"));
+        EXPECT_THAT(result.Out, Not(HasSubstr("\x1B")));
+    }
+    EXPECT_THAT(Run({"report", work / "no\x1B[2Jne.PO3"}).Err, Not(HasSubstr("\x1B")));
+}
+
+// --- no words of libraries ---
+
+TEST_F(CliStorage, MessagesHaveNoWordsOfALibraryInThem) {
+    const std::string project = New("Footing", 1);
+    const std::string unreachable = work / std::string(5000, 'x');
+    for (const char* lang : {"de", "ar"})
+        for (const std::vector<std::string>& words :
+             {std::vector<std::string>{"report", project, "--output", "/nowhere/report.txt"},
+              {"report", project, "--settings", unreachable},
+              {"report", unreachable + ".PO3"},
+              {"new", unreachable + "/P", "--problem", "1"}}) {
+            std::vector<std::string> line = words;
+            line.insert(line.end(), {"--lang", lang});
+            const CliResult result = RunPlain(line);
+            EXPECT_NE(result.Status, 0);
+            for (const char* word : {"filesystem", "error", "cannot", "No such", "Permission", "too long", "What"})
+                EXPECT_THAT(result.Err, Not(HasSubstr(word)));
+        }
+}
+
+}  // namespace
+}  // namespace lithmark::tests

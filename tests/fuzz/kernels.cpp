@@ -1,0 +1,74 @@
+// The kernels on what data files hold.
+#include <cmath>
+
+#include "contour/CurveSets.h"
+#include "core/Catalogue.h"
+#include "core/Session.h"
+#include "files/ProblemData.h"
+#include "fuzz/FuzzCase.h"
+#include "fuzz/FuzzTargets.h"
+#include "kernels/RunKernel.h"
+
+namespace lithmark::fuzz {
+
+namespace {
+
+// Runs that would take seconds are no matter of a fuzzer: rafts of many nodes, marches of many steps.
+bool TooLong() {
+    const SessionRecord& p = Session;
+    const auto steps = [](double length, double step) { return step > 0 ? std::abs(length) / step : 0; };
+    if (IsRaft(p.ProblemType)) return steps(p.A, p.PrefDx) * steps(p.B, p.PrefDy) > 150 || steps(p.A, 0.5) > 40;
+    if (p.ProblemType == Problem::ConsolidationRate)
+        return steps(p.hLayer(1) + p.hLayer(2), p.PrefDz) > 100 || std::abs(p.T * 3e7 * p.CvLayer(1)) > 1e3 ||
+               std::abs(p.T * 3e7 * p.CvLayer(2)) > 1e3;
+    return false;
+}
+
+void HoldPrintable() {
+    const std::string& report = Session.ResultText;
+    Hold(report.ends_with("\r\n"), "a report ends its last line");
+    Hold(report.find("nan") == std::string::npos && report.find("inf") == std::string::npos,
+         "a report has numbers in it");
+}
+
+void BuildCurves() {
+    const int problem = Session.ProblemType;
+    Session.CurveLoadUnit = Session.Force1Label;
+    Session.CurveSettlementUnit = Session.Len2Label;
+    for (const char* choice : {"Tab1", "Tab2", "Tab3", "Tab4", "Tab5", "Tab6"}) {
+        const bool raft = choice[3] >= '5';
+        if (problem != Problem::ConsolidationRate && (IsRaft(problem) != raft || !(raft || IsTimeSettlement(problem))))
+            continue;
+        Session.CurveChoice = choice;
+        try {
+            BuildChart();
+        } catch (const Failure&) {  // a value that its axis cannot show
+        }
+    }
+}
+
+}  // namespace
+
+void RunKernelOn(std::string_view bytes, int problem, const char* name) {
+    FuzzCase fuzz;
+    fuzz.Write(name, bytes);
+    Session.ProblemType = problem;
+    SetProblemDefaults();
+    if (ReadProblemData() != ReadOutcome::Read) return;
+    Session.A0 = Session.A;
+    if (TooLong()) return;
+    Session.CalcAborted = false;
+    Session.ResultText.clear();
+    const bool ran = RunProblemKernel();
+    if (Session.CalcAborted) {
+        Hold(ran, "a run that aborts has begun");
+        Hold(fuzz.Host.Messages.size() == 1, "an aborted run is told once");
+        Hold(!fuzz.Host.Messages.front().empty(), "and with words");
+        return;
+    }
+    if (!ran) return;
+    HoldPrintable();
+    BuildCurves();
+}
+
+}  // namespace lithmark::fuzz
