@@ -18,7 +18,20 @@ target_compile_options(lithmark_flags INTERFACE
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   # GCC 12's optimiser sees overlaps, overruns and uninitialised parts in plain std::string, std::variant and
   # std::function where there are none; the sanitizers of the debug build and clang's analyzer look after these.
-  target_compile_options(lithmark_flags INTERFACE -Wno-restrict -Wno-array-bounds -Wno-maybe-uninitialized)
+  target_compile_options(lithmark_flags INTERFACE -Wno-restrict -Wno-array-bounds -Wno-maybe-uninitialized
+    -Wno-stringop-overflow -Wno-stringop-overread)
+endif()
+# What is shipped is hardened: stack guards, checked copies, addresses that move, tables that cannot be written.
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+if(CMAKE_BUILD_TYPE STREQUAL "Release" AND CMAKE_SYSTEM_NAME STREQUAL "Linux")
+  include(CheckPIESupported)
+  check_pie_supported()
+  target_compile_options(lithmark_flags INTERFACE -fstack-protector-strong)
+  target_compile_definitions(lithmark_flags INTERFACE _FORTIFY_SOURCE=2)
+  if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|aarch64")
+    target_compile_options(lithmark_flags INTERFACE -fstack-clash-protection)
+  endif()
+  target_link_options(lithmark_flags INTERFACE -Wl,-z,relro,-z,now)
 endif()
 if(CMAKE_SYSTEM_PROCESSOR MATCHES "i[3-6]86")
   target_compile_options(lithmark_flags INTERFACE -msse2 -mfpmath=sse)
