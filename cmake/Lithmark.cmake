@@ -21,11 +21,9 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   target_compile_options(lithmark_flags INTERFACE -Wno-restrict -Wno-array-bounds -Wno-maybe-uninitialized
     -Wno-stringop-overflow -Wno-stringop-overread)
 endif()
-# What is shipped is hardened: stack guards, checked copies, addresses that move, tables that cannot be written.
-set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+# What is shipped is hardened: stack guards, checked copies, tables that cannot be written. That addresses move is the
+# compilers' own default.
 if(CMAKE_BUILD_TYPE STREQUAL "Release" AND CMAKE_SYSTEM_NAME STREQUAL "Linux")
-  include(CheckPIESupported)
-  check_pie_supported()
   target_compile_options(lithmark_flags INTERFACE -fstack-protector-strong)
   target_compile_definitions(lithmark_flags INTERFACE _FORTIFY_SOURCE=2)
   if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|aarch64")

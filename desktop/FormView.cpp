@@ -37,6 +37,9 @@ std::unordered_map<const Form*, FormView*>& OpenViews() {
     return views;
 }
 
+// What was typed is kept this many milliseconds after the last key.
+constexpr int kKeepAfter = 1000;
+
 // Day 25569 of the text service is 1 January 1970.
 constexpr int kEpochDay = 25569;
 
@@ -51,6 +54,9 @@ FormView::FormView(Form& form, QWidget* parent) : QDialog(parent), form_(form) {
     OpenViews()[&form] = this;
     setObjectName(Q(form.Name));
     setModal(true);
+    keep_.setSingleShot(true);
+    keep_.setInterval(kKeepAfter);
+    connect(&keep_, &QTimer::timeout, this, [this] { form_.KeepInput(); });
     setLayoutDirection(form.RightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     BuildLayout(*this);
@@ -241,11 +247,14 @@ QWidget* FormView::Make(Control& control) {
 
 void FormView::Act(const std::function<void()>& event) {
     if (event) event();
+    keep_.start();
     Refresh();
 }
 
 void FormView::Refresh() {
     if (form_.Unloaded()) {
+        if (keep_.isActive()) form_.KeepInput();
+        keep_.stop();
         done(QDialog::Accepted);
         return;
     }

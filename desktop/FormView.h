@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QTimer>
 #include <functional>
 #include <unordered_map>
 
@@ -67,6 +68,7 @@ class FormView : public QDialog {
     std::unordered_map<const Control*, QWidget*> widgets_;
     std::unordered_map<const Control*, int> placed_;
     bool refreshing_ = false;
+    QTimer keep_;  // runs from an event of the user until the form keeps its input
     int picturesShown_ = -1, heightWanted_ = 0;
 };
 

@@ -22,16 +22,21 @@ namespace fs = std::filesystem;
 
 constexpr int kFile = 1;
 
-// The user's own settings directory, with a trailing separator; empty when the user has no home.
-std::string UserSettingsDir() {
-    const char* config = std::getenv("XDG_CONFIG_HOME");
-    if (config != nullptr && *config == '/') return WithSeparator(config) + "lithmark/";
+// A folder of the user's own for this program, with a trailing separator: below the one that the variable names, or
+// below `otherwise` in the home; empty when the user has no home.
+std::string UserDir(const char* variable, const char* otherwise) {
+    const char* named = std::getenv(variable);
+    if (named != nullptr && *named == '/') return WithSeparator(named) + "lithmark/";
     const char* home = std::getenv("HOME");
     if (home == nullptr || *home != '/') {
         const passwd* user = ::getpwuid(::getuid());
         home = user != nullptr ? user->pw_dir : nullptr;
     }
-    return home != nullptr && *home == '/' ? WithSeparator(home) + ".config/lithmark/" : "";
+    return home != nullptr && *home == '/' ? WithSeparator(home) + otherwise + "/lithmark/" : "";
+}
+
+std::string UserSettingsDir() {
+    return UserDir("XDG_CONFIG_HOME", ".config");
 }
 
 bool IsWritable(const std::string& dir) {
@@ -56,6 +61,10 @@ std::string SharedServicesService::ExecutableDir() const {
     std::error_code error;
     if (length <= 0) return WithSeparator(fs::current_path(error).string());
     return WithSeparator(fs::path(std::string(path.data(), static_cast<std::size_t>(length))).parent_path().string());
+}
+
+std::string SharedServicesService::StateDir() const {
+    return settingsDir_.empty() ? UserDir("XDG_STATE_HOME", ".local/state") : settingsDir_ + "state/";
 }
 
 std::string SharedServicesService::ResourceDir() const {

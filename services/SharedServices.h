@@ -39,6 +39,10 @@ class SharedServicesService {
     std::string GetHelpFile(const std::string& key);
     // The folder of the running program, with a trailing separator.
     std::string ExecutableDir() const;
+    // Where the program keeps what is no setting but survives its end ($XDG_STATE_HOME/lithmark or
+    // ~/.local/state/lithmark), with a trailing separator; in an explicit settings directory a folder of its own. Empty
+    // when the user has no home; it need not exist.
+    std::string StateDir() const;
     // The file "Units" in the program directory; without it m, cm, kN, MN and degrees Celsius, each with factor 1. A
     // damaged file is told and counts as missing.
     UnitSettings GetUnits(const std::string& programDir);

@@ -77,6 +77,9 @@ class Form {
 
     // The controls differ from what the form loaded or last saved; the title of its window tells that.
     virtual bool Modified() const { return false; }
+    // Keeps what the user has not saved, so that an end of the program does not lose it. Whoever shows the form calls
+    // it a moment after the user's last change and before the form is taken away.
+    virtual void KeepInput() {}
 
     // Ends the form: its modal showing returns.
     void Unload();

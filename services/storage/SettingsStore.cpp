@@ -6,6 +6,7 @@
 #include <nlohmann/json.hpp>
 #include <system_error>
 
+#include "services/storage/JsonDepth.h"
 #include "services/storage/ReadFile.h"
 #include "services/storage/WrittenFile.h"
 
@@ -16,25 +17,6 @@ namespace {
 using Json = nlohmann::json;
 
 constexpr std::uint64_t kMostBytes = std::uint64_t{4} << 20;
-constexpr int kDeepest = 16;  // the store itself needs three
-
-// True when brackets stand deeper in each other than any store has them. A parser would take memory for each.
-bool TooDeep(const std::string& content) {
-    int depth = 0;
-    bool inText = false;
-    for (std::size_t i = 0; i < content.size() && depth <= kDeepest; ++i) {
-        const char c = content[i];
-        if (inText && c == '\\')
-            ++i;
-        else if (c == '"')
-            inText = !inText;
-        else if (!inText && (c == '{' || c == '['))
-            ++depth;
-        else if (!inText && (c == '}' || c == ']'))
-            --depth;
-    }
-    return depth > kDeepest;
-}
 
 Json ReadStore(const std::string& file, StoreTrouble& trouble) {
     std::string content;
@@ -44,7 +26,7 @@ Json ReadStore(const std::string& file, StoreTrouble& trouble) {
         if (failure.Kind() != FailureKind::FileMissing) trouble.Unreadable = failure;
         return Json::object();
     }
-    if (!TooDeep(content)) {
+    if (!IsJsonTooDeep(content)) {
         Json store = Json::parse(content, nullptr, false);
         if (store.is_object()) return store;
     }

@@ -2,6 +2,7 @@
 #include <set>
 
 #include "cli/CliCase.h"
+#include "support/Places.h"
 
 namespace lithmark::tests {
 namespace {

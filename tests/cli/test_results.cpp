@@ -98,8 +98,8 @@ TEST_F(CliResults, StressesHaveTheirSixteenFieldsAndTheValuesOfTheKernel) {
     const char* const examples[] = {"PointLoad", "BridgePier", "CircularTank"};
     for (int i = 0; i < 3; ++i) {
         const Json json = Report(Example(examples[i]));
-        EXPECT_EQ(Keys(json),
-                  (std::vector<std::string>{"project", "problem", "aborted", "messages", "notices", "results", "report"}));
+        EXPECT_EQ(Keys(json), (std::vector<std::string>{"project", "problem", "aborted", "messages", "notices",
+                                                        "results", "report"}));
         EXPECT_EQ(json["project"], examples[i]);
         EXPECT_EQ(json["problem"], i + 1);
         EXPECT_EQ(json["aborted"], false);

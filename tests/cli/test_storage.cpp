@@ -7,6 +7,7 @@
 #include "cli/CliCase.h"
 #include "services/ProjectStore.h"
 #include "services/storage/ProjectArchive.h"
+#include "support/Places.h"
 
 namespace lithmark::tests {
 namespace {

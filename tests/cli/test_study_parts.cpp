@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "cli/StudyCliCase.h"
+#include "support/Places.h"
 
 namespace lithmark::tests {
 namespace {

@@ -1,5 +1,6 @@
 // report --tables: the steps behind the result, behind the report or alone.
 #include "cli/CliCase.h"
+#include "support/Places.h"
 
 namespace lithmark::tests {
 namespace {

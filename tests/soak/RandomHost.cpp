@@ -118,6 +118,7 @@ void RandomHost::ShowForm(Form& form) {
     for (int steps = depth_ > kDeepest ? 0 : Below(kMostSteps); steps > 0 && !form.Unloaded(); --steps)
         DoAnything(form);
     --depth_;
+    form.KeepInput();
     if (!form.Unloaded()) form.Unload();
 }
 
@@ -156,6 +157,10 @@ void RandomHost::DoAnything(Form& form) {
             break;
         case ControlKind::Option:
             form.SelectOption(control);
+            break;
+        case ControlKind::List:
+            if (control.Items.empty()) return;
+            control.ListIndex = Below(static_cast<int>(control.Items.size()));
             break;
         case ControlKind::TextLabel:
         case ControlKind::Button:

@@ -6,6 +6,7 @@
 #include "AllForms.h"
 #include "FormTest.h"
 #include "core/Catalogue.h"
+#include "core/SessionFields.h"
 #include "files/ProblemData.h"
 #include "files/SettingsFiles.h"
 #include "support/DistinctFields.h"

@@ -13,6 +13,7 @@
 #include "ui/model/HelpText.h"
 #include "ui/model/ProjectFlags.h"
 #include "ui/model/ResultViewer.h"
+#include "ui/model/UnsavedInput.h"
 
 namespace lithmark {
 
@@ -66,6 +67,32 @@ void ProblemForm::Load() {
                  {cmdResult, 140096_text, Styles::Button}});
     ShowForProblem();
     MarkSaved();
+    OfferUnsavedInput();
+}
+
+void ProblemForm::OfferUnsavedInput() {
+    const std::string folder = DraftFolder();
+    const auto draft = ReadDraft(folder, Session.DataDir + Session.ProjectName, Name);
+    if (!draft) return;
+    if (!CurrentHost().AskYesNo(Caption, Text(906550_text, {{"|1", draft->When}}))) return DropUnsavedInput();
+    TakeDraftData(*draft);
+    ShowData();
+    TakeDraftTexts(*this, *draft);
+}
+
+void ProblemForm::KeepInput() {
+    const std::string folder = DraftFolder();
+    if (folder.empty()) return;
+    if (!Modified()) return DropUnsavedInput();
+    try {
+        WriteDraft(folder, DraftOf(*this));
+    } catch (const Failure&) {
+        // The user is typing: what the state folder cannot take is told by no message, saving tells its own.
+    }
+}
+
+void ProblemForm::DropUnsavedInput() {
+    RemoveDraft(DraftFolder(), Session.DataDir + Session.ProjectName, Name);
 }
 
 void ProblemForm::ShowData() {
@@ -98,7 +125,9 @@ void ProblemForm::SaveData() {
     if (!Session.DataValid) return;
     WriteProblemData();
     EndHourglass();
-    if (Session.FileSaved) MarkSaved();
+    if (!Session.FileSaved) return;
+    MarkSaved();
+    DropUnsavedInput();
 }
 
 void ProblemForm::cmdHelp_Click() {
@@ -142,6 +171,7 @@ void ProblemForm::cmdResult_Click() {
         Session.DataValid = false;
         StoreData();
         if (!Session.DataValid) return;
+        KeepInput();
         Session.CalcAborted = false;
         Steps().SwitchOn(true);  // the viewer can show them
         if (!RunProblemKernel()) {

@@ -27,6 +27,8 @@ class ProblemForm : public FieldForm {
     // The controls differ from what the form loaded or last saved. Closing asks nothing and stores nothing, so the
     // window's title has to tell. Data opened from another file are not the project's until they are saved.
     bool Modified() const override { return Inputs() != savedInputs_; }
+    // Unsaved input survives in the user's state folder; Load offers it. Saving it, or declining it, removes it.
+    void KeepInput() override;
 
     // What StoreData would leave in Session now. Changes nothing and shows nothing.
     FormDraft Draft() const;
@@ -64,6 +66,9 @@ class ProblemForm : public FieldForm {
     virtual std::string Help() const = 0;
 
   private:
+    void OfferUnsavedInput();
+    void DropUnsavedInput();
+
     std::vector<std::string> savedInputs_;
 };
 
