@@ -9,8 +9,8 @@
 #include "files/CommonStep.h"
 #include "kernels/RunProject.h"
 #include "services/SharedServices.h"
-#include "study/CsvText.h"
 #include "services/texts/LanguageTexts.h"
+#include "study/CsvText.h"
 #ifdef LITHMARK_RENDER
 #include "render/ChartDocument.h"
 #endif

@@ -33,7 +33,8 @@ void RefuseProjectFile(const std::string& output) {
     namespace fs = std::filesystem;
     if (output.empty() || Session.ProjectName.empty()) return;
     std::error_code error;
-    const fs::path named = fs::weakly_canonical(output, error);
+    // A project's file is found in either letter case.
+    const fs::path named = fs::weakly_canonical(MappedFileName(output), error);
     for (const std::string_view extension : ProjectExtensions()) {
         const std::string file = MappedFileName(Session.DataDir + Session.ProjectName + "." + std::string(extension));
         if (fs::weakly_canonical(file, error) == named || fs::equivalent(file, output, error))

@@ -23,13 +23,14 @@ LinkList::LinkList(QWidget* parent) : QListWidget(parent) {
     connect(this, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
         if (OnLink) OnLink(row(item));
     });
-    auto* enter = new QAction(this);
-    enter->setShortcuts({QKeySequence(Qt::Key_Return), QKeySequence(Qt::Key_Enter)});
-    enter->setShortcutContext(Qt::WidgetShortcut);
-    connect(enter, &QAction::triggered, this, [this] {
-        if (OnLink && currentRow() >= 0) OnLink(currentRow());
-    });
-    addAction(enter);
+}
+
+// Enter opens the line, and does not reach the window's default button.
+void LinkList::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!enter) return QListWidget::keyPressEvent(event);
+    event->accept();
+    if (OnLink && currentRow() >= 0) OnLink(currentRow());
 }
 
 void LinkList::ShowItems(const std::vector<std::string>& items) {

@@ -18,6 +18,7 @@ class LinkList : public QListWidget {
     QSize sizeHint() const override;
 
   protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 };
 

@@ -52,6 +52,7 @@ ReadOutcome ReadOrderFile() {
 
 ReadOutcome ReadProjectData() {
     const ReadOutcome order = ReadFile(Session.WorkDir, Session.WorkName, "AUF", ReadHeadingData);
+    if (order == ReadOutcome::Missing) Session.Auftr = Session.Datum = Session.Proj = std::string();
     const ReadOutcome project = ReadProjectFile(Session.WorkDir, Session.WorkName, Session.ProblemType);
     return order == ReadOutcome::Failed ? order : project;
 }

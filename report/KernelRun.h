@@ -18,8 +18,8 @@ Failure WithCause(Failure failure, const std::string& cause);
 
 // Runs the body of a kernel, with an empty board of notices and no tables of steps. Any run-time failure ends it: the
 // shared failure routine tells it, with what `cause` then says of the input (report/Causes.h), and drops the open file,
-// and Session.CalcAborted is set. A run that the user ends leaves the notices of the one before it. The pointer stays as
-// the body left it. No exception leaves.
+// and Session.CalcAborted is set. A run that the user ends leaves the notices of the one before it. The pointer stays
+// as the body left it. No exception leaves.
 template <typename Body, typename Cause>
 void RunKernel(Body&& body, Cause&& cause) {
     const NoticeBoard former = Notices();

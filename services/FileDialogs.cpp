@@ -42,8 +42,13 @@ bool FileDialogsService::SaveFileDialog(std::string& file, const std::string& st
     const auto chosen = CurrentHost().ChooseFileToSave(title.empty() ? Title(extension, 10339_text, 9_text) : title,
                                                        startDir, outName, extension);
     if (!chosen) return false;
-    file = MappedFileName(HasExtension(*chosen, extension) ? *chosen : *chosen + "." + extension);
-    SplitProjectPath(file, outDir, outName);
+    const std::string path = HasExtension(*chosen, extension) ? *chosen : *chosen + "." + extension;
+    std::string dir, name;
+    SplitProjectPath(path, dir, name);
+    if (name.empty()) return false;  // a folder is no name for a file
+    file = MappedFileName(path);
+    outDir = dir;
+    outName = name;
     return true;
 }
 

@@ -8,7 +8,8 @@ using R = SessionRecord;
 
 }  // namespace
 
-frmConsolidation::frmConsolidation() : LoadForm("frmConsolidation", {"Consolidation.bmp", "Consolidation Form", "consolidation"}) {
+frmConsolidation::frmConsolidation()
+    : LoadForm("frmConsolidation", {"Consolidation.bmp", "Consolidation Form", "consolidation"}) {
     const auto shown = CheckedWhen::Shown;
     SetFields({
         RowX({GoTo(txt_y)}),

@@ -34,6 +34,16 @@ std::string CauseInLayer(const ConsolidationRateInput& in, int i) {
                        IfHuge(QuantityName(10242_text, i), in.KLayer(i))});
 }
 
+// The nodes are counted in 16 bits.
+std::string CauseInNodes(const ConsolidationRateInput& in) {
+    constexpr double kMostNodes = 32766;
+    const bool second = in.NumLayers > 1;
+    const double thickness = in.hLayer(1) + (second ? double{in.hLayer(2)} : 0.0);
+    if (Session.PrefDz <= 0 || thickness / Session.PrefDz <= kMostNodes) return {};
+    const int thicker = second && in.hLayer(2) > in.hLayer(1) ? 2 : 1;
+    return Text(909103_text, {{"|1", QuantityName(40052_text, thicker)}});
+}
+
 }  // namespace
 
 std::string CauseInConsolidation(const ConsolidationInput& in) {
@@ -56,11 +66,17 @@ std::string CauseInConsolidationRate(const ConsolidationRateInput& in) {
     const std::string coefficient = QuantityName(10243_text);
     const bool second = in.NumLayers > 1;
     const double greatest = second ? std::max<double>(in.CvLayer(1), in.CvLayer(2)) : double{in.CvLayer(1)};
+    // The initial pressure comes first in a run; a rectangle's has no value at the surface.
+    const bool rectangle = !in.Pressure && in.LoadType == LoadShape::Rectangle;
     return FirstCause(
-        {IfNotPositive(QuantityName(400148_text), Session.PrefDz), CauseInLayer(in, 1),
-         When(second, second ? CauseInLayer(in, 2) : std::string()), IfNotPositive(coefficient, greatest),
-         IfNegative(QuantityName(300007_text), in.T), IfHuge(QuantityName(300007_text), in.T),
-         When(in.Pressure, IfZero(QuantityName(300008_text), in.U)),
+        {When(rectangle, IfNotPositive(QuantityName(400001_text), in.A)),
+         When(rectangle, IfNotPositive(QuantityName(101_text), in.B)),
+         When(rectangle, IfNotPositive(QuantityName(Axis::Z), in.z)), CauseInLayer(in, 1),
+         When(second, second ? CauseInLayer(in, 2) : std::string()),
+         // Behind the layers: a run makes the step fit them.
+         IfNotPositive(QuantityName(400148_text), Session.PrefDz), CauseInNodes(in),
+         IfNotPositive(coefficient, greatest), IfNegative(QuantityName(300007_text), in.T),
+         IfHuge(QuantityName(300007_text), in.T), When(in.Pressure, IfZero(QuantityName(300008_text), in.U)),
          When(in.Pressure, IfHuge(QuantityName(300008_text), in.U)),
          When(!in.Pressure, IfZero(QuantityName(in.LoadType == LoadShape::Point ? 400186_text : 400170_text),
                                    in.LoadType == LoadShape::Point ? in.Q : in.P)),

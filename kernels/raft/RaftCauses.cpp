@@ -65,6 +65,7 @@ std::string CauseInRaft(const RaftInput& in, double dx, double dy) {
                        When(!elastic, IfNegative(QuantityName(Axis::Z), in.z)),
                        When(elastic, IfOutside(QuantityName(90004_text), Session.Nue, 0, 0.5)), IfHuge(thickness, in.h),
                        IfHuge(QuantityName(400186_text), in.Q), IfHuge(QuantityName(Axis::Z), in.z),
+                       When(circle && clay, IfNegative(QuantityName(300076_text), in.Exz_x)),
                        IfHuge(QuantityName(300076_text), in.Exz_x)});
 }
 

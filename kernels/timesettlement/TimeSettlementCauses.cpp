@@ -51,7 +51,7 @@ std::string CauseInTheory() {
 std::string CauseInMeasurement() {
     const bool soil = Session.CvChoice == CvFrom::SoilData;
     const bool theory = Session.ProblemType == Problem::TimeTheory;
-    return FirstCause({IfOutside(QuantityName(300028_text), Session.DesignCode, 0, kMostWhole - 1),
+    return FirstCause({IfOutside(QuantityName(300028_text), Session.DesignCode, 1, kMostWhole - 1),
                        IfZero(QuantityName(400124_text), Session.Sc),
                        When(theory && soil, IfZero(QuantityName(10242_text), Session.kf)),
                        When(theory && !soil, IfZero(QuantityName(10243_text), Session.CvTS)),
@@ -71,7 +71,7 @@ std::string CauseInTimeSettlement() {
                        When(oedometer, CauseInDrainage()),
                        When(oedometer, oedometer ? IfTimesDoNotIncrease(Session.OedTime, Session.NOed) : std::string()),
                        When(problem == Problem::TimeTheory, CauseInTheory()), When(Session.Ms, CauseInMeasurement()),
-                       IfOutside(QuantityName(300071_text), Session.TimePeriod, 1, kMostWhole),
+                       IfOutside(QuantityName(300071_text), Session.TimePeriod, 1, kMostWhole - 1),
                        IfHuge(QuantityName(400124_text), Session.Sc), IfHuge(QuantityName(300026_text), Session.Pt)});
 }
 

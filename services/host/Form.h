@@ -29,7 +29,8 @@ enum class ControlKind {
 };
 
 // One control. `Value` is the state of options and check boxes; `Items` and `ListIndex` (-1: nothing selected) belong
-// to combo boxes, tabs and lists, whose items lead somewhere. A control's name carries its index where it stands in a control array: "optLoadType(1)".
+// to combo boxes, tabs and lists, whose items lead somewhere. A control's name carries its index where it stands in a
+// control array: "optLoadType(1)".
 class Control {
   public:
     Control(Form& owner, ControlKind kind, std::string name);

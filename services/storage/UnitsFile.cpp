@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <array>
 
-#include "base/Utf8.h"
 #include "base/Failure.h"
 #include "base/NumberText.h"
+#include "base/Utf8.h"
 #include "services/storage/DataFile.h"
 #include "services/texts/LanguageTexts.h"
 

@@ -25,7 +25,7 @@ struct Target {
 
 // Which includes a library of others is linked for.
 const std::map<std::string, std::string> kLibraries = {
-    {"Threads::Threads", "atomic|thread|mutex|condition_variable|future"},
+    {"Threads::Threads", "thread|mutex|condition_variable|future"},
     {"nlohmann_json::nlohmann_json", "nlohmann/.*"},
     {"PkgConfig::LIBZIP", "zip\\.h"},
     {"CLI11::CLI11", "CLI/.*"},

@@ -135,14 +135,18 @@ class Causes : public testing::TestWithParam<std::size_t> {
     static void Set(const std::string& name, const std::string& value) {
         ASSERT_EQ(SetSessionField(name, value), SetFieldOutcome::Done) << name << "=" << value;
     }
-    // The message of the run, empty when it went through.
+    // The message of a failure, empty when the run went through or ended with an advice of its own. Advice may go ahead
+    // of a failure, which is told once.
     std::string Run() {
         Session.A0 = Session.A;
         Session.CalcAborted = false;
         RunProblemKernel();
         if (!Session.CalcAborted) return {};
-        EXPECT_EQ(host.Messages.size(), 1u);
-        return host.LastMessage().Text;
+        std::vector<std::string> failures;
+        for (const auto& message : host.Messages)
+            if (message.Text.find("The calculation was stopped") != std::string::npos) failures.push_back(message.Text);
+        EXPECT_LE(failures.size(), 1u);
+        return failures.empty() ? std::string() : failures.front();
     }
     static std::vector<std::string> Inputs() {
         std::vector<std::string> inputs;
@@ -195,7 +199,7 @@ TEST(CausesInOtherLanguages, AreToldOnceInTheLanguageOfTheReport) {
     for (const auto& [language, expected] :
          {std::pair(Language::German, "Die Berechnung wurde abgebrochen: Elastizitätsmodul ist 0."),
           {Language::English, "The calculation was stopped: modulus of elasticity is 0."},
-          {Language::Arabic, "توقف الحساب: معاير المرونة = 0."}}) {
+          {Language::Arabic, "توقف الحساب: معاير المرونة يساوي صفرًا."}}) {
         ScriptedHost host;
         FreshSession(language);
         Session.ProblemType = 2;

@@ -70,8 +70,8 @@ TEST_F(CliStorage, CommandsAtTheSameTimeOnAPackedProjectWaitForEachOther) {
     ASSERT_TRUE(ProjectStore().PackProject(work / "Raft1", 1, "", ".po3"));
     const std::string tool = CommandLineTool();
     const std::string script = "for i in 1 2 3 4 5 6; do '" + tool + "' report '" + project +
-                               "' --set Q=$((1000 * i)) > '" + (work / "out") + "$i' 2> '" + (work / "err") +
-                               "$i' || echo failed >> '" + (work / "failed") + "' & done; wait";
+                               "' --set Q=$((1000 * i)) > '" + (work / "out") + "'$i 2> '" + (work / "err") +
+                               "'$i || echo failed >> '" + (work / "failed") + "' & done; wait";
     ASSERT_EQ(std::system(script.c_str()), 0);
     std::string errors;
     for (int i = 1; i <= 6; ++i) {

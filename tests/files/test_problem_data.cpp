@@ -138,14 +138,14 @@ TEST_F(ProblemData, AFileWrittenByOneMethodIsReadByAnother) {
     EXPECT_EQ(Session.ProblemType, 6);
 }
 
-TEST_F(ProblemData, TheTimeUnitIsTheWordOfTheLanguageItWasWrittenIn) {
+TEST_F(ProblemData, ATimeUnitOfAnotherLanguageIsTheSameUnitOfTheLanguageInForce) {
     StartIn(Language::Arabic);
     StartProblem(5);
     WriteProblemData();
     StartIn(Language::German);
     StartProblem(5);
     EXPECT_EQ(ReadProblemData(), ReadOutcome::Read);
-    EXPECT_EQ(Session.TimeUnit, "سنة");
+    EXPECT_EQ(Session.TimeUnit, "Jahre");
 }
 
 TEST_F(ProblemData, TheUnitOfTheReadingsIsReadAsAListItem) {

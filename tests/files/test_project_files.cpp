@@ -96,10 +96,10 @@ TEST_F(ProjectFiles, AShortOrderFileKeepsWhatWasRead) {
     EXPECT_EQ(Session.Auftr, "New order");
     EXPECT_EQ(Session.Datum, "old");
     EXPECT_EQ(host.Messages.size(), 1u);
-    // And the project file is not read behind it.
+    // The project keeps its problem.
     WriteBytes(Path("PO3"), "Version 9\r\n7\r\n0\r\n");
     EXPECT_EQ(ReadProjectData(), ReadOutcome::Failed);
-    EXPECT_EQ(Session.ProblemType, 1);
+    EXPECT_EQ(Session.ProblemType, 7);
 }
 
 TEST_F(ProjectFiles, OlderOrderFilesAreReadInTheirCodePage) {
@@ -121,13 +121,15 @@ TEST_F(ProjectFiles, MissingFilesEndReadingWithoutAWord) {
     EXPECT_EQ(ReadOrderFile(), ReadOutcome::Missing);
     EXPECT_EQ(ReadProjectData(), ReadOutcome::Missing);
     WriteBytes(Path("PO3"), "Version 9\r\n7\r\n0\r\n");
-    EXPECT_EQ(ReadProjectData(), ReadOutcome::Missing);  // the order file comes first
-    EXPECT_EQ(Session.ProblemType, 5);
+    // A project without an order file keeps its problem; heading and order are empty.
+    EXPECT_EQ(ReadProjectData(), ReadOutcome::Read);
+    EXPECT_EQ(Session.ProblemType, 7);
+    EXPECT_EQ(Session.Auftr, "");
     std::filesystem::remove(Path("PO3"));
     WriteBytes(Path("AUF"), "new\r\n\r\n\r\n");
     EXPECT_EQ(ReadProjectData(), ReadOutcome::Missing);
     EXPECT_EQ(Session.Auftr, "new");
-    EXPECT_EQ(Session.ProblemType, 5);
+    EXPECT_EQ(Session.ProblemType, 7);
     EXPECT_THAT(host.Messages, IsEmpty());
 }
 

@@ -63,7 +63,8 @@ TEST_F(DraftStoreTest, AFullDiskLeavesTheFormerDraftAndNothingElse) {
     WriteDraft(Dir(), Draft());
     StoredDraft larger = Draft();
     larger.Texts.front().second = std::string(20000, 'x');
-    EXPECT_TRUE(OnAFullDisk(8192, [&] { return KindOf([&] { WriteDraft(Dir(), larger); }) == FailureKind::DiskFull; }));
+    EXPECT_TRUE(
+        OnAFullDisk(8192, [&] { return KindOf([&] { WriteDraft(Dir(), larger); }) == FailureKind::WriteError; }));
     EXPECT_EQ(ReadDraft(Dir(), "/data/Crane", "frmstress"), Draft());
     EXPECT_THAT(std::vector<std::filesystem::path>(std::filesystem::directory_iterator(Dir()), {}), SizeIs(1));
 }

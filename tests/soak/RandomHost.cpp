@@ -5,7 +5,6 @@
 #include <filesystem>
 #include <iterator>
 
-
 namespace lithmark::tests {
 
 namespace {
@@ -54,7 +53,7 @@ constexpr const char* kTexts[] = {"",
                                   "Tage",
                                   "‏سنة‏",
                                   "\"a, b\"",
-                                  "&Go|1",
+                                  "&Go|9",
                                   "\\..\\x"};
 
 const std::vector<std::string>& Names() {

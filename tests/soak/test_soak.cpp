@@ -63,10 +63,16 @@ class Soak : public testing::Test {
         frame_->SetClock([now]() mutable { return now += 1000; });
         frame_->Start("");
     }
+    // An entry can be clicked when all menus that it stands in can be opened.
+    bool IsReachable(const MenuItem& item) {
+        if (!item.Enabled || !item.Visible) return false;
+        const MenuItem* parent = item.Parent.empty() ? nullptr : frame_->Menu.Find(item.Parent);
+        return parent == nullptr || IsReachable(*parent);
+    }
     void AnyCommand() {
         std::vector<std::string> keys;
         for (const MenuItem& item : frame_->Menu.Items())
-            if (item.Enabled && item.Visible && !item.Separator()) keys.push_back(item.Key);
+            if (IsReachable(item) && !item.Separator()) keys.push_back(item.Key);
         const std::string key = keys[static_cast<std::size_t>(host_.Below(static_cast<int>(keys.size())))];
         host_.Note("menu " + key);
         frame_->m_cMenu_Click(key);

@@ -6,6 +6,7 @@
 #include "core/Units.h"
 #include "ui/frmResultTools.h"
 #include "ui/frmstress.h"
+#include "ui/model/UnsavedInput.h"
 
 using namespace lithmark;
 using namespace lithmark::tests;
@@ -158,6 +159,7 @@ TEST_F(StressDialog, FieldsAreCheckedInTheirOrderAndNamedInTheMessage) {
             EXPECT_EQ(Session.LoadType, option + 1);
         });
         ++option;
+        RemoveDraft(DraftFolder(), Session.DataDir + Session.ProjectName, "frmstress");
     }
 }
 

@@ -132,7 +132,7 @@ TEST_F(StressCommands, AResultOpensTheViewerOnTheReport) {
         Type(form, "txt_y", "0");
         Type(form, "txt_z", "2");
         OnViewer([](frmResultTools& viewer) {
-            EXPECT_EQ(viewer.Caption, "Stresses in soil");
+            EXPECT_EQ(viewer.Caption, "Stresses in soil - Notices: 1");  // the point is in line with the load
             EXPECT_EQ(viewer.txtResult.Text, Session.ResultText);
             EXPECT_THAT(viewer.txtResult.Text, HasSubstr("937.5"));
             EXPECT_TRUE(viewer.txtResult.ReadOnly);
