@@ -5,6 +5,7 @@
 #include "core/Units.h"
 #include "files/CommonStep.h"
 #include "services/SharedServices.h"
+#include "services/storage/UserFolders.h"
 
 namespace lithmark {
 
@@ -37,6 +38,7 @@ void ReadOptionalSettings(const std::string& name, Read&& read) {
 template <typename Write>
 bool WriteSettings(const std::string& name, Write&& write) {
     return UnderCommonStep([&] {
+        MakeSettingsDir(Session.ProgramDir);
         OpenDataFile(SettingsFileName(name), FileMode::Output, kFile);
         write();
         CloseDataFile(kFile);
@@ -86,7 +88,7 @@ void SavePreferences() {
 }
 
 bool ReadDataDirSettings(std::string& dataDir) {
-    dataDir = Session.ProgramDir;
+    dataDir = DataDirUnset(Session.ProgramDir);
     Session.CompressFlag = 2;
     bool read = false;
     const bool done = UnderCommonStep([&] {

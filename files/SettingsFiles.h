@@ -19,8 +19,8 @@ void LoadPreferences();
 // Writes them and sets Session.FileSaved; a failure goes through FileError.
 void SavePreferences();
 
-// The data directory and Session.CompressFlag of "STEU"; true when both could be read. Otherwise the program directory
-// and 2; a damaged file is told.
+// The data directory and Session.CompressFlag of "STEU"; true when both could be read. Otherwise DataDirUnset and 2;
+// a damaged file is told.
 bool ReadDataDirSettings(std::string& dataDir);
 // Writes both and sets Session.FileSaved; a failure goes through FileError.
 void WriteDataDirSettings(const std::string& dataDir);

@@ -1,10 +1,8 @@
 // The part of SharedServices that knows where files lie and what the settings files hold.
-#include <pwd.h>
 #include <unistd.h>
 
 #include <array>
 #include <climits>
-#include <cstdlib>
 #include <filesystem>
 #include <system_error>
 
@@ -13,6 +11,7 @@
 #include "services/storage/DataFile.h"
 #include "services/storage/FileNames.h"
 #include "services/storage/SettingsStore.h"
+#include "services/storage/UserFolders.h"
 
 namespace lithmark {
 
@@ -21,27 +20,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int kFile = 1;
-
-// A folder of the user's own for this program, with a trailing separator: below the one that the variable names, or
-// below `otherwise` in the home; empty when the user has no home.
-std::string UserDir(const char* variable, const char* otherwise) {
-    const char* named = std::getenv(variable);
-    if (named != nullptr && *named == '/') return WithSeparator(named) + "lithmark/";
-    const char* home = std::getenv("HOME");
-    if (home == nullptr || *home != '/') {
-        const passwd* user = ::getpwuid(::getuid());
-        home = user != nullptr ? user->pw_dir : nullptr;
-    }
-    return home != nullptr && *home == '/' ? WithSeparator(home) + otherwise + "/lithmark/" : "";
-}
-
-std::string UserSettingsDir() {
-    return UserDir("XDG_CONFIG_HOME", ".config");
-}
-
-bool IsWritable(const std::string& dir) {
-    return ::access(dir.c_str(), W_OK | X_OK) == 0;
-}
 
 // The word by which a language is stored, the same as it calls itself: text 140156.
 std::string LanguageWord(Language language) {
@@ -64,7 +42,7 @@ std::string SharedServicesService::ExecutableDir() const {
 }
 
 std::string SharedServicesService::StateDir() const {
-    return settingsDir_.empty() ? UserDir("XDG_STATE_HOME", ".local/state") : settingsDir_ + "state/";
+    return settingsDir_.empty() ? UserStateDir() : settingsDir_ + "state/";
 }
 
 std::string SharedServicesService::ResourceDir() const {
@@ -76,17 +54,12 @@ std::string SharedServicesService::ResourceDir() const {
 
 std::string SharedServicesService::ProgramDir() const {
     if (!settingsDir_.empty()) return settingsDir_;
-    std::string program = ResourceDir();
-    if (IsWritable(program)) return program;
     const std::string user = UserSettingsDir();
-    std::error_code error;  // a directory that cannot be made shows in the first write
-    if (!user.empty()) fs::create_directories(user, error);
-    return user.empty() ? program : user;
+    return user.empty() ? ResourceDir() : user;
 }
 
 std::string SharedServicesService::SettingsFile() const {
-    std::string dir = settingsDir_.empty() ? UserSettingsDir() : settingsDir_;
-    return (dir.empty() ? ProgramDir() : dir) + "settings.json";
+    return ProgramDir() + "settings.json";
 }
 
 void SharedServicesService::TellDamage(const std::string& file, const Failure& failure) {
@@ -97,7 +70,7 @@ void SharedServicesService::TellDamage(const std::string& file, const Failure& f
 
 Directories SharedServicesService::GetDirectories() {
     const std::string program = ProgramDir();
-    Directories defaults{program, program, 2};
+    Directories defaults{program, DataDirUnset(program), 2};
     const std::string file = program + "STEU";
     if (FileMissing(file, true)) return defaults;
     try {

@@ -26,15 +26,15 @@ class SharedServicesService {
     void SetProgramNumber(int number);
     void CloseServices();
 
-    // The program directory holds the settings files: ../share/lithmark beside an installed program, else the
-    // program's own folder. When it is not writable the user's own settings directory ($XDG_CONFIG_HOME/lithmark or
-    // ~/.config/lithmark) takes its place. An explicit directory (command line, tests) goes before both and holds the
-    // settings store too; an empty name takes it back.
+    // The program directory holds the settings files and the settings store: the user's own settings directory
+    // ($XDG_CONFIG_HOME/lithmark or ~/.config/lithmark), never a place beside the program; a user without a home has
+    // the settings that were installed. An explicit directory (command line, tests) goes before it; an empty name
+    // takes it back.
     void UseSettingsDirectory(const std::string& dir);
-    // Program directory, and data directory and packing flag from the file "STEU" in it; without the file the program
-    // directory and 2. A damaged file is told and counts as missing.
+    // Program directory, and data directory and packing flag from the file "STEU" in it; without the file
+    // DataDirUnset and 2. A damaged file is told and counts as missing.
     Directories GetDirectories();
-    // Where the program's own files lie (help pages, pictures), with a trailing separator; they are only read.
+    // Where the program's own files lie, ../share/lithmark beside an installed program; they are only read.
     std::string ResourceDir() const;
     std::string GetHelpFile(const std::string& key);
     // The folder of the running program, with a trailing separator.

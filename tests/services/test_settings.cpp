@@ -162,24 +162,6 @@ TEST_F(Settings, ADamagedSettingFileIsToldAndCountsAsMissing) {
     EXPECT_THAT(host.LastMessage().Text, AllOf(HasSubstr("STEU"), HasSubstr("Line 2"), HasSubstr("seven")));
 }
 
-TEST_F(Settings, WithoutAnExplicitDirectoryTheProgramsOwnServes) {
-    SharedServices().UseSettingsDirectory("");
-    const std::string own = std::filesystem::read_symlink("/proc/self/exe").parent_path().string() + "/";
-    EXPECT_EQ(SharedServices().ResourceDir(), own);
-    EXPECT_EQ(SharedServices().GetHelpFile("verda"), own + "help/verda.html");
-    EXPECT_EQ(SharedServices().GetDirectories().ProgramDir, own);
-}
-
-TEST_F(Settings, TheStoreOfAUserLiesInTheUsersOwnDirectory) {
-    SharedServices().UseSettingsDirectory("");
-    const char* before = std::getenv("XDG_CONFIG_HOME");
-    const std::string kept = before != nullptr ? before : "";
-    ::setenv("XDG_CONFIG_HOME", (folder / "config").c_str(), 1);
-    SharedServices().SaveSetting("App", "Settings", "A", true);
-    before != nullptr ? ::setenv("XDG_CONFIG_HOME", kept.c_str(), 1) : ::unsetenv("XDG_CONFIG_HOME");
-    EXPECT_TRUE(std::filesystem::exists(folder / "config/lithmark/settings.json"));
-}
-
 // --- units ---------------------------------------------------------------------------------------------------------
 
 void ExpectDefaults(const UnitSettings& units) {

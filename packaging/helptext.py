@@ -1,0 +1,103 @@
+"""Reads what a command line program says of itself: the commands, arguments and options of its --help.
+
+The man page and the completions are made from it, so that they name what the parser takes and nothing else.
+"""
+import os
+import re
+import subprocess
+from dataclasses import dataclass, field
+
+LINE = re.compile(r'^  (\S.*?)(?:  +(\S.*))?$')
+OPTION = re.compile(r'^(?P<flags>-[^ ]+)(?: (?P<rest>.*))?$')
+
+
+@dataclass
+class Entry:
+    """An option or an argument: its flags or name, the form of its value, the words that it takes, its text."""
+    flags: list
+    value: str = ''
+    choices: list = field(default_factory=list)
+    several: bool = False
+    required: bool = False
+    text: str = ''
+
+    @property
+    def long(self):
+        return next((flag for flag in self.flags if flag.startswith('--')), self.flags[0])
+
+
+@dataclass
+class Command:
+    name: str
+    text: str = ''
+    arguments: list = field(default_factory=list)
+    options: list = field(default_factory=list)
+    commands: list = field(default_factory=list)
+
+
+def run(program, *words):
+    environment = dict(os.environ, LC_ALL='C.UTF-8', HOME='/nonexistent', XDG_CONFIG_HOME='/nonexistent')
+    done = subprocess.run([program, *words], capture_output=True, text=True, encoding='utf-8', env=environment)
+    if done.returncode != 0:
+        raise SystemExit(f"{program} {' '.join(words)} ended with status {done.returncode}: {done.stderr.strip()}")
+    return done.stdout
+
+
+def value_of(rest, entry):
+    """Takes apart `TEXT:{a,b} ... REQUIRED` and `INT:INT in [1 - 11]`."""
+    if rest.endswith(' REQUIRED') or rest == 'REQUIRED':
+        entry.required = True
+        rest = rest[:-len('REQUIRED')].rstrip()
+    while rest.endswith(' ...'):
+        entry.several = True
+        rest = rest[:-4]
+    choices = re.search(r':\{([^}]*)\}', rest)
+    if choices:
+        entry.choices = choices.group(1).split(',')
+        rest = rest[:choices.start()] + rest[choices.end():]
+    limits = re.search(r':\S+ in \[(\S+) - (\S+)\]', rest)
+    if limits:
+        rest = rest[:limits.start()] + rest[limits.end():]
+    entry.value = {'TEXT': 'WORD', 'INT': 'N'}.get(rest, rest)
+    return entry
+
+
+def entry_of(head, text):
+    option = OPTION.match(head)
+    if option:
+        return value_of(option['rest'] or '', Entry(option['flags'].split(','), text=text))
+    name, _, rest = head.partition(' ')
+    return value_of(rest, Entry([name], text=text))
+
+
+def rows(lines):
+    """Pairs of head and text; a head that is too long has its text on the next line."""
+    found = []
+    for line in lines:
+        if line.startswith('   ') and found:
+            found[-1][1] = f'{found[-1][1]} {line.strip()}'.strip()
+            continue
+        match = LINE.match(line)
+        if not match:
+            raise SystemExit(f'a line of the help that has no known form: {line!r}')
+        found.append([match[1], match[2] or ''])
+    return found
+
+
+def read(program, language, *words):
+    """The command that `words` name; without any the program itself, with all its commands."""
+    blocks = run(program, *words, '--help', '--lang', language).strip('\n').split('\n\n')
+    command = Command(words[-1] if words else os.path.basename(program), text=blocks[0].split('\n')[0])
+    for block in blocks[1:]:
+        head, *body = block.split('\n')
+        if head == 'Positionals:':
+            command.arguments = [entry_of(name, text) for name, text in rows(body)]
+        elif head == 'Subcommands:':
+            command.commands = [read(program, language, *words, name) for name, _ in rows(body)]
+        elif head == 'Options:':
+            command.options = [entry_of(name, text) for name, text in rows(body)]
+        else:
+            raise SystemExit(f'a part of the help that is not known: {head}')
+    if not words and not command.commands:
+        raise SystemExit(f'{program} names no commands')
+    return command
