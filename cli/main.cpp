@@ -117,17 +117,17 @@ class CommandLine {
                       const std::vector<std::string>& formats, const Runner& runner) {
         CLI::App* command = app_.add_subcommand(name, Text(description));
         command->set_help_flag("--help", Text(902028_text));
-        command->add_option("project", options_.Project, Text(subject))->required()->type_name("FILE");
+        command->add_option("project", options_.Project, Text(subject))->required();
         command->add_option("--lang", options_.Lang, Text(902023_text))
             ->check(CLI::IsMember({"de", "en", "ar", "ids"}));
-        command->add_option("--settings", options_.Settings, Text(902024_text))->type_name("DIR");
+        command->add_option("--settings", options_.Settings, Text(902024_text));
         command->add_option("--set", options_.Sets, Text(902025_text))
             ->take_all()
             ->allow_extra_args(false)
             ->type_name("FIELD=VALUE");
         if (!formats.empty()) {
             command->add_option("--format", options_.Format, Text(902026_text))->check(CLI::IsMember(formats));
-            command->add_option("--output", options_.Output, Text(902027_text))->type_name("FILE");
+            command->add_option("--output", options_.Output, Text(902027_text));
         }
         command->callback([this, runner] { run_ = runner; });
         return command;

@@ -1,5 +1,5 @@
-# What is installed, in four components, each a Debian package: desktop (lithmark), cli (lithmark-cli), data
-# (lithmark-data), doc (lithmark-doc). Changes of the page CHANGELOG.md and the help of lithmark-cli go into what is
+# What is installed, in components, each a Debian package: desktop (lithmark), cli (lithmark-cli), render
+# (lithmark-render), data (lithmark-data), doc (lithmark-doc). Changes of the page CHANGELOG.md and the help of lithmark-cli go into what is
 # made here, so the version and the options stand in one place.
 include(GNUInstallDirs)
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
@@ -101,6 +101,14 @@ install(FILES ${made}/${LITHMARK_COMPONENT_ID}.metainfo.xml DESTINATION ${CMAKE_
   COMPONENT desktop)
 # --- command line ---
 install(TARGETS lithmark-cli COMPONENT cli)
+# Documents and pictures of the command line come from a program of their own, which has the toolkit.
+set(LITHMARK_COMPONENTS desktop cli data doc)
+if(TARGET lithmark-render)
+  list(APPEND LITHMARK_COMPONENTS render)
+  install(TARGETS lithmark-render COMPONENT render)
+  file(CREATE_LINK lithmark-cli.1.gz ${made}/man/lithmark-render.1.gz SYMBOLIC)
+  install(FILES ${made}/man/lithmark-render.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT render)
+endif()
 # --- both ---
 foreach(program lithmark lithmark-cli)
   set(component desktop)
@@ -144,7 +152,7 @@ install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples DESTINATION ${CMAKE_INSTALL_DAT
 set(doc ${CMAKE_INSTALL_DATADIR}/doc)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/ DESTINATION ${doc}/lithmark-doc COMPONENT doc)
 
-foreach(component IN ITEMS desktop cli data doc)
+foreach(component ${LITHMARK_COMPONENTS})
   set(package lithmark-${component})
   if(component STREQUAL "desktop")
     set(package lithmark)

@@ -7,7 +7,7 @@ set(CPACK_PACKAGE_HOMEPAGE_URL ${PROJECT_HOMEPAGE_URL})
 set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/packages)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
-set(CPACK_COMPONENTS_ALL desktop cli data doc)
+set(CPACK_COMPONENTS_ALL ${LITHMARK_COMPONENTS})
 set(CPACK_COMPONENTS_GROUPING IGNORE)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ
   WORLD_EXECUTE)
@@ -45,6 +45,19 @@ curves and contour plots.
 .
 Studies calculate a project over varied and random fields, on all cores and
 parted over machines.")
+
+# Without the toolkit the command line stands alone; documents and pictures come with lithmark-render.
+if(render IN_LIST LITHMARK_COMPONENTS)
+  set(CPACK_DEBIAN_CLI_PACKAGE_DEPENDS)
+  set(CPACK_DEBIAN_CLI_PACKAGE_RECOMMENDS "lithmark-render (= ${same_version})")
+  set(CPACK_DEBIAN_RENDER_PACKAGE_NAME lithmark-render)
+  set(CPACK_DEBIAN_RENDER_PACKAGE_SHLIBDEPS ON)
+  set(CPACK_DEBIAN_RENDER_PACKAGE_DEPENDS "lithmark-cli (= ${same_version}), fonts-dejavu-core")
+  set(CPACK_DEBIAN_RENDER_DESCRIPTION "calculator for foundation engineers (documents and pictures)
+The part of the command line of Lithmark that writes what needs a toolkit: PDF,
+HTML and RTF documents, spreadsheets, curves and contour plots as SVG, PNG and
+PDF.")
+endif()
 
 set(CPACK_DEBIAN_DATA_PACKAGE_NAME lithmark-data)
 set(CPACK_DEBIAN_DATA_PACKAGE_ARCHITECTURE all)

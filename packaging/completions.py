@@ -4,14 +4,12 @@ import sys
 
 import helptext
 
-PROJECT = 'project'
-
 
 def kind(entry, command):
     """What may stand as a value: words, a project, files, folders, or anything."""
     if entry.choices:
         return 'words'
-    if entry.flags[0] == PROJECT:
+    if entry.flags[0] in ('project', 'PROJECT', 'DIR/NAME'):
         return 'folder' if command.name == 'new' else 'project'
     return {'FILE': 'file', 'DIR': 'folder'}.get(entry.value, 'any' if entry.value else 'none')
 
@@ -84,7 +82,8 @@ def zsh_value(entry, command):
 
 
 def zsh_option(option, command):
-    several = '*' if option.several else ''
+    # What is no choice of words may stand several times.
+    several = '*' if kind(option, command) == 'any' else ''
     specs = []
     for flag in option.flags:
         if kind(option, command) == 'none':

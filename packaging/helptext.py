@@ -17,7 +17,6 @@ class Entry:
     flags: list
     value: str = ''
     choices: list = field(default_factory=list)
-    several: bool = False
     required: bool = False
     text: str = ''
 
@@ -44,17 +43,18 @@ def run(program, *words):
 
 
 def value_of(rest, entry):
-    """Takes apart `TEXT:{a,b} ... REQUIRED` and `INT:INT in [1 - 11]`."""
+    """Takes apart `TEXT:{a,b} ... REQUIRED`, `INT:INT in [1 - 11]` and `a|b`."""
     if rest.endswith(' REQUIRED') or rest == 'REQUIRED':
         entry.required = True
         rest = rest[:-len('REQUIRED')].rstrip()
     while rest.endswith(' ...'):
-        entry.several = True
         rest = rest[:-4]
     choices = re.search(r':\{([^}]*)\}', rest)
     if choices:
         entry.choices = choices.group(1).split(',')
         rest = rest[:choices.start()] + rest[choices.end():]
+    elif '|' in rest:
+        entry.choices = rest.split('|')
     limits = re.search(r':\S+ in \[(\S+) - (\S+)\]', rest)
     if limits:
         rest = rest[:limits.start()] + rest[limits.end():]
@@ -71,7 +71,7 @@ def entry_of(head, text):
 
 
 def rows(lines):
-    """Pairs of head and text; a head that is too long has its text on the next line."""
+    """Pairs of head and text; a head that is too long has its text on the next line, a long text goes on there."""
     found = []
     for line in lines:
         if line.startswith('   ') and found:
@@ -84,20 +84,35 @@ def rows(lines):
     return found
 
 
+# What stands under a heading, by its English words; help in another language has the same parts in the same order.
+PARTS = {'positionals': 'arguments', 'words': 'arguments', 'subcommands': 'commands', 'commands': 'commands',
+         'options': 'options', 'common options': 'options', 'examples': None, 'exit status': None, 'usage': None}
+
+
+def parts(program, language, *words):
+    text = run(program, *words, '--help', '--lang', language)
+    return [block.split('\n') for block in text.strip('\n').split('\n\n')]
+
+
 def read(program, language, *words):
     """The command that `words` name; without any the program itself, with all its commands."""
-    blocks = run(program, *words, '--help', '--lang', language).strip('\n').split('\n\n')
-    command = Command(words[-1] if words else os.path.basename(program), text=blocks[0].split('\n')[0])
-    for block in blocks[1:]:
-        head, *body = block.split('\n')
-        if head == 'Positionals:':
-            command.arguments = [entry_of(name, text) for name, text in rows(body)]
-        elif head == 'Subcommands:':
-            command.commands = [read(program, language, *words, name) for name, _ in rows(body)]
-        elif head == 'Options:':
-            command.options = [entry_of(name, text) for name, text in rows(body)]
-        else:
-            raise SystemExit(f'a part of the help that is not known: {head}')
+    (description, *_), *blocks = parts(program, language, *words)
+    english = parts(program, 'en', *words)[1:]
+    command = Command(words[-1] if words else os.path.basename(program), text=description)
+    for (_, *body), (heading, *_) in zip(blocks, english, strict=True):
+        what = PARTS.get('usage' if heading.startswith('Usage') else heading.rstrip(':').lower(), 'unknown')
+        if what == 'arguments':
+            command.arguments += [entry_of(name, text) for name, text in rows(body)]
+        elif what == 'commands':
+            command.commands += [read(program, language, *words, name) for name, _ in rows(body)]
+        elif what == 'options':
+            command.options += [entry_of(name, text) for name, text in rows(body)]
+        elif what:
+            raise SystemExit(f'a part of the help that is not known: {heading}')
     if not words and not command.commands:
         raise SystemExit(f'{program} names no commands')
+    for each in command.commands:
+        for argument in each.arguments:
+            if argument.flags[0] == 'COMMAND':
+                argument.choices = [other.name for other in command.commands]
     return command

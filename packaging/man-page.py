@@ -32,9 +32,9 @@ def synopsis(program):
     lines = []
     for command in program.commands:
         needed = ''.join(f' {head(option)}' for option in command.options if option.required)
-        names = ' '.join(rf'\fI{argument.flags[0]}\fP' for argument in command.arguments)
+        names = ' '.join(rf'\fI{plain(argument.flags[0])}\fP' for argument in command.arguments)
         lines.append(rf'\fB{plain(program.name)} {plain(command.name)}\fP {names}{needed} [\fIOPTION\fP ...]')
-    flags = '|'.join(rf'\fB{plain(option.long)}\fP' for option in program.options)
+    flags = '|'.join(rf'\fB{plain(option.long)}\fP' for option in program.options if not option.value)
     return '\n.br\n'.join(lines + [rf'\fB{plain(program.name)}\fP {flags}']) + '\n'
 
 
