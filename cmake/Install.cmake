@@ -5,7 +5,7 @@ include(GNUInstallDirs)
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
 find_program(GZIP_PROGRAM gzip REQUIRED)
 
-set(LITHMARK_COMPONENT_ID org.lithmark.Lithmark)
+set(LITHMARK_COMPONENT_ID org.lithmark.lithmark)
 set(LITHMARK_HOMEPAGE ${PROJECT_HOMEPAGE_URL})
 
 # The day of what is made: SOURCE_DATE_EPOCH, else that of the last change of the sources.
@@ -149,8 +149,13 @@ install(FILES ${packaging}/desktop/lithmark-mime.xml DESTINATION ${CMAKE_INSTALL
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples DESTINATION ${CMAKE_INSTALL_DATADIR}/lithmark COMPONENT data
   REGEX "\\.(TO1|PO1|PL[468]|PC1|P21|BAU|PH[12]|PW1|lock)$" EXCLUDE)
 # --- documents ---
+# They lie as in the sources, so that what they refer to is found: the examples, the projects of the verification manual.
 set(doc ${CMAKE_INSTALL_DATADIR}/doc)
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/ DESTINATION ${doc}/lithmark-doc COMPONENT doc)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs DESTINATION ${doc}/lithmark-doc COMPONENT doc)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/tests/verification/projects DESTINATION ${doc}/lithmark-doc/tests/verification
+  COMPONENT doc)
+file(CREATE_LINK ../../lithmark/examples ${made}/examples SYMBOLIC)
+install(FILES ${made}/examples DESTINATION ${doc}/lithmark-doc COMPONENT doc)
 
 foreach(component ${LITHMARK_COMPONENTS})
   set(package lithmark-${component})

@@ -84,15 +84,15 @@ def zsh_value(entry, command):
 def zsh_option(option, command):
     # What is no choice of words may stand several times.
     several = '*' if kind(option, command) == 'any' else ''
-    specs = []
+    forms = []
     for flag in option.flags:
         if kind(option, command) == 'none':
-            specs.append(quoted(f'{several}{flag}[{zsh_text(option.text)}]'))
+            forms.append(quoted(f'{several}{flag}[{zsh_text(option.text)}]'))
         else:
             form = f'{flag}=' if flag.startswith('--') else f'{flag}+'
             what = zsh_text(option.value or 'value')
-            specs.append(quoted(f'{several}{form}[{zsh_text(option.text)}]:{what}:{zsh_value(option, command)}'))
-    return specs
+            forms.append(quoted(f'{several}{form}[{zsh_text(option.text)}]:{what}:{zsh_value(option, command)}'))
+    return forms
 
 
 def zsh(program):
@@ -107,11 +107,11 @@ def zsh(program):
         lines.append('        ' + quoted(f'{command.name}:{zsh_text(command.text)}'))
     lines += ['      )', "      _describe 'command' commands ;;", '    rest)', '      case $words[1] in']
     for command in program.commands:
-        specs = [spec for option in command.options for spec in zsh_option(option, command)]
-        specs += [quoted(f'{place}:{argument.flags[0]}:{zsh_value(argument, command)}')
+        forms = [form for option in command.options for form in zsh_option(option, command)]
+        forms += [quoted(f'{place}:{argument.flags[0]}:{zsh_value(argument, command)}')
                   for place, argument in enumerate(command.arguments, 1)]
         lines.append(f'        {command.name})')
-        lines.append('          _arguments ' + ' \\\n            '.join(specs) + ' ;;')
+        lines.append('          _arguments ' + ' \\\n            '.join(forms) + ' ;;')
     return lines + ['      esac ;;', '  esac', '}', f'_{name} "$@"']
 
 
