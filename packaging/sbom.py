@@ -41,6 +41,7 @@ def headers(build):
 def owners(files):
     """The packages that files belong to."""
     found = set()
+    files = list(files)
     names = sorted({os.path.normpath(file) for file in files} | {os.path.realpath(file) for file in files})
     for start in range(0, len(names), 500):
         done = subprocess.run(['dpkg-query', '-S', *names[start:start + 500]], capture_output=True, text=True)

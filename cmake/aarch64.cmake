@@ -1,0 +1,15 @@
+# Toolchain for 64-bit ARM with Debian's cross compiler; LITHMARK_ROOT names a foreign root that has the libraries. The set
+# tests/nightly/arm64 makes one.
+set(CMAKE_SYSTEM_NAME Linux)
+set(CMAKE_SYSTEM_PROCESSOR aarch64)
+set(CMAKE_C_COMPILER aarch64-linux-gnu-gcc)
+set(CMAKE_CXX_COMPILER aarch64-linux-gnu-g++)
+set(CMAKE_TRY_COMPILE_PLATFORM_VARIABLES LITHMARK_ROOT)
+set(CMAKE_SYSROOT ${LITHMARK_ROOT})
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+set(CMAKE_LIBRARY_ARCHITECTURE aarch64-linux-gnu)
+set(ENV{PKG_CONFIG_SYSROOT_DIR} ${LITHMARK_ROOT})
+set(ENV{PKG_CONFIG_LIBDIR} ${LITHMARK_ROOT}/usr/lib/aarch64-linux-gnu/pkgconfig:${LITHMARK_ROOT}/usr/share/pkgconfig)
