@@ -4,6 +4,7 @@
 
 #include "core/Session.h"
 #include "kernels/raft/ClayLayer.h"
+#include "kernels/raft/PolarStressSums.h"
 #include "kernels/raft/PolarSymmetry.h"
 #include "kernels/raft/RaftEquilibrium.h"
 #include "kernels/raft/RaftProgress.h"
@@ -78,10 +79,8 @@ Array<Single> PunchClaySettlements(const PolarMesh& mesh, RaftInput& input, cons
     const Single step = mesh.R;
     const Single layerFactor = LayerFactorOf(input, step);
     const auto freshColumn = [&] { return ClayColumn(step, input.Gamma, layerFactor); };
-    const auto below = [&](int t) {
-        return [&mesh, &forces, t](Single z1, Single z2) {
-            return SumOfForces(MeanStressInfluence(mesh, z1, z2), t, forces.NodeForce);
-        };
+    const auto at = [&](const MeanStressInfluence& influence, int t) {
+        return SumOfForces(influence, t, forces.NodeForce);
     };
 
     if (input.SettlementAt) {
@@ -95,21 +94,34 @@ Array<Single> PunchClaySettlements(const PolarMesh& mesh, RaftInput& input, cons
         });
         if (input.Exz_x == 0) return AllNodes(mesh, centre.Settlement());
         ClayColumn edge = freshColumn();
-        SettleToDepth(edge, input.h, below(mesh.NRing));
+        SettleToDepth(edge, input.h,
+                      [&](Single z1, Single z2) { return at(MeanStressInfluence(mesh, z1, z2), mesh.NRing); });
         return TiltedPlane(mesh, centre.Settlement(), edge.Settlement());
     }
 
-    Array<Single> settlement(1, mesh.NTotal);
+    // The other nodes go down in the steps of the first one, so they are worked side by side.
+    std::vector<StressInterval> layers;
+    ClayColumn first = freshColumn();
+    input.h = SearchLimitingDepth(first, Session.PrefTol, [&](Single z1, Single z2) {
+        layers.push_back({z1, z2});
+        return at(MeanStressInfluence(mesh, z1, z2), 1);
+    });
+    std::vector<MeanStressInfluence> influence;
+    for (const StressInterval& layer : layers) influence.emplace_back(mesh, layer.Top, layer.Bottom);
     const int last = LastTarget(mesh, input.Exz_x);
-    const auto progress = ProgressBetween(0, kSettled);
+    PolarStressSums stress(mesh, layers, last);
+    PolarStressSums::Terms terms;
+    terms.Own = [&](int k, int t) {
+        return influence[static_cast<std::size_t>(k)].Own(RingOf(mesh, t),
+                                                          Quotient(forces.NodeForce(t), mesh.NodeArea(t)));
+    };
+    terms.Plain = [&](int k, int t) { return at(influence[static_cast<std::size_t>(k)], t); };
+    stress.Sum(forces.NodeForce, terms, stress.UsefulThreads(), ProgressBetween(0.5, kSettled));
+    Array<Single> settlement(1, mesh.NTotal);
     for (int t = 1; t <= last; ++t) {
         ClayColumn column = freshColumn();
-        if (t == 1)
-            input.h = SearchLimitingDepth(column, Session.PrefTol, below(t));
-        else
-            SettleToDepth(column, input.h, below(t));
+        for (std::size_t k = 0; k < layers.size(); ++k) column.Add(stress.At(static_cast<int>(k), t));
         settlement(t) = column.Settlement();
-        progress(static_cast<double>(t) / last);
     }
     CopyBySymmetry(mesh.NHalf, mesh.NQuarter, mesh.NTotal, mesh.NRing, input.Exz_x, settlement);
     return settlement;

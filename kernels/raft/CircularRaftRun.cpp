@@ -1,5 +1,6 @@
 #include "kernels/raft/CircularRaftRun.h"
 
+#include <algorithm>
 #include <memory>
 
 #include "core/Problems.h"
@@ -9,6 +10,7 @@
 #include "kernels/raft/ClayLayer.h"
 #include "kernels/raft/Conditioning.h"
 #include "kernels/raft/PolarInfluence.h"
+#include "kernels/raft/PolarStressSums.h"
 #include "kernels/raft/PolarSymmetry.h"
 #include "kernels/raft/PolarSystem.h"
 #include "kernels/raft/RaftEquilibrium.h"
@@ -132,17 +134,19 @@ class Run {
 
     void SolveThickClay() {
         const int m = FoldedSize(mesh_, case_);
-        std::vector<MeanStressInfluence> sublayers;
+        std::vector<StressInterval> layers;
+        std::vector<MeanStressInfluence> influence;
         for (int k = 1; k <= clay_.M; ++k) {
-            const Single z1 = SublayerTop(input_, clay_, k);
-            sublayers.emplace_back(mesh_, z1, z1 + clay_.DepthStep);
+            const Single z1 = SublayerTop(input_, clay_, k), z2 = z1 + clay_.DepthStep;
+            layers.push_back({z1, z2});
+            influence.emplace_back(mesh_, z1, z2);
         }
         Matrix<Single> F;
         {
             PolarFlexibility flexibility(mesh_);
             for (int k = 1; k <= clay_.M; ++k) {
                 const double factor = Quotient(clay_.LayerFactor, clay_.SubStress(k));
-                flexibility.Add(factor, sublayers[static_cast<std::size_t>(k - 1)], [&](double part) {
+                flexibility.Add(factor, influence[static_cast<std::size_t>(k - 1)], [&](double part) {
                     SharedServices().ReportProgress(kCircleFlexibilityDone * (k - 1 + part) / clay_.M);
                 });
             }
@@ -160,13 +164,20 @@ class Run {
         system.u = &mesh_.NodeX;
         system.v = &mesh_.NodeY;
         system.Spread = [this](Array<Single>& values) { Spread(values); };
+        PolarStressSums stress(mesh_, layers, m);
+        PolarStressSums::Terms terms;
+        terms.Own = [&](int k, int t) {
+            return influence[static_cast<std::size_t>(k)].UnitForce(t, t) * Session.NodeForce(t);
+        };
+        terms.Plain = [&](int k, int t) {
+            return SumOfUnitForces(influence[static_cast<std::size_t>(k)], t, Session.NodeForce);
+        };
         system.TrueSettlement = [&](Array<Single>& settlement, const auto& progress) {
+            stress.Sum(Session.NodeForce, terms, stress.UsefulThreads(), progress);
             for (int r = 1; r <= m; ++r) {
-                progress(static_cast<double>(r) / m);
                 Single s;
                 for (int k = 1; k <= clay_.M; ++k) {
-                    Single D = SumOfUnitForces(sublayers[static_cast<std::size_t>(k - 1)], r, Session.NodeForce);
-                    if (D < 0) D = 0;
+                    const double D = std::max<double>(stress.At(k - 1, r), 0);
                     s += clay_.LayerFactor * LogStressRatio(clay_.SubStress(k), D);
                 }
                 settlement(r) = s;

@@ -1,15 +1,13 @@
 #include "services/numerics/DenseInverse.h"
 
 #include <algorithm>
-#include <atomic>
 #include <cmath>
 #include <cstddef>
 #include <cstring>
-#include <system_error>
-#include <thread>
 #include <vector>
 
 #include "base/Failure.h"
+#include "services/numerics/SharedBlocks.h"
 
 #if defined(__x86_64__) && (defined(__GNUC__) || defined(__clang__))
 #define LITHMARK_X86_LEVELS 1
@@ -112,30 +110,11 @@ void MultiplyBlock(SimdLevel level, const Product& p, int firstRow, int lastRow)
     MultiplyBaseline(p, firstRow, lastRow);
 }
 
-// The product by blocks of rows; the threads take the next free block. Who works a block does not change its digits.
-// `done` is told by this thread how much of it is behind, 0 to 1; when it throws, the others stop at their next block.
+// The product by blocks of rows. `done` is told by this thread how much of it is behind, 0 to 1.
 template <typename Done>
 void Multiply(SimdLevel level, int threads, const Product& p, const Done& done) {
-    std::atomic<int> next = 0;
-    const auto work = [&](const auto& blockDone) {
-        for (int row = next.fetch_add(kRowBlock); row < p.Rows; row = next.fetch_add(kRowBlock)) {
-            MultiplyBlock(level, p, row, std::min(row + kRowBlock, p.Rows));
-            blockDone(static_cast<double>(row) / p.Rows);
-        }
-    };
-    std::vector<std::jthread> helpers;
-    try {
-        helpers.reserve(static_cast<std::size_t>(threads - 1));
-        while (static_cast<int>(helpers.size()) < threads - 1) helpers.emplace_back([&work] { work([](double) {}); });
-    } catch (const std::system_error&) {
-        // A thread that cannot be started is missed by nobody: this one takes all blocks that are left.
-    }
-    try {
-        work(done);
-    } catch (...) {
-        next = p.Rows;
-        throw;
-    }
+    ShareBlocks(
+        p.Rows, kRowBlock, threads, [&](int first, int last) { MultiplyBlock(level, p, first, last); }, done);
 }
 
 // The matrix, or a block of its columns, under elimination.
@@ -270,8 +249,7 @@ SimdLevel WidestSimdLevel() {
 
 int UsefulThreads(int n) {
     if (n < 800) return 1;  // below, starting threads costs more than it saves
-    const int processors = static_cast<int>(std::thread::hardware_concurrency());
-    return std::clamp(processors, 1, std::max(1, n / (2 * kRowBlock)));
+    return ProcessorsUpTo(n / (2 * kRowBlock));
 }
 
 void InvertInPlace(int n, Single::Storage* matrix, SimdLevel level, int threads,
