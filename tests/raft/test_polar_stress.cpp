@@ -97,7 +97,7 @@ TEST(PolarStressSums, FailAsOneTermAfterTheOther) {
         PolarStressSums::Terms terms = c.ByUnitForces();
         terms.Own = [](int, int) { return 0.0; };
         PolarStressSums sums(c.Mesh, c.Layers, c.Mesh.NTotal);
-        const FailureKind plain = tests::KindOf([&] { terms.Plain(0, 2); });
+        const auto plain = tests::KindOf([&] { terms.Plain(0, 2); });
         EXPECT_EQ(tests::KindOf([&] { sums.Sum(c.Force, terms, 1, [](double) {}); }), plain);
         return plain;
     };
