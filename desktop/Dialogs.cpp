@@ -16,6 +16,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "desktop/ManualTopics.h"
 #include "desktop/ManualWindow.h"
 #include "desktop/ReportView.h"
 #include "render/QtText.h"
@@ -63,9 +64,9 @@ void ShowTextWindow(QWidget* parent, const QString& title, const QString& text) 
 }
 
 void ShowManual(QWidget* parent, const QString& topic) {
-    const std::string page = topic.section(QLatin1Char('#'), 0, 0).toStdString();
-    if (!ManualPage(page).empty()) {
-        ManualWindow(parent, topic.toStdString()).exec();
+    const std::string page = PageOfTopic(topic.toStdString());
+    if (!page.empty()) {
+        ManualWindow(parent, page).exec();
         return;
     }
     ShowTextWindow(parent, Q(Text(160030_text)), Q(Text(903006_text)));

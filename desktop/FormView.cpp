@@ -20,6 +20,7 @@
 #include <QTabBar>
 
 #include "desktop/LinkList.h"
+#include "desktop/ManualTopics.h"
 #include "desktop/PictureView.h"
 #include "desktop/ReportView.h"
 #include "desktop/Sizes.h"
@@ -63,6 +64,7 @@ FormView::FormView(Form& form, QWidget* parent) : QDialog(parent), form_(form) {
     for (Control* control : form.Controls()) WidgetOf(*control);
     Refresh();
     NameFields();
+    BindHelpKey(*this, [&form] { return TopicOfForm(form); });
     // All words in full, as far as the screen goes; a layout may have chosen a size of its own.
     if (!testAttribute(Qt::WA_Resized)) resize(sizeHint().boundedTo(Room()));
 }

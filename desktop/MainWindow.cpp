@@ -13,6 +13,7 @@
 
 #include "core/Session.h"
 #include "desktop/Icons.h"
+#include "desktop/ManualTopics.h"
 #include "desktop/ProjectView.h"
 #include "desktop/StartView.h"
 #include "render/QtText.h"
@@ -51,6 +52,7 @@ MainWindow::MainWindow(MDITools& frame)
     notice_->setObjectName(QStringLiteral("notice"));
     place_->setTextInteractionFlags(Qt::NoTextInteraction);
     resize(1000, 700);
+    BindHelpKey(*this, [] { return std::string("Titel"); });
 }
 
 // --- building ---

@@ -1,53 +1,147 @@
 #include "desktop/ManualWindow.h"
 
 #include <QAbstractTextDocumentLayout>
-#include <QDesktopServices>
 #include <QDialogButtonBox>
+#include <QPainter>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QSvgRenderer>
 #include <QTextBlock>
 #include <QTextBrowser>
+#include <QTextFrame>
+#include <QTextTable>
 #include <QVBoxLayout>
 
+#include "desktop/ManualTopics.h"
 #include "render/QtText.h"
 #include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 
-ManualWindow::ManualWindow(QWidget* parent, const std::string& topic)
-    : QDialog(parent), browser_(new QTextBrowser(this)) {
+namespace {
+
+// Shows the pictures that the program brings along.
+class ManualBrowser : public QTextBrowser {
+  public:
+    using QTextBrowser::QTextBrowser;
+    std::string Page;
+
+    QVariant loadResource(int type, const QUrl& name) override {
+        const std::string picture = PageOfLink(Page, name.toString().toStdString());
+        if (type != QTextDocument::ImageResource || picture.empty()) return QTextBrowser::loadResource(type, name);
+        QSvgRenderer drawing(QByteArray::fromStdString(ManualPage(picture)));
+        QImage image(drawing.defaultSize() * devicePixelRatio(), QImage::Format_RGB32);
+        image.setDevicePixelRatio(devicePixelRatio());
+        // Black lines stand on paper, whatever the window's colours are.
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        drawing.render(&painter, QRectF(QPointF(), QSizeF(drawing.defaultSize())));
+        return image;
+    }
+};
+
+void FormatTable(QTextTable& table, const QPalette& palette, Qt::LayoutDirection direction) {
+    QTextTableFormat format = table.format();
+    format.setBorder(1);
+    format.setBorderCollapse(true);
+    format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+    format.setBorderBrush(palette.brush(QPalette::Mid));
+    format.setCellPadding(4);
+    format.setCellSpacing(0);
+    format.setLayoutDirection(direction);
+    format.setTopMargin(4);
+    format.setBottomMargin(8);
+    table.setFormat(format);
+    // A block that follows a quotation keeps its margins into the first cell; a cell has none.
+    for (int row = 0; row < table.rows(); ++row)
+        for (int column = 0; column < table.columns(); ++column) {
+            QTextCursor cursor = table.cellAt(row, column).firstCursorPosition();
+            QTextBlockFormat plain;
+            plain.setAlignment(cursor.blockFormat().alignment());
+            cursor.setBlockFormat(plain);
+            if (row > 0) continue;
+            QTextCharFormat head;
+            head.setFontWeight(QFont::DemiBold);
+            cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+            cursor.mergeCharFormat(head);
+        }
+}
+
+void FormatTables(QTextFrame& frame, const QPalette& palette, Qt::LayoutDirection direction) {
+    for (QTextFrame* child : frame.childFrames()) {
+        if (auto* table = qobject_cast<QTextTable*>(child)) FormatTable(*table, palette, direction);
+        FormatTables(*child, palette, direction);
+    }
+}
+
+// Headings keep a distance from what stands above them.
+void SpaceHeadings(QTextDocument& document) {
+    for (QTextBlock block = document.begin().next(); block.isValid(); block = block.next()) {
+        if (block.blockFormat().headingLevel() == 0) continue;
+        QTextBlockFormat space;
+        space.setTopMargin(18);
+        space.setBottomMargin(4);
+        QTextCursor(block).mergeBlockFormat(space);
+    }
+}
+
+// The page without the remark that says where it comes from.
+QString TextOf(const std::string& page) {
+    const std::string text = ManualPage(page);
+    const std::size_t end = text.starts_with("<!--") ? text.find("-->\n") : std::string::npos;
+    return Q(end == std::string::npos ? text : text.substr(end + 4));
+}
+
+// A heading by its own text, by its number ("4: ..."), or as links name it: small letters, blanks as "-", no signs.
+bool IsSection(const QString& heading, const QString& section) {
+    QString link;
+    for (const QChar c : heading.toLower())
+        if (c.isLetterOrNumber() || c == QLatin1Char('-') || c == QLatin1Char('_'))
+            link += c;
+        else if (c == QLatin1Char(' '))
+            link += QLatin1Char('-');
+    return heading == section || link == section || heading.startsWith(section + QLatin1Char(':'));
+}
+
+}  // namespace
+
+ManualWindow::ManualWindow(QWidget* parent, const std::string& page)
+    : QDialog(parent), browser_(new ManualBrowser(this)) {
     setObjectName(QStringLiteral("manualWindow"));
     setWindowTitle(Q(Text(160030_text)));
-    // The manual is written in English.
-    setLayoutDirection(Qt::LeftToRight);
     browser_->setObjectName(QStringLiteral("manualPage"));
     browser_->setOpenLinks(false);
-    connect(browser_, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) {
-        if (link.isRelative())
-            Open(link.toString().replace(QStringLiteral(".md"), QString()).toStdString());
-        else
-            QDesktopServices::openUrl(link);
-    });
+    connect(browser_, &QTextBrowser::anchorClicked, this,
+            [this](const QUrl& link) { Follow(link.toString().toStdString()); });
     auto* buttons = new QDialogButtonBox(this);
-    QPushButton* ok = buttons->addButton(Q(Text(6_text, Style{1})), QDialogButtonBox::AcceptRole);
+    QPushButton* ok = buttons->addButton(Q(Text(6_text, Styles::Button)), QDialogButtonBox::AcceptRole);
     ok->setObjectName(QStringLiteral("cmdok"));
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     auto* column = new QVBoxLayout(this);
     column->addWidget(browser_, 1);
     column->addWidget(buttons);
-    resize(760, 560);
-    Open(topic);
+    resize(860, 640);
+    Open(page);
 }
 
-void ManualWindow::Open(const std::string& topic) {
-    const std::size_t mark = topic.find('#');
-    const std::string page = topic.substr(0, mark);
-    section_ = mark == std::string::npos ? std::string() : topic.substr(mark + 1);
-    if (!page.empty() && page != page_) {
-        const std::string text = ManualPage(page);
-        if (text.empty()) return;
-        page_ = page;
-        browser_->setMarkdown(Q(text));
+void ManualWindow::Follow(const std::string& link) {
+    if (const std::string page = PageOfLink(page_, link); !page.empty()) Open(page);
+}
+
+void ManualWindow::Open(const std::string& page) {
+    const std::size_t mark = page.find('#');
+    const std::string name = page.substr(0, mark);
+    section_ = mark == std::string::npos ? std::string() : page.substr(mark + 1);
+    if (name != page_) {
+        page_ = name;
+        // Pages are written in English and German; the page of Arabic words runs the other way.
+        const auto direction = name.starts_with("manual/ar/") ? Qt::RightToLeft : Qt::LeftToRight;
+        browser_->setLayoutDirection(direction);
+        static_cast<ManualBrowser*>(browser_)->Page = name;
+        browser_->setMarkdown(TextOf(name));
+        browser_->document()->setDocumentMargin(12);
+        FormatTables(*browser_->document()->rootFrame(), palette(), direction);
+        SpaceHeadings(*browser_->document());
     }
     ScrollToSection();
 }
@@ -60,8 +154,8 @@ void ManualWindow::showEvent(QShowEvent* event) {
 
 void ManualWindow::ScrollToSection() {
     const QTextDocument& document = *browser_->document();
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        if (block.blockFormat().headingLevel() == 0 || block.text() != Q(section_)) continue;
+    for (QTextBlock block = document.begin(); block.isValid() && !section_.empty(); block = block.next()) {
+        if (block.blockFormat().headingLevel() == 0 || !IsSection(block.text(), Q(section_))) continue;
         browser_->setTextCursor(QTextCursor(block));
         browser_->verticalScrollBar()->setValue(
             static_cast<int>(document.documentLayout()->blockBoundingRect(block).top()));

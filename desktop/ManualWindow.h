@@ -8,19 +8,19 @@ class QTextBrowser;
 
 namespace lithmark {
 
-// The Markdown of a page ("notices"); empty for a page that the program does not bring along.
-std::string ManualPage(const std::string& name);
-
 class ManualWindow : public QDialog {
   public:
-    // A topic is the name of a page, or page#section.
-    ManualWindow(QWidget* parent, const std::string& topic);
+    // A page with its section, as PageOfTopic tells it.
+    ManualWindow(QWidget* parent, const std::string& page);
+
+    const std::string& Page() const noexcept { return page_; }
 
   protected:
     void showEvent(QShowEvent* event) override;
 
   private:
-    void Open(const std::string& topic);
+    void Open(const std::string& page);
+    void Follow(const std::string& link);
     void ScrollToSection();
 
     QTextBrowser* browser_;

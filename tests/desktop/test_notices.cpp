@@ -6,7 +6,7 @@
 
 #include "ScreenRun.h"
 #include "desktop/LinkList.h"
-#include "desktop/ManualWindow.h"
+#include "desktop/ManualTopics.h"
 #include "report/Notices.h"
 #include "support/Places.h"
 #include "ui/frmResultTools.h"
@@ -59,12 +59,6 @@ TEST_F(NoticesOnScreen, AClickOpensTheManualAtTheSection) {
     CurrentHost().ShowForm(viewer);
     EXPECT_EQ(first, "raft-tension");
     EXPECT_EQ(second, "shear-in-line");
-}
-
-TEST_F(NoticesOnScreen, ThePagesAreThoseOfTheDocumentation) {
-    EXPECT_EQ(ManualPage("notices"), ReadBytes(SourceDir() / "docs" / "notices.md"));
-    EXPECT_EQ(ManualPage("manual"), ReadBytes(SourceDir() / "docs" / "manual.md"));
-    EXPECT_EQ(ManualPage("7_7"), "");
 }
 
 }  // namespace

@@ -20,6 +20,7 @@ from tool.chapters import FOLDER, Chapter  # noqa: E402
 from tool.convergence import Convergence  # noqa: E402
 from tool.deviations import Deviations  # noqa: E402
 from tool.program import ROOT, Program  # noqa: E402
+from tool.renewed import renew, stale_of  # noqa: E402
 
 DOCS = ROOT / "docs" / "verification"
 
@@ -63,16 +64,10 @@ def main():
     command, cli, *wide = sys.argv[1:]
     with Program(cli, *wide) as program:
         files, wrong = written(program)
-    stale = [path for path, text in files.items() if not path.exists() or path.read_text(encoding="utf-8") != text]
+    stale = stale_of(files)
     left = [path for path in (*DOCS.glob("*.md"), *DOCS.glob("pictures/*.svg")) if path not in files]
     if command == "renew":
-        for path in stale:
-            path.parent.mkdir(parents=True, exist_ok=True)
-            path.write_text(files[path], encoding="utf-8")
-            print("written:", path.relative_to(ROOT))
-        for path in left:
-            path.unlink()
-            print("removed:", path.relative_to(ROOT))
+        renew(files, stale, left, ROOT)
         wrong = [line for line in wrong if not line.endswith("is the theory") or "was printed" in line]
     else:
         wrong += [f"stale, tests/renew-verification writes it anew: {path.relative_to(ROOT)}" for path in stale + left]

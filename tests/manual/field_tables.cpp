@@ -1,0 +1,134 @@
+// Prints, as JSON, what the dialogs of the ten problems say of their fields in each language: label, symbol, unit and
+// limits of every box, the positions of every choice, and the defaults. The manual's tables of fields are made from it.
+#include <iostream>
+#include <map>
+#include <nlohmann/json.hpp>
+#include <string>
+
+#include "AllForms.h"
+#include "FormTest.h"
+#include "core/SessionFields.h"
+#include "core/Units.h"
+
+using namespace lithmark;
+using namespace lithmark::tests;
+using nlohmann::ordered_json;
+
+namespace {
+
+constexpr int kProblems = 10;
+
+// Every field and element of Session as text, "hLayer(2)" for an element.
+std::map<std::string, std::string> AllValues() {
+    std::map<std::string, std::string> values;
+    for (const SessionField& field : SessionFields()) {
+        const std::string name(field.Name);
+        if (SessionValue(name)) values[name] = SessionValue(name)->Text;
+        for (int i = 1; i <= 2; ++i)
+            if (const auto element = SessionValue(name + "(" + std::to_string(i) + ")"))
+                values[name + "(" + std::to_string(i) + ")"] = element->Text;
+    }
+    return values;
+}
+
+// The field that an action changes; empty when it changes none.
+std::string FieldChangedBy(const std::function<void()>& act) {
+    const auto before = AllValues();
+    act();
+    for (const auto& [name, value] : AllValues())
+        if (before.at(name) != value) return name;
+    return {};
+}
+
+ordered_json LimitOf(const FieldForm& form, const Limit& limit, double factor) {
+    const auto number = [&] { return limit.Shown(factor, kNoLimit); };
+    // A limit that follows another box is told by that box.
+    for (const FieldRow& other : form.Fields()) {
+        const std::string kept = other.Box.Text;
+        const double before = number();
+        other.Box.Text = "12";
+        const double after = number();
+        other.Box.Text = kept;
+        if (before != after) {
+            const std::string symbol = other.Symbol.Says.Text();
+            return symbol + "/" + std::to_string(static_cast<int>(12 / after + 0.5));
+        }
+    }
+    if (std::abs(number()) >= kNoLimit) return nullptr;
+    return number();
+}
+
+std::string CheckedOf(CheckedWhen when) {
+    return when == CheckedWhen::Always ? "always" : when == CheckedWhen::Shown ? "shown" : "enabled";
+}
+
+class Tables : public FormTest {
+  public:
+    ordered_json Of(const FormRow& row, Language language) {
+        StartIn(language);
+        Session.ProblemType = row.ProblemType;
+        const auto form = row.Make();
+        ordered_json table;
+        host.OnForm([&](Form& shown) { table = TableOf(dynamic_cast<ProblemForm&>(shown)); });
+        CurrentHost().ShowForm(*form);
+        return table;
+    }
+
+  private:
+    void TestBody() override {}
+
+    static ordered_json TableOf(ProblemForm& form) {
+        const auto defaults = AllValues();
+        ordered_json boxes = ordered_json::array(), choices = ordered_json::array();
+        for (const FieldRow& row : form.Fields()) {
+            if (!row.Field.Exists()) continue;
+            const double kept = row.Field.Get(Session);
+            StoredField field = row.Field;
+            const std::string name = FieldChangedBy([&] { field.Set(Session, 7654); });
+            field.Set(Session, kept);
+            const double factor = FactorOf(row.In.In);
+            boxes.push_back({{"field", name},
+                             {"symbol", row.Symbol.Says.Text()},
+                             {"label", row.Label.Says.Text()},
+                             {"unit", row.In.Says.Text()},
+                             {"lower", LimitOf(form, row.Limits.Lower, factor)},
+                             {"upper", LimitOf(form, row.Limits.Upper, factor)},
+                             {"default", defaults.at(name)},
+                             {"checked", CheckedOf(row.Checked)}});
+        }
+        for (const ChoiceRow& row : form.Choices()) {
+            if (!row.Field.Exists()) continue;
+            const int kept = row.Field.PositionIn(Session);
+            std::string name;
+            ordered_json positions = ordered_json::array();
+            const int count = row.Captions.size() > 1 ? static_cast<int>(row.Captions.size()) : 2;
+            for (int position = 0; position < count; ++position) {
+                row.Field.Store(Session, position == 0 ? 1 : 0);
+                const std::string changed = FieldChangedBy([&] { row.Field.Store(Session, position); });
+                if (name.empty()) name = changed;
+                const std::size_t caption = row.Captions.size() > 1 ? static_cast<std::size_t>(position) : 0;
+                positions.push_back({{"value", AllValues().at(name)}, {"caption", row.Captions[caption].Text()}});
+            }
+            row.Field.Store(Session, kept);
+            choices.push_back({{"field", name},
+                               {"default", defaults.at(name)},
+                               {"kind", row.Captions.size() > 1 ? "one of" : "tick"},
+                               {"positions", positions}});
+        }
+        return {{"caption", form.Caption}, {"boxes", boxes}, {"choices", choices}};
+    }
+};
+
+}  // namespace
+
+int main() {
+    ordered_json all;
+    for (const auto& [name, language] :
+         std::map<std::string, Language>{{"ar", Language::Arabic}, {"de", Language::German}, {"en", Language::English}})
+        for (int problem = 1; problem <= kProblems; ++problem)
+            for (const FormRow& row : AllForms())
+                if (row.ProblemType == problem && dynamic_cast<ProblemForm*>(row.Make().get()) != nullptr &&
+                    !all[name].contains(std::to_string(problem)))
+                    all[name][std::to_string(problem)] = Tables().Of(row, language);
+    std::cout << all.dump(1) << '\n';
+}
