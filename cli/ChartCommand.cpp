@@ -2,6 +2,8 @@
 
 #include "cli/Commands.h"
 #include "cli/Output.h"
+#include "contour/ChartReading.h"
+#include "contour/ChartTable.h"
 #include "contour/CurveSets.h"
 #include "core/Catalogue.h"
 #include "core/CurveRequest.h"
@@ -70,20 +72,6 @@ std::string ChartJson(const ChartArguments& chart) {
     return JsonText(json);
 }
 
-// One head row (title, symbol and unit joined by blanks) and the data rows, lines ended by CR LF as RFC 4180 has it.
-std::string ChartCsv(const ChartArguments& chart) {
-    std::string csv;
-    for (int c = 1; c <= chart.LastColumn; ++c) {
-        csv += (c > 1 ? "," : "") + CsvCell(ColumnHead(chart, c));
-    }
-    csv += "\r\n";
-    for (int r = 1; r <= chart.LastRow; ++r) {
-        for (int c = 1; c <= chart.LastColumn; ++c) csv += (c > 1 ? "," : "") + CsvCell(chart.Cells(r, c));
-        csv += "\r\n";
-    }
-    return csv;
-}
-
 std::string ChartIn(const std::string& format, const ChartArguments& chart) {
     if (format == "json") return ChartJson(chart);
     if (format == "csv") return ChartCsv(chart);
@@ -126,6 +114,7 @@ ExitStatus ChartCommand(const CommonOptions& options, const ChartOptions& chartO
     if (Session.CalcAborted) throw CommandFailure(ExitStatus::Aborted, AbortedLine(host));
     ChartArguments chart;
     if (!UnderCommonStep([&] { chart = BuildChart(); })) throw CommandFailure(ExitStatus::Aborted, AbortedLine(host));
+    chart.SettlementsDown = chartOptions.Downward && TurnOf(chart) != ChartTurn::None;
     WriteOutput(options.Output, ChartIn(format, chart));
     TellNotices(host);
     return ExitStatus::Done;

@@ -28,12 +28,15 @@ struct ChartOptions {
     std::string Curve;           // "Tab1" to "Tab6"; empty: the dialog's first choice
     std::string LoadUnit;        // "%" or "force"
     std::string SettlementUnit;  // "%" or "length"
+    bool Downward = false;       // settlements or depths point down
 };
 ExitStatus ChartCommand(const CommonOptions& options, const ChartOptions& chart, ConsoleHost& host);
 
 struct ContourCommandOptions {
-    std::string Result;  // "settlement" or "pressure"
-    int Size = 0;        // pixels of the plot's side; 0: the format's own
+    std::string Result;   // "settlement" or "pressure"
+    int Size = 0;         // pixels of the plot's side; 0: the format's own
+    bool Field = false;   // as a field of values instead of ten classes
+    std::string Section;  // "X1,Y1,X2,Y2" in metres, or "middle"; empty: none
 };
 ExitStatus ContourCommand(const CommonOptions& options, const ContourCommandOptions& contour, ConsoleHost& host);
 

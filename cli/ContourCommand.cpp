@@ -1,6 +1,8 @@
 #include "cli/Commands.h"
+#include "cli/FieldJson.h"
 #include "cli/Output.h"
 #include "contour/BasContour.h"
+#include "contour/FieldSection.h"
 #include "contour/RecordingSurface.h"
 #include "core/Catalogue.h"
 #include "core/CurveRequest.h"
@@ -11,6 +13,7 @@
 #include "services/texts/LanguageTexts.h"
 #ifdef LITHMARK_RENDER
 #include "render/ContourDocument.h"
+#include "render/FieldDocument.h"
 #endif
 
 namespace lithmark {
@@ -84,6 +87,34 @@ std::string ContourJson(BasContour& plot, int size) {
     return json.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 
+// The section asked for, which belongs to the field alone.
+std::optional<FieldLine> SectionAsked(const ContourCommandOptions& contour) {
+    const auto fail = [&](TextId text) {
+        throw CommandFailure(ExitStatus::BadCommandLine, Text(text, {{"|1", contour.Section}}));
+    };
+    if (contour.Section.empty()) return std::nullopt;
+    if (!contour.Field) fail(910034_text);
+    const auto line = contour.Section == "middle" ? FieldLine{{0, 0}, {1, 0}} : ParseFieldLine(contour.Section);
+    if (!line) fail(910033_text);
+    return line;
+}
+
+std::string FieldIn(const std::string& format, const BasContour& plot, const ContourCommandOptions& contour) {
+    const FieldPlot field(plot);
+    std::optional<FieldLine> section = SectionAsked(contour);
+    if (contour.Section == "middle") section = MiddleLine(plot);
+    if (section && field.Section(*section).empty())
+        throw CommandFailure(ExitStatus::BadCommandLine, Text(910035_text, {{"|1", contour.Section}}));
+    if (format == "json") return FieldJson(plot, field, section, contour.Size);
+#ifdef LITHMARK_RENDER
+    const FieldPicture picture{plot, field, {.DrawGrid = false}, section};
+    if (format == "svg") return FieldSvg(picture, contour.Size);
+    if (format == "png") return FieldPng(picture, contour.Size);
+    if (format == "pdf") return FieldPdf(picture, contour.Size);
+#endif
+    FailFormat(format);
+}
+
 std::string ContourIn(const std::string& format, BasContour& plot, int size) {
     if (format == "json") return ContourJson(plot, size);
 #ifdef LITHMARK_RENDER
@@ -98,6 +129,7 @@ std::string ContourIn(const std::string& format, BasContour& plot, int size) {
 
 ExitStatus ContourCommand(const CommonOptions& options, const ContourCommandOptions& contour, ConsoleHost& host) {
     const std::string format = FormatInForce(options, kContourFormats);
+    SectionAsked(contour);  // what is wrong with it is told before the run
     OpenProjectForRun(options);
     if (!ProblemInForce().HasContours())
         throw CommandFailure(ExitStatus::BadCommandLine,
@@ -107,7 +139,7 @@ ExitStatus ContourCommand(const CommonOptions& options, const ContourCommandOpti
     RequestContours(contour.Result == "pressure" ? CurveSet::ContactPressure : CurveSet::RaftSettlement);
     BasContour plot;
     plot.Prepare();
-    WriteOutput(options.Output, ContourIn(format, plot, contour.Size));
+    WriteOutput(options.Output, contour.Field ? FieldIn(format, plot, contour) : ContourIn(format, plot, contour.Size));
     TellNotices(host);
     return ExitStatus::Done;
 }

@@ -93,6 +93,7 @@ class CommandLine {
         chart->add_option("--load-unit", chart_.LoadUnit, Text(902035_text))->check(CLI::IsMember({"%", "force"}));
         chart->add_option("--settlement-unit", chart_.SettlementUnit, Text(902036_text))
             ->check(CLI::IsMember({"%", "length"}));
+        chart->add_flag("--downward", chart_.Downward, Text(910030_text));
     }
 
     void AddContour() {
@@ -103,6 +104,11 @@ class CommandLine {
         contour->add_option("--result", contour_.Result, Text(902038_text))
             ->check(CLI::IsMember({"settlement", "pressure"}));
         contour->add_option("--size", contour_.Size, Text(902039_text))->check(CLI::Range(1, 8192));
+        contour
+            ->add_option_function<std::string>(
+                "--style", [this](const std::string& style) { contour_.Field = style == "field"; }, Text(910031_text))
+            ->check(CLI::IsMember({"classes", "field"}));
+        contour->add_option("--section", contour_.Section, Text(910032_text));
     }
 
     void AddStudy() {

@@ -85,6 +85,13 @@ void BasContour::ForEachTriangle(Draw&& draw) const {
     }
 }
 
+void BasContour::VisitTriangles(
+    const std::function<void(const double (&x)[3], const double (&y)[3], const double (&z)[3])>& visit) const {
+    ForEachTriangle([&](const Triangle& t) {
+        visit({t.X[1], t.X[2], t.X[3]}, {t.Y[1], t.Y[2], t.Y[3]}, {t.Z[1], t.Z[2], t.Z[3]});
+    });
+}
+
 std::optional<double> BasContour::ValueAt(double x, double y) const {
     std::optional<double> value;
     ForEachTriangle([&](Triangle& t) {

@@ -5,6 +5,7 @@
 // triangle. The ten classes share the range of the node values evenly.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -72,6 +73,10 @@ class BasContour {
     double CaptionFactor() const;
     // The value of the plot at a place, linear in its triangle; nothing beside the raft.
     std::optional<double> ValueAt(double x, double y) const;
+
+    // Hands every triangle to `visit`: the places of its corners in metres, and their values as they are drawn.
+    void VisitTriangles(
+        const std::function<void(const double (&x)[3], const double (&y)[3], const double (&z)[3])>& visit) const;
 
     // The class, 1 to 10, of a value in display units.
     int ClassOf(double value) const;

@@ -270,7 +270,6 @@ ChartArguments BuildChart() {
         const CurveRequest request = RequestedCurve();
         BuildCurveSet(chart, request);
         SetRange(chart, IsRaftCurve(request.Set));
-        chart.SettlementsDown = request.Set != CurveSet::Load && request.Set != CurveSet::ContactPressure;
     }
     chart.ProjectText = ProjectText();
     BuildTableHeader(chart.Header);

@@ -1,15 +1,22 @@
 #include "desktop/ChartWindow.h"
 
-#include <qcustomplot.h>
-
-#include <QFileDialog>
+#include <QAccessible>
+#include <QApplication>
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QMenu>
+#include <QPainter>
 #include <QPushButton>
-#include <QVBoxLayout>
 
-#include "core/Session.h"
-#include "files/GloableVariable.h"
-#include "render/ChartDocument.h"
+#include "contour/ChartTable.h"
+#include "desktop/ChartView.h"
+#include "desktop/Printing.h"
+#include "desktop/SaveDialog.h"
+#include "desktop/Sizes.h"
+#include "files/CommonStep.h"
 #include "render/QtText.h"
 #include "services/SharedServices.h"
 #include "services/storage/WrittenFile.h"
@@ -17,63 +24,202 @@
 
 namespace lithmark {
 
-ChartWindow::ChartWindow(const ChartArguments& chart, QWidget* parent) : QDialog(parent), chart_(chart) {
+namespace {
+
+const std::string kSection = "Chart";
+
+// What a curve looks like, for the box that shows and hides it.
+QIcon SampleOf(int curve, const ChartInks& inks) {
+    QPixmap picture(30, 12);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(CurvePen(curve, inks));
+    painter.drawLine(1, 6, 29, 6);
+    return picture;
+}
+
+QLabel* ReadingLabel(QWidget* parent, const char* name) {
+    auto* label = new QLabel(parent);
+    label->setObjectName(QString::fromLatin1(name));
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    label->setMinimumHeight(label->fontMetrics().height());
+    return label;
+}
+
+}  // namespace
+
+ChartWindow::ChartWindow(const ChartArguments& chart, QWidget* parent)
+    : QDialog(parent),
+      chart_(chart),
+      plot_(new ChartView(chart, this)),
+      values_(ReadingLabel(this, "lblValues")),
+      marks_(ReadingLabel(this, "lblMarks")) {
     setObjectName(QStringLiteral("chartWindow"));
     setWindowTitle(Q(chart.ChartTitle));
     setLayoutDirection(LanguageTexts().RightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     auto* column = new QVBoxLayout(this);
-    auto* title = new QLabel(Q(chart.ChartTitle), this);
-    QFont font = title->font();
-    font.setBold(true);
-    font.setPointSizeF(font.pointSizeF() * 1.25);
-    title->setFont(font);
-    title->setAlignment(Qt::AlignCenter);
-    column->addWidget(title);
-
-    auto* plot = new QCustomPlot(this);
-    plot->setObjectName(QStringLiteral("plot"));
-    plot->setLayoutDirection(Qt::LeftToRight);
-    plot->setMinimumSize(640, 420);
-    FillPlot(*plot, chart);
-    plot->setInteractions(QCP::iRangeDrag | QCP::iRangeZoom);
-    column->addWidget(plot, 1);
-
-    auto* buttons = new QHBoxLayout;
-    const auto add = [&](const std::string& caption, const char* name, auto&& slot) {
-        auto* button = new QPushButton(Q(caption), this);
-        button->setObjectName(QString::fromLatin1(name));
-        button->setAutoDefault(false);
-        connect(button, &QPushButton::clicked, this, slot);
-        buttons->addWidget(button);
-        return button;
-    };
-    add(Text(9_text, Styles::DialogButton), "cmdExport", [this] { Export(); });
-    add(Text(26_text), "cmdOriginal", [this, plot] {
-        FillPlot(*plot, chart_);
-        plot->replot();
-    });
-    if (chart_.ShowContours) add(Text(140017_text), "cmdContours", [this] { chart_.ShowContours(); });
-    buttons->addStretch(1);
-    add(Text(6_text, Styles::Button), "cmdok", [this] { accept(); })->setDefault(true);
-    column->addLayout(buttons);
-    resize(860, 620);
+    column->setContentsMargins(sizes::kEdge, sizes::kEdge, sizes::kEdge, sizes::kEdge);
+    column->setSpacing(sizes::kRowGap);
+    column->addLayout(LegendRow());
+    column->addWidget(plot_, 1);
+    column->addLayout(ReadingRows());
+    column->addLayout(Buttons());
+    plot_->setAccessibleName(Q(chart.ChartTitle));
+    plot_->OnReading = [this] { ShowReading(); };
+    ShowReading();
+    plot_->setFocus();
+    resize(880, 640);
 }
 
-void ChartWindow::Export() {
-    const QString file =
-        QFileDialog::getSaveFileName(this, windowTitle(), Q(Session.WorkDir + Session.WorkName + ".xlsx"),
-                                     QStringLiteral("Excel (*.xlsx);;PDF (*.pdf);;SVG (*.svg);;PNG (*.png)"));
-    if (file.isEmpty()) return;
-    const QString ending = QFileInfo(file).suffix().toLower();
-    try {
-        SharedServices().SetCurrentFile(file.toStdString());
-        WriteWholeFile(file.toStdString(), ending == QStringLiteral("pdf")   ? ChartPdf(chart_)
-                                           : ending == QStringLiteral("svg") ? ChartSvg(chart_)
-                                           : ending == QStringLiteral("png") ? ChartPng(chart_)
-                                                                             : ChartXlsx(chart_));
-    } catch (const Failure& failure) {
-        FileError(failure);
+QBoxLayout* ChartWindow::LegendRow() {
+    // Side by side, or under each other where their names are long.
+    int width = 0;
+    for (int i = 1; i <= chart_.Curves; ++i) width += fontMetrics().horizontalAdvance(Q(chart_.Legends(i))) + 80;
+    auto* row = new QBoxLayout(width < 800 ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    row->setSpacing(width < 800 ? sizes::kGroupGap : 0);
+    for (int i = 1; i <= chart_.Curves; ++i) {
+        QString name = Q(chart_.Legends(i));
+        auto* box = new QCheckBox(name.replace(QLatin1Char('&'), QStringLiteral("&&")), this);
+        box->setObjectName(QStringLiteral("chkCurve(%1)").arg(i));
+        box->setIcon(SampleOf(i, plot_->InksShown()));
+        box->setIconSize(QSize(30, 12));
+        box->setChecked(true);
+        connect(box, &QCheckBox::toggled, this, [this, i](bool on) { plot_->ShowCurve(i, on); });
+        row->addWidget(box);
     }
+    row->addStretch(1);
+    return row;
+}
+
+QBoxLayout* ChartWindow::ReadingRows() {
+    auto* column = new QVBoxLayout;
+    column->setSpacing(2);
+    for (QLabel* label : {values_, marks_}) column->addWidget(label);
+    return column;
+}
+
+void ChartWindow::AddTurn(QBoxLayout& row) {
+    const ChartTurn turn = TurnOf(chart_);
+    if (turn == ChartTurn::None) return;
+    const bool depth = turn == ChartTurn::Depth;
+    auto* box = new QCheckBox(Q(Text(depth ? 910005_text : 910004_text)), this);
+    box->setObjectName(QStringLiteral("chkDownward"));
+    const std::string key = depth ? "Depth downward" : "Settlement downward";
+    const bool down = SharedServices().GetSetting(kApplicationTitle, kSection, key, false);
+    box->setChecked(down);
+    if (down) plot_->Turn(true);
+    connect(box, &QCheckBox::toggled, this, [this, key](bool on) {
+        plot_->Turn(on);
+        UnderCommonStep([&] { SharedServices().SaveSetting(kApplicationTitle, kSection, key, on); });
+    });
+    row.addWidget(box);
+}
+
+QPushButton* ChartWindow::AddButton(QBoxLayout& row, const std::string& caption, const char* name,
+                                    void (ChartWindow::*slot)()) {
+    auto* button = new QPushButton(Q(caption), this);
+    button->setObjectName(QString::fromLatin1(name));
+    button->setAutoDefault(false);
+    if (slot != nullptr) connect(button, &QPushButton::clicked, this, slot);
+    row.addWidget(button);
+    return button;
+}
+
+QBoxLayout* ChartWindow::Buttons() {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(sizes::kColumnGap);
+    AddButton(*row, Text(26_text, Styles::Button), "cmdOriginal", &ChartWindow::Original);
+    if (chart_.ShowContours) AddButton(*row, Text(140017_text), "cmdContours", &ChartWindow::Contours);
+    AddTurn(*row);
+    row->addStretch(1);
+    QPushButton* copy = AddButton(*row, Text(906521_text, Styles::Button), "cmdCopy", nullptr);
+    auto* menu = new QMenu(copy);
+    menu->addAction(Q(Text(910001_text)), QKeySequence::Copy, this, &ChartWindow::CopyPicture)
+        ->setObjectName(QStringLiteral("mnuCopyPicture"));
+    menu->addAction(Q(Text(910002_text)), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C), this, &ChartWindow::CopyTable)
+        ->setObjectName(QStringLiteral("mnuCopyTable"));
+    copy->setMenu(menu);
+    AddButton(*row, Text(910003_text, Styles::Button), "cmdPrint", &ChartWindow::Print);
+    AddButton(*row, Text(9_text, Styles::DialogButton), "cmdExport", &ChartWindow::Save);
+    auto* ok = AddButton(*row, Text(6_text, Styles::Button), "cmdok", nullptr);
+    connect(ok, &QPushButton::clicked, this, &QDialog::accept);
+    ok->setDefault(true);
+    return row;
+}
+
+void ChartWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Copy)) return CopyPicture();
+    if (event->matches(QKeySequence::Print)) return Print();
+    if (event->matches(QKeySequence::Save)) return Save();
+    if (event->modifiers() == (Qt::ControlModifier | Qt::ShiftModifier) && event->key() == Qt::Key_C)
+        return CopyTable();
+    QDialog::keyPressEvent(event);
+}
+
+// The line at the cursor, and the marks with their difference; what can be done where there is nothing to read.
+void ChartWindow::ShowReading() {
+    const ChartReading& reading = plot_->Reading();
+    values_->setText(Q(plot_->Row() ? reading.ValuesAt(*plot_->Row()) : Text(910009_text)));
+    std::string marks;
+    const auto add = [&](const std::string& name, const std::string& text) {
+        marks += (marks.empty() ? "" : "     ") + name + ": " + text;
+    };
+    const auto &a = plot_->A(), &b = plot_->B();
+    if (a) add("A", reading.MarkText(*a));
+    if (b) add("B", reading.MarkText(*b));
+    if (a && b) add("B - A", reading.DifferenceText(*a, *b));
+    marks_->setText(Q(marks));
+    // What is walked to is spoken.
+    plot_->setAccessibleDescription(Q(plot_->Row() ? reading.ValuesAt(*plot_->Row()) : reading.Summary()));
+    QAccessibleEvent changed(plot_, QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&changed);
+}
+
+void ChartWindow::CopyPicture() {
+    UnderCommonStep([this] {
+        QApplication::clipboard()->setImage(
+            QImage::fromData(QByteArray::fromStdString(ChartPng(plot_->Chart(), plot_->Look())), "PNG"));
+    });
+}
+
+void ChartWindow::CopyTable() {
+    QApplication::clipboard()->setText(Q(ChartTabs(chart_)));
+}
+
+void ChartWindow::Print() {
+    PrintPicture(this, QSize(kChartPageWidth, kChartPageHeight),
+                 [this](QCPPainter& painter) { DrawChartPage(painter, plot_->Chart(), plot_->Look()); });
+}
+
+void ChartWindow::Save() {
+    const auto file = AskForFile(this, windowTitle(),
+                                 {{QStringLiteral("PDF"), QStringLiteral("pdf")},
+                                  {QStringLiteral("PNG"), QStringLiteral("png")},
+                                  {QStringLiteral("SVG"), QStringLiteral("svg")},
+                                  {Q(Text(910007_text)), QStringLiteral("xlsx")},
+                                  {Q(Text(910008_text)), QStringLiteral("csv")}});
+    if (!file) return;
+    UnderCommonStep([&] {
+        const ChartArguments& chart = plot_->Chart();
+        const ChartLook look = plot_->Look();
+        SharedServices().SetCurrentFile(file->Path);
+        WriteWholeFile(file->Path, file->Ending == QStringLiteral("pdf")   ? ChartPdf(chart, look)
+                                   : file->Ending == QStringLiteral("svg") ? ChartSvg(chart, look)
+                                   : file->Ending == QStringLiteral("png") ? ChartPng(chart, look)
+                                   : file->Ending == QStringLiteral("csv") ? ChartCsv(chart)
+                                                                           : ChartXlsx(chart));
+    });
+}
+
+void ChartWindow::Original() {
+    plot_->Whole();
+}
+
+void ChartWindow::Contours() {
+    chart_.ShowContours();
 }
 
 }  // namespace lithmark

@@ -1,21 +1,44 @@
-// ChartWindow: the curves of a problem on the screen, and their way into files.
+// ChartWindow: the curves of a problem on the screen, what can be read off them, and their ways out.
 #pragma once
 
 #include <QDialog>
 
 #include "services/host/Charting.h"
 
+class QBoxLayout;
+class QLabel;
+class QPushButton;
+
 namespace lithmark {
+
+class ChartView;
 
 class ChartWindow : public QDialog {
   public:
     ChartWindow(const ChartArguments& chart, QWidget* parent);
 
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
   private:
-    // Asks for a name and writes the chart in the format of its ending.
-    void Export();
+    QBoxLayout* LegendRow();
+    QBoxLayout* ReadingRows();
+    QBoxLayout* Buttons();
+    void AddTurn(QBoxLayout& row);
+    QPushButton* AddButton(QBoxLayout& row, const std::string& caption, const char* name, void (ChartWindow::*slot)());
+    void ShowReading();
+
+    void CopyPicture();
+    void CopyTable();
+    void Print();
+    // Asks for a name and writes the chart in the kind of its ending.
+    void Save();
+    void Original();
+    void Contours();
 
     const ChartArguments chart_;
+    ChartView* plot_;
+    QLabel *values_, *marks_;
 };
 
 }  // namespace lithmark

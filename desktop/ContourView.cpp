@@ -2,14 +2,25 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <algorithm>
 
 #include "render/ContourDocument.h"
+#include "render/FieldDocument.h"
+#include "render/QtText.h"
 
 namespace lithmark {
 
 namespace {
 
-constexpr int kLeast = 240, kUsual = 520, kLegendWidth = 130;
+constexpr int kLeast = 240, kUsual = 520, kLegendWidth = 84, kLegendHeight = 400;
+constexpr int kLegendRoom = 70;  // what a legend's boxes and gaps take beside its texts
+constexpr double kTextShare = 0.85;
+
+QFont PlotFont() {
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(12);
+    return font;
+}
 
 }  // namespace
 
@@ -18,10 +29,27 @@ ContourView::ContourView(frmContour& form, Shows shows, QWidget* parent) : QWidg
     setMouseTracking(shows == Shows::Plot);
     setMinimumSize(shows == Shows::Plot ? kLeast : kLegendWidth, kLeast);
     setObjectName(shows == Shows::Plot ? QStringLiteral("plot") : QStringLiteral("legend"));
+    if (shows == Shows::Legend) setMaximumHeight(kLegendHeight);
 }
 
 QSize ContourView::sizeHint() const {
-    return {shows_ == Shows::Plot ? kUsual : kLegendWidth, kUsual};
+    return shows_ == Shows::Plot ? QSize(kUsual, kUsual) : QSize(minimumWidth(), kLegendHeight);
+}
+
+void ContourView::FitLegend() {
+    if (!form_.Ready()) return;
+    const QFontMetrics metrics(PlotFont());
+    int width = 0;
+    if (form_.ShowsField()) {
+        for (const double limit : form_.Field().Limits())
+            width = std::max(width, metrics.horizontalAdvance(Q(form_.Field().LimitText(limit))));
+        width += kLegendRoom;
+    } else {
+        for (const std::string& label : form_.Plot.ClassLabel)
+            width = std::max(width, metrics.horizontalAdvance(Q(label)));
+        width = qRound(width / kTextShare) + 12;
+    }
+    setFixedWidth(std::max(width, kLegendWidth));
 }
 
 QRect ContourView::Area() const {
@@ -38,13 +66,19 @@ void ContourView::Draw() {
     image_.fill(Qt::white);
     QPainter painter(&image_);
     painter.setRenderHint(QPainter::Antialiasing);
-    QFont font(QStringLiteral("DejaVu Sans"));
-    font.setPixelSize(12);
-    PainterSurface surface(painter, QRectF(QPointF(0, 0), QSizeF(area.size())), image_.size(), font);
-    if (shows_ == Shows::Plot)
-        form_.Plot.Redraw(surface, form_.Drawn());
-    else
-        form_.Plot.DrawLegend(surface);
+    const QRectF whole(QPointF(0, 0), QSizeF(area.size()));
+    if (form_.ShowsField()) {
+        if (shows_ == Shows::Plot)
+            DrawField(painter, whole, {form_.Plot, form_.Field(), form_.Drawn(), std::nullopt});
+        else
+            DrawFieldLegend(painter, whole.adjusted(6, 4, -2, -4), form_.Field());
+    } else {
+        PainterSurface surface(painter, whole, image_.size(), PlotFont());
+        if (shows_ == Shows::Plot)
+            form_.Plot.Redraw(surface, form_.Drawn());
+        else
+            form_.Plot.DrawLegend(surface);
+    }
     drawing_ = form_.Drawings();
 }
 
@@ -58,18 +92,36 @@ void ContourView::paintEvent(QPaintEvent*) {
     if (drawing_ != form_.Drawings() || image_.size() != area.size() * devicePixelRatioF()) Draw();
     painter.drawImage(area.topLeft(), image_);
     if (shows_ == Shows::Legend) return;
+    if (const auto section = form_.Section()) DrawSection(painter, area, form_.Plot.Window, *section);
     painter.setPen(palette().color(QPalette::Mid));
     painter.drawRect(area.adjusted(0, 0, -1, -1));
 }
 
-void ContourView::mouseMoveEvent(QMouseEvent* event) {
+std::optional<FieldPoint> ContourView::PlaceAt(const QPointF& at) const {
     const QRect area = Area();
-    const QPointF at = event->position() - QPointF(area.topLeft());
-    if (!form_.Ready() || !QRectF(0, 0, area.width(), area.height()).contains(at)) return leaveEvent(nullptr);
+    if (!form_.Ready() || !QRectF(area).contains(at)) return std::nullopt;
     const WorldWindow& window = form_.Plot.Window;
-    if (Over)
-        Over(window.XMin + at.x() / area.width() * (window.XMax - window.XMin),
-             window.YMax - at.y() / area.height() * (window.YMax - window.YMin));
+    return FieldPoint{window.XMin + (at.x() - area.left()) / area.width() * (window.XMax - window.XMin),
+                      window.YMax - (at.y() - area.top()) / area.height() * (window.YMax - window.YMin)};
+}
+
+void ContourView::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && form_.Section()) sectionFrom_ = PlaceAt(event->position());
+}
+
+void ContourView::mouseMoveEvent(QMouseEvent* event) {
+    const auto place = PlaceAt(event->position());
+    if (!place) return leaveEvent(nullptr);
+    if (sectionFrom_) {
+        form_.SetSection({*sectionFrom_, *place});
+        update();
+        if (SectionLaid) SectionLaid();
+    }
+    if (Over) Over(place->X, place->Y);
+}
+
+void ContourView::mouseReleaseEvent(QMouseEvent*) {
+    sectionFrom_.reset();
 }
 
 void ContourView::leaveEvent(QEvent*) {

@@ -20,4 +20,18 @@ void PrintReport(QWidget* parent, const std::string& text, const std::string& fo
     preview.exec();
 }
 
+void PrintPicture(QWidget* parent, const QSize& size, const Draw& draw) {
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setPageSize(QPageSize(QPageSize::A4));
+    printer.setPageOrientation(QPageLayout::Landscape);
+    printer.setPageMargins(QMarginsF(10, 10, 10, 10), QPageLayout::Millimeter);
+    QPrintPreviewDialog preview(&printer, parent);
+    preview.setObjectName(QStringLiteral("printPreview"));
+    preview.resize(1000, 760);
+    QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, &preview, [&](QPrinter* target) {
+        DrawAsVectors(*target, target->pageLayout().paintRectPixels(target->resolution()).size(), size, draw);
+    });
+    preview.exec();
+}
+
 }  // namespace lithmark

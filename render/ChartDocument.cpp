@@ -12,7 +12,7 @@ namespace lithmark {
 namespace {
 
 // The page of a chart in points of 1/96 inch: A4 across, without margins.
-constexpr int kWidth = 1020, kHeight = 680;
+constexpr int kWidth = kChartPageWidth, kHeight = kChartPageHeight;
 constexpr QSize kSize(kWidth, kHeight);
 constexpr int kMargin = 24, kLine = 16, kTitle = 28;
 
@@ -48,31 +48,33 @@ int DrawTitleBlock(QPainter& painter, const ChartArguments& chart) {
     return rule + 4 + kTitle;
 }
 
-void DrawChart(QCPPainter& painter, const ChartArguments& chart) {
+}  // namespace
+
+void DrawChartPage(QCPPainter& painter, const ChartArguments& chart, const ChartLook& look) {
     painter.fillRect(QRect(0, 0, kWidth, kHeight), Qt::white);
     const int top = DrawTitleBlock(painter, chart);
+    const QSize room(kWidth - 2 * kMargin, kHeight - top - kMargin);
     QCustomPlot plot;
-    FillPlot(plot, chart);
+    plot.setViewport(QRect(QPoint(0, 0), room));
+    FillPlot(plot, chart, look);
     painter.save();
     painter.translate(kMargin, top);
     painter.setLayoutDirection(Qt::LeftToRight);
-    plot.toPainter(&painter, kWidth - 2 * kMargin, kHeight - top - kMargin);
+    plot.toPainter(&painter, room.width(), room.height());
     painter.restore();
 }
 
-}  // namespace
-
-std::string ChartSvg(const ChartArguments& chart) {
-    return SvgOf(kSize, Q(chart.ChartTitle), [&](QCPPainter& painter) { DrawChart(painter, chart); });
+std::string ChartSvg(const ChartArguments& chart, const ChartLook& look) {
+    return SvgOf(kSize, Q(chart.ChartTitle), [&](QCPPainter& painter) { DrawChartPage(painter, chart, look); });
 }
 
-std::string ChartPng(const ChartArguments& chart) {
+std::string ChartPng(const ChartArguments& chart, const ChartLook& look) {
     constexpr int kScale = 2;
-    return PngOf(kSize, kScale, [&](QCPPainter& painter) { DrawChart(painter, chart); });
+    return PngOf(kSize, kScale, [&](QCPPainter& painter) { DrawChartPage(painter, chart, look); });
 }
 
-std::string ChartPdf(const ChartArguments& chart) {
-    return PdfOf(kSize, Q(chart.ChartTitle), [&](QCPPainter& painter) { DrawChart(painter, chart); });
+std::string ChartPdf(const ChartArguments& chart, const ChartLook& look) {
+    return PdfOf(kSize, Q(chart.ChartTitle), [&](QCPPainter& painter) { DrawChartPage(painter, chart, look); });
 }
 
 }  // namespace lithmark

@@ -1,112 +1,188 @@
-// The curves of a chart in the plotting library's widget.
+// The curves of a chart in the plotting library's widget: the one painter of screen and paper.
 #include <qcustomplot.h>
 
 #include <algorithm>
-#include <array>
+#include <cmath>
+#include <utility>
 
-#include "base/NumberText.h"
+#include "contour/AxisTicks.h"
 #include "render/ChartDocument.h"
 #include "render/QtText.h"
-#include "services/SharedServices.h"
 #include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 
 namespace {
 
-// Told apart on screen, in print and by readers who do not see every colour (Okabe and Ito 2008).
-constexpr std::array<QRgb, 4> kCurveColors = {0xFF0072B2, 0xFFD55E00, 0xFF009E73, 0xFFCC79A7};
-constexpr std::array<Qt::PenStyle, 4> kCurvePens = {Qt::SolidLine, Qt::DashLine, Qt::DashDotLine, Qt::DotLine};
+// Each curve is told apart by its colour, its dash and its marker, so that print and eyes without colours do as well.
+constexpr std::array<Qt::PenStyle, 4> kDashes = {Qt::SolidLine, Qt::DashLine, Qt::DashDotLine, Qt::DotLine};
+constexpr std::array<QCPScatterStyle::ScatterShape, 4> kMarkers = {
+    QCPScatterStyle::ssDisc, QCPScatterStyle::ssSquare, QCPScatterStyle::ssTriangle, QCPScatterStyle::ssDiamond};
+constexpr int kMostMarkers = 40;  // of a curve; more would run into each other
 
-double CellValue(const std::string& cell) {
-    return ParseNumber(cell, SharedServices().DecimalSign).value_or(std::numeric_limits<double>::quiet_NaN());
+std::size_t SlotOf(int curve) {
+    return static_cast<std::size_t>(curve - 1) % kDashes.size();
 }
 
-// The points of curve i in the order of the rows: a curve, not a function, since a load step has two points at one
-// time.
-void AddCurve(QCustomPlot& plot, const ChartArguments& chart, int i) {
+QFont PlotFont() {
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(12);
+    return font;
+}
+
+// Round ticks, as many as the axis has room for, in the digits of the language.
+class RoundTicker : public QCPAxisTicker {
+  public:
+    RoundTicker(const QCPAxis& axis, bool whole) : axis_(axis), whole_(whole) {}
+
+    void generate(const QCPRange& range, const QLocale&, QChar, int, QVector<double>& ticks, QVector<double>* subTicks,
+                  QVector<QString>* tickLabels) override {
+        const bool across = axis_.orientation() == Qt::Horizontal;
+        const QSize room = axis_.parentPlot()->viewport().size();
+        constexpr int kAcross = 85, kDown = 50, kEdges = 100;  // a tick's share, and what the titles take
+        const int most = across ? (room.width() - kEdges) / kAcross : (room.height() - kEdges) / kDown;
+        const AxisTicks round = RoundTicks(range.lower, range.upper, std::clamp(most, 3, 12), whole_);
+        ticks = QVector<double>(round.Places.begin(), round.Places.end());
+        if (subTicks) subTicks->clear();
+        if (!tickLabels) return;
+        tickLabels->clear();
+        for (const double place : round.Places)
+            tickLabels->append(Q(TickText(place, round.Decimals, LanguageDecimalSign())));
+    }
+
+  private:
+    const QCPAxis& axis_;
+    const bool whole_;
+};
+
+// The points of a curve in the order of the rows: a curve, not a function, since a load step has two points at one
+// time. A row without a number is a gap.
+void AddCurve(QCustomPlot& plot, const ChartArguments& chart, const ChartReading& reading, int i,
+              const ChartLook& look) {
     auto* curve = new QCPCurve(plot.xAxis, plot.yAxis);
+    const bool changed = AxesChanged(chart);
     QVector<double> order, x, y;
-    for (int row = 1; row <= chart.LastRow; ++row) {
+    for (int row = 1; row <= reading.Rows(); ++row) {
         order.append(row);
-        x.append(CellValue(chart.Cells(row, 1)));
-        y.append(CellValue(chart.Cells(row, i + 1)));
+        x.append(changed ? reading.Y(row, i) : reading.X(row));
+        y.append(changed ? reading.X(row) : reading.Y(row, i));
     }
     curve->setData(order, x, y, true);
     curve->setName(Q(chart.Legends(i)));
-    const auto slot = static_cast<std::size_t>(i - 1) % kCurveColors.size();
-    const QColor color = QColor::fromRgb(kCurveColors[slot]);
     const LineStyle style = chart.LineStyles(i);
-    curve->setPen(QPen(color, 2, kCurvePens[slot]));
+    const QPen pen = CurvePen(i, look.Inks);
+    curve->setPen(pen);
     if (style == LineStyle::Points) curve->setLineStyle(QCPCurve::lsNone);
-    if (style != LineStyle::LinesNoMarkers) {
-        QCPScatterStyle marker(slot == 0 ? QCPScatterStyle::ssDisc : QCPScatterStyle::ssSquare, color,
-                               slot == 0 ? color : QColor(Qt::white), style == LineStyle::Points ? 7 : 5);
-        marker.setPen(QPen(color, 1.5));
+    if (style == LineStyle::Points || (style == LineStyle::Solid && reading.Rows() <= kMostMarkers)) {
+        const bool filled = SlotOf(i) == 0;
+        QCPScatterStyle marker(kMarkers[SlotOf(i)], pen.color(), filled ? pen.color() : look.Inks.Ground,
+                               style == LineStyle::Points ? 7 : 5);
+        marker.setPen(QPen(pen.color(), 1.5));
         curve->setScatterStyle(marker);
     }
+    curve->setVisible(look.Shows(i));
+    if (!look.Shows(i)) curve->removeFromLegend();
 }
 
-// Some air around the curves; a load or settlement axis begins at zero.
-void SetRanges(QCustomPlot& plot, const ChartArguments& chart) {
-    plot.rescaleAxes();
-    QCPRange y = plot.yAxis->range();
-    if (y.lower > 0 && y.lower < 0.6 * y.upper) y.lower = 0;
-    const double pad = y.size() > 0 ? 0.05 * y.size() : std::max(std::abs(y.upper) * 0.05, 0.5);
-    plot.yAxis->setRange(y.lower == 0 ? 0 : y.lower - pad, y.upper + pad);
+QCPRange With(double air, QCPRange range) {
+    const double pad = range.size() > 0 ? air * range.size() : std::max(std::abs(range.upper) * air, 0.5);
+    return {range.lower - pad, range.upper + pad};
+}
+
+// Some air around the curves; an axis of values begins at zero where that is near.
+QCPRange RangeOfValues(QCPRange range) {
+    if (range.lower > 0 && range.lower < 0.6 * range.upper) range.lower = 0;
+    if (range.upper < 0 && range.upper > 0.6 * range.lower) range.upper = 0;
+    QCPRange padded = With(0.05, range);
+    if (range.lower == 0 && range.upper > 0) padded.lower = 0;
+    return padded;
+}
+
+// From the start to the end that the chart names, if all places lie between them.
+QCPRange RangeOfPlaces(const ChartArguments& chart, QCPRange range) {
     const double start = chart.XStart, end = chart.XEnd;
-    QCPRange x = plot.xAxis->range();
-    if (end > start && start <= x.lower && end >= x.upper - 1e-6 * std::abs(x.upper)) x = QCPRange(start, end);
-    const double side = x.size() > 0 ? 0.02 * x.size() : 0.5;
-    plot.xAxis->setRange(x.lower - side, x.upper + side);
+    if (end > start && start <= range.lower && end >= range.upper - 1e-6 * std::abs(range.upper))
+        range = QCPRange(start, end);
+    return With(0.02, range);
+}
+
+void SetRanges(QCustomPlot& plot, const ChartArguments& chart, const ChartLook& look) {
+    plot.rescaleAxes();  // of all curves, so that the scale stays when one is hidden
+    QCPAxis &places = AxesChanged(chart) ? *plot.yAxis : *plot.xAxis,
+            &values = AxesChanged(chart) ? *plot.xAxis : *plot.yAxis;
+    places.setRange(RangeOfPlaces(chart, places.range()));
+    values.setRange(RangeOfValues(values.range()));
+    if (look.Horizontal) plot.xAxis->setRange(look.Horizontal->Lower, look.Horizontal->Upper);
+    if (look.Vertical) plot.yAxis->setRange(look.Vertical->Lower, look.Vertical->Upper);
     plot.yAxis->setRangeReversed(chart.SettlementsDown);
 }
 
-// The corner of the plot with the fewest points of the curves in it.
-Qt::Alignment EmptiestCorner(const QCustomPlot& plot, const ChartArguments& chart) {
-    const QCPRange xs = plot.xAxis->range(), ys = plot.yAxis->range();
-    std::array<int, 4> points{};  // upper right, lower right, upper left, lower left
-    for (int row = 1; row <= chart.LastRow; ++row)
-        for (int i = 1; i <= chart.Curves; ++i) {
-            const double x = (CellValue(chart.Cells(row, 1)) - xs.lower) / xs.size();
-            double y = (CellValue(chart.Cells(row, i + 1)) - ys.lower) / ys.size();
-            if (plot.yAxis->rangeReversed()) y = 1 - y;
-            if ((x > 0.35 && x < 0.65) || (y > 0.3 && y < 0.7)) continue;
-            ++points[(x < 0.5 ? 2u : 0u) + (y < 0.5 ? 1u : 0u)];
-        }
-    const auto corner = std::min_element(points.begin(), points.end()) - points.begin();
-    return (corner >= 2 ? Qt::AlignLeft : Qt::AlignRight) | (corner % 2 == 1 ? Qt::AlignBottom : Qt::AlignTop);
+void StyleAxis(QCPAxis& axis, const std::string& title, bool whole, const ChartInks& inks) {
+    axis.setLabel(AxisLabel(title));
+    axis.setLabelFont(PlotFont());
+    axis.setTickLabelFont(PlotFont());
+    axis.setLabelColor(inks.Text);
+    axis.setTickLabelColor(inks.Text);
+    axis.setLabelPadding(6);
+    for (const auto set : {&QCPAxis::setBasePen, &QCPAxis::setTickPen}) (axis.*set)(QPen(inks.Axes));
+    axis.setSubTicks(false);
+    axis.grid()->setPen(QPen(inks.Grid, 1, Qt::SolidLine));
+    axis.grid()->setZeroLinePen(QPen(inks.Axes, 1));
+    axis.setTicker(QSharedPointer<RoundTicker>::create(axis, whole));
 }
 
-void StyleAxis(QCPAxis& axis, const std::string& title, const QFont& font) {
-    axis.setLabel(Q(title));
-    axis.setLabelFont(font);
-    axis.setTickLabelFont(font);
-    axis.setLabelPadding(6);
-    axis.grid()->setPen(QPen(QColor(0xDD, 0xDD, 0xDD), 1, Qt::SolidLine));
-    axis.grid()->setZeroLinePen(QPen(QColor(0x99, 0x99, 0x99), 1));
-    axis.setNumberFormat("gb");
-    axis.setNumberPrecision(6);
+// The legend above the plot, where it covers no point; one entry a line if they do not fit side by side.
+void PlaceLegend(QCustomPlot& plot, const ChartInks& inks) {
+    QCPLegend* legend = plot.legend;
+    legend->setVisible(true);
+    legend->setFont(PlotFont());
+    legend->setTextColor(inks.Text);
+    legend->setBrush(Qt::NoBrush);
+    legend->setBorderPen(Qt::NoPen);
+    const int entries = legend->itemCount();
+    int width = 0;
+    for (int i = 0; i < entries; ++i) width += legend->item(i)->minimumOuterSizeHint().width() + 12;
+    plot.axisRect()->insetLayout()->take(legend);
+    plot.plotLayout()->insertRow(0);
+    plot.plotLayout()->addElement(0, 0, legend);
+    plot.plotLayout()->setRowStretchFactor(0, 0.001);
+    const bool sideBySide = width < plot.viewport().width() - 40;
+    legend->setFillOrder(QCPLegend::foColumnsFirst);
+    legend->setWrap(sideBySide ? 0 : 1);
 }
 
 }  // namespace
 
-void FillPlot(QCustomPlot& plot, const ChartArguments& chart) {
+QString AxisLabel(const std::string& title) {
+    const AxisWords words = WordsOf(title);
+    if (!LanguageTexts().RightToLeft() || words.Symbol.empty()) return Q(title);
+    const QString signs = Q(title).mid(Q(words.Title).size()).trimmed();
+    return QChar(0x2067) + Q(words.Title) + QLatin1Char(' ') + QChar(0x2066) + signs + QChar(0x2069) + QChar(0x2069);
+}
+
+QPen CurvePen(int curve, const ChartInks& inks) {
+    return {inks.Curves[SlotOf(curve)], 2, kDashes[SlotOf(curve)]};
+}
+
+bool AxesChanged(const ChartArguments& chart) {
+    return chart.SettlementsDown && TurnOf(chart) == ChartTurn::Depth;
+}
+
+void FillPlot(QCustomPlot& plot, const ChartArguments& chart, const ChartLook& look) {
     plot.clearPlottables();
-    plot.setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
-    plot.setBackground(QBrush(Qt::white));
-    const QFont font(QStringLiteral("DejaVu Sans"), 9);
-    for (int i = 1; i <= chart.Curves; ++i) AddCurve(plot, chart, i);
+    plot.setBackground(QBrush(look.Inks.Ground));
+    const ChartReading reading(chart);
+    for (int i = 1; i <= chart.Curves; ++i) AddCurve(plot, chart, reading, i, look);
     plot.axisRect()->setupFullAxesBox(true);
-    for (QCPAxis* axis : {plot.xAxis2, plot.yAxis2}) axis->setTicks(false);
-    StyleAxis(*plot.xAxis, chart.XTitle, font);
-    StyleAxis(*plot.yAxis, chart.YTitle, font);
-    SetRanges(plot, chart);
-    plot.legend->setVisible(true);
-    plot.legend->setFont(font);
-    plot.legend->setBrush(QColor(255, 255, 255, 225));
-    plot.legend->setBorderPen(QPen(QColor(0xBB, 0xBB, 0xBB)));
-    plot.axisRect()->insetLayout()->setInsetAlignment(0, EmptiestCorner(plot, chart));
+    for (QCPAxis* axis : {plot.xAxis2, plot.yAxis2}) {
+        axis->setTicks(false);
+        axis->setBasePen(QPen(look.Inks.Axes));
+    }
+    const bool changed = AxesChanged(chart), time = HasTimeAxis(chart);
+    StyleAxis(*plot.xAxis, changed ? chart.YTitle : chart.XTitle, time && !changed, look.Inks);
+    StyleAxis(*plot.yAxis, changed ? chart.XTitle : chart.YTitle, time && changed, look.Inks);
+    SetRanges(plot, chart, look);
+    if (look.Legend && plot.legend->layout() == plot.axisRect()->insetLayout()) PlaceLegend(plot, look.Inks);
 }
 
 }  // namespace lithmark

@@ -40,7 +40,7 @@ void AddScatterChart(Workbook& workbook, lxw_worksheet* sheet, const std::string
     chart_axis_set_name(chart->y_axis, PrintableText(arguments.YTitle).c_str());
     chart_axis_set_min(chart->x_axis, arguments.XStart);
     chart_axis_set_max(chart->x_axis, arguments.XEnd);
-    if (arguments.SettlementsDown) chart_axis_set_reverse(chart->y_axis);
+    if (arguments.SettlementsDown && TurnOf(arguments) == ChartTurn::Settlements) chart_axis_set_reverse(chart->y_axis);
     chart_legend_set_position(chart, LXW_CHART_LEGEND_BOTTOM);
     lxw_chart_options size = {};
     size.x_scale = 1.6;

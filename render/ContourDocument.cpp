@@ -170,6 +170,14 @@ void PainterSurface::FilledBox(double x1, double y1, double x2, double y2, int c
     painter_.drawRect(box);
 }
 
+QSize ContourPageSize(int size) {
+    return Layout(size).Size();
+}
+
+void DrawContourPage(QPainter& painter, BasContour& plot, int size) {
+    DrawContour(painter, plot, Layout(size));
+}
+
 std::string ContourSvg(BasContour& plot, int size) {
     const Layout layout(size);
     return SvgOf(layout.Size(), Q(PlotTitle()), [&](QPainter& painter) { DrawContour(painter, plot, layout); });

@@ -14,6 +14,10 @@ std::string ContourSvg(BasContour& plot, int size);
 std::string ContourPng(BasContour& plot, int size);
 std::string ContourPdf(BasContour& plot, int size);
 
+// The page of all three.
+QSize ContourPageSize(int size);
+void DrawContourPage(QPainter& painter, BasContour& plot, int size);
+
 // Draws on a QPainter inside a rectangle. Single pixels are gathered in an image and put under everything else.
 class PainterSurface : public Surface {
   public:

@@ -13,9 +13,6 @@
 
 namespace lithmark {
 
-namespace {
-
-// Lines and texts stay such, instead of becoming pixels.
 void DrawAsVectors(QPaintDevice& device, const QSizeF& extent, const QSize& size, const Draw& draw) {
     QCPPainter painter;
     painter.begin(&device);
@@ -26,8 +23,6 @@ void DrawAsVectors(QPaintDevice& device, const QSizeF& extent, const QSize& size
     draw(painter);
     painter.end();
 }
-
-}  // namespace
 
 std::string SvgOf(const QSize& size, const QString& title, const Draw& draw) {
     EnsureRenderApplication();

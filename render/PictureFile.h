@@ -7,11 +7,15 @@
 #include <string>
 
 class QCPPainter;
+class QPaintDevice;
 
 namespace lithmark {
 
 // Draws on a painter whose units are those of the drawing's size.
 using Draw = std::function<void(QCPPainter&)>;
+
+// Lines and texts stay such, instead of becoming pixels; the drawing is as large as fits into the extent.
+void DrawAsVectors(QPaintDevice& device, const QSizeF& extent, const QSize& size, const Draw& draw);
 
 std::string SvgOf(const QSize& size, const QString& title, const Draw& draw);
 // `scale` pixels for each unit of the size.

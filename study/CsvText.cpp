@@ -2,14 +2,7 @@
 
 #include <algorithm>
 
-#include "base/Utf8.h"
-
 namespace lithmark {
-
-std::string CsvCell(std::string_view text) {
-    if (text.find_first_of(",\"\r\n") == std::string_view::npos) return std::string(text);
-    return "\"" + ReplaceAll(text, "\"", "\"\"") + "\"";
-}
 
 std::optional<std::vector<std::string>> CsvReader::Next(bool lastMayBeOpen) {
     if (at_ >= text_.size()) return std::nullopt;

@@ -6,10 +6,9 @@
 #include <string_view>
 #include <vector>
 
-namespace lithmark {
+#include "base/CsvCell.h"
 
-// A cell, in double quotes where its content calls for them.
-std::string CsvCell(std::string_view text);
+namespace lithmark {
 
 // The records of a table one after the other. A quoted cell may hold line ends; a record ends with a line end, CR LF or
 // LF.

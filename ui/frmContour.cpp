@@ -1,5 +1,8 @@
 #include "ui/frmContour.h"
 
+#include <algorithm>
+
+#include "contour/FieldSection.h"
 #include "core/Catalogue.h"
 #include "core/Session.h"
 #include "core/Units.h"
@@ -11,6 +14,8 @@ namespace lithmark {
 
 frmContour::frmContour() : Form("frmContour") {
     chkColorContours.OnClick = [this] { chkColorContours_Click(); };
+    for (OptionButton& view : optView) view.OnClick = [this] { optView_Click(); };
+    chkSection.OnClick = [this] { chkSection_Click(); };
     cmdRedraw.OnClick = [this] { cmdRedraw_Click(); };
     cmdPrevious.OnClick = [this] { cmdPrevious_Click(); };
     cmdOriginal.OnClick = [this] { cmdOriginal_Click(); };
@@ -32,6 +37,9 @@ void frmContour::Load() {
                  {chkDrawGrid, 400078_text},
                  {chkchkDisplayValues, 15_text},
                  {chkFineLabels, 906520_text},
+                 {optView[0], 910020_text},
+                 {optView[1], 910021_text},
+                 {chkSection, 910022_text},
                  {cmdRedraw, 400079_text},
                  {cmdPrevious, 400080_text},
                  {cmdOriginal, 26_text},
@@ -41,17 +49,21 @@ void frmContour::Load() {
                  {cmdLRight, 400084_text},
                  {cmdok, 6_text, Styles::Button},
                  {cmdHelp, 8_text, Styles::Button}});
+    drawings_ = 0;
     for (CheckBox* box : {&chkColorContours, &chkDisplaylines, &chkDrawGrid, &chkchkDisplayValues}) box->Value = true;
     chkDisplaylines.Enabled = true;
-    chkFineLabels.Value = false;
+    SelectOption(optView[0]);
+    chkFineLabels.Value = chkSection.Value = false;
+    optView_Click();
     cmdOriginal.Enabled = cmdPrevious.Enabled = false;
-    drawings_ = 0;
 }
 
 void frmContour::Activate() {
     SharedServices().SetPointer(PointerShape::Hourglass);
     UnderCommonStep([&] {
         Plot.Prepare();
+        field_.emplace(Plot);
+        section_ = MiddleLine(Plot);
         DrawAnew();
     });
     SharedServices().SetPointer(PointerShape::Default);
@@ -63,6 +75,30 @@ void frmContour::chkColorContours_Click() {
     if (chkColorContours.Value) return;
     chkDisplaylines.Value = true;
     chkDisplaylines.Enabled = false;
+}
+
+// The view changes at once; labels belong to the one, a section to the other.
+void frmContour::optView_Click() {
+    chkFineLabels.Enabled = !ShowsField();
+    chkSection.Enabled = ShowsField();
+    if (Ready()) DrawAnew();
+}
+
+void frmContour::chkSection_Click() {
+    if (Ready()) DrawAnew();
+}
+
+std::optional<FieldLine> frmContour::Section() const {
+    return Ready() && ShowsField() && chkSection.Value ? std::optional(section_) : std::nullopt;
+}
+
+void frmContour::SetSection(const FieldLine& line) {
+    const auto inside = [this](const FieldPoint& at) {
+        return FieldPoint{std::clamp<double>(at.X, Plot.OrigWindow.XMin, Plot.OrigWindow.XMax),
+                          std::clamp<double>(at.Y, Plot.OrigWindow.YMin, Plot.OrigWindow.YMax)};
+    };
+    const FieldLine held{inside(line.From), inside(line.To)};
+    if (!(held.From == held.To)) section_ = held;
 }
 
 void frmContour::cmdRedraw_Click() {

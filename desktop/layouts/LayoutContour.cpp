@@ -1,23 +1,30 @@
+#include <qcustomplot.h>
+
 #include <QApplication>
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QClipboard>
-#include <QFileDialog>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 
+#include "contour/FieldSection.h"
 #include "core/Session.h"
 #include "core/Units.h"
 #include "desktop/ContourView.h"
 #include "desktop/FormView.h"
 #include "desktop/PictureView.h"
+#include "desktop/Printing.h"
+#include "desktop/SaveDialog.h"
 #include "desktop/Sizes.h"
 #include "desktop/layouts/LayoutTools.h"
 #include "desktop/layouts/Layouts.h"
 #include "files/CommonStep.h"
 #include "files/GloableVariable.h"
+#include "render/ChartDocument.h"
 #include "render/ContourDocument.h"
+#include "render/FieldDocument.h"
 #include "render/QtText.h"
 #include "services/SharedServices.h"
 #include "services/storage/WrittenFile.h"
@@ -52,18 +59,59 @@ QString Under(const frmContour& form, double x, double y) {
     return QChar(0x2066) + Q(text) + QChar(0x2069);
 }
 
+// What the window shows, for paper and files.
+FieldPicture FieldOf(const frmContour& form) {
+    return {form.Plot, form.Field(), form.Drawn(), form.Section()};
+}
+
 void SaveAs(FormView& view, frmContour& form) {
-    const QString file =
-        QFileDialog::getSaveFileName(&view, view.windowTitle(), Q(Session.WorkDir + Session.WorkName + ".pdf"),
-                                     QStringLiteral("PDF (*.pdf);;SVG (*.svg);;PNG (*.png)"));
-    if (file.isEmpty()) return;
+    if (!form.Ready()) return;
+    const auto file = AskForFile(&view, view.windowTitle(),
+                                 {{QStringLiteral("PDF"), QStringLiteral("pdf")},
+                                  {QStringLiteral("PNG"), QStringLiteral("png")},
+                                  {QStringLiteral("SVG"), QStringLiteral("svg")}});
+    if (!file) return;
     UnderCommonStep([&] {
-        const QString ending = QFileInfo(file).suffix().toLower();
-        SharedServices().SetCurrentFile(file.toStdString());
-        WriteWholeFile(file.toStdString(), ending == QStringLiteral("svg")   ? ContourSvg(form.Plot, 0)
-                                           : ending == QStringLiteral("png") ? ContourPng(form.Plot, 0)
-                                                                             : ContourPdf(form.Plot, 0));
+        SharedServices().SetCurrentFile(file->Path);
+        const bool field = form.ShowsField();
+        const bool svg = file->Ending == QStringLiteral("svg"), png = file->Ending == QStringLiteral("png");
+        const std::string bytes = svg     ? field ? FieldSvg(FieldOf(form), 0) : ContourSvg(form.Plot, 0)
+                                      : png ? field ? FieldPng(FieldOf(form), 0) : ContourPng(form.Plot, 0)
+                                      : field ? FieldPdf(FieldOf(form), 0)
+                                          : ContourPdf(form.Plot, 0);
+        WriteWholeFile(file->Path, bytes);
     });
+}
+
+void Print(FormView& view, frmContour& form) {
+    if (!form.Ready()) return;
+    if (form.ShowsField())
+        PrintPicture(&view, FieldPageSize(FieldOf(form), 0),
+                     [&form](QCPPainter& painter) { DrawFieldPage(painter, FieldOf(form), 0); });
+    else
+        PrintPicture(&view, ContourPageSize(0),
+                     [&form](QCPPainter& painter) { DrawContourPage(painter, form.Plot, 0); });
+}
+
+// The whole page as a picture, with title and legend.
+void Copy(frmContour& form) {
+    if (!form.Ready()) return;
+    UnderCommonStep([&] {
+        const std::string png = form.ShowsField() ? FieldPng(FieldOf(form), 0) : ContourPng(form.Plot, 0);
+        QApplication::clipboard()->setImage(QImage::fromData(QByteArray::fromStdString(png), "PNG"));
+    });
+}
+
+// The values along the section, as far as there is one.
+void ShowCurve(QCustomPlot& curve, const frmContour& form) {
+    const auto section = form.Section();
+    curve.setVisible(section.has_value());
+    if (!section) return;
+    ChartLook look;
+    look.Legend = false;
+    curve.legend->setVisible(false);
+    FillPlot(curve, SectionChart(form.Field(), *section), look);
+    curve.replot(QCustomPlot::rpQueuedReplot);
 }
 
 QPushButton* OwnButton(FormView& view, const std::string& caption, const char* name) {
@@ -82,9 +130,16 @@ const LayoutOf<frmContour> kLayout([](FormView& view, frmContour& form) {
     plot->Over = [&form, under](double x, double y) { under->setText(Under(form, x, y)); };
     plot->Left = [under] { under->clear(); };
 
+    auto* curve = new QCustomPlot(&view);
+    curve->setObjectName(QStringLiteral("sectionCurve"));
+    curve->setLayoutDirection(Qt::LeftToRight);
+    curve->setFixedHeight(170);
+    curve->setToolTip(Q(Text(910027_text)));
+    plot->SectionLaid = [&form, curve] { ShowCurve(*curve, form); };
     auto* drawn = new QVBoxLayout(view.Place(form.fraResult));
     drawn->addWidget(view.Place(form.picBox), 1);
     drawn->addWidget(under);
+    drawn->addWidget(curve);
 
     auto* zooms = new QGridLayout;
     zooms->setSpacing(sizes::kRowGap);
@@ -95,42 +150,63 @@ const LayoutOf<frmContour> kLayout([](FormView& view, frmContour& form) {
     zooms->addWidget(view.Place(form.cmdPrevious), 2, 0);
     zooms->addWidget(view.Place(form.cmdOriginal), 2, 1);
 
-    auto* side = new QVBoxLayout;
-    side->setSpacing(sizes::kRowGap);
-    side->addWidget(view.Place(form.picBox2), 1);
+    auto* views = new QHBoxLayout;
+    views->setSpacing(sizes::kGroupGap);
+    for (OptionButton& option : form.optView) views->addWidget(view.Place(option));
+    views->addStretch(1);
+    auto* choices = new QVBoxLayout;
+    choices->setSpacing(sizes::kRowGap);
+    choices->addLayout(views);
     for (Control* box : ControlList{form.chkColorContours, form.chkDisplaylines, form.chkDrawGrid,
-                                    form.chkchkDisplayValues, form.chkFineLabels})
-        side->addWidget(view.Place(*box));
-    side->addWidget(view.Place(form.cmdRedraw));
-    side->addSpacing(sizes::kGroupGap);
-    side->addLayout(zooms);
+                                    form.chkchkDisplayValues, form.chkFineLabels, form.chkSection})
+        choices->addWidget(view.Place(*box));
+    choices->addWidget(view.Place(form.cmdRedraw));
+    choices->addSpacing(sizes::kGroupGap);
+    choices->addLayout(zooms);
+    choices->addStretch(1);
 
     auto* columns = new QHBoxLayout;
     columns->setSpacing(sizes::kEdge);
     columns->addWidget(view.Place(form.fraResult), 1);
-    columns->addLayout(side);
+    columns->addWidget(view.Place(form.picBox2), 0, Qt::AlignTop);
+    columns->addLayout(choices);
     QVBoxLayout* window = WindowColumn(view);
     window->addLayout(columns, 1);
 
-    auto* copy = OwnButton(view, Text(906521_text), "cmdCopy");
-    QObject::connect(copy, &QPushButton::clicked, plot, [plot] { QApplication::clipboard()->setPixmap(plot->grab()); });
+    auto* copy = OwnButton(view, Text(906521_text, Styles::Button), "cmdCopy");
+    QObject::connect(copy, &QPushButton::clicked, &view, [&form] { Copy(form); });
+    auto* print = OwnButton(view, Text(910003_text, Styles::Button), "cmdPrint");
+    QObject::connect(print, &QPushButton::clicked, &view, [&view, &form] { Print(view, form); });
     auto* save = OwnButton(view, Text(9_text, Styles::DialogButton), "cmdSaveAs");
     QObject::connect(save, &QPushButton::clicked, &view, [&view, &form] { SaveAs(view, form); });
     QBoxLayout* buttons = ButtonRow(view, form.cmdHelp, form.cmdok);
     buttons->insertWidget(0, copy);
-    buttons->insertWidget(1, save);
+    buttons->insertWidget(1, print);
+    buttons->insertWidget(2, save);
     window->addLayout(buttons);
+    // Backspace and Home, as the buttons.
+    for (const auto& [key, button] :
+         {std::pair<int, Control*>(Qt::Key_Backspace, &form.cmdPrevious), {Qt::Key_Home, &form.cmdOriginal}}) {
+        auto& widget = dynamic_cast<QPushButton&>(*view.WidgetOf(*button));
+        QObject::connect(new QShortcut(key, &view), &QShortcut::activated, &widget, &QPushButton::click);
+    }
+    for (const auto& [keys, button] :
+         {std::pair(QKeySequence::Copy, copy), {QKeySequence::Print, print}, {QKeySequence::Save, save}})
+        QObject::connect(new QShortcut(keys, &view), &QShortcut::activated, button, &QPushButton::click);
 
     // A plot that differs from what its boxes ask for says so at the button that draws it.
     auto& redraw = dynamic_cast<QPushButton&>(*view.WidgetOf(form.cmdRedraw));
-    view.AfterRefresh = [&form, &redraw, plot, legend] {
+    view.AfterRefresh = [&form, &redraw, plot, legend, curve] {
         QFont font = redraw.font();
         font.setBold(form.WantsAnother());
         redraw.setFont(font);
         redraw.setText(Q(form.cmdRedraw.Caption + (form.WantsAnother() ? " *" : "")));
+        legend->FitLegend();
+        ShowCurve(*curve, form);
         plot->update();
         legend->update();
     };
+    view.resize(960, 640);
 });
 
 }  // namespace

@@ -143,7 +143,7 @@ TEST_F(CurveSets, Tab2BeginsWithTheValueOfTimeZero) {
     EXPECT_EQ(chart.ChartTitle, "Time-settlement curve for sudden loading");
     EXPECT_THAT(FromOne(chart.Legends), ElementsAre("Time-settlement curve for sudden loading"));
     EXPECT_TRUE(chart.Flag);
-    EXPECT_TRUE(chart.SettlementsDown);
+    EXPECT_FALSE(chart.SettlementsDown) << "upward unless the user turns it";
     EXPECT_EQ(chart.XEnd, 2.0);
     Session.CurveSettlementUnit = "[%]";
     chart = Chart("Tab2");

@@ -1,0 +1,26 @@
+// The dialog that asks for the file of a picture or a table, in one of several kinds.
+#pragma once
+
+#include <QString>
+#include <optional>
+#include <string>
+#include <vector>
+
+class QWidget;
+
+namespace lithmark {
+
+struct FileKind {
+    QString Name, Ending;  // "PDF", "pdf"
+};
+
+struct ChosenFile {
+    std::string Path;
+    QString Ending;  // of the kind that is to be written
+};
+
+// A name without an ending takes the one of the chosen kind; one with the ending of another kind is of that one. The
+// first kind is proposed, with the open project's name. Nothing when cancelled.
+std::optional<ChosenFile> AskForFile(QWidget* parent, const QString& title, const std::vector<FileKind>& kinds);
+
+}  // namespace lithmark
