@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QColor>
+#include <QPen>
 #include <array>
 #include <optional>
 #include <string>

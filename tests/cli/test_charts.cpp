@@ -148,6 +148,75 @@ TEST_F(CliCharts, PressuresAreDrawnInTheirClasses) {
         }
 }
 
+// The field stands in the unit of the caption, centimetres, at round limits; the plot of ten classes in metres.
+TEST_F(CliCharts, AFieldHasRoundLimitsInTheUnitOfItsTitle) {
+    const std::string project = Example("EccentricRaft");
+    const Json plot = Contour(project), field = Contour(project, {"--style", "field"});
+    EXPECT_EQ(Keys(field),
+              (std::vector<std::string>{"title", "unit", "limits", "colours", "least", "greatest", "lines"}));
+    EXPECT_EQ(field["unit"], "[cm]");
+    const double least = field["least"]["value"], greatest = field["greatest"]["value"];
+    EXPECT_NEAR(least, 100 * plot["ZMin"].get<double>(), 1e-5);
+    EXPECT_NEAR(greatest, 100 * plot["ZMax"].get<double>(), 1e-5);
+    const auto limits = field["limits"].get<std::vector<double>>();
+    EXPECT_EQ(field["colours"].size() + 1, limits.size());
+    const double step = limits[1] - limits[0];
+    EXPECT_LE(limits.front(), least + 1e-6);
+    EXPECT_GT(limits.front(), least - step);
+    EXPECT_GE(limits.back(), greatest - 1e-6);
+    EXPECT_LT(limits.back(), greatest + step);
+    for (const auto& line : field["lines"]) {
+        ASSERT_EQ(line.size(), 5u);
+        EXPECT_GT(line[0].get<double>(), least);
+        EXPECT_LT(line[0].get<double>(), greatest);
+    }
+    EXPECT_EQ(Contour(project, {"--style", "classes"}), plot);
+}
+
+TEST_F(CliCharts, ASectionRunsThroughTheField) {
+    const std::string project = Example("EccentricRaft");
+    const Json field = Contour(project, {"--style", "field", "--section", "middle", "--size", "22"});
+    const Json& section = field["section"];
+    ASSERT_GE(section.size(), 2u);
+    EXPECT_EQ(section[0][0], 0.0);
+    // A rigid raft settles as a plane: along a line the values lie on a straight one.
+    const double length = section.back()[0], first = section[0][3], last = section.back()[3];
+    for (const auto& point : section)
+        EXPECT_NEAR(point[3].get<double>(), first + point[0].get<double>() / length * (last - first), 1e-3 * last);
+    ASSERT_EQ(field["pixels"].size(), 22u);
+    EXPECT_EQ(field["pixels"][0][0], 0) << "the margin";
+    EXPECT_GE(field["pixels"][11][11].get<int>(), 1);
+    ExpectFailure(Run({"contour", project, "--style", "field", "--section", "1,2,3"}), 2, {"1,2,3"});
+    ExpectFailure(Run({"contour", project, "--section", "middle"}), 2, {"--style field"});
+    ExpectFailure(Run({"contour", project, "--style", "field", "--section", "900,0,900,1"}), 2, {"900,0,900,1"});
+    ExpectFailure(Run({"contour", project, "--style", "bands"}), 2, {"bands"});
+}
+
+#ifdef LITHMARK_RENDER
+TEST_F(CliCharts, AFieldAsAPicture) {
+    const std::string project = Example("SquareRaft");
+    const auto bytes = [&](const std::string& ending) {
+        const std::string file = work / ("field." + ending);
+        EXPECT_EQ(Run({"contour", project, "--result", "pressure", "--style", "field", "--output", file}).Status, 0);
+        return ReadBytes(file);
+    };
+    EXPECT_TRUE(bytes("pdf").starts_with("%PDF-"));
+    EXPECT_TRUE(bytes("png").starts_with("\x89PNG"));
+    EXPECT_THAT(bytes("svg"), HasSubstr("Contact pressure q"));
+    EXPECT_NE(bytes("svg"), Run({"contour", project, "--result", "pressure", "--format", "svg"}).Out);
+}
+
+TEST_F(CliCharts, SettlementsCanBeDrawnDownward) {
+    const std::string project = Example("OfficeBuilding");
+    const auto svg = [&](const std::vector<std::string>& more) {
+        return Run(With({"chart", project, "--format", "svg", "--curve"}, more)).Out;
+    };
+    EXPECT_NE(svg({"Tab3"}), svg({"Tab3", "--downward"}));
+    EXPECT_EQ(svg({"Tab1"}), svg({"Tab1", "--downward"})) << "loads have no other way";
+    EXPECT_EQ(Chart(project, {"--curve", "Tab3"}), Chart(project, {"--curve", "Tab3", "--downward"}));
+}
+#endif
+
 TEST_F(CliCharts, OnlyRaftsHaveContours) {
     ExpectFailure(Run({"contour", Example("PointLoad")}), 2, {"1"});
     ExpectFailure(Run({"contour", Example("SquareRaft"), "--result", "moment"}), 2, {"moment"});

@@ -7,47 +7,14 @@
 #include <numbers>
 #include <set>
 
-#include "contour/BasContour.h"
+#include "contour/GridPlot.h"
 #include "contour/RecordingSurface.h"
 #include "core/StartSession.h"
 
 using namespace lithmark;
+using namespace lithmark::tests;
 
 namespace {
-
-using Field = std::function<double(double, double)>;
-
-// A grid of nx by ny quadrilaterals over 0..a by 0..b with nodal values of `field`.
-BasContour GridPlot(int nx, int ny, double a, double b, const Field& field) {
-    BasContour plot;
-    plot.NodeCount = (nx + 1) * (ny + 1);
-    plot.ElementCount = nx * ny;
-    plot.CtrX.Redim(1, plot.NodeCount);
-    plot.CtrY.Redim(1, plot.NodeCount);
-    plot.CtrZ.Redim(1, plot.NodeCount);
-    plot.ElemNodeCount.Redim(1, plot.ElementCount);
-    plot.ElemNode.Redim(1, plot.ElementCount, 1, 4);
-    plot.ElemNext.Redim(1, plot.ElementCount, 1, 4);
-    const auto node = [&](int i, int j) { return j * (nx + 1) + i + 1; };
-    for (int j = 0; j <= ny; ++j)
-        for (int i = 0; i <= nx; ++i) {
-            plot.CtrX(node(i, j)) = a * i / nx;
-            plot.CtrY(node(i, j)) = b * j / ny;
-            plot.CtrZ(node(i, j)) = field(a * i / nx, b * j / ny);
-        }
-    int e = 0;
-    for (int j = 0; j < ny; ++j)
-        for (int i = 0; i < nx; ++i) {
-            ++e;
-            plot.ElemNodeCount(e) = 4;
-            const int corners[] = {node(i + 1, j), node(i, j), node(i, j + 1), node(i + 1, j + 1)};
-            for (int k = 0; k < 4; ++k) plot.ElemNode(e, k + 1) = corners[k];
-        }
-    plot.ZFormat = "0.00";
-    plot.FindBoundary();
-    plot.ComputeWindow();
-    return plot;
-}
 
 // What the plot's boundary lines are, by drawing nothing else.
 std::vector<RecordingSurface::DrawnLine> Boundary(BasContour& plot) {

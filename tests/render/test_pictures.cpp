@@ -1,13 +1,17 @@
 // Charts and contours as pictures and documents. Reference pictures are small and compared with tolerance, never pixel
 // by pixel: fonts differ between machines. tests/renew-goldens renews them.
+#include <qcustomplot.h>
+
 #include <QImage>
 #include <QXmlStreamReader>
 #include <cmath>
 #include <cstdlib>
 #include <numbers>
 
+#include "contour/FieldSection.h"
 #include "render/ChartDocument.h"
 #include "render/ContourDocument.h"
+#include "render/FieldDocument.h"
 #include "render/RenderCase.h"
 #include "support/Places.h"
 
@@ -105,7 +109,7 @@ TEST_F(Pictures, EveryCurveIsDrawnInItsColour) {
     EXPECT_EQ(image.height(), 1360);
     EXPECT_GT(Inked(image), 0.01);
     EXPECT_LT(Inked(image), 0.2);
-    for (const QRgb color : {0xFF0072B2u, 0xFFD55E00u, 0xFF009E73u}) {
+    for (const QRgb color : {0xFF0068A6u, 0xFFA84800u, 0xFF006E52u}) {
         long pixels = 0;
         for (int y = 0; y < image.height(); ++y)
             for (int x = 0; x < image.width(); ++x) pixels += image.pixel(x, y) == color;
@@ -113,23 +117,156 @@ TEST_F(Pictures, EveryCurveIsDrawnInItsColour) {
     }
 }
 
-// The settlement axis points down: a curve that grows runs downward.
-TEST_F(Pictures, SettlementsPointDown) {
+// A curve that grows runs upward, and downward where the settlement axis is turned.
+TEST_F(Pictures, SettlementsPointDownWhereTheyAreTurned) {
     RunExample("OfficeBuilding");
-    const QImage image = Image(ChartPng(Chart("Tab2")));
-    const auto meanRow = [&](int from, int to) {
+    ChartArguments chart = Chart("Tab2");
+    const auto meanRow = [](const QImage& image, int from, int to) {
         double sum = 0;
         long count = 0;
         for (int x = from; x < to; ++x)
             for (int y = 300; y < image.height() - 100; ++y)
-                if (image.pixel(x, y) == 0xFF0072B2u) {
+                if (image.pixel(x, y) == 0xFF0068A6u) {
                     sum += y;
                     ++count;
                 }
         EXPECT_GT(count, 0);
         return sum / static_cast<double>(count);
     };
-    EXPECT_LT(meanRow(180, 300), meanRow(900, 1000));
+    const QImage up = Image(ChartPng(chart));
+    EXPECT_GT(meanRow(up, 180, 300), meanRow(up, 900, 1000));
+    chart.SettlementsDown = true;
+    const QImage down = Image(ChartPng(chart));
+    EXPECT_LT(meanRow(down, 180, 300), meanRow(down, 900, 1000));
+}
+
+// Pore pressures over a depth that points downward: the axes change places.
+TEST_F(Pictures, DepthsPointDownWhereTheyAreTurned) {
+    RunExample("OneClayLayer");
+    ChartArguments chart = Chart("Tab1");
+    QCustomPlot plot;
+    FillPlot(plot, chart);
+    EXPECT_THAT(plot.xAxis->label().toStdString(), testing::StartsWith("Depth"));
+    EXPECT_FALSE(plot.yAxis->rangeReversed());
+    const QCPRange depths = plot.xAxis->range(), pressures = plot.yAxis->range();
+    chart.SettlementsDown = true;
+    FillPlot(plot, chart);
+    EXPECT_THAT(plot.yAxis->label().toStdString(), testing::StartsWith("Depth"));
+    EXPECT_TRUE(plot.yAxis->rangeReversed());
+    EXPECT_EQ(plot.yAxis->range(), depths);
+    EXPECT_EQ(plot.xAxis->range(), pressures);
+    ChartArguments loads = chart;
+    loads.XTitle = "Place x [m]";
+    EXPECT_FALSE(AxesChanged(loads));
+}
+
+// The legend stands above the axes, so that it covers no point, also where its names need a line each.
+TEST_F(Pictures, TheLegendStandsAboveTheAxes) {
+    RunExample("EccentricRaft");
+    for (const char* curve : {"Tab5", "Tab6"})
+        for (const int width : {300, 1000}) {
+            QCustomPlot plot;
+            plot.setViewport(QRect(0, 0, width, 600));
+            FillPlot(plot, Chart(curve));
+            plot.toPixmap(width, 600);
+            plot.setViewport(QRect(0, 0, width, 600));
+            plot.replot();
+            EXPECT_TRUE(plot.legend->visible());
+            EXPECT_LE(plot.legend->outerRect().bottom(), plot.axisRect()->top()) << curve << " " << width;
+            EXPECT_GE(plot.legend->outerRect().left(), 0);
+        }
+}
+
+// Round ticks in the digits of the language, without grouping; whole ones where time units are counted.
+TEST_F(Pictures, TicksAreRoundAndInTheDigitsOfTheLanguage) {
+    RunExample("OfficeBuilding", Language::German);
+    QCustomPlot plot;
+    plot.setViewport(QRect(0, 0, 1000, 600));
+    FillPlot(plot, Chart("Tab1"));
+    plot.replot();
+    ASSERT_GE(plot.xAxis->tickVectorLabels().size(), 3);
+    for (const QString& label : plot.xAxis->tickVectorLabels()) {
+        bool whole = false;
+        label.toInt(&whole);
+        EXPECT_TRUE(whole) << label.toStdString();
+    }
+    for (const QString& label : plot.yAxis->tickVectorLabels())
+        EXPECT_FALSE(label.contains(QLatin1Char('.'))) << label.toStdString();
+    plot.yAxis->setRange(0, 0.7);
+    plot.replot();
+    EXPECT_EQ(plot.yAxis->tickVectorLabels().at(1), QStringLiteral("0,1"));
+    LanguageTexts().SetCurrent(Language::English);
+    plot.replot();
+    EXPECT_EQ(plot.yAxis->tickVectorLabels().at(1), QStringLiteral("0.1"));
+    plot.yAxis->setRange(0, 70000);
+    plot.replot();
+    EXPECT_EQ(plot.yAxis->tickVectorLabels().back(), QStringLiteral("70000"));
+}
+
+// What is hidden or zoomed on the screen is so on paper.
+TEST_F(Pictures, PaperShowsWhatTheLookSays) {
+    RunExample("EccentricRaft");
+    const ChartArguments chart = Chart("Tab6");
+    const auto pixels = [](const std::string& png, QRgb color) {
+        const QImage image = Image(png);
+        long count = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x) count += image.pixel(x, y) == color;
+        return count;
+    };
+    ChartLook look;
+    look.Hidden = {false, true};
+    EXPECT_GT(pixels(ChartPng(chart, look), 0xFF0068A6u), 500);
+    EXPECT_EQ(pixels(ChartPng(chart, look), 0xFFA84800u), 0);
+    look.Hidden = {};
+    look.Horizontal = {-20, -10};  // beside the raft
+    EXPECT_LT(pixels(ChartPng(chart, look), 0xFF006E52u), 300) << "the legend alone";
+}
+
+TEST_F(Pictures, AFieldIsFilledInItsColoursWithoutSeams) {
+    RunExample("SiloRaft");
+    const BasContour plot = Contour("Tab5");
+    const FieldPlot field(plot);
+    const int side = 600;
+    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    DrawField(
+        painter, QRectF(0, 0, side, side),
+        {plot, field, {.ColorContours = true, .Displaylines = false, .DrawGrid = false, .DisplayValues = false}, {}});
+    painter.end();
+    const WorldWindow& w = plot.Window;
+    long right = 0, inside = 0, white = 0;
+    for (int y = 3; y < side - 3; ++y)
+        for (int x = 3; x < side - 3; ++x) {
+            const double wx = w.XMin + (x + 0.5) / side * (w.XMax - w.XMin),
+                         wy = w.YMax - (y + 0.5) / side * (w.YMax - w.YMin);
+            const double out = 3 * (w.XMax - w.XMin) / side;
+            if (std::hypot(wx, wy) > Session.A0 * std::cos(std::numbers::pi / 24) - out) continue;
+            const auto value = plot.ValueAt(wx, wy);
+            if (!value) continue;
+            ++inside;
+            white += image.pixel(x, y) == 0xFFFFFFFF;
+            right += image.pixel(x, y) == (0xFF000000u | field.ColourOf(field.ClassOf(*value)));
+        }
+    EXPECT_GT(inside, 100000);
+    EXPECT_EQ(white, 0);
+    EXPECT_GT(static_cast<double>(right) / static_cast<double>(inside), 0.97) << "all but the rims of the classes";
+}
+
+TEST_F(Pictures, AFieldWithASectionHasItsCurveBelow) {
+    RunExample("EccentricRaft");
+    const BasContour plot = Contour("Tab6");
+    const FieldPlot field(plot);
+    const FieldPicture bare{plot, field, {}, {}}, cut{plot, field, {}, MiddleLine(plot)};
+    const QImage without = Image(FieldPng(bare, 300)), with = Image(FieldPng(cut, 300));
+    EXPECT_EQ(with.width(), without.width());
+    EXPECT_EQ(with.height() - without.height(), 100);
+    EXPECT_GT(Inked(with.copy(0, without.height(), with.width(), 100)), 0.02);
+    EXPECT_TRUE(FieldPdf(cut, 0).starts_with("%PDF-"));
+    QXmlStreamReader reader(QByteArray::fromStdString(FieldSvg(cut, 0)));
+    while (!reader.atEnd()) reader.readNext();
+    EXPECT_FALSE(reader.hasError()) << reader.errorString().toStdString();
 }
 
 TEST_F(Pictures, SvgIsWellFormedAndHoldsItsTexts) {

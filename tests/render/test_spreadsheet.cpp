@@ -90,7 +90,11 @@ TEST_F(Spreadsheet, AChartHasItsTableAndANativeChartOverIt) {
     EXPECT_THAT(xml, HasSubstr(chart.Legends(1)));
     EXPECT_THAT(xml, HasSubstr(chart.Legends(2)));
     EXPECT_THAT(xml, HasSubstr(chart.XTitle));
-    EXPECT_THAT(xml, HasSubstr("<c:orientation val=\"maxMin\"/>")) << "settlements point down";
+    EXPECT_THAT(xml, testing::Not(HasSubstr("<c:orientation val=\"maxMin\"/>")));
+    ChartArguments turned = chart;
+    turned.SettlementsDown = true;
+    EXPECT_THAT(PartsOf(ChartXlsx(turned)).at("xl/charts/chart1.xml"), HasSubstr("<c:orientation val=\"maxMin\"/>"))
+        << "settlements point down";
 }
 
 TEST_F(Spreadsheet, LineStylesAreThoseOfTheCurves) {

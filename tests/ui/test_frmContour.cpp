@@ -177,6 +177,48 @@ TEST_F(ContourWindow, OpenedTwiceItStartsFromTheOriginalWindow) {
     }
 }
 
+TEST_F(ContourWindow, TheToldPlotOpensFirstAndTheFieldIsOneClickAway) {
+    WorkOutARaft();
+    OnShown<frmContour>([](frmContour& form) {
+        EXPECT_TRUE(form.optView[0].Value);
+        EXPECT_FALSE(form.ShowsField());
+        EXPECT_TRUE(form.chkFineLabels.Enabled);
+        EXPECT_FALSE(form.chkSection.Enabled);
+        Click(form, "optView(1)");
+        EXPECT_TRUE(form.ShowsField());
+        EXPECT_EQ(form.Drawings(), 2) << "a view changes at once";
+        EXPECT_FALSE(form.WantsAnother());
+        EXPECT_FALSE(form.chkFineLabels.Enabled);
+        EXPECT_NEAR(form.Field().Greatest(), form.Plot.ZMax, 1e-3);
+        Click(form, "chkDrawGrid");
+        EXPECT_TRUE(form.WantsAnother());
+        Click(form, "optView(0)");
+        EXPECT_FALSE(form.ShowsField());
+    });
+    // The next time it is the told plot again.
+    OnShown<frmContour>([](frmContour& form) { EXPECT_FALSE(form.ShowsField()); });
+}
+
+TEST_F(ContourWindow, ASectionBeginsInTheMiddleAndKeepsToTheWindow) {
+    WorkOutARaft();
+    OnShown<frmContour>([](frmContour& form) {
+        EXPECT_FALSE(form.Section());
+        Click(form, "optView(1)");
+        EXPECT_FALSE(form.Section());
+        Click(form, "chkSection");
+        ASSERT_TRUE(form.Section());
+        EXPECT_EQ(form.Section()->From.Y, form.Section()->To.Y);
+        EXPECT_NEAR(form.Section()->To.X - form.Section()->From.X, 4, 1e-5);
+        form.SetSection({{0.5, 0.5}, {99, 0.5}});
+        EXPECT_EQ(form.Section()->To.X, form.Plot.OrigWindow.XMax);
+        const FieldLine kept = *form.Section();
+        form.SetSection({{1, 1}, {1, 1}});
+        EXPECT_EQ(form.Section()->From, kept.From);
+        Click(form, "optView(0)");
+        EXPECT_FALSE(form.Section()) << "a section belongs to the field";
+    });
+}
+
 TEST_F(ContourWindow, WithoutTheFilesOfARunItTellsWhichOneIsMissing) {
     WorkOutARaft();
     for (const std::string& name : DataFiles()) std::filesystem::remove(DataFile(name));

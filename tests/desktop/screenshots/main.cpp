@@ -14,6 +14,7 @@
 #include "core/Session.h"
 #include "core/StartSession.h"
 #include "desktop/Application.h"
+#include "desktop/ChartView.h"
 #include "desktop/FormView.h"
 #include "desktop/MainWindow.h"
 #include "desktop/QtHost.h"
@@ -60,12 +61,14 @@ class Gallery {
         Take(view, name);
     }
     // A window that waits for its answer: the picture is taken as soon as it is there, and Escape answers it.
-    void TakeModal(const QString& name, const std::function<void()>& show) {
+    void TakeModal(const QString& name, const std::function<void()>& show,
+                   const std::function<void(QWidget&)>& change = {}) {
         QTimer timer;
         QObject::connect(&timer, &QTimer::timeout, [&] {
             QWidget* modal = QApplication::activeModalWidget();
             if (modal == nullptr) return;
             timer.stop();
+            if (change) change(*modal);
             Take(*modal, name);
             modal->close();
         });
@@ -115,6 +118,18 @@ void TakeProblemDialogs(Gallery& gallery) {
                              });
             }
     }
+}
+
+// A chart in the work: both marks, a place that is read, downward where that is offered.
+void MarkAndTurn(QWidget& window) {
+    auto* plot = dynamic_cast<ChartView*>(window.findChild<QWidget*>(QStringLiteral("plot")));
+    if (plot == nullptr) return;
+    if (auto* turn = window.findChild<QAbstractButton*>(QStringLiteral("chkDownward"))) plot->Turn(!turn->isChecked());
+    plot->Walk(1);
+    plot->Walk(1);
+    plot->Mark(true);
+    for (int i = 0; i < 5; ++i) plot->Walk(1);
+    plot->Mark(false);
 }
 
 bool TakeAll(const QString& folder, Language language, const QString& code) {
@@ -195,8 +210,15 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
     Session.CurveSettlementUnit = Session.Len2Label;
     for (const char* curve : {"Tab1", "Tab3"}) {
         Session.CurveChoice = curve;
-        gallery.TakeModal(QStringLiteral("chart-") + QLatin1String(curve), [&] { host.ShowChart(BuildChart()); });
+        gallery.TakeModal(
+            QStringLiteral("chart-") + QLatin1String(curve), [&] { host.ShowChart(BuildChart()); }, MarkAndTurn);
     }
+    Session.ProblemType = 5;
+    SetProblemDefaults();
+    RunProblemKernel();
+    gallery.TakeModal(QStringLiteral("chart-depth"), [&] { host.ShowChart(BuildChart()); });
+    gallery.TakeModal(
+        QStringLiteral("chart-depth-down"), [&] { host.ShowChart(BuildChart()); }, MarkAndTurn);
     Session.ProblemType = 9;
     SetProblemDefaults();
     Session.AnalysisType = Analysis::Numerical;
@@ -204,6 +226,17 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
     Session.CurveChoice = Session.ContourResult = "Tab5";
     frmContour contour;
     gallery.Take(contour, QStringLiteral("frmContour"), [&] { contour.Activate(); });
+    gallery.Take(contour, QStringLiteral("frmContour-field"), [&] {
+        contour.Activate();
+        contour.SelectOption(contour.optView[1]);
+        contour.optView_Click();
+    });
+    gallery.Take(contour, QStringLiteral("frmContour-section"), [&] {
+        contour.Activate();
+        contour.SelectOption(contour.optView[1]);
+        contour.chkSection.Value = true;
+        contour.optView_Click();
+    });
     TableEdit table;
     table.Title = Text(140187_text);
     table.Columns = {{"t\n[1]\n[-]", TableEdit::Kind::Whole}, {"p\n[2]\n[%]", TableEdit::Kind::Real, 100, 0}};

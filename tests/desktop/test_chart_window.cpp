@@ -1,0 +1,223 @@
+// The chart window with real keys and the mouse: zoom, marks, curves shown and hidden, the ways out.
+#include <gmock/gmock.h>
+#include <qcustomplot.h>
+
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
+#include <QLabel>
+
+#include "ScreenRun.h"
+#include "contour/ChartTable.h"
+#include "contour/CurveSets.h"
+#include "core/Catalogue.h"
+#include "core/StartSession.h"
+#include "desktop/ChartView.h"
+#include "desktop/ChartWindow.h"
+#include "kernels/RunKernel.h"
+
+namespace lithmark::tests {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+
+class ChartWindowTest : public ::testing::Test {
+  protected:
+    ChartWindowTest() { SharedServices().UseSettingsDirectory(folder_.Dir()); }
+    ~ChartWindowTest() override {
+        SharedServices().UseSettingsDirectory("");
+        LanguageTexts().SetCurrent(Language::English);
+        ResetSession();
+    }
+    // The default project of a problem, worked out.
+    ChartArguments Chart(int problem, const std::string& curve = "Tab1", Language language = Language::English) {
+        LanguageTexts().SetCurrent(language);
+        SharedServices().DecimalSign = '.';
+        StartSession();
+        Session.ProblemType = problem;
+        Session.DataDir = Session.WorkDir = folder_.Dir();
+        Session.ProjectName = Session.WorkName = "Silo";
+        SetProblemDefaults();
+        EXPECT_TRUE(RunProblemKernel());
+        Session.CurveChoice = curve;
+        Session.CurveLoadUnit = Session.Force1Label;
+        Session.CurveSettlementUnit = Session.Len2Label;
+        return BuildChart();
+    }
+    static ChartView& Shown(ChartWindow& window) {
+        window.show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+        auto& plot = Child<ChartView>(window, "plot");
+        plot.replot();
+        return plot;
+    }
+    // Where a point of a curve stands in the plot.
+    static QPoint At(ChartView& plot, const ChartMark& mark) {
+        const double x = plot.Reading().X(mark.Row), y = plot.Reading().Y(mark.Row, mark.Curve);
+        const bool changed = AxesChanged(plot.Chart());
+        return QPointF(plot.xAxis->coordToPixel(changed ? y : x), plot.yAxis->coordToPixel(changed ? x : y)).toPoint();
+    }
+
+    TestFolder folder_;
+    QtHost host_;
+};
+
+TEST_F(ChartWindowTest, AClickSetsAAndShiftClickBAndTheirDifferenceIsTold) {
+    ChartWindow window(Chart(8, "Tab3"), nullptr);
+    ChartView& plot = Shown(window);
+    const ChartMark a{3, 1}, b{plot.Reading().Rows() - 1, 1};
+    QTest::mouseClick(&plot, Qt::LeftButton, {}, At(plot, a));
+    QTest::mouseClick(&plot, Qt::LeftButton, Qt::ShiftModifier, At(plot, b));
+    EXPECT_EQ(plot.A(), a);
+    EXPECT_EQ(plot.B(), b);
+    const std::string told = Child<QLabel>(window, "lblMarks").text().toStdString();
+    EXPECT_THAT(told, StartsWith("A: " + plot.Reading().MarkText(a)));
+    EXPECT_THAT(told, HasSubstr("B - A: " + plot.Reading().DifferenceText(a, b)));
+}
+
+TEST_F(ChartWindowTest, TheValuesUnderTheCursorStandBelowThePlot) {
+    ChartWindow window(Chart(8, "Tab3"), nullptr);
+    ChartView& plot = Shown(window);
+    const int row = 5;
+    QTest::mouseMove(&plot, At(plot, {row, 1}));
+    EXPECT_EQ(plot.Row(), row);
+    EXPECT_EQ(Child<QLabel>(window, "lblValues").text().toStdString(), plot.Reading().ValuesAt(row));
+    EXPECT_THAT(plot.Reading().ValuesAt(row), StartsWith("t = 4 "));
+}
+
+TEST_F(ChartWindowTest, KeysZoomWalkAndMark) {
+    ChartWindow window(Chart(8, "Tab3"), nullptr);
+    ChartView& plot = Shown(window);
+    EXPECT_TRUE(plot.hasFocus());
+    const QCPRange whole = plot.xAxis->range();
+    QTest::keyClick(&plot, Qt::Key_Plus);
+    EXPECT_NEAR(plot.xAxis->range().size(), whole.size() / 1.25, 1e-9);
+    QTest::keyClick(&plot, Qt::Key_Minus);
+    EXPECT_NEAR(plot.xAxis->range().size(), whole.size(), 1e-9);
+    QTest::keyClick(&plot, Qt::Key_Plus);
+    QTest::keyClick(&plot, Qt::Key_0);
+    EXPECT_EQ(plot.xAxis->range(), whole);
+    QTest::keyClick(&plot, Qt::Key_Right);
+    EXPECT_EQ(plot.Row(), 1);
+    QTest::keyClick(&plot, Qt::Key_A);
+    for (int i = 0; i < 3; ++i) QTest::keyClick(&plot, Qt::Key_Right);
+    QTest::keyClick(&plot, Qt::Key_B);
+    EXPECT_EQ(plot.A(), (ChartMark{1, 1}));
+    EXPECT_EQ(plot.B(), (ChartMark{4, 1}));
+    QTest::keyClick(&plot, Qt::Key_Left);
+    EXPECT_EQ(plot.Row(), 3);
+    EXPECT_EQ(plot.accessibleDescription().toStdString(), plot.Reading().ValuesAt(3));
+}
+
+TEST_F(ChartWindowTest, ABoxHidesItsCurveOnTheScreenAndOnPaper) {
+    ChartWindow window(Chart(8, "Tab1"), nullptr);
+    ChartView& plot = Shown(window);
+    const QCPRange before = plot.yAxis->range();
+    ClickOn(window, "chkCurve(1)");
+    EXPECT_FALSE(plot.plottable(0)->visible());
+    EXPECT_TRUE(plot.plottable(1)->visible());
+    EXPECT_EQ(plot.yAxis->range(), before) << "the scale stays";
+    EXPECT_FALSE(plot.Look().Shows(1));
+    EXPECT_TRUE(plot.Look().Shows(2));
+    ClickOn(window, "chkCurve(1)");
+    EXPECT_TRUE(plot.plottable(0)->visible());
+    EXPECT_TRUE(plot.Look().Shows(1));
+}
+
+TEST_F(ChartWindowTest, SettlementsPointUpwardUntilTheSwitchIsSetWhichIsRemembered) {
+    const ChartArguments chart = Chart(8, "Tab3");
+    {
+        ChartWindow window(chart, nullptr);
+        ChartView& plot = Shown(window);
+        EXPECT_FALSE(plot.yAxis->rangeReversed());
+        EXPECT_FALSE(plot.Chart().SettlementsDown);
+        ClickOn(window, "chkDownward");
+        EXPECT_TRUE(plot.yAxis->rangeReversed());
+        EXPECT_TRUE(plot.Chart().SettlementsDown);
+    }
+    ChartWindow again(chart, nullptr);
+    EXPECT_TRUE(Shown(again).yAxis->rangeReversed());
+    EXPECT_TRUE(Child<QCheckBox>(again, "chkDownward").isChecked());
+    ClickOn(again, "chkDownward");
+    ChartWindow loads(Chart(8, "Tab1"), nullptr);
+    EXPECT_EQ(loads.findChild<QCheckBox*>(QStringLiteral("chkDownward")), nullptr) << "a load has no other way";
+}
+
+TEST_F(ChartWindowTest, PorePressuresStandOverADepthThatPointsDownward) {
+    ChartWindow window(Chart(5), nullptr);
+    ChartView& plot = Shown(window);
+    EXPECT_THAT(plot.xAxis->label().toStdString(), StartsWith("Depth"));
+    ClickOn(window, "chkDownward");
+    EXPECT_THAT(plot.yAxis->label().toStdString(), StartsWith("Depth"));
+    EXPECT_TRUE(plot.yAxis->rangeReversed());
+    const ChartMark mark{3, 2};
+    QTest::mouseClick(&plot, Qt::LeftButton, {}, At(plot, mark));
+    ASSERT_TRUE(plot.A());
+    EXPECT_EQ(plot.A()->Row, 3);
+    ClickOn(window, "chkDownward");
+}
+
+TEST_F(ChartWindowTest, TicksAreRoundUngroupedAndWholeForTimes) {
+    ChartWindow window(Chart(8, "Tab1", Language::German), nullptr);
+    ChartView& plot = Shown(window);
+    for (const QString& label : plot.xAxis->tickVectorLabels())
+        EXPECT_FALSE(label.contains(QLatin1Char(',')) || label.contains(QLatin1Char('.'))) << label.toStdString();
+    EXPECT_GE(plot.xAxis->tickVectorLabels().size(), 3);
+    for (const QString& label : plot.yAxis->tickVectorLabels())
+        EXPECT_FALSE(label.contains(QLatin1Char('.'))) << label.toStdString();
+}
+
+TEST_F(ChartWindowTest, AnArabicAxisTitleReadsInOneDirection) {
+    ChartWindow window(Chart(5, "", Language::Arabic), nullptr);
+    const QString title = Shown(window).xAxis->label();
+    // The words in a right-to-left isolate, symbol and unit in a left-to-right one inside it.
+    EXPECT_TRUE(title.startsWith(QChar(0x2067)));
+    EXPECT_TRUE(title.contains(QChar(0x2066) + QStringLiteral("z [m]") + QChar(0x2069)));
+    EXPECT_TRUE(title.endsWith(QChar(0x2069)));
+}
+
+TEST_F(ChartWindowTest, CopiesAPictureOrTheTable) {
+    const ChartArguments chart = Chart(8, "Tab3");
+    ChartWindow window(chart, nullptr);
+    ChartView& plot = Shown(window);
+    QTest::keyClick(&plot, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->image().width(), 2040);
+    QTest::keyClick(&plot, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(QApplication::clipboard()->text().toStdString(), ChartTabs(chart));
+}
+
+// A name without an ending takes the one of the chosen kind.
+TEST_F(ChartWindowTest, SavesInTheChosenKind) {
+    const ChartArguments chart = Chart(8, "Tab3");
+    for (const auto& [kind, ending, begin] : {std::tuple("PDF", "pdf", "%PDF"),
+                                              {"PNG", "png", "\x89PNG"},
+                                              {"SVG", "svg", "<?xml"},
+                                              {"Spreadsheet", "xlsx", "PK"},
+                                              {"Comma-separated", "csv", ""}}) {
+        ChartWindow window(chart, nullptr);
+        Shown(window);
+        const std::string path = folder_ / (std::string("curve") + ending);
+        QTimer::singleShot(0, &window, [&, kind = std::string(kind)] {
+            ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }));
+            QWidget& dialog = *QApplication::activeModalWidget();
+            auto& kinds = Child<QComboBox>(dialog, "fileTypeCombo");
+            const int index = kinds.findText(QString::fromStdString(kind), Qt::MatchStartsWith);
+            ASSERT_GE(index, 0) << kind;
+            kinds.setCurrentIndex(index);
+            emit kinds.activated(index);
+            auto& name = Child<QLineEdit>(dialog, "fileNameEdit");
+            name.setText(QString::fromStdString(path));
+            QTest::keyClick(&name, Qt::Key_Return);
+        });
+        ClickOn(window, "cmdExport");
+        const std::string bytes = ReadBytes(path + "." + ending);
+        EXPECT_THAT(bytes, StartsWith(begin)) << ending;
+        if (std::string(ending) == "csv") {
+            EXPECT_EQ(bytes, ChartCsv(chart));
+        }
+    }
+}
+
+}  // namespace
+}  // namespace lithmark::tests
