@@ -13,13 +13,15 @@ namespace {
 constexpr int kMostClasses = 10;
 // Of the greatest value: a rigid raft under a central load settles evenly, but its nodes differ in the last digits.
 constexpr double kEven = 1e-5;
+// Of a class: values of 32 bits that miss a limit by their last digit lie on it.
+constexpr double kRounding = 1e-5;
 constexpr double kSame = 1e-3;  // of the range: nodes that share the least or the greatest value
 
 // Limits at multiples of the narrowest round step that gives at most ten classes.
 std::vector<double> RoundLimits(double least, double greatest) {
-    double step = RoundStep((greatest - least) / kMostClasses);
-    const auto lower = [&] { return std::floor(least / step + 1e-9); };
-    const auto upper = [&] { return std::ceil(greatest / step - 1e-9); };
+    double step = RoundStep((greatest - least) / kMostClasses * (1 - kRounding));
+    const auto lower = [&] { return std::floor(least / step + kRounding); };
+    const auto upper = [&] { return std::ceil(greatest / step - kRounding); };
     while (upper() - lower() > kMostClasses) step = RoundStep(1.5 * step);
     // As multiples of a whole number of tenths, hundredths and so on, so that 0.3 is 0.3.
     const double whole = std::pow(10.0, DecimalsOf(step));

