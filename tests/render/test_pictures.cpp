@@ -255,7 +255,7 @@ TEST_F(Pictures, AFieldIsFilledInItsColoursWithoutSeams) {
         }
     EXPECT_GT(inside, 70000);
     EXPECT_EQ(white, 0);
-    EXPECT_GT(static_cast<double>(right) / static_cast<double>(inside), 0.85) << "all but the rims of the classes";
+    EXPECT_GT(static_cast<double>(right) / static_cast<double>(inside), 0.9) << "all but the rims of the classes";
 }
 
 TEST_F(Pictures, AFieldWithASectionHasItsCurveBelow) {
