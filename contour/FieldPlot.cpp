@@ -15,7 +15,7 @@ constexpr int kMostClasses = 10;
 constexpr double kEven = 1e-5;
 // Of a class: values of 32 bits that miss a limit by their last digit lie on it.
 constexpr double kRounding = 1e-5;
-constexpr double kSame = 1e-3;  // of the range: nodes that share the least or the greatest value
+constexpr double kSame = 1e-4;  // of the range: nodes that share the least or the greatest value
 
 // Limits at multiples of the narrowest round step that gives at most ten classes.
 std::vector<double> RoundLimits(double least, double greatest) {

@@ -49,7 +49,9 @@ void ContourView::FitLegend() {
             width = std::max(width, metrics.horizontalAdvance(Q(label)));
         width = qRound(width / kTextShare) + 12;
     }
-    setFixedWidth(std::max(width, kLegendWidth));
+    // The place of the picture too, which would take a share of the window.
+    for (QWidget* widget : {static_cast<QWidget*>(this), parentWidget()})
+        widget->setFixedWidth(std::max(width, kLegendWidth));
 }
 
 QRect ContourView::Area() const {

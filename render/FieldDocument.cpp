@@ -148,7 +148,7 @@ void DrawField(QPainter& painter, const QRectF& square, const FieldPicture& pict
             painter.drawPolygon(element);
         }
     }
-    Words words(painter, square, square.width() / 48);
+    Words words(painter, square, std::max(11.0, square.width() / 48));
     // The extremes first: their numbers must stand, those of the lines may give way.
     if (picture.Options.DisplayValues && !field.Even()) {
         DrawExtreme(painter, field.LeastAt(), Text(910023_text, {{"|1", field.ValueText(field.Least())}}), false, map,
@@ -191,7 +191,7 @@ void DrawSection(QPainter& painter, const QRectF& square, const WorldWindow& win
 
 void DrawFieldLegend(QPainter& painter, const QRectF& area, const FieldPlot& field) {
     painter.save();
-    const QFont font = TextFont(std::clamp(area.height() / 34, 9.0, 16.0));
+    const QFont font = TextFont(std::clamp(area.height() / 34, 12.0, 16.0));
     const double line = QFontMetricsF(font, painter.device()).height();
     const int classes = field.Classes();
     const double box = std::min((area.height() - line) / classes, 3 * line),

@@ -204,8 +204,7 @@ TEST_F(ChartWindowTest, SavesInTheChosenKind) {
             auto& kinds = Child<QComboBox>(dialog, "fileTypeCombo");
             const int index = kinds.findText(QString::fromStdString(kind), Qt::MatchStartsWith);
             ASSERT_GE(index, 0) << kind;
-            kinds.setCurrentIndex(index);
-            emit kinds.activated(index);
+            for (int i = 0; i < index; ++i) QTest::keyClick(&kinds, Qt::Key_Down);
             auto& name = Child<QLineEdit>(dialog, "fileNameEdit");
             name.setText(QString::fromStdString(path));
             QTest::keyClick(&name, Qt::Key_Return);
