@@ -16,8 +16,13 @@ namespace {
 
 constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
 
+// In a line from right to left a number runs from left to right, with its unit unless that is a word of the language.
 std::string WithUnit(const std::string& value, const std::string& unit) {
-    return unit.empty() ? value : value + " " + unit;
+    const std::string sign = unit.empty() ? value : value + " " + unit;
+    if (!LanguageTexts().RightToLeft()) return sign;
+    const bool word = !unit.empty() && static_cast<unsigned char>(unit.front()) >= 0x80;
+    const auto apart = [](const std::string& text) { return "\u2066" + text + "\u2069"; };
+    return word ? apart(value) + " " + unit : apart(sign);
 }
 
 int DecimalsIn(const std::string& cell, char decimalSign) {
@@ -104,14 +109,19 @@ std::string ChartReading::Cell(int row, int column) const {
 std::string ChartReading::ValuesAt(int row) const {
     const int last = LastAt(row);
     std::string values;
-    for (int curve = 1; curve <= curves_; ++curve) {
+    // The unit stands once, behind the last value.
+    int final = 0;
+    for (int curve = 1; curve <= curves_; ++curve)
+        if (Shown(curve) && !std::isnan(Y(row, curve))) final = curve;
+    for (int curve = 1; curve <= final; ++curve) {
         if (!Shown(curve) || std::isnan(Y(row, curve))) continue;
+        const auto value = [&](int at) { return WithUnit(Cell(at, curve), ""); };
+        const auto closing = [&](int at) { return curve == final ? WithUnit(Cell(at, curve), y_.Unit) : value(at); };
         const bool jump = !std::isnan(Y(last, curve)) && Y(last, curve) != Y(row, curve);
-        const std::string value =
-            jump ? Text(910006_text, {{"|1", Cell(row, curve)}, {"|2", Cell(last, curve)}}) : Cell(row, curve);
-        values += (values.empty() ? "" : Text(910011_text) + " ") + chart_.Legends(curve) + " " + value;
+        values += (values.empty() ? "" : Text(910011_text) + " ") + chart_.Legends(curve) + " " +
+                  (jump ? Text(910006_text, {{"|1", value(row)}, {"|2", closing(last)}}) : closing(row));
     }
-    return WithUnit(x_.Symbol + " = " + Cell(row, 0), x_.Unit) + ": " + WithUnit(values, y_.Unit);
+    return WithUnit(x_.Symbol + " = " + Cell(row, 0), x_.Unit) + ": " + values;
 }
 
 std::optional<ChartMark> ChartReading::NearestPoint(double x, double y, double xLength, double yLength) const {

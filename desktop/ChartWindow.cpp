@@ -162,7 +162,9 @@ void ChartWindow::keyPressEvent(QKeyEvent* event) {
 // The line at the cursor, and the marks with their difference; what can be done where there is nothing to read.
 void ChartWindow::ShowReading() {
     const ChartReading& reading = plot_->Reading();
-    values_->setText(Q(plot_->Row() ? reading.ValuesAt(*plot_->Row()) : Text(910009_text)));
+    // The mark in front gives the line the direction of the language, whatever it begins with.
+    const QString direction = LanguageTexts().RightToLeft() ? QString(QChar(0x200F)) : QString();
+    values_->setText(direction + Q(plot_->Row() ? reading.ValuesAt(*plot_->Row()) : Text(910009_text)));
     std::string marks;
     const auto add = [&](const std::string& name, const std::string& text) {
         marks += (marks.empty() ? "" : "     ") + name + ": " + text;
@@ -171,7 +173,7 @@ void ChartWindow::ShowReading() {
     if (a) add("A", reading.MarkText(*a));
     if (b) add("B", reading.MarkText(*b));
     if (a && b) add("B - A", reading.DifferenceText(*a, *b));
-    marks_->setText(Q(marks));
+    marks_->setText(marks.empty() ? QString() : direction + Q(marks));
     // What is walked to is spoken.
     plot_->setAccessibleDescription(Q(plot_->Row() ? reading.ValuesAt(*plot_->Row()) : reading.Summary()));
     QAccessibleEvent changed(plot_, QAccessible::DescriptionChanged);

@@ -156,8 +156,12 @@ void PlaceLegend(QCustomPlot& plot, const ChartInks& inks) {
 QString AxisLabel(const std::string& title) {
     const AxisWords words = WordsOf(title);
     if (!LanguageTexts().RightToLeft() || words.Symbol.empty()) return Q(title);
-    const QString signs = Q(title).mid(Q(words.Title).size()).trimmed();
-    return QChar(0x2067) + Q(words.Title) + QLatin1Char(' ') + QChar(0x2066) + signs + QChar(0x2069) + QChar(0x2069);
+    // A unit that is a word of the language, such as a time unit, follows its direction.
+    const bool sign = title.ends_with(']');
+    const QString symbol = sign ? Q(title).mid(Q(words.Title).size()).trimmed() : Q(words.Symbol);
+    const QString unit = sign ? QString() : QLatin1Char(' ') + Q(words.Unit);
+    return QChar(0x2067) + Q(words.Title) + QLatin1Char(' ') + QChar(0x2066) + symbol + QChar(0x2069) + unit +
+           QChar(0x2069);
 }
 
 QPen CurvePen(int curve, const ChartInks& inks) {

@@ -115,6 +115,17 @@ TEST_F(ReadingTest, NumbersStandInTheDecimalSignOfTheLanguage) {
     EXPECT_EQ(ChartReading(chart).DifferenceText({2, 1}, {4, 1}), "5 days, 1460.5 kN");
 }
 
+// Numbers run from left to right in their own isolates; a time unit is a word of the line.
+TEST_F(ReadingTest, AnArabicLineKeepsItsNumbersTogether) {
+    LanguageTexts().SetCurrent(Language::Arabic);
+    ChartArguments chart = Steps();
+    chart.XTitle = Text(10247_text) + " t " + Text(10001_text);
+    const ChartReading reading(chart);
+    EXPECT_THAT(reading.ValuesAt(4), testing::StartsWith("\u2066t = 9\u2069 " + Text(10001_text) + ": "));
+    EXPECT_THAT(reading.ValuesAt(4), testing::EndsWith("\u20662667.5 kN\u2069"));
+    EXPECT_EQ(reading.MarkText({1, 1}), "\u20660\u2069 " + Text(10001_text) + Text(910011_text) + " \u20660 kN\u2069");
+}
+
 TEST_F(ReadingTest, AnAxisTitleHasWordsSymbolAndUnit) {
     const auto expect = [](const std::string& title, const std::string& words, const std::string& symbol,
                            const std::string& unit) {
