@@ -141,7 +141,11 @@ const LayoutOf<frmContour> kLayout([](FormView& view, frmContour& form) {
     drawn->addWidget(under);
     drawn->addWidget(curve);
 
-    auto* zooms = new QGridLayout;
+    // Left is left in the plot, so it is beside it too.
+    auto* corners = new QWidget(&view);
+    corners->setLayoutDirection(Qt::LeftToRight);
+    auto* zooms = new QGridLayout(corners);
+    zooms->setContentsMargins(0, 0, 0, 0);
     zooms->setSpacing(sizes::kRowGap);
     zooms->addWidget(view.Place(form.cmdULeft), 0, 0);
     zooms->addWidget(view.Place(form.cmdURight), 0, 1);
@@ -162,7 +166,7 @@ const LayoutOf<frmContour> kLayout([](FormView& view, frmContour& form) {
         choices->addWidget(view.Place(*box));
     choices->addWidget(view.Place(form.cmdRedraw));
     choices->addSpacing(sizes::kGroupGap);
-    choices->addLayout(zooms);
+    choices->addWidget(corners);
     choices->addStretch(1);
 
     auto* columns = new QHBoxLayout;
