@@ -11,6 +11,7 @@
 #include "cli/Failures.h"
 #include "cli/Output.h"
 #include "core/Catalogue.h"
+#include "core/FieldNames.h"
 #include "core/SessionFields.h"
 #include "core/StartSession.h"
 #include "core/TimeUnits.h"
@@ -159,19 +160,21 @@ bool PackProjectAgain() {
 void ApplySets(const std::vector<std::string>& sets) {
     for (const std::string& pair : sets) {
         const auto equals = pair.find('=');
-        const std::string name = pair.substr(0, equals);
+        const std::string word = pair.substr(0, equals);
         const auto fail = [&](TextId text) {
             throw CommandFailure(ExitStatus::BadCommandLine, Text(text, {{"|1", pair}}));
         };
-        if (equals == std::string::npos || name.empty()) fail(902007_text);
+        if (equals == std::string::npos || word.empty()) fail(902007_text);
+        const std::string name = FieldNameOf(Session.ProblemType, word).value_or(word);
         switch (SetSessionField(name, pair.substr(equals + 1))) {
             case SetFieldOutcome::Done:
                 if (name == "TimeUnit") Session.TimeUnit = TimeUnitInForce(Session.TimeUnit);
                 if (!FindProblem(Session.ProblemType)) fail(902010_text);
                 break;
-            case SetFieldOutcome::NoSuchField:
-                fail(902008_text);
-                break;
+            case SetFieldOutcome::NoSuchField: {
+                const std::string nearest(NearestWord(word, FieldWords(Session.ProblemType)));
+                throw CommandFailure(ExitStatus::BadCommandLine, Text(908308_text, {{"|1", pair}, {"|2", nearest}}));
+            }
             case SetFieldOutcome::NoSuchElement:
                 fail(902009_text);
                 break;

@@ -3,9 +3,12 @@
 #include <csignal>
 #include <filesystem>
 #include <memory>
+#include <optional>
+#include <system_error>
 
 #include "base/NumberText.h"
 #include "cli/Output.h"
+#include "cli/StudyAnswers.h"
 #include "cli/StudySheet.h"
 #include "core/Session.h"
 #include "files/ProblemData.h"
@@ -14,8 +17,8 @@
 #include "study/StudyIdentity.h"
 #include "study/StudyJoin.h"
 #include "study/StudyRun.h"
+#include "study/StudySummary.h"
 #include "study/StudyTakes.h"
-#include "study/WorkerPool.h"
 
 namespace lithmark {
 
@@ -30,20 +33,37 @@ namespace fs = std::filesystem;
 // Options that contradict each other.
 void CheckOptions(const StudyOptions& study) {
     const StudyRequest& request = study.Request;
-    const bool rows =
-        !request.Vary.empty() || !request.Rows.empty() || !request.Cases.empty() || !request.Random.empty();
-    if (!rows) FailCommandLine(908060_text);
-    const auto apart = [](bool one, bool other, const char* names) {
-        if (one && other) FailCommandLine(908061_text, names);
+    const bool random = !request.Random.empty(), vary = !request.Vary.empty(), find = !study.Find.empty();
+    if (!random && !vary && request.Rows.empty() && request.Cases.empty() && !find) FailCommandLine(908060_text);
+    const bool shard = !study.Shard.empty(), join = !study.Join.empty(), resume = !study.Resume.empty();
+    const bool summary = !study.Summary.empty(), share = !study.Share.empty();
+    struct Pair {
+        bool One, Other;
+        const char* Names;
     };
-    apart(!study.Join.empty(), !study.Shard.empty(), "--join, --shard");
-    apart(!study.Join.empty(), !study.Resume.empty(), "--join, --resume");
-    const auto needs = [](bool one, bool other, const char* names) {
-        if (one && !other) FailCommandLine(908062_text, names);
-    };
-    needs(study.RetryAborted, !study.Resume.empty(), "--retry-aborted, --resume");
-    needs(!request.Correlate.empty(), !request.Random.empty(), "--correlate, --random");
-    needs(!study.Design.empty(), !request.Random.empty(), "--design, --random");
+    for (const Pair& pair : {Pair{join, shard, "--join, --shard"},
+                             {join, resume, "--join, --resume"},
+                             {summary, shard, "--summary, --shard"},
+                             {summary, study.Tornado, "--summary, --tornado"},
+                             {summary, find, "--summary, --find"},
+                             {study.Tornado, find, "--tornado, --find"},
+                             {study.Tornado, !request.Rows.empty(), "--tornado, --rows"},
+                             {study.Tornado, shard, "--tornado, --shard"},
+                             {study.Tornado, join, "--tornado, --join"},
+                             {study.Tornado, resume, "--tornado, --resume"},
+                             {find, shard, "--find, --shard"},
+                             {find, join, "--find, --join"},
+                             {find, resume, "--find, --resume"},
+                             {share, !request.Take.empty(), "--share, --take"}})
+        if (pair.One && pair.Other) FailCommandLine(908061_text, pair.Names);
+    for (const Pair& pair : {Pair{study.RetryAborted, resume, "--retry-aborted, --resume"},
+                             {!request.Correlate.empty(), random, "--correlate, --random"},
+                             {!study.Design.empty(), random, "--design, --random"},
+                             {study.Tornado, random || vary, "--tornado, --random/--vary"},
+                             {share, find, "--share, --find"},
+                             {share, random, "--share, --random"}})
+        if (pair.One && !pair.Other) FailCommandLine(908062_text, pair.Names);
+    if (find && request.Limit.size() != 1) FailCommandLine(908307_text);
 }
 
 void Tell(const std::string& text) {
@@ -67,7 +87,7 @@ std::unique_ptr<RowWriter> WriterOf(const CommonOptions& options, const std::str
                                     std::uint64_t rows) {
     CommonOptions asked = options;
     asked.Output = output;
-    const std::string format = FormatInForce(asked, kStudyFormats);
+    const std::string format = FormatOf(asked, {"csv", "json", "jsonl", "xlsx"});
     if (format == "xlsx") return SheetWriter(output, head, rows);
     const RowFormat rowFormat = format == "csv"    ? RowFormat::Csv
                                 : format == "json" ? RowFormat::Json
@@ -75,18 +95,24 @@ std::unique_ptr<RowWriter> WriterOf(const CommonOptions& options, const std::str
     return std::make_unique<TextRowWriter>(output, rowFormat, head);
 }
 
-// How the study as a whole came out.
-ExitStatus StatusOf(const StudyTally& tally, const StudyOptions& study, const std::string& project) {
-    if (tally.Missing > 0)
-        throw CommandFailure(ExitStatus::Interrupted, Text(908065_text, {{"|1", project},
-                                                                         {"|2", std::to_string(tally.Missing)},
-                                                                         {"|3", std::to_string(tally.Rows)}}));
-    if (tally.Aborted == 0 || !study.Shard.empty()) return ExitStatus::Done;
-    const bool all = tally.Aborted == tally.Rows;
-    throw CommandFailure(
-        all ? ExitStatus::Aborted : ExitStatus::SomeAborted,
-        Text(908066_text,
-             {{"|1", std::to_string(tally.Aborted)}, {"|2", std::to_string(tally.Rows)}, {"|3", tally.FirstMessage}}));
+// Where the summary goes and in which format.
+struct SummaryFile {
+    std::string Path, Format;
+};
+
+SummaryFile SummaryFileOf(const CommonOptions& options, const StudyOptions& study, const std::string& output) {
+    CommonOptions asked = options;
+    asked.Output = study.Summary == "-" ? std::string() : study.Summary;
+    asked.Format.clear();
+    const SummaryFile file{asked.Output, FormatInForce(asked, {"csv", "json", "jsonl", "xlsx"})};
+    std::error_code error;
+    const fs::path folder = fs::path(file.Path).parent_path();
+    if (!folder.empty() && !fs::is_directory(folder, error))
+        throw CommandFailure(ExitStatus::FileTrouble, Text(902003_text, {{"|1", folder.string()}}));
+    if (file.Path == output || fs::equivalent(file.Path, output, error))
+        FailCommandLine(908061_text, "--summary, --output");
+    RefuseProjectFile(file.Path);
+    return file;
 }
 
 }  // namespace
@@ -101,6 +127,8 @@ ExitStatus StudyCommand(const CommonOptions& options, const StudyOptions& study,
     request.Sobol = study.Design == "sobol";
     const StudyPlan plan(request);
     TellOfPlan(request, plan);
+    if (study.Tornado) return AnswerTornado(options, study, plan, host);
+    if (!study.Find.empty()) return AnswerFind(options, study, plan, host);
     const std::vector<ResultLimit> limits = LimitsOf(request);
     const std::string output = OutputOf(options, study);
     if (!study.Resume.empty() && study.Resume != output && !fs::exists(study.Resume))
@@ -112,13 +140,20 @@ ExitStatus StudyCommand(const CommonOptions& options, const StudyOptions& study,
     if (!study.Shard.empty()) run.Part = Shard::Parse(study.Shard);
     run.Resume = study.Resume;
     run.RetryAborted = study.RetryAborted;
-    run.Jobs = study.Jobs > 0 ? study.Jobs : WorkerPool::AllCores();
+    run.Jobs = JobsOf(study);
+    std::optional<SummaryFile> summaryFile;
+    if (!study.Summary.empty()) summaryFile = SummaryFileOf(options, study, output);
+    StudySummary summary(plan, head, limits);
+    if (summaryFile) run.Seen = [&](const StudyLine& line) { summary.Add(line); };
     run.GoOn = [](double part) { return CurrentHost().Progress(part); };
     const auto writer = WriterOf(options, output, head, run.Part.Count(plan.Count()));
     host.PrintMessages();
     const StudyTally tally =
         study.Join.empty() ? run.Work(*writer) : JoinParts(plan, head, study.Join, *writer, run.Seen);
-    return StatusOf(tally, study, options.Project);
+    if (summaryFile && tally.Missing == 0) WriteTable(summaryFile->Path, summaryFile->Format, summary.Table());
+    // A shard is done once its rows are worked, whatever came of them.
+    if (tally.Missing == 0 && !study.Shard.empty()) return ExitStatus::Done;
+    return StatusOf(tally, options.Project);
 }
 
 }  // namespace lithmark

@@ -14,7 +14,8 @@ class App;
 
 namespace lithmark {
 
-inline const std::vector<std::string> kStudyFormats = {"csv", "json", "jsonl", "xlsx"};
+// Of rows and tables; --tornado alone has the pictures.
+inline const std::vector<std::string> kStudyFormats = {"csv", "json", "jsonl", "xlsx", "svg", "png", "pdf"};
 
 struct StudyOptions {
     StudyRequest Request;
@@ -23,7 +24,11 @@ struct StudyOptions {
     std::vector<std::string> Join;  // parts to be put together
     std::string Resume;             // rows that need not be worked again
     bool RetryAborted = false;
-    int Jobs = 0;  // 0: all cores
+    int Jobs = 0;         // 0: all cores
+    std::string Summary;  // a file; "-" is standard output; empty: none
+    bool Tornado = false;
+    std::string Find;   // FIELD=FROM:TO; empty: rows
+    std::string Share;  // of samples that may be beyond the limit
 };
 
 // Gives the command its options.

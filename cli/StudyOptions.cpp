@@ -32,6 +32,10 @@ void AddStudyOptions(CLI::App& command, StudyOptions& study) {
     command.add_option("--join", study.Join, Text(908050_text))->type_name("FILE ...");
     command.add_option("--resume", study.Resume, Text(908051_text))->type_name("FILE");
     command.add_flag("--retry-aborted", study.RetryAborted, Text(908052_text));
+    command.add_option("--summary", study.Summary, Text(908310_text))->type_name("FILE");
+    command.add_flag("--tornado", study.Tornado, Text(908311_text));
+    command.add_option("--find", study.Find, Text(908312_text))->type_name("FIELD=FROM:TO");
+    command.add_option("--share", study.Share, Text(908313_text))->type_name("P");
 }
 
 }  // namespace lithmark

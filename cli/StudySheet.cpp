@@ -12,6 +12,10 @@ namespace lithmark {
 
 #ifdef LITHMARK_RENDER
 
+std::string SheetOf(const std::vector<std::vector<std::string>>& table) {
+    return TableXlsx(Session.ProjectName, table);
+}
+
 namespace {
 
 class SheetRows : public RowWriter {
@@ -19,7 +23,7 @@ class SheetRows : public RowWriter {
     SheetRows(const std::string& path, const StudyHead& head) : path_(path), head_(head), table_{head.Columns()} {}
 
     void Write(const StudyLine& line) override { table_.push_back(CellsOf(head_, line)); }
-    void Finish() override { WriteOutput(path_, TableXlsx(Session.ProjectName, table_)); }
+    void Finish() override { WriteOutput(path_, SheetOf(table_)); }
 
   private:
     std::string path_;
@@ -37,6 +41,10 @@ std::unique_ptr<RowWriter> SheetWriter(const std::string& path, const StudyHead&
 }
 
 #else
+
+std::string SheetOf(const std::vector<std::vector<std::string>>&) {
+    FailFormat("xlsx");
+}
 
 std::unique_ptr<RowWriter> SheetWriter(const std::string&, const StudyHead&, std::uint64_t) {
     FailFormat("xlsx");

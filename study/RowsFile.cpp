@@ -30,9 +30,10 @@ std::string ReadStandardInput() {
 }
 
 std::string ReadText(const std::string& path) {
+    constexpr std::uint64_t kMostBytes = std::uint64_t{4} << 30;
     if (path == "-") return ReadStandardInput();
     try {
-        return ReadWholeFile(path);
+        return ReadWholeFile(path, kMostBytes);
     } catch (const Failure& failure) {
         SharedServices().SetCurrentFile(path);
         throw StudyFailure(StudyFailure::Cause::File, SharedServices().FailureText(failure));

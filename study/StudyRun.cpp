@@ -122,10 +122,9 @@ Shard Shard::Parse(const std::string& text) {
     return shard;
 }
 
-void StudyTally::Add(const StudyLine& line) {
+void StudyTally::Add(bool aborted, const std::string& message) {
     ++Rows;
-    if (!line.Aborted()) return;
-    if (Aborted++ == 0) FirstMessage = line.Status;
+    if (aborted && Aborted++ == 0) FirstMessage = message;
 }
 
 StudyTally StudyRun::Work(RowWriter& writer) const {

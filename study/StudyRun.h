@@ -27,7 +27,8 @@ struct StudyTally {
     std::uint64_t Rows = 0, Aborted = 0, Missing = 0;
     std::string FirstMessage;  // of the first row that aborted
 
-    void Add(const StudyLine& line);
+    void Add(const StudyLine& line) { Add(line.Aborted(), line.Status); }
+    void Add(bool aborted, const std::string& message);
 };
 
 struct StudyRun {

@@ -1,0 +1,89 @@
+// The answer to --tornado.
+#include <algorithm>
+#include <cmath>
+
+#include "cli/Output.h"
+#include "cli/StudyAnswers.h"
+#include "core/Session.h"
+#include "services/SharedServices.h"
+#include "study/StudyTakes.h"
+#include "study/Tornado.h"
+#ifdef LITHMARK_RENDER
+#include "render/TornadoDocument.h"
+#endif
+
+namespace lithmark {
+
+namespace {
+
+TextTable TableOf(const std::vector<Tornado>& tornados, const StudyPlan& plan) {
+    TextTable table;
+    if (!plan.Cases().empty()) table.Columns.emplace_back("Case");
+    for (const char* column : {"Result", "Field", "low", "high", "at_low", "at_high", "swing"})
+        table.Columns.emplace_back(column);
+    for (const Tornado& tornado : tornados)
+        for (const Influence& influence : tornado.Influences) {
+            std::vector<TableCell> cells;
+            if (!plan.Cases().empty()) cells.push_back(TableCell::OfText(tornado.Case));
+            for (const std::string& text : {tornado.Result, influence.Field}) cells.push_back(TableCell::OfText(text));
+            for (const std::string& value : {influence.Low, influence.High})
+                cells.push_back(TableCell::OfValue(value, true));
+            for (const float number : {influence.AtLow, influence.AtHigh, influence.Swing()})
+                cells.push_back(TableCell::OfNumber(static_cast<double>(number)));
+            table.Rows.push_back(std::move(cells));
+        }
+    return table;
+}
+
+#ifdef LITHMARK_RENDER
+
+std::string PictureOf(const std::string& format, const Tornado& tornado) {
+    TornadoPicture picture;
+    picture.Title = Text(908303_text, {{"|1", tornado.Result}}) + "   " + Session.ProjectName;
+    picture.Axis = tornado.Result;
+    picture.LowLegend = Text(908304_text);
+    picture.HighLegend = Text(908305_text);
+    picture.Middle = static_cast<double>(tornado.Middle);
+    for (const Influence& influence : tornado.Influences)
+        if (!IsMissing(influence.Swing()))
+            picture.Bars.push_back({influence.Field + "   " + influence.Low + " … " + influence.High,
+                                    static_cast<double>(influence.AtLow), static_cast<double>(influence.AtHigh)});
+    if (!std::isfinite(picture.Middle) && !picture.Bars.empty()) picture.Middle = picture.Bars.front().AtLow;
+    return format == "svg" ? TornadoSvg(picture) : format == "png" ? TornadoPng(picture) : TornadoPdf(picture);
+}
+
+#else
+
+std::string PictureOf(const std::string& format, const Tornado&) {
+    FailFormat(format);
+}
+
+#endif
+
+}  // namespace
+
+ExitStatus AnswerTornado(const CommonOptions& options, const StudyOptions& study, const StudyPlan& plan,
+                         ConsoleHost& host) {
+    const std::string format = FormatOf(options, {"csv", "json", "svg", "png", "pdf"});
+    const bool picture = format != "csv" && format != "json";
+    const std::vector<Take> takes = TakesOf(study.Request);
+    if (picture && (takes.size() > 1 || plan.Cases().size() > 1))
+        throw CommandFailure(ExitStatus::BadCommandLine, Text(908306_text));
+    for (const Variation& variation : plan.Variations()) variation.Least();  // a number, or told before anything runs
+    host.PrintMessages();
+    const std::size_t cases = std::max<std::size_t>(1, plan.Cases().size());
+    const std::size_t movers = plan.Variations().size() + (plan.Samples() ? plan.Samples()->Fields().size() : 0);
+    StudyTally tally;
+    QuestionRows rows(takes, JobsOf(study), [] { return CurrentHost().Progress(0); });
+    const std::vector<Tornado> tornados = WorkTornados(plan, takes, rows, tally);
+    tally.Missing = cases * (2 * movers + 1) - tally.Rows;
+    if (tally.Missing > 0) return StatusOf(tally, options.Project);
+    if (picture) {
+        WriteOutput(PathOf(options), PictureOf(format, tornados.front()));
+    } else {
+        WriteTable(PathOf(options), format, TableOf(tornados, plan));
+    }
+    return StatusOf(tally, options.Project);
+}
+
+}  // namespace lithmark

@@ -1,0 +1,108 @@
+#include "render/TornadoDocument.h"
+
+#include <qcustomplot.h>
+
+#include <algorithm>
+
+#include "render/PictureFile.h"
+#include "render/QtText.h"
+
+namespace lithmark {
+
+namespace {
+
+// A4 across without margins, in points of 1/96 inch.
+constexpr int kWidth = 1020, kHeight = 680, kMargin = 24, kTitle = 36;
+constexpr QSize kSize(kWidth, kHeight);
+// The first two of the curves' colours.
+constexpr QRgb kLowColor = 0xFF0072B2, kHighColor = 0xFFD55E00;
+
+QFont TextFont(int pixels, bool bold = false) {
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(pixels);
+    font.setBold(bold);
+    return font;
+}
+
+// One colour's bars; the uppermost has the greatest key.
+void AddBars(QCustomPlot& plot, const TornadoPicture& picture, const std::string& legend, QRgb color,
+             double TornadoPicture::Bar::*end) {
+    auto* bars = new QCPBars(plot.yAxis, plot.xAxis);
+    QVector<double> keys, values;
+    for (std::size_t i = 0; i < picture.Bars.size(); ++i) {
+        keys.append(static_cast<double>(picture.Bars.size() - i));
+        values.append(picture.Bars[i].*end - picture.Middle);
+    }
+    bars->setData(keys, values);
+    bars->setBaseValue(picture.Middle);
+    bars->setWidth(0.6);
+    bars->setName(Q(legend));
+    QColor fill = QColor::fromRgb(color);
+    bars->setPen(QPen(fill, 1));
+    fill.setAlpha(200);  // where both lie on one side, both are seen
+    bars->setBrush(fill);
+}
+
+void FillTornado(QCustomPlot& plot, const TornadoPicture& picture) {
+    plot.setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
+    AddBars(plot, picture, picture.LowLegend, kLowColor, &TornadoPicture::Bar::AtLow);
+    AddBars(plot, picture, picture.HighLegend, kHighColor, &TornadoPicture::Bar::AtHigh);
+    QSharedPointer<QCPAxisTickerText> names(new QCPAxisTickerText);
+    double least = picture.Middle, greatest = picture.Middle;
+    for (std::size_t i = 0; i < picture.Bars.size(); ++i) {
+        const auto& bar = picture.Bars[i];
+        names->addTick(static_cast<double>(picture.Bars.size() - i), Q(bar.Name));
+        least = std::min({least, bar.AtLow, bar.AtHigh});
+        greatest = std::max({greatest, bar.AtLow, bar.AtHigh});
+    }
+    const double side = greatest > least ? 0.06 * (greatest - least) : std::max(0.5, std::abs(least) * 0.05);
+    plot.xAxis->setRange(least - side, greatest + side);
+    plot.yAxis->setRange(0.4, static_cast<double>(picture.Bars.size()) + 0.6);
+    plot.yAxis->setTicker(names);
+    plot.axisRect()->setupFullAxesBox(true);
+    for (QCPAxis* axis : {plot.xAxis2, plot.yAxis2}) axis->setTicks(false);
+    const QFont font = TextFont(13);
+    for (QCPAxis* axis : {plot.xAxis, plot.yAxis}) {
+        axis->setTickLabelFont(font);
+        axis->setLabelFont(font);
+        axis->grid()->setPen(QPen(QColor(0xDD, 0xDD, 0xDD), 1, Qt::SolidLine));
+    }
+    plot.yAxis->grid()->setVisible(false);
+    plot.yAxis->setTickLength(0);
+    plot.xAxis->setNumberFormat("gb");
+    plot.xAxis->setNumberPrecision(6);
+    plot.xAxis->setLabel(Q(picture.Axis));
+    plot.legend->setVisible(true);
+    plot.legend->setFont(font);
+    plot.axisRect()->insetLayout()->setInsetAlignment(0, Qt::AlignRight | Qt::AlignBottom);
+}
+
+void DrawTornado(QCPPainter& painter, const TornadoPicture& picture) {
+    painter.fillRect(QRect(QPoint(0, 0), kSize), Qt::white);
+    painter.setPen(Qt::black);
+    painter.setFont(TextFont(18, true));
+    painter.drawText(QRect(kMargin, kMargin, kWidth - 2 * kMargin, kTitle), Qt::AlignCenter, Q(picture.Title));
+    QCustomPlot plot;
+    FillTornado(plot, picture);
+    painter.save();
+    painter.translate(kMargin, kMargin + kTitle);
+    plot.toPainter(&painter, kWidth - 2 * kMargin, kHeight - 2 * kMargin - kTitle);
+    painter.restore();
+}
+
+}  // namespace
+
+std::string TornadoSvg(const TornadoPicture& picture) {
+    return SvgOf(kSize, Q(picture.Title), [&](QCPPainter& painter) { DrawTornado(painter, picture); });
+}
+
+std::string TornadoPng(const TornadoPicture& picture) {
+    constexpr int kScale = 2;
+    return PngOf(kSize, kScale, [&](QCPPainter& painter) { DrawTornado(painter, picture); });
+}
+
+std::string TornadoPdf(const TornadoPicture& picture) {
+    return PdfOf(kSize, Q(picture.Title), [&](QCPPainter& painter) { DrawTornado(painter, picture); });
+}
+
+}  // namespace lithmark

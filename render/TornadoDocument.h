@@ -1,0 +1,26 @@
+// A tornado as a picture or a document: a bar for each field from the result at its low value to that at its high one.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace lithmark {
+
+struct TornadoPicture {
+    struct Bar {
+        std::string Name;
+        double AtLow = 0, AtHigh = 0;
+    };
+
+    std::string Title, Axis;
+    std::string LowLegend, HighLegend;
+    double Middle = 0;      // the result where the bars begin
+    std::vector<Bar> Bars;  // from above
+};
+
+// The file's bytes. Names, axis and bars run from left to right in every language.
+std::string TornadoSvg(const TornadoPicture& picture);
+std::string TornadoPng(const TornadoPicture& picture);
+std::string TornadoPdf(const TornadoPicture& picture);
+
+}  // namespace lithmark
