@@ -7,6 +7,7 @@
 #include "core/Catalogue.h"
 #include "core/Session.h"
 #include "core/StartSession.h"
+#include "kernels/RunProject.h"
 #include "study/RowWork.h"
 #include "study/StudyLine.h"
 #include "study/StudyPlan.h"

@@ -25,7 +25,9 @@ double Bracket::Wanted() const {
     const double chord = (high_.Excess * low_.Value - low_.Excess * high_.Value) / (high_.Excess - low_.Excess);
     if (!std::isfinite(chord)) return middle;
     const double toMiddle = chord < middle ? 1 : -1;
-    const double step = 0.2 * width * width / firstWidth_;
+    // Half of what does not matter at least, so that the other end follows where the chord meets this one.
+    const double small = range_->Small(low_.Value, high_.Value, part_);
+    const double step = std::max(0.2 * width * width / firstWidth_, small / 2);
     const double towards = step <= std::abs(middle - chord) ? chord + toMiddle * step : middle;
     const double reach = std::max(0.0, reach_ - width / 2);
     return std::abs(towards - middle) <= reach ? towards : middle - toMiddle * reach;

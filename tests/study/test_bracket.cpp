@@ -41,12 +41,12 @@ TEST_F(Brackets, ASmoothFunctionNeedsAHandfulOfTrials) {
     EXPECT_NEAR(root.Value, std::sqrt(2.0), 3e-6);
     EXPECT_LE(root.Value, std::sqrt(2.0));
     EXPECT_TRUE(root.BeyondAbove);
-    EXPECT_LT(root.Trials, 20);
+    EXPECT_LT(root.Trials, 10);
     const Found falls = Search("z=4:8", [](double z) { return 100 / (z * z) - 5; });
     EXPECT_NEAR(falls.Value, std::sqrt(20.0), 1e-5);
     EXPECT_GE(falls.Value, std::sqrt(20.0) - 1e-7);
     EXPECT_FALSE(falls.BeyondAbove);
-    EXPECT_LT(falls.Trials, 20);
+    EXPECT_LT(falls.Trials, 12);
 }
 
 // Halving 64 down to 3.3e-5 (a millionth of 33.3) takes 21 trials.
