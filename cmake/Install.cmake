@@ -92,7 +92,12 @@ foreach(shot "project;A project" "report;The report of a calculation" "curves-ge
 endforeach()
 configure_file(${packaging}/desktop/lithmark.metainfo.xml.in ${made}/${LITHMARK_COMPONENT_ID}.metainfo.xml @ONLY)
 
+# Everything that an installation needs.
 add_custom_target(lithmark-made ALL DEPENDS ${made_files})
+add_dependencies(lithmark-made lithmark lithmark-cli)
+if(TARGET lithmark-render)
+  add_dependencies(lithmark-made lithmark-render)
+endif()
 
 # --- desktop ---
 install(TARGETS lithmark COMPONENT desktop)

@@ -85,7 +85,7 @@ def rows(lines):
 
 
 # What stands under a heading, by its English words; help in another language has the same parts in the same order.
-PARTS = {'positionals': 'arguments', 'words': 'arguments', 'subcommands': 'commands', 'commands': 'commands',
+PARTS = {'positionals': 'arguments', 'arguments': 'arguments', 'subcommands': 'commands', 'commands': 'commands',
          'options': 'options', 'common options': 'options', 'examples': None, 'exit status': None, 'usage': None}
 
 
