@@ -5,9 +5,10 @@
 // whose frequencies are those of the flexibility, smoothed over the raft's size (Fejér's mean; after T. Chan, 1988).
 // Time and memory grow a little faster than the number of nodes. Digits do not depend on the machine.
 //
-// The method asks for a soil on which no set of forces does negative work. A fine mesh over a deep layer and elements
-// that are much longer than wide can violate this, since a force acts on other nodes as a point load. The operations
-// then fail with SingularMatrix, as they do when the goal is not reached: such a system is the inverse's.
+// The method asks for a soil on which no set of forces does negative work. Elements more than about four times as long
+// as wide violate this, since a force acts on other nodes as a point load, and so may a layer that begins below the
+// surface under a fine mesh. The operations then fail with SingularMatrix, as they do when the goal is not reached: such
+// a system is the inverse's.
 #pragma once
 
 #include <vector>
