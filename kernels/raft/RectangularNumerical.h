@@ -2,7 +2,7 @@
 //
 // Up to 2500 nodes, and where the clay begins below the surface, the flexibility matrix is inverted. Larger systems are
 // solved by an operator (OperatorSoil.h), which finds the same forces in a small part of the time and without a matrix:
-// they differ by the rounding of the inverse, some 1e-5 of the mean force (docs/performance.md). When the operator
+// they differ by the rounding of the inverse, 1e-5 to 1e-4 of the mean force (docs/performance.md). When the operator
 // cannot serve, the inverse does.
 #pragma once
 
