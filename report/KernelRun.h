@@ -18,11 +18,12 @@ Failure WithCause(Failure failure, const std::string& cause);
 
 // Runs the body of a kernel, with an empty board of notices and no tables of steps. Any run-time failure ends it: the
 // shared failure routine tells it, with what `cause` then says of the input (report/Causes.h), and drops the open file,
-// and Session.CalcAborted is set. A run that the user ends leaves the notices of the one before it. The pointer stays
-// as the body left it. No exception leaves.
+// and Session.CalcAborted is set. A run that the user ends leaves the notices and steps of the one before it. The
+// pointer stays as the body left it. No exception leaves.
 template <typename Body, typename Cause>
 void RunKernel(Body&& body, Cause&& cause) {
-    const NoticeBoard former = Notices();
+    const NoticeBoard formerNotices = Notices();
+    StepRecorder formerSteps = std::move(Steps());
     Notices().Clear();
     Steps().Clear();
     try {
@@ -30,7 +31,10 @@ void RunKernel(Body&& body, Cause&& cause) {
     } catch (const std::exception& error) {
         const Failure failure = FailureFrom(error);
         FileError(WithCause(failure, cause()));
-        if (failure.Kind() == FailureKind::Cancelled) Notices() = former;
+        if (failure.Kind() == FailureKind::Cancelled) {
+            Notices() = formerNotices;
+            Steps() = std::move(formerSteps);
+        }
         Session.CalcAborted = true;
     }
 }

@@ -8,6 +8,7 @@
 #include "kernels/raft/BasCircularRigidRaft.h"
 #include "raft/RaftRunCase.h"
 #include "report/Notices.h"
+#include "report/StepTables.h"
 
 namespace lithmark {
 namespace {
@@ -84,6 +85,7 @@ class EndedRaftRuns : public tests::RaftRunCase, public testing::WithParamInterf
             for (const Single value : *values) add(value);
         for (const double value : {double(s.RaftMidCount), double(s.RaftMeanPressure), double(s.A0), double(s.Nue)})
             add(value);
+        for (const StepTable& table : Steps().Tables()) left += table.Title + std::to_string(table.Rows.size());
         for (const std::string& name : folder_.Names()) left += name + tests::ReadBytes(folder_ / name);
         return left;
     }
@@ -95,9 +97,11 @@ TEST_P(EndedRaftRuns, LeaveTheFormerResults) {
     Session.z = 1;  // on the clay of a notice
     Session.ProblemType = 10;
     Session.h = 0.5;
+    Steps().SwitchOn(true);
     RunIt();
     ASSERT_FALSE(Session.CalcAborted);
     ASSERT_NE(NoticeIds(), "");
+    ASSERT_FALSE(Steps().Tables().empty());
     Session.z = 0;
     const std::string former = Left();
     for (const double part : {0.0, 0.3, 0.78, 0.97, 1.0}) {
