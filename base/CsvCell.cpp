@@ -1,5 +1,6 @@
 #include "base/CsvCell.h"
 
+#include "base/NumberText.h"
 #include "base/Utf8.h"
 
 namespace lithmark {
@@ -7,6 +8,12 @@ namespace lithmark {
 std::string CsvCell(std::string_view text) {
     if (text.find_first_of(",\"\r\n") == std::string_view::npos) return std::string(text);
     return "\"" + ReplaceAll(text, "\"", "\"\"") + "\"";
+}
+
+std::string CsvWords(std::string_view text) {
+    const bool formula =
+        text.size() > 1 && std::string_view("=+-@").find(text.front()) != std::string_view::npos && !ParseNumber(text);
+    return CsvCell(formula ? "'" + std::string(text) : std::string(text));
 }
 
 }  // namespace lithmark

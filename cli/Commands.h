@@ -16,6 +16,7 @@ ExitStatus ShowCommand(const CommonOptions& options, ConsoleHost& host);
 struct ReportOptions {
     bool Tables = false;     // with the tables for a check by hand
     bool NoNotices = false;  // documents without the box of notices
+    bool Figures = false;    // documents with the curves and contour lines of the results
 };
 ExitStatus ReportCommand(const CommonOptions& options, const ReportOptions& report, ConsoleHost& host);
 

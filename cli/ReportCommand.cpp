@@ -10,6 +10,7 @@
 #ifdef LITHMARK_RENDER
 #include "render/ReportDocument.h"
 #include "render/StepTablesXlsx.h"
+#include "render/figures/ReportFigures.h"
 #endif
 
 namespace lithmark {
@@ -35,18 +36,18 @@ std::string StepTablesCsv() {
     std::string csv;
     const auto cellText = [](const StepCell& cell) { return cell.Number ? JsonNumber(*cell.Number) : cell.Word; };
     const auto line = [&csv](const std::string& first, auto begin, auto end, const auto& textOf) {
-        csv += CsvCell(first);
-        for (auto cell = begin; cell != end; ++cell) csv += "," + CsvCell(textOf(*cell));
+        csv += CsvWords(first);
+        for (auto cell = begin; cell != end; ++cell) csv += "," + CsvWords(textOf(*cell));
         csv += "\r\n";
     };
     for (const StepTable& table : Steps().Tables()) {
         if (!csv.empty()) csv += "\r\n";
-        csv += CsvCell(table.Title) + "\r\n";
+        csv += CsvWords(table.Title) + "\r\n";
         line(table.Columns.front().Head(), table.Columns.begin() + 1, table.Columns.end(),
              [](const StepColumn& column) { return column.Head(); });
         for (const auto& row : table.Rows) line(cellText(row.front()), row.begin() + 1, row.end(), cellText);
         for (const StepSum& sum : table.Sums) line(sum.Label, sum.Cells.begin(), sum.Cells.end(), cellText);
-        for (const std::string& note : table.Notes) csv += CsvCell(note) + "\r\n";
+        for (const std::string& note : table.Notes) csv += CsvWords(note) + "\r\n";
     }
     return csv;
 }
@@ -58,9 +59,10 @@ std::string ReportIn(const std::string& format, const ReportOptions& report) {
     if (format == "xlsx") return StepTablesXlsx(Steps().Tables());
     const std::string text = ReportWith(report.Tables ? (report.NoNotices ? Behind::Tables : Behind::NoticesAndTables)
                                                       : (report.NoNotices ? Behind::Nothing : Behind::Notices));
-    if (format == "html") return ReportHtml(text);
-    if (format == "pdf") return ReportPdf(text);
-    if (format == "rtf") return ReportRtf(text);
+    const ReportPaper paper = PaperWithFigures(report.Figures ? Figures::All : Figures::Drawing);
+    if (format == "html") return ReportHtml(text, paper);
+    if (format == "pdf") return ReportPdf(text, paper);
+    if (format == "rtf") return ReportRtf(text, paper);
 #endif
     FailFormat(format);
 }
@@ -71,6 +73,9 @@ ExitStatus ReportCommand(const CommonOptions& options, const ReportOptions& repo
     const std::string format = FormatInForce(options, kReportFormats);
     if (!report.Tables && (format == "csv" || format == "xlsx"))
         throw CommandFailure(ExitStatus::BadCommandLine, Text(907259_text, {{"|1", format}}));
+    const bool document = format == "html" || format == "pdf" || format == "rtf";
+    if (report.Figures && !document)
+        throw CommandFailure(ExitStatus::BadCommandLine, Text(911004_text, {{"|1", format}}));
     OpenProjectForRun(options);
     Steps().SwitchOn(report.Tables);
     RunProject();

@@ -82,6 +82,7 @@ class CommandLine {
             [this](const CommonOptions& options, ConsoleHost& host) { return ReportCommand(options, report_, host); });
         report->add_flag("--tables", report_.Tables, Text(907257_text));
         report->add_flag("--no-notices", report_.NoNotices, Text(907258_text));
+        report->add_flag("--with-figures", report_.Figures, Text(911003_text));
     }
 
     void AddChart() {

@@ -15,7 +15,7 @@ std::string Table(const ChartArguments& chart, const char* parting, const char* 
                   const std::function<std::string(const std::string&)>& head,
                   const std::function<std::string(const std::string&)>& cell) {
     std::string text;
-    for (int c = 1; c <= chart.LastColumn; ++c) text += (c > 1 ? parting : "") + head(ColumnHead(chart, c));
+    for (const std::string& name : ColumnNames(chart)) text += (text.empty() ? "" : parting) + head(name);
     text += lineEnd;
     for (int r = 1; r <= chart.LastRow; ++r) {
         for (int c = 1; c <= chart.LastColumn; ++c) text += (c > 1 ? parting : "") + cell(chart.Cells(r, c));
@@ -29,10 +29,10 @@ std::string Table(const ChartArguments& chart, const char* parting, const char* 
 std::string ChartCsv(const ChartArguments& chart) {
     const auto number = [sign = SharedServices().DecimalSign](std::string cell) {
         std::replace(cell.begin(), cell.end(), sign, '.');
-        return CsvCell(cell);
+        return CsvWords(cell);
     };
     return Table(
-        chart, ",", "\r\n", [](const std::string& head) { return CsvCell(head); }, number);
+        chart, ",", "\r\n", [](const std::string& head) { return CsvWords(head); }, number);
 }
 
 std::string ChartTabs(const ChartArguments& chart) {

@@ -295,4 +295,20 @@ std::string ColumnHead(const ChartArguments& chart, int column) {
     return head;
 }
 
+std::vector<std::string> ColumnNames(const ChartArguments& chart) {
+    std::vector<std::string> names;
+    const auto taken = [&](const std::string& name) { return std::ranges::find(names, name) != names.end(); };
+    for (int c = 1; c <= chart.LastColumn; ++c) {
+        std::string name = ColumnHead(chart, c);
+        // Behind the title stand the rows of symbols and units.
+        if (taken(name) && c - 1 <= chart.Curves && chart.HeaderRows >= 2)
+            name = chart.Legends(c - 1) + " " + chart.Header(chart.HeaderRows - 1, c) + " " +
+                   chart.Header(chart.HeaderRows, c);
+        const std::string head = name;
+        for (int number = 2; taken(name); ++number) name = head + " (" + std::to_string(number) + ")";
+        names.push_back(name);
+    }
+    return names;
+}
+
 }  // namespace lithmark

@@ -7,6 +7,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "services/host/Charting.h"
 
@@ -19,5 +20,9 @@ ChartArguments BuildChart();
 // The head of a column on one line: title, symbol and unit joined by blanks, words that the narrow head divides made
 // whole again.
 std::string ColumnHead(const ChartArguments& chart, int column);
+
+// The heads of columns 1 to the last, each of its own: of two columns with one head the second has its curve's legend
+// in place of the title.
+std::vector<std::string> ColumnNames(const ChartArguments& chart);
 
 }  // namespace lithmark

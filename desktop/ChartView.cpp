@@ -2,8 +2,8 @@
 
 #include <cmath>
 
-#include "desktop/Inks.h"
 #include "render/QtText.h"
+#include "render/drawings/Inks.h"
 
 namespace lithmark {
 

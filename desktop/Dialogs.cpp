@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QFileDialog>
 #include <QFormLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -16,10 +17,15 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "core/Session.h"
 #include "desktop/ManualTopics.h"
 #include "desktop/ManualWindow.h"
 #include "desktop/ReportView.h"
+#include "files/CommonStep.h"
 #include "render/QtText.h"
+#include "render/ReportPaper.h"
+#include "services/storage/ReadFile.h"
+#include "services/storage/WrittenFile.h"
 #include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
@@ -46,6 +52,56 @@ class PlainDialog : public QDialog {
         column->addWidget(buttons);
     }
     QVBoxLayout* Content;
+};
+
+// The line of the company's logo: the file that is in force or chosen, and buttons to choose and to remove it.
+class LogoRow : public QWidget {
+  public:
+    explicit LogoRow(QWidget* parent) : QWidget(parent), file_(Q(LogoFileIn(Session.ProgramDir))) {
+        auto* row = new QHBoxLayout(this);
+        row->setContentsMargins(0, 0, 0, 0);
+        shown_ = new QLineEdit(this);
+        shown_->setObjectName(QStringLiteral("txtLogo"));
+        shown_->setReadOnly(true);
+        row->addWidget(shown_, 1);
+        const auto add = [&](TextId caption, const char* name, auto&& slot) {
+            auto* button = new QPushButton(Q(Text(caption)), this);
+            button->setObjectName(QString::fromLatin1(name));
+            button->setAutoDefault(false);
+            connect(button, &QPushButton::clicked, this, slot);
+            row->addWidget(button);
+        };
+        add(911006_text, "cmdChooseLogo", [this] {
+            const QString chosen = QFileDialog::getOpenFileName(
+                this, Q(Text(911005_text)), {}, QStringLiteral("PNG, JPEG, SVG (*.png *.jpg *.jpeg *.svg)"));
+            if (!chosen.isEmpty()) Choose(chosen);
+        });
+        add(911007_text, "cmdRemoveLogo", [this] { Choose({}); });
+        Choose(file_);
+    }
+
+    // The chosen picture takes the place of the one in the settings' folder.
+    void Store() const {
+        const QString old = Q(LogoFileIn(Session.ProgramDir));
+        if (file_ == old) return;
+        UnderCommonStep([&] {
+            constexpr std::uint64_t kMostBytes = 4u << 20;
+            const std::string picture =
+                file_.isEmpty() ? std::string() : ReadWholeFile(file_.toStdString(), kMostBytes);
+            if (!old.isEmpty()) QFile::remove(old);
+            if (file_.isEmpty()) return;
+            WriteWholeFile(Session.ProgramDir + "Logo." + QFileInfo(file_).suffix().toLower().toStdString(), picture);
+        });
+    }
+
+  private:
+    void Choose(const QString& file) {
+        file_ = file;
+        shown_->setText(QFileInfo(file).fileName());
+    }
+
+    QString file_;
+    QLineEdit* shown_;
 };
 
 }  // namespace
@@ -83,8 +139,11 @@ std::optional<CompanyLines> AskCompanyLines(QWidget* parent, const CompanyLines&
     line1->setMinimumWidth(360);
     form->addRow(Q(Text(903007_text)), line1);
     form->addRow(Q(Text(903008_text)), line2);
+    auto* logo = new LogoRow(&dialog);
+    form->addRow(Q(Text(911005_text)), logo);
     dialog.Content->addLayout(form);
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    logo->Store();
     return CompanyLines{line1->text().toStdString(), line2->text().toStdString()};
 }
 

@@ -24,9 +24,9 @@
 #include "desktop/PictureView.h"
 #include "desktop/ReportView.h"
 #include "desktop/Sizes.h"
-#include "desktop/Symbols.h"
 #include "desktop/layouts/Layouts.h"
 #include "render/QtText.h"
+#include "render/drawings/Symbols.h"
 #include "services/TextTools.h"
 
 namespace lithmark {

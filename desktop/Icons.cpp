@@ -7,6 +7,7 @@
 #include <map>
 
 #include "core/Catalogue.h"
+#include "render/drawings/Logo.h"
 #include "services/ListTools.h"
 
 namespace lithmark {
@@ -199,26 +200,6 @@ const std::map<std::string, Drawing>& Drawings() {
 }
 
 }  // namespace
-
-void DrawLogo(QPainter& painter, const QRectF& area) {
-    painter.save();
-    painter.translate(area.topLeft());
-    painter.scale(area.width() / 24, area.height() / 24);
-    painter.setPen(Qt::NoPen);
-    QPainterPath frame;
-    frame.addRoundedRect(QRectF(0, 0, 24, 24), 4, 4);
-    painter.setClipPath(frame, Qt::IntersectClip);
-    painter.fillRect(QRectF(0, 0, 24, 24), QColor(0xDF, 0xEC, 0xF7));
-    painter.fillRect(QRectF(0, 11, 24, 5), kSand);
-    painter.fillRect(QRectF(0, 16, 24, 4), kClay);
-    painter.fillRect(QRectF(0, 20, 24, 4), QColor(0x6B, 0x5B, 0x53));
-    painter.fillRect(QRectF(9.6, 3, 4.8, 5.5), kInk);
-    painter.fillRect(QRectF(5.5, 8.2, 13, 2.8), kInk);
-    painter.setPen(QPen(kBlue, 0.7));
-    painter.setBrush(Qt::NoBrush);
-    for (const double r : {4.5, 7.5, 10.5}) painter.drawArc(QRectF(12 - r, 11 - r, 2 * r, 2 * r), 180 * 16, 180 * 16);
-    painter.restore();
-}
 
 QIcon ProgramIcon() {
     return Draw([](QPainter& p) { DrawLogo(p, QRectF(0, 0, 24, 24)); });

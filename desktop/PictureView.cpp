@@ -6,8 +6,8 @@
 #include <QPixmap>
 
 #include "desktop/Sizes.h"
-#include "desktop/Symbols.h"
-#include "desktop/drawings/Drawings.h"
+#include "render/drawings/Drawings.h"
+#include "render/drawings/Symbols.h"
 
 namespace lithmark {
 

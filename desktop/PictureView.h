@@ -5,8 +5,8 @@
 #include <QWidget>
 #include <functional>
 
-#include "desktop/drawings/DrawnForm.h"
-#include "desktop/drawings/Sketch.h"
+#include "render/drawings/DrawnForm.h"
+#include "render/drawings/Sketch.h"
 
 namespace lithmark {
 

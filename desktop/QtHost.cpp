@@ -23,6 +23,7 @@
 #include "desktop/TableEditorDialog.h"
 #include "render/QtText.h"
 #include "render/ReportDocument.h"
+#include "render/figures/ReportFigures.h"
 #include "services/storage/WrittenFile.h"
 #include "services/texts/LanguageTexts.h"
 
@@ -235,7 +236,7 @@ void QtHost::PrintText(const std::string& text, const std::string& fontName, int
 // The document is the word processor's from then on: what the user writes into it must not go with this program.
 void QtHost::OpenWordProcessor(const std::string& text, const std::string&, int, bool) {
     const std::string path = HandOverFile(Text(160030_text) + ".rtf");
-    WriteWholeFile(path, ReportRtf(text));
+    WriteWholeFile(path, ReportRtf(text, PaperWithFigures(Figures::Drawing)));
     const QString opener = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
     const bool opened = opener.isEmpty() ? QDesktopServices::openUrl(QUrl::fromLocalFile(Q(path)))
                                          : QProcess::startDetached(opener, {Q(path)});

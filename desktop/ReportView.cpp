@@ -4,7 +4,8 @@
 #include <QTextBlock>
 #include <QTextOption>
 
-#include "render/ReportDocument.h"
+#include "render/DisplayLines.h"
+#include "render/ReportLines.h"
 
 namespace lithmark {
 
@@ -24,7 +25,7 @@ void ReportView::ShowReport(const std::string& text, const std::string& fontName
         setFont(font);
     }
     std::string shown;
-    for (const std::string& line : ReportLinesOf(text)) shown += (rightToLeft ? DisplayRightToLeft(line) : line) + "\n";
+    for (const std::string& line : DisplayTexts(ReportLinesOf(text), rightToLeft)) shown += line + "\n";
     QTextOption option(rightToLeft ? Qt::AlignRight | Qt::AlignAbsolute : Qt::AlignLeft);
     option.setTextDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
     option.setWrapMode(QTextOption::NoWrap);

@@ -4,7 +4,7 @@
 #include <QPainter>
 #include <QScreen>
 
-#include "desktop/Icons.h"
+#include "render/drawings/Logo.h"
 
 namespace lithmark {
 

@@ -53,15 +53,18 @@ int DrawTitleBlock(QPainter& painter, const ChartArguments& chart) {
 void DrawChartPage(QCPPainter& painter, const ChartArguments& chart, const ChartLook& look) {
     painter.fillRect(QRect(0, 0, kWidth, kHeight), Qt::white);
     const int top = DrawTitleBlock(painter, chart);
-    const QSize room(kWidth - 2 * kMargin, kHeight - top - kMargin);
-    QCustomPlot plot;
-    plot.setViewport(QRect(QPoint(0, 0), room));
-    FillPlot(plot, chart, look);
     painter.save();
     painter.translate(kMargin, top);
-    painter.setLayoutDirection(Qt::LeftToRight);
-    plot.toPainter(&painter, room.width(), room.height());
+    PaintPlot(painter, chart, QSize(kWidth - 2 * kMargin, kHeight - top - kMargin), look);
     painter.restore();
+}
+
+void PaintPlot(QCPPainter& painter, const ChartArguments& chart, const QSize& size, const ChartLook& look) {
+    QCustomPlot plot;
+    plot.setViewport(QRect(QPoint(0, 0), size));
+    FillPlot(plot, chart, look);
+    painter.setLayoutDirection(Qt::LeftToRight);
+    plot.toPainter(&painter, size.width(), size.height());
 }
 
 std::string ChartSvg(const ChartArguments& chart, const ChartLook& look) {

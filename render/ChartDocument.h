@@ -16,6 +16,7 @@
 
 class QCPPainter;
 class QCustomPlot;
+class QSize;
 
 namespace lithmark {
 
@@ -54,6 +55,9 @@ void DrawChartPage(QCPPainter& painter, const ChartArguments& chart, const Chart
 std::string ChartXlsx(const ChartArguments& chart);
 // One sheet with a table: the head in row 1; cells that are numbers are written as such.
 std::string TableXlsx(const std::string& sheetName, const std::vector<std::vector<std::string>>& table);
+
+// The plot alone, without the title block, as a figure of a report shows it.
+void PaintPlot(QCPPainter& painter, const ChartArguments& chart, const QSize& size, const ChartLook& look = {});
 
 // Puts the curves, axes and legend into an empty plot, as all of the above and the chart window show them.
 void FillPlot(QCustomPlot& plot, const ChartArguments& chart, const ChartLook& look = {});

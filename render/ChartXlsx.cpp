@@ -1,4 +1,6 @@
 // Spreadsheets: a table, and for a chart a native scatter chart over it.
+#include <algorithm>
+
 #include "base/NumberText.h"
 #include "base/Utf8.h"
 #include "contour/CurveSets.h"
@@ -10,11 +12,21 @@ namespace lithmark {
 
 namespace {
 
-void WriteCell(lxw_worksheet* sheet, lxw_row_t row, lxw_col_t col, const std::string& cell, char decimalSign) {
+void WriteCell(Workbook& workbook, lxw_worksheet* sheet, lxw_row_t row, lxw_col_t col, const std::string& cell,
+               char decimalSign, lxw_format* format) {
     if (const auto number = ParseNumber(cell, decimalSign))
-        worksheet_write_number(sheet, row, col, *number, nullptr);
+        worksheet_write_number(sheet, row, col, *number, format);
     else
-        WriteText(sheet, row, col, cell, nullptr);
+        workbook.WriteText(sheet, row, col, cell);
+}
+
+// The cells of a chart's column that hold numbers.
+std::vector<std::string> NumbersOf(const ChartArguments& chart, int column) {
+    std::vector<std::string> numbers;
+    for (int r = 1; r <= chart.LastRow; ++r)
+        if (ParseNumber(chart.Cells(r, column), SharedServices().DecimalSign))
+            numbers.push_back(chart.Cells(r, column));
+    return numbers;
 }
 
 void AddScatterChart(Workbook& workbook, lxw_worksheet* sheet, const std::string& sheetName,
@@ -45,7 +57,7 @@ void AddScatterChart(Workbook& workbook, lxw_worksheet* sheet, const std::string
     lxw_chart_options size = {};
     size.x_scale = 1.6;
     size.y_scale = 1.6;
-    worksheet_insert_chart_opt(sheet, 1, static_cast<lxw_col_t>(arguments.LastColumn + 1), chart, &size);
+    worksheet_insert_chart_opt(sheet, firstRow, static_cast<lxw_col_t>(arguments.LastColumn + 1), chart, &size);
 }
 
 }  // namespace
@@ -56,21 +68,26 @@ std::string ChartXlsx(const ChartArguments& chart) {
     lxw_worksheet* sheet = workbook.AddSheet(sheetName);
     lxw_row_t row = 0;
     const auto text = [&](const std::string& line, lxw_format* format) {
-        if (!line.empty()) WriteText(sheet, row++, 0, line, format);
+        if (!line.empty()) workbook.WriteText(sheet, row++, 0, line, format);
     };
     text(chart.CompanyLine1, workbook.Bold);
     text(chart.CompanyLine2, workbook.Bold);
     for (const std::string& line : Split(chart.ProjectText, '\n')) text(line, nullptr);
     ++row;
     text(chart.TableTitle, workbook.Bold);
-    worksheet_set_column(sheet, 0, static_cast<lxw_col_t>(chart.LastColumn - 1), 18, nullptr);
-    for (int c = 1; c <= chart.LastColumn; ++c)
-        WriteText(sheet, row, static_cast<lxw_col_t>(c - 1), ColumnHead(chart, c), workbook.Head);
+    std::vector<std::size_t> widest;
     const lxw_row_t firstRow = row + 1;
-    for (int r = 1; r <= chart.LastRow; ++r)
-        for (int c = 1; c <= chart.LastColumn; ++c)
-            WriteCell(sheet, firstRow + static_cast<lxw_row_t>(r - 1), static_cast<lxw_col_t>(c - 1), chart.Cells(r, c),
-                      SharedServices().DecimalSign);
+    for (int c = 1; c <= chart.LastColumn; ++c) {
+        const std::vector<std::string> numbers = NumbersOf(chart, c);
+        lxw_format* const format = workbook.Decimals(DecimalsOf(numbers, SharedServices().DecimalSign));
+        widest.push_back(0);
+        for (int r = 1; r <= chart.LastRow; ++r) {
+            widest.back() = std::max(widest.back(), CharacterCount(chart.Cells(r, c)));
+            WriteCell(workbook, sheet, firstRow + static_cast<lxw_row_t>(r - 1), static_cast<lxw_col_t>(c - 1),
+                      chart.Cells(r, c), SharedServices().DecimalSign, format);
+        }
+    }
+    workbook.WriteHead(sheet, row, ColumnNames(chart), widest);
     AddScatterChart(workbook, sheet, sheetName, chart, firstRow, firstRow + static_cast<lxw_row_t>(chart.LastRow - 1));
     return workbook.Bytes();
 }
@@ -78,16 +95,14 @@ std::string ChartXlsx(const ChartArguments& chart) {
 std::string TableXlsx(const std::string& sheetName, const std::vector<std::vector<std::string>>& table) {
     Workbook workbook;
     lxw_worksheet* sheet = workbook.AddSheet(sheetName);
-    for (std::size_t r = 0; r < table.size(); ++r)
+    if (table.empty()) return workbook.Bytes();
+    std::vector<std::size_t> widest(table.front().size(), 0);
+    for (std::size_t r = 1; r < table.size(); ++r)
         for (std::size_t c = 0; c < table[r].size(); ++c) {
-            const auto row = static_cast<lxw_row_t>(r);
-            const auto col = static_cast<lxw_col_t>(c);
-            if (r == 0)
-                WriteText(sheet, row, col, table[r][c], workbook.Head);
-            else
-                WriteCell(sheet, row, col, table[r][c], '.');
+            if (c < widest.size()) widest[c] = std::max(widest[c], CharacterCount(table[r][c]));
+            WriteCell(workbook, sheet, static_cast<lxw_row_t>(r), static_cast<lxw_col_t>(c), table[r][c], '.', nullptr);
         }
-    worksheet_freeze_panes(sheet, 1, 0);
+    workbook.WriteHead(sheet, 0, table.front(), widest);
     return workbook.Bytes();
 }
 

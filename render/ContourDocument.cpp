@@ -14,7 +14,7 @@ namespace lithmark {
 
 namespace {
 
-constexpr int kUsualSize = 700;
+constexpr int kUsualSize = 700, kFigureSide = 460;
 
 QRgb ColorOf(int number) {
     return 0xFF000000u | kPalette[static_cast<std::size_t>(number) % kPalette.size()];
@@ -25,13 +25,6 @@ QFont TextFont(double pixels, bool bold = false) {
     font.setPixelSize(qRound(pixels));
     font.setBold(bold);
     return font;
-}
-
-// What is shown, with its unit.
-std::string PlotTitle() {
-    const bool pressure = PressureContoursRequested();
-    const TextId title = pressure ? 90098_text : ProblemInForce().RaftSettlement;
-    return Text(title) + " " + (pressure ? LabelOf(Unit::Pressure) : Session.Len2Label);
 }
 
 // Measures of a plot of `side` pixels with its title and legend.
@@ -45,14 +38,9 @@ struct Layout {
     int Side, Margin, Title, Legend;
 };
 
-void DrawContour(QPainter& painter, BasContour& plot, const Layout& layout) {
-    painter.fillRect(QRect(0, 0, layout.Width(), layout.Height()), Qt::white);
-    painter.setPen(Qt::black);
-    painter.setFont(TextFont(layout.Title * 0.42, true));
-    const QRect title(layout.Margin, layout.Margin / 2, layout.Width() - 2 * layout.Margin, layout.Title);
-    painter.drawText(title, Qt::AlignCenter, Q(PlotTitle() + "   " + Session.ProjectName));
-
-    const QRectF area(layout.Margin, layout.Margin + layout.Title, layout.Side, layout.Side);
+// The plot and its legend beside it, from `top` on.
+void DrawPlot(QPainter& painter, BasContour& plot, const Layout& layout, int top) {
+    const QRectF area(layout.Margin, top, layout.Side, layout.Side);
     painter.save();
     painter.setClipRect(area);
     PainterSurface surface(painter, area, QSize(layout.Side, layout.Side), TextFont(layout.Side / 55.0));
@@ -68,7 +56,32 @@ void DrawContour(QPainter& painter, BasContour& plot, const Layout& layout) {
     plot.DrawLegend(legendSurface);
 }
 
+void DrawContour(QPainter& painter, BasContour& plot, const Layout& layout) {
+    painter.fillRect(QRect(0, 0, layout.Width(), layout.Height()), Qt::white);
+    painter.setPen(Qt::black);
+    painter.setFont(TextFont(layout.Title * 0.42, true));
+    const QRect title(layout.Margin, layout.Margin / 2, layout.Width() - 2 * layout.Margin, layout.Title);
+    painter.drawText(title, Qt::AlignCenter, Q(ContourTitle() + "   " + Session.ProjectName));
+    DrawPlot(painter, plot, layout, layout.Margin + layout.Title);
+}
+
 }  // namespace
+
+std::string ContourTitle() {
+    const bool pressure = PressureContoursRequested();
+    const TextId title = pressure ? 90098_text : ProblemInForce().RaftSettlement;
+    return Text(title) + " " + (pressure ? LabelOf(Unit::Pressure) : Session.Len2Label);
+}
+
+void PaintContour(QPainter& painter, BasContour& plot) {
+    const Layout layout(kFigureSide);
+    DrawPlot(painter, plot, layout, layout.Margin);
+}
+
+QSize ContourSize() {
+    const Layout layout(kFigureSide);
+    return {layout.Width(), layout.Side + 2 * layout.Margin};
+}
 
 PainterSurface::PainterSurface(QPainter& painter, const QRectF& area, const QSize& pixels, const QFont& font)
     : painter_(painter), area_(area), pixels_(pixels), font_(font) {}
@@ -180,7 +193,7 @@ void DrawContourPage(QPainter& painter, BasContour& plot, int size) {
 
 std::string ContourSvg(BasContour& plot, int size) {
     const Layout layout(size);
-    return SvgOf(layout.Size(), Q(PlotTitle()), [&](QPainter& painter) { DrawContour(painter, plot, layout); });
+    return SvgOf(layout.Size(), Q(ContourTitle()), [&](QPainter& painter) { DrawContour(painter, plot, layout); });
 }
 
 std::string ContourPng(BasContour& plot, int size) {
@@ -190,7 +203,7 @@ std::string ContourPng(BasContour& plot, int size) {
 
 std::string ContourPdf(BasContour& plot, int size) {
     const Layout layout(size);
-    return PdfOf(layout.Size(), Q(PlotTitle()), [&](QPainter& painter) { DrawContour(painter, plot, layout); });
+    return PdfOf(layout.Size(), Q(ContourTitle()), [&](QPainter& painter) { DrawContour(painter, plot, layout); });
 }
 
 }  // namespace lithmark

@@ -17,6 +17,11 @@ std::string ContourPdf(BasContour& plot, int size);
 // The page of all three.
 QSize ContourPageSize(int size);
 void DrawContourPage(QPainter& painter, BasContour& plot, int size);
+// What is asked for, with its unit; the plot with its legend as a figure of a report shows it, without a title, and its
+// size.
+std::string ContourTitle();
+void PaintContour(QPainter& painter, BasContour& plot);
+QSize ContourSize();
 
 // Draws on a QPainter inside a rectangle. Single pixels are gathered in an image and put under everything else.
 class PainterSurface : public Surface {

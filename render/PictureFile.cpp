@@ -44,6 +44,7 @@ std::string SvgOf(const QSize& size, const QString& title, const Draw& draw) {
 std::string PngOf(const QSize& size, int scale, const Draw& draw) {
     EnsureRenderApplication();
     QImage image(size * scale, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
     {
         QCPPainter painter;
         painter.begin(&image);

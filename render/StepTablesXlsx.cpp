@@ -1,5 +1,8 @@
 #include "render/StepTablesXlsx.h"
 
+#include <algorithm>
+
+#include "base/Utf8.h"
 #include "render/Workbook.h"
 
 namespace lithmark {
@@ -14,42 +17,66 @@ std::string SumFormula(lxw_row_t first, lxw_row_t last, lxw_col_t column) {
     return std::string("=SUM(") + begin + ":" + end + ")";
 }
 
-void WriteCell(lxw_worksheet* sheet, lxw_row_t row, lxw_col_t column, const StepCell& cell, lxw_format* format) {
-    if (cell.Number)
-        worksheet_write_number(sheet, row, column, *cell.Number, format);
-    else if (!cell.Word.empty())
-        WriteText(sheet, row, column, cell.Word, format);
-}
+class SheetOfSteps {
+  public:
+    SheetOfSteps(Workbook& workbook, lxw_worksheet* sheet, const StepTable& table)
+        : workbook_(workbook), sheet_(sheet), table_(table) {
+        for (std::size_t c = 0; c < table.Columns.size(); ++c) decimals_.push_back(DecimalsOf(table, c));
+    }
 
-void WriteTable(Workbook& workbook, lxw_worksheet* sheet, const StepTable& table) {
-    WriteText(sheet, 0, 0, table.Title, workbook.Bold);
-    worksheet_set_column(sheet, 0, static_cast<lxw_col_t>(table.Columns.size() - 1), 16, nullptr);
-    lxw_col_t column = 0;
-    for (const StepColumn& head : table.Columns) WriteText(sheet, 1, column++, head.Head(), workbook.Head);
-    const lxw_row_t first = 2;
-    lxw_row_t row = first;
-    for (const auto& cells : table.Rows) {
-        column = 0;
-        for (const StepCell& cell : cells) WriteCell(sheet, row, column++, cell, nullptr);
-        ++row;
-    }
-    const lxw_row_t last = row - 1;
-    for (const StepSum& sum : table.Sums) {
-        WriteText(sheet, row, 0, sum.Label, workbook.Bold);
-        column = 1;
-        for (const StepCell& cell : sum.Cells) {
-            if (sum.Kind == StepSum::Of::Column && cell.Number)
-                worksheet_write_formula_num(sheet, row, column, SumFormula(first, last, column).c_str(), workbook.Bold,
-                                            *cell.Number);
-            else
-                WriteCell(sheet, row, column, cell, workbook.Bold);
-            ++column;
+    void Write() {
+        workbook_.WriteText(sheet_, 0, 0, table_.Title, workbook_.Bold);
+        std::vector<std::string> heads;
+        std::vector<std::size_t> widest;
+        for (const StepColumn& column : table_.Columns) {
+            heads.push_back(column.Head());
+            widest.push_back(kNumberWidth);
         }
-        ++row;
+        for (const auto& cells : table_.Rows)
+            for (std::size_t c = 0; c < cells.size(); ++c)
+                widest[c] = std::max(widest[c], CharacterCount(cells[c].Word));
+        for (const StepSum& sum : table_.Sums) widest[0] = std::max(widest[0], CharacterCount(sum.Label));
+        workbook_.WriteHead(sheet_, 1, heads, widest);
+        const lxw_row_t first = 2;
+        lxw_row_t row = first;
+        for (const auto& cells : table_.Rows) {
+            for (std::size_t c = 0; c < cells.size(); ++c) WriteCell(row, c, cells[c], false);
+            ++row;
+        }
+        const lxw_row_t last = row - 1;
+        for (const StepSum& sum : table_.Sums) WriteSum(row++, first, last, sum);
+        for (const std::string& note : table_.Notes) workbook_.WriteText(sheet_, ++row, 0, note);
     }
-    for (const std::string& note : table.Notes) WriteText(sheet, ++row, 0, note, nullptr);
-    worksheet_freeze_panes(sheet, first, 0);
-}
+
+  private:
+    static constexpr std::size_t kNumberWidth = 11;
+
+    void WriteCell(lxw_row_t row, std::size_t column, const StepCell& cell, bool bold) {
+        const auto at = static_cast<lxw_col_t>(column);
+        if (cell.Number)
+            worksheet_write_number(sheet_, row, at, *cell.Number, workbook_.Decimals(decimals_[column], bold));
+        else if (!cell.Word.empty())
+            workbook_.WriteText(sheet_, row, at, cell.Word, bold ? workbook_.Bold : nullptr);
+    }
+
+    void WriteSum(lxw_row_t row, lxw_row_t first, lxw_row_t last, const StepSum& sum) {
+        workbook_.WriteText(sheet_, row, 0, sum.Label, workbook_.Bold);
+        for (std::size_t c = 1; c <= sum.Cells.size(); ++c) {
+            const StepCell& cell = sum.Cells[c - 1];
+            const auto column = static_cast<lxw_col_t>(c);
+            if (sum.Kind == StepSum::Of::Column && cell.Number)
+                worksheet_write_formula_num(sheet_, row, column, SumFormula(first, last, column).c_str(),
+                                            workbook_.Decimals(decimals_[c], true), *cell.Number);
+            else
+                WriteCell(row, c, cell, true);
+        }
+    }
+
+    Workbook& workbook_;
+    lxw_worksheet* const sheet_;
+    const StepTable& table_;
+    std::vector<int> decimals_;
+};
 
 }  // namespace
 
@@ -58,7 +85,7 @@ std::string StepTablesXlsx(const std::vector<StepTable>& tables) {
     int number = 0;
     // Numbered, since two tables may have one title.
     for (const StepTable& table : tables)
-        WriteTable(workbook, workbook.AddSheet(std::to_string(++number) + " " + table.Title), table);
+        SheetOfSteps(workbook, workbook.AddSheet(std::to_string(++number) + " " + table.Title), table).Write();
     if (tables.empty()) workbook.AddSheet("Lithmark");
     return workbook.Bytes();
 }

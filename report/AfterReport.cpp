@@ -1,7 +1,6 @@
 #include "report/AfterReport.h"
 
 #include <algorithm>
-#include <cmath>
 #include <string_view>
 #include <vector>
 
@@ -17,7 +16,6 @@ namespace lithmark {
 
 namespace {
 
-constexpr int kSignificant = 7;  // digits of a Single
 constexpr int kTitleWidth = 11;  // a column's title is broken where a line would be longer
 constexpr std::string_view kGap = "  ";
 
@@ -65,24 +63,6 @@ std::string Right(const std::string& text, int width) {
 
 std::string Left(const std::string& text, int width) {
     return text + std::string(static_cast<std::size_t>(std::max(0, width - CellsOf(text))), ' ');
-}
-
-// Decimals that give the greatest number of a column the digits of a Single; -1: exponents, where numbers are tiny or
-// huge.
-int DecimalsOf(const StepTable& table, std::size_t column) {
-    double greatest = 0;
-    bool whole = true;
-    const auto look = [&](const StepCell& cell) {
-        if (!cell.Number) return;
-        greatest = std::max(greatest, std::abs(*cell.Number));
-        whole = whole && *cell.Number == std::floor(*cell.Number);
-    };
-    for (const auto& row : table.Rows) look(row[column]);
-    for (const StepSum& sum : table.Sums)
-        if (column > 0 && sum.Kind == StepSum::Of::Column) look(sum.Cells[column - 1]);
-    if (greatest == 0 || (whole && greatest < 1e7)) return 0;
-    const int magnitude = static_cast<int>(std::floor(std::log10(greatest)));
-    return magnitude < -4 || magnitude >= kSignificant ? -1 : std::max(0, kSignificant - 1 - magnitude);
 }
 
 std::string CellText(const StepCell& cell, int decimals) {

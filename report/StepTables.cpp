@@ -1,6 +1,7 @@
 #include "report/StepTables.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "services/texts/LanguageTexts.h"
 
@@ -35,6 +36,23 @@ void StepTable::AddSums(const std::vector<std::size_t>& columns) {
 void StepTable::AddLine(const std::string& label, std::vector<StepCell> cells) {
     cells.resize(Columns.size() - 1);
     Sums.push_back({label, StepSum::Of::Something, std::move(cells)});
+}
+
+int DecimalsOf(const StepTable& table, std::size_t column) {
+    constexpr int kSignificant = 7;  // digits of a Single
+    double greatest = 0;
+    bool whole = true;
+    const auto look = [&](const StepCell& cell) {
+        if (!cell.Number) return;
+        greatest = std::max(greatest, std::abs(*cell.Number));
+        whole = whole && *cell.Number == std::floor(*cell.Number);
+    };
+    for (const auto& row : table.Rows) look(row[column]);
+    for (const StepSum& sum : table.Sums)
+        if (column > 0 && sum.Kind == StepSum::Of::Column) look(sum.Cells[column - 1]);
+    if (greatest == 0 || (whole && greatest < 1e7)) return 0;
+    const int magnitude = static_cast<int>(std::floor(std::log10(greatest)));
+    return magnitude < -4 || magnitude >= kSignificant ? -1 : std::max(0, kSignificant - 1 - magnitude);
 }
 
 StepTable& StepRecorder::Add(const std::string& title) {

@@ -53,6 +53,10 @@ struct StepTable {
     void AddLine(const std::string& label, std::vector<StepCell> cells);
 };
 
+// Decimals that give the greatest number of a column the digits of a Single; -1: exponents, where numbers are tiny or
+// huge.
+int DecimalsOf(const StepTable& table, std::size_t column);
+
 class StepRecorder {
   public:
     bool On() const noexcept { return on_; }

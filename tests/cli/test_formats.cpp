@@ -18,6 +18,7 @@ TEST_F(CliFormats, EachFormatIsWhatItsNameSays) {
         {{"report", time}, "html", "<!DOCTYPE html>"},
         {{"report", time}, "pdf", "%PDF-"},
         {{"report", time}, "rtf", "{\\rtf1"},
+        {{"report", raft, "--with-figures"}, "pdf", "%PDF-"},
         {{"chart", time, "--curve", "Tab2"}, "svg", "<?xml"},
         {{"chart", time, "--curve", "Tab2"}, "png", "\x89PNG"},
         {{"chart", time, "--curve", "Tab2"}, "pdf", "%PDF-"},
@@ -56,6 +57,27 @@ TEST_F(CliFormats, AProjectIsFoundFromItsOwnFolderAndUnderAnyLetterCase) {
     EXPECT_EQ(Run({"new", "Here", "--problem", "4"}).Status, 0);
     EXPECT_TRUE(std::filesystem::exists(work / "Here.CON"));
 }
+
+#ifdef LITHMARK_RENDER
+TEST_F(CliFormats, ADocumentHasTheDrawingAndOnRequestTheFiguresOfTheResults) {
+    const std::string time = Example("OfficeBuilding"), output = work / "report.html";
+    const auto figures = [&](const std::vector<std::string>& more) {
+        std::vector<std::string> words = {"report", time, "--output", output};
+        words.insert(words.end(), more.begin(), more.end());
+        EXPECT_EQ(Run(words).Status, 0);
+        const std::string html = ReadBytes(output);
+        int count = 0;
+        for (std::size_t at = html.find("<figure>"); at != std::string::npos; at = html.find("<figure>", at + 1))
+            ++count;
+        return count;
+    };
+    EXPECT_EQ(figures({}), 1);
+    EXPECT_EQ(figures({"--with-figures"}), 5) << "the load, two settlements, the corrected one";
+    const CliResult text = Run({"report", time, "--with-figures"});
+    EXPECT_EQ(text.Status, 2);
+    EXPECT_THAT(text.Err, HasSubstr("\"txt\" has no figures"));
+}
+#endif
 
 }  // namespace
 }  // namespace lithmark::tests

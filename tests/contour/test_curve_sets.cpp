@@ -351,5 +351,17 @@ TEST_F(CurveSets, AHeadOnOneLineHealsDividedWords) {
     EXPECT_EQ(ColumnHead(chart, 2), "Settlement Setn [cm]");
 }
 
+TEST_F(CurveSets, EveryColumnHasANameOfItsOwn) {
+    SetTimeProblem();
+    Session.Ms = true;
+    Session.MeasureFactor = 0.5;
+    const ChartArguments chart = Chart("Tab4");
+    EXPECT_EQ(ColumnHead(chart, 2), ColumnHead(chart, 3));
+    const std::vector<std::string> names = ColumnNames(chart);
+    ASSERT_EQ(names.size(), 3u);
+    EXPECT_EQ(names[1], ColumnHead(chart, 2));
+    EXPECT_EQ(names[2], chart.Legends(2) + " Zse [cm]") << "that of its curve";
+}
+
 }  // namespace
 }  // namespace lithmark::tests

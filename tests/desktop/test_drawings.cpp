@@ -13,11 +13,11 @@
 #include "../ui/AllForms.h"
 #include "../ui/FormTest.h"
 #include "desktop/FormView.h"
-#include "desktop/Inks.h"
 #include "desktop/PictureView.h"
-#include "desktop/Symbols.h"
-#include "desktop/drawings/Drawings.h"
-#include "desktop/drawings/Proportions.h"
+#include "render/drawings/Drawings.h"
+#include "render/drawings/Inks.h"
+#include "render/drawings/Proportions.h"
+#include "render/drawings/Symbols.h"
 #include "ui/model/PictureForm.h"
 
 namespace lithmark::tests {

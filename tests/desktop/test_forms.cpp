@@ -21,7 +21,7 @@
 #include "../ui/FormTest.h"
 #include "desktop/FormView.h"
 #include "desktop/Sizes.h"
-#include "desktop/drawings/Drawings.h"
+#include "render/drawings/Drawings.h"
 #include "ui/model/FieldForm.h"
 
 namespace lithmark::tests {

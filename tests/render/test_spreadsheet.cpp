@@ -74,6 +74,15 @@ TEST_F(Spreadsheet, AChartHasItsTableAndANativeChartOverIt) {
     EXPECT_EQ(cells.at("A1"), "Lithos GmbH");
     EXPECT_EQ(cells.at("A7"), "Table T4");
     EXPECT_EQ(cells.at("B8"), "Settlement Zse [cm]");
+    EXPECT_EQ(cells.at("C8"), chart.Legends(2) + " Zse [cm]") << "a name of its own";
+    const std::string sheet = parts.at("xl/worksheets/sheet1.xml");
+    EXPECT_THAT(sheet, HasSubstr("topLeftCell=\"A9\"")) << "the head stays in sight";
+    EXPECT_THAT(sheet, HasSubstr("orientation=\"landscape\""));
+    EXPECT_THAT(sheet, HasSubstr("fitToHeight=\"0\"")) << "one page wide";
+    EXPECT_THAT(parts.at("xl/workbook.xml"), HasSubstr("_xlnm.Print_Titles"));
+    EXPECT_THAT(parts.at("xl/styles.xml"), HasSubstr("formatCode=\"0.00\"")) << "settlements have two decimals";
+    EXPECT_THAT(parts.at("xl/drawings/drawing1.xml"), HasSubstr("<xdr:row>8</xdr:row>"))
+        << "the chart is below the head";
     const int rows = chart.LastRow;
     for (int r = 1; r <= rows; ++r)
         for (int c = 1; c <= 3; ++c) {
@@ -129,6 +138,18 @@ TEST_F(Spreadsheet, ATableHasItsHeadInTheFirstRow) {
                                                          {"C2", "ok"},
                                                          {"A3", "=2000"},
                                                          {"C3", "<failed> & \"told\""}}));
+}
+
+TEST_F(Spreadsheet, WhatLooksLikeAFormulaStaysText) {
+    const auto parts = PartsOf(TableXlsx("t", {{"a", "b"}, {"=1+1", "+x"}, {"-x", "@x"}, {"-1.5", "+2"}}));
+    const auto cells = CellsOf(parts);
+    EXPECT_EQ(cells.at("A2"), "=1+1");
+    EXPECT_EQ(cells.at("B2"), "+x");
+    EXPECT_EQ(cells.at("A3"), "-x");
+    EXPECT_EQ(cells.at("B3"), "@x");
+    EXPECT_EQ(cells.at("A4"), "=-1.5") << "a number";
+    EXPECT_THAT(parts.at("xl/worksheets/sheet1.xml"), testing::Not(HasSubstr("<f>")));
+    EXPECT_THAT(parts.at("xl/styles.xml"), HasSubstr("formatCode=\"@\"")) << "text for whoever edits the cell";
 }
 
 }  // namespace

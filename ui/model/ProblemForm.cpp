@@ -95,6 +95,12 @@ void ProblemForm::DropUnsavedInput() {
     RemoveDraft(DraftFolder(), Session.DataDir + Session.ProjectName, Name);
 }
 
+void ProblemForm::ShowInForce() {
+    ShowData();
+    ShowCaptions();
+    ShowForProblem();
+}
+
 void ProblemForm::ShowData() {
     ShowFields();
     TakeRadius(Session);

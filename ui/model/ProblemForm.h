@@ -23,6 +23,9 @@ class ProblemForm : public FieldForm {
     Button cmdResult{*this, "cmdResult"};
 
     void Load() override;
+    // The controls as Session stands, without defaults or a file: for a form that is drawn and not shown. Its choices
+    // may store what they show in Session.
+    void ShowInForce();
 
     // The controls differ from what the form loaded or last saved. Closing asks nothing and stores nothing, so the
     // window's title has to tell. Data opened from another file are not the project's until they are saved.

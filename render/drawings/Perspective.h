@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "desktop/drawings/Sketch.h"
+#include "render/drawings/Sketch.h"
 
 namespace lithmark {
 

@@ -1,4 +1,4 @@
-#include "desktop/drawings/GroundSection.h"
+#include "render/drawings/GroundSection.h"
 
 #include <algorithm>
 #include <cmath>

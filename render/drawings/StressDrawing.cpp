@@ -4,9 +4,9 @@
 #include <cmath>
 
 #include "core/Problems.h"
-#include "desktop/drawings/Drawings.h"
-#include "desktop/drawings/Perspective.h"
-#include "desktop/drawings/Proportions.h"
+#include "render/drawings/Drawings.h"
+#include "render/drawings/Perspective.h"
+#include "render/drawings/Proportions.h"
 
 namespace lithmark {
 
@@ -94,7 +94,9 @@ void DrawPoint(const View& v) {
     s.Symbol("w", point + down, Side::Right, Ink::Point);
 }
 
-void Draw(Sketch& s) {
+}  // namespace
+
+void StressDrawing(Sketch& s) {
     const SessionRecord& r = s.Record;
     const bool rectangular = s.Form.Has("txt_B"), circular = s.Form.Has("txt_A") && !rectangular;
     const double a = rectangular || circular ? double(r.A) : 0, b = rectangular ? double(r.B) : 0;
@@ -123,9 +125,5 @@ void Draw(Sketch& s) {
     const QRectF front = p.Front(0, block.Depths.back());
     s.Numbers({"txt_Es", "txt_Nue"}, QPointF(front.left() + front.width() * 0.4, front.bottom() - 2 * s.LineHeight()));
 }
-
-const DrawingNamed kDrawing("stress", Draw);
-
-}  // namespace
 
 }  // namespace lithmark

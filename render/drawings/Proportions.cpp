@@ -1,4 +1,4 @@
-#include "desktop/drawings/Proportions.h"
+#include "render/drawings/Proportions.h"
 
 #include <algorithm>
 #include <cmath>

@@ -4,8 +4,8 @@
 
 #include <vector>
 
-#include "desktop/drawings/Proportions.h"
-#include "desktop/drawings/Sketch.h"
+#include "render/drawings/Proportions.h"
+#include "render/drawings/Sketch.h"
 
 namespace lithmark {
 

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "desktop/Inks.h"
-#include "desktop/drawings/DrawnForm.h"
+#include "render/drawings/DrawnForm.h"
+#include "render/drawings/Inks.h"
 
 namespace lithmark {
 

@@ -1,7 +1,7 @@
 // What several drawings have in common.
 #pragma once
 
-#include "desktop/drawings/Sketch.h"
+#include "render/drawings/Sketch.h"
 
 namespace lithmark {
 

@@ -1,4 +1,4 @@
-#include "desktop/drawings/DrawnParts.h"
+#include "render/drawings/DrawnParts.h"
 
 namespace lithmark {
 

@@ -1,7 +1,7 @@
 // Settlement of a clay layer under a load: the section, and load and point from
 // above in a corner.
-#include "desktop/drawings/Drawings.h"
-#include "desktop/drawings/GroundSection.h"
+#include "render/drawings/Drawings.h"
+#include "render/drawings/GroundSection.h"
 
 namespace lithmark {
 
@@ -9,7 +9,9 @@ namespace {
 
 constexpr double kPlanShare = 0.24, kLoadShare = 0.14, kEdge = 6;
 
-void Draw(Sketch& s) {
+}  // namespace
+
+void ConsolidationDrawing(Sketch& s) {
     const SessionRecord& r = s.Record;
     const double plan = kPlanShare * s.Area.height(), load = kLoadShare * s.Area.height() + s.LineHeight();
     const double below = s.LineHeight();
@@ -26,9 +28,5 @@ void Draw(Sketch& s) {
     s.Numbers({"txt_Es", "txt_Cc", "txt_eo", "txt_Po", "txt_Gamma"},
               {clay.left() + clay.width() * 0.72, clay.center().y()});
 }
-
-const DrawingNamed kDrawing("consolidation", Draw);
-
-}  // namespace
 
 }  // namespace lithmark

@@ -1,4 +1,4 @@
-#include "desktop/drawings/DrawnForm.h"
+#include "render/drawings/DrawnForm.h"
 
 #include <algorithm>
 

@@ -3,9 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
-#include "desktop/drawings/Drawings.h"
-#include "desktop/drawings/Perspective.h"
-#include "desktop/drawings/Proportions.h"
+#include "core/Problems.h"
+#include "render/drawings/Drawings.h"
+#include "render/drawings/Perspective.h"
+#include "render/drawings/Proportions.h"
 
 namespace lithmark {
 
@@ -49,9 +50,19 @@ void DrawLoad(Sketch& s, const Perspective& p, const Raft& raft, double height) 
     const SessionRecord& r = s.Record;
     const double z = -raft.Thickness;
     const bool alongX = s.Form.Has("txt_Exz_x"), alongY = s.Form.Has("txt_Exz_y");
+    // A numerical analysis takes the eccentricities of the data file where the dialog has no boxes for them, too.
+    const bool stored = raft.Rectangular && r.AnalysisType == Analysis::Numerical;
     const double side = raft.Rectangular ? double(r.A) : 2 * double(r.A);
-    const double ex = alongX ? Shown(double(r.Exz_x), side, raft.A) : 0;
-    const double ey = alongY ? Shown(double(r.Exz_y), double(r.B), raft.B) : 0;
+    const double ex = alongX || stored ? Shown(double(r.Exz_x), side, raft.A) : 0;
+    const double ey = alongY || stored ? Shown(double(r.Exz_y), double(r.B), raft.B) : 0;
+    if (!alongX && ex != 0) {
+        s.Line(p.At(0, 0, z), p.At(ex, 0, z), s.Pen(Ink::Load));
+        s.Symbol("ex", p.At(ex / 2, 0, z), Side::Left, Ink::Load);
+    }
+    if (!alongY && ey != 0) {
+        s.Line(p.At(ex, 0, z), p.At(ex, ey, z), s.Pen(Ink::Load));
+        s.Symbol("ey", p.At(ex, ey / 2, z), Side::Right, Ink::Load);
+    }
     if (alongX || alongY)
         // A third of each side from the centre.
         s.Polygon(Outline(p, raft, z, 2.0 / 3), s.Pen(Ink::Good, 1, Qt::DashLine), Qt::NoBrush);
@@ -74,7 +85,9 @@ void OpenBottom(Sketch& s, const QRectF& front, Ink soil) {
     s.Painter.drawPolyline(wave);
 }
 
-void Draw(Sketch& s) {
+}  // namespace
+
+void RaftDrawing(Sketch& s) {
     const SessionRecord& r = s.Record;
     const bool rectangular = s.Form.Has("txt_B"), layered = s.Form.Has("txt_h"), buried = s.Form.Has("txt_z");
     const double a = (rectangular ? 1 : 2) * double(r.A), b = rectangular ? double(r.B) : 0;
@@ -121,9 +134,5 @@ void Draw(Sketch& s) {
     s.Numbers({"txt_Es", "txt_Nue", "txt_Cc", "txt_eo", "txt_Gamma"},
               QPointF(front.left() + front.width() * 0.62, front.center().y()));
 }
-
-const DrawingNamed kDrawing("raft", Draw);
-
-}  // namespace
 
 }  // namespace lithmark

@@ -4,9 +4,9 @@
 #include <cmath>
 
 #include "core/Problems.h"
-#include "desktop/drawings/Drawings.h"
-#include "desktop/drawings/DrawnParts.h"
-#include "desktop/drawings/GroundSection.h"
+#include "render/drawings/Drawings.h"
+#include "render/drawings/DrawnParts.h"
+#include "render/drawings/GroundSection.h"
 
 namespace lithmark {
 
@@ -50,7 +50,9 @@ void DrawPressure(Sketch& s, const QRectF& room) {
     if (!s.Form.Has("txt_U")) s.Symbol("uo", room.center(), Side::On, Ink::Water);
 }
 
-void Draw(Sketch& s) {
+}  // namespace
+
+void RateDrawing(Sketch& s) {
     const SessionRecord& r = s.Record;
     const bool loaded = s.Form.Has("txt_x");
     const double line = s.LineHeight();
@@ -73,9 +75,5 @@ void Draw(Sketch& s) {
     }
     DrawPressure(s, {all.right() + 2 * kEdge, all.top(), s.Area.right() - all.right() - 4 * kEdge, all.height()});
 }
-
-const DrawingNamed kDrawing("rate", Draw);
-
-}  // namespace
 
 }  // namespace lithmark

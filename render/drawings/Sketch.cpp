@@ -1,9 +1,9 @@
-#include "desktop/drawings/Sketch.h"
+#include "render/drawings/Sketch.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "desktop/Symbols.h"
+#include "render/drawings/Symbols.h"
 
 namespace lithmark {
 

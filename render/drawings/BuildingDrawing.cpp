@@ -6,8 +6,8 @@
 #include <limits>
 
 #include "core/Problems.h"
-#include "desktop/drawings/Drawings.h"
-#include "desktop/drawings/DrawnParts.h"
+#include "render/drawings/Drawings.h"
+#include "render/drawings/DrawnParts.h"
 
 namespace lithmark {
 
@@ -174,7 +174,9 @@ void DrawSettlements(Sketch& s, const QRectF& room, const TimeAxis& time) {
     s.Number("txt_Sm", at, Side::Right, Ink::Point);
 }
 
-void Draw(Sketch& s) {
+}  // namespace
+
+void BuildingDrawing(Sketch& s) {
     const QRectF all = s.Area.adjusted(kEdge, kEdge, -kEdge, -kEdge);
     const bool wide = all.width() > kWide * all.height();
     QRectF building = all, charts = all;
@@ -193,9 +195,5 @@ void Draw(Sketch& s) {
     DrawStaircase(s, {charts.topLeft(), QPointF(charts.right(), middle)}, time);
     DrawSettlements(s, {QPointF(charts.left(), middle), charts.bottomRight()}, time);
 }
-
-const DrawingNamed kDrawing("building", Draw);
-
-}  // namespace
 
 }  // namespace lithmark

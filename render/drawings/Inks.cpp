@@ -1,4 +1,4 @@
-#include "desktop/Inks.h"
+#include "render/drawings/Inks.h"
 
 #include <QPalette>
 #include <array>

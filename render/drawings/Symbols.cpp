@@ -1,4 +1,4 @@
-#include "desktop/Symbols.h"
+#include "render/drawings/Symbols.h"
 
 #include <utility>
 
@@ -38,7 +38,9 @@ PrintSymbol SymbolInPrint(const std::string& plain) {
 QString SymbolMarkup(const std::string& plain) {
     const auto [letter, index] = SymbolInPrint(plain);
     QString markup = QStringLiteral("<i>") + letter.toHtmlEscaped() + QStringLiteral("</i>");
-    if (!index.isEmpty()) markup += QStringLiteral("<sub style=\"font-style:normal\">") + index.toHtmlEscaped() + QStringLiteral("</sub>");
+    if (!index.isEmpty())
+        markup +=
+            QStringLiteral("<sub style=\"font-style:normal\">") + index.toHtmlEscaped() + QStringLiteral("</sub>");
     return markup;
 }
 

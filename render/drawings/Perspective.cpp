@@ -1,4 +1,4 @@
-#include "desktop/drawings/Perspective.h"
+#include "render/drawings/Perspective.h"
 
 #include <algorithm>
 #include <cmath>
