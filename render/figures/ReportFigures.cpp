@@ -84,6 +84,7 @@ ReportFigure ContourFigure(CurveSet result) {
     RequestContours(result);
     auto plot = std::make_shared<BasContour>();
     plot->Prepare();
+    plot->LabelClasses(BasContour::Labels::Fine);  // in the unit of the caption
     return {Text(140017_text) + ": " + ContourTitle(), ContourSize(),
             [plot](QCPPainter& painter) { PaintContour(painter, *plot); }};
 }
