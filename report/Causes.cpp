@@ -13,14 +13,18 @@ constexpr double kHuge = 1e12;
 
 }  // namespace
 
-// Labels begin with a capital and may end in a colon. English has small letters inside a sentence, German keeps the
-// capitals of its nouns, Arabic knows none.
+// Labels begin with a capital and may end in a colon. English has small letters inside a sentence, but for somebody's
+// name and for symbols; German keeps the capitals of its nouns, Arabic knows none.
 std::string QuantityName(TextId label) {
     std::string name = Trim(Text(label));
     if (name.ends_with(':')) name.pop_back();
-    const bool word = name.size() > 1 && name[1] >= 'a' && name[1] <= 'z';
-    if (LanguageTexts().Current() == Language::English && word) name[0] = LowerAscii(name.substr(0, 1))[0];
-    return name;
+    if (LanguageTexts().Current() != Language::English) return name;
+    std::string small;
+    for (const std::string& word : Split(name, ' ')) {
+        const bool plain = word.size() > 2 && LowerAscii(word).substr(1) == word.substr(1);
+        small += (small.empty() ? "" : " ") + (plain && !word.ends_with("'s") ? LowerAscii(word) : word);
+    }
+    return small;
 }
 
 std::string QuantityName(TextId label, int number) {

@@ -34,8 +34,8 @@ const std::map<std::string, std::string>& Names() {
         {"P", "uniform load"},
         {"A", "length|radius"},
         {"B", "width"},
-        {"Nue", "Poisson's ratio|poisson's ratio"},
-        {"Es", "modulus of elasticity"},
+        {"Nue", "Poisson's ratio"},
+        {"Es", "modulus of compressibility"},
         {"h", "layer thickness|thickness of the compressible layer"},
         {"eo", "initial void ratio"},
         {"Po", "overburden pressure"},
@@ -197,9 +197,9 @@ INSTANTIATE_TEST_SUITE_P(EveryProblem, Causes, testing::Range<std::size_t>(0, Va
 
 TEST(CausesInOtherLanguages, AreToldOnceInTheLanguageOfTheReport) {
     for (const auto& [language, expected] :
-         {std::pair(Language::German, "Die Berechnung wurde abgebrochen: Elastizitätsmodul ist 0."),
-          {Language::English, "The calculation was stopped: modulus of elasticity is 0."},
-          {Language::Arabic, "توقف الحساب: معاير المرونة يساوي صفرًا."}}) {
+         {std::pair(Language::German, "Die Berechnung wurde abgebrochen: Steifemodul ist 0."),
+          {Language::English, "The calculation was stopped: modulus of compressibility is 0."},
+          {Language::Arabic, "توقف الحساب: قيمة معاير الانضغاط تساوي صفرًا."}}) {
         ScriptedHost host;
         FreshSession(language);
         Session.ProblemType = 2;

@@ -125,12 +125,12 @@ TEST_F(CurveChoice, HelpInThreeLanguages) {
     EXPECT_EQ(helpOf(Language::German),
               "Dieses Menü zeigt die verfügbaren Kurven der Ergebnisse an.\r"
               "Wählen Sie eine der Kurven der Ergebnisse aus,\r"
-              "die Sie darstellen wollen. Dann, klicken Sie auf Schaltfläche 'OK'.");
+              "die Sie darstellen wollen. Dann, klicken Sie auf Schaltfläche „OK“.");
     EXPECT_EQ(helpOf(Language::English),
               "This menu shows the available curves of results.\rSelect a curve of results to draw,\r"
               "then click on the button 'OK'.");
     EXPECT_EQ(helpOf(Language::Arabic),
-              "هذه القائمة تعرض المنحنيات المتاحة من النتائج.\rاختار منحنى من النتائج للعرض،\rثم انقر زر ،نعم،.");
+              "هذه القائمة تعرض المنحنيات المتاحة من النتائج.\rاختار منحنى من النتائج للعرض،\rثم انقر زر «موافق».");
 }
 
 }  // namespace

@@ -136,15 +136,15 @@ struct FieldCase {
 TEST_F(StressDialog, FieldsAreCheckedInTheirOrderAndNamedInTheMessage) {
     const std::vector<FieldCase> point = {{"txt_x", "x-coordinate:"},      {"txt_y", "y-coordinate:"},
                                           {"txt_z", "z-coordinate:"},      {"txt_Q", "Point load:"},
-                                          {"txt_Nue", "Poisson's ratio:"}, {"txt_Es", "Modulus of elasticity:"}};
+                                          {"txt_Nue", "Poisson's ratio:"}, {"txt_Es", "Modulus of Compressibility:"}};
     const std::vector<FieldCase> rectangle = {{"txt_x", "x-coordinate:"},      {"txt_y", "y-coordinate:"},
                                               {"txt_z", "z-coordinate:"},      {"txt_P", "Uniform load:"},
                                               {"txt_A", "Radius/ Length:"},    {"txt_B", "Width:"},
-                                              {"txt_Nue", "Poisson's ratio:"}, {"txt_Es", "Modulus of elasticity:"}};
+                                              {"txt_Nue", "Poisson's ratio:"}, {"txt_Es", "Modulus of Compressibility:"}};
     const std::vector<FieldCase> circle = {{"txt_x", "x-coordinate:"},          {"txt_y", "y-coordinate:"},
                                            {"txt_z", "z-coordinate:"},          {"txt_P", "Uniform load:"},
                                            {"txt_A", "Radius/ Length:"},        {"txt_Nue", "Poisson's ratio:"},
-                                           {"txt_Es", "Modulus of elasticity:"}};
+                                           {"txt_Es", "Modulus of Compressibility:"}};
     int option = 0;
     for (const auto& fields : {point, rectangle, circle}) {
         OnStress(3, [&](frmstress& form) {
@@ -247,7 +247,7 @@ TEST_F(StressDialog, TheHiddenModulusOfTheStressProblemMustBeValid) {
     SetProblemSaved(1, true);
     OnStress(1, [this](frmstress& form) {
         EXPECT_FALSE(form.txt_Es.Visible);
-        ExpectRefused(form, form.txt_Es, "Modulus of elasticity:");
+        ExpectRefused(form, form.txt_Es, "Modulus of Compressibility:");
     });
 }
 

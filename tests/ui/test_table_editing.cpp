@@ -88,7 +88,7 @@ TEST_F(TableEditingTest, ABlockOfASpreadsheetIsOneStep) {
     TableEditing rows = Loads();
     const Rows before = rows.Texts();
     EXPECT_EQ(rows.Paste(1, 0, "Time\tLoad\r\n3\t12,5\r\n5\t50\r\n9\t100\r\n"),
-              "3 rows pasted, decimal comma, a head left out");
+              "3 rows pasted, decimal comma, head row left out");
     EXPECT_THAT(rows.Texts(), ElementsAre(ElementsAre("1", "19.0"), ElementsAre("3", "12.5"), ElementsAre("5", "50"),
                                           ElementsAre("9", "100")));
     EXPECT_FALSE(rows.FirstFault());
