@@ -1,7 +1,9 @@
 #include <vector>
 
 #include "cli/Commands.h"
+#include "cli/Documents.h"
 #include "cli/Output.h"
+#include "cli/RunFiles.h"
 #include "contour/ChartReading.h"
 #include "contour/ChartTable.h"
 #include "contour/CurveSets.h"
@@ -13,9 +15,6 @@
 #include "services/SharedServices.h"
 #include "services/texts/LanguageTexts.h"
 #include "study/CsvText.h"
-#ifdef LITHMARK_RENDER
-#include "render/ChartDocument.h"
-#endif
 
 namespace lithmark {
 
@@ -75,13 +74,8 @@ std::string ChartJson(const ChartArguments& chart) {
 std::string ChartIn(const std::string& format, const ChartArguments& chart) {
     if (format == "json") return ChartJson(chart);
     if (format == "csv") return ChartCsv(chart);
-#ifdef LITHMARK_RENDER
-    if (format == "svg") return ChartSvg(chart);
-    if (format == "png") return ChartPng(chart);
-    if (format == "pdf") return ChartPdf(chart);
-    if (format == "xlsx") return ChartXlsx(chart);
-#endif
-    FailFormat(format);
+    if (!Documents()) FailFormat(format);
+    return Documents()->Chart(format, chart);
 }
 
 // The curve asked for, held against the problem: the fixed set of problem 5, the sets of the time-settlement problems,
@@ -110,6 +104,7 @@ ExitStatus ChartCommand(const CommonOptions& options, const ChartOptions& chartO
     const std::string format = FormatInForce(options, kChartFormats);
     OpenProjectForRun(options);
     ChooseCurve(chartOptions);
+    const RunFiles files(options.NoExport ? RunFiles::Where::Nowhere : RunFiles::Where::BesideProject);
     RunProject();
     if (Session.CalcAborted) throw CommandFailure(ExitStatus::Aborted, AbortedLine(host));
     ChartArguments chart;

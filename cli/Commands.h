@@ -21,6 +21,7 @@ struct ReportOptions {
 ExitStatus ReportCommand(const CommonOptions& options, const ReportOptions& report, ConsoleHost& host);
 
 // What each command writes, its usual format first.
+inline const std::vector<std::string> kShowFormats = {"txt", "json"};
 inline const std::vector<std::string> kReportFormats = {"txt", "json", "html", "pdf", "rtf", "csv", "xlsx"};
 inline const std::vector<std::string> kChartFormats = {"json", "csv", "svg", "png", "pdf", "xlsx"};
 inline const std::vector<std::string> kContourFormats = {"json", "svg", "png", "pdf"};

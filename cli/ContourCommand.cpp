@@ -1,6 +1,8 @@
 #include "cli/Commands.h"
+#include "cli/Documents.h"
 #include "cli/FieldJson.h"
 #include "cli/Output.h"
+#include "cli/RunFiles.h"
 #include "contour/BasContour.h"
 #include "contour/FieldSection.h"
 #include "contour/RecordingSurface.h"
@@ -11,10 +13,6 @@
 #include "kernels/RunProject.h"
 #include "services/SharedServices.h"
 #include "services/texts/LanguageTexts.h"
-#ifdef LITHMARK_RENDER
-#include "render/ContourDocument.h"
-#include "render/FieldDocument.h"
-#endif
 
 namespace lithmark {
 
@@ -106,23 +104,14 @@ std::string FieldIn(const std::string& format, const BasContour& plot, const Con
     if (section && field.Section(*section).empty())
         throw CommandFailure(ExitStatus::BadCommandLine, Text(910035_text, {{"|1", contour.Section}}));
     if (format == "json") return FieldJson(plot, field, section, contour.Size);
-#ifdef LITHMARK_RENDER
-    const FieldPicture picture{plot, field, {.DrawGrid = false}, section};
-    if (format == "svg") return FieldSvg(picture, contour.Size);
-    if (format == "png") return FieldPng(picture, contour.Size);
-    if (format == "pdf") return FieldPdf(picture, contour.Size);
-#endif
-    FailFormat(format);
+    if (!Documents()) FailFormat(format);
+    return Documents()->Field(format, plot, field, section, contour.Size);
 }
 
 std::string ContourIn(const std::string& format, BasContour& plot, int size) {
     if (format == "json") return ContourJson(plot, size);
-#ifdef LITHMARK_RENDER
-    if (format == "svg") return ContourSvg(plot, size);
-    if (format == "png") return ContourPng(plot, size);
-    if (format == "pdf") return ContourPdf(plot, size);
-#endif
-    FailFormat(format);
+    if (!Documents()) FailFormat(format);
+    return Documents()->Contour(format, plot, size);
 }
 
 }  // namespace
@@ -134,6 +123,8 @@ ExitStatus ContourCommand(const CommonOptions& options, const ContourCommandOpti
     if (!ProblemInForce().HasContours())
         throw CommandFailure(ExitStatus::BadCommandLine,
                              Text(902032_text, {{"|1", std::to_string(Session.ProblemType)}}));
+    // The plot reads the files of the run.
+    const RunFiles files(options.NoExport ? RunFiles::Where::Aside : RunFiles::Where::BesideProject);
     RunProject();
     if (Session.CalcAborted) throw CommandFailure(ExitStatus::Aborted, AbortedLine(host));
     RequestContours(contour.Result == "pressure" ? CurveSet::ContactPressure : CurveSet::RaftSettlement);

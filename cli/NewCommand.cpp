@@ -2,6 +2,7 @@
 
 #include "base/Utf8.h"
 #include "cli/Commands.h"
+#include "cli/Output.h"
 #include "core/Catalogue.h"
 #include "core/Session.h"
 #include "files/GloableVariable.h"
@@ -23,6 +24,7 @@ ExitStatus NewCommand(const CommonOptions& options, int problem, ConsoleHost& ho
     if (path.filename().empty() || path.filename() == "." || path.filename() == "..")
         fail(ExitStatus::BadCommandLine, 902012_text, options.Project);
     const fs::path dir = path.has_parent_path() ? path.parent_path() : fs::path(".");
+    RequireFolderOf(options.Project);
     if (!fs::is_directory(dir)) fail(ExitStatus::FileTrouble, 902003_text, dir.string());
 
     Session.DataDir = Session.WorkDir = dir.string() + "/";

@@ -6,6 +6,7 @@
 #include <system_error>
 
 #include "base/Utf8.h"
+#include "cli/Documents.h"
 #include "cli/Failures.h"
 #include "core/Session.h"
 #include "services/SharedServices.h"
@@ -15,7 +16,7 @@
 namespace lithmark {
 
 void WriteOutput(const std::string& path, const std::string& bytes) {
-    if (path.empty()) {
+    if (IsStandardOutput(path)) {
         const bool written = std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size();
         if (!written || std::fflush(stdout) != 0) throw CommandFailure(ExitStatus::FileTrouble, Text(902001_text));
         return;
@@ -29,9 +30,17 @@ void WriteOutput(const std::string& path, const std::string& bytes) {
     }
 }
 
+void RequireFolderOf(const std::string& path) {
+    namespace fs = std::filesystem;
+    const fs::path folder = fs::path(path).parent_path();
+    std::error_code error;
+    if (folder.empty() || fs::exists(folder, error) || error) return;
+    throw CommandFailure(ExitStatus::FileTrouble, path + ": " + Text(190008_text, {{"|1", folder.string()}}));
+}
+
 void RefuseProjectFile(const std::string& output) {
     namespace fs = std::filesystem;
-    if (output.empty() || Session.ProjectName.empty()) return;
+    if (IsStandardOutput(output) || Session.ProjectName.empty()) return;
     std::error_code error;
     // A project's file is found in either letter case.
     const fs::path named = fs::weakly_canonical(MappedFileName(output), error);
@@ -42,12 +51,22 @@ void RefuseProjectFile(const std::string& output) {
     }
 }
 
-std::string FormatInForce(const CommonOptions& options, const std::vector<std::string>& formats) {
+namespace {
+
+std::string FormatAsked(const CommonOptions& options, const std::vector<std::string>& formats) {
     if (!options.Format.empty()) return options.Format;
     const std::string ending = LowerAscii(std::filesystem::path(options.Output).extension().string());
     if (ending.size() < 2) return formats.front();
     std::string format = ending.substr(1);
     if (std::find(formats.begin(), formats.end(), format) == formats.end()) FailFormat(format);
+    return format;
+}
+
+}  // namespace
+
+std::string FormatInForce(const CommonOptions& options, const std::vector<std::string>& formats) {
+    std::string format = FormatAsked(options, formats);
+    HandOver(format);
     return format;
 }
 

@@ -19,6 +19,7 @@
 #include "files/ProblemData.h"
 #include "files/ProjectFiles.h"
 #include "files/SettingsFiles.h"
+#include "files/UnknownField.h"
 #include "kernels/RunProject.h"
 #include "report/Notices.h"
 #include "services/FileDialogs.h"
@@ -66,6 +67,7 @@ void StartCommand(const CommonOptions& options, ConsoleHost& host) {
     SharedServices().SetProgramNumber(6);
     if (!options.Settings.empty()) {
         std::error_code error;
+        if (!std::filesystem::exists(options.Settings, error)) FailFile(options.Settings, 190008_text);
         if (!std::filesystem::is_directory(options.Settings, error)) FailFile(options.Settings, 902003_text);
         SharedServices().UseSettingsDirectory(options.Settings);
     }
@@ -133,6 +135,7 @@ std::optional<bool> TryReadProject(const std::string& path, const std::string& s
 
 bool ReadProject(const std::string& path) {
     if (UpperAscii(std::filesystem::path(path).extension().string()) != ".PO3") FailFile(path, 902004_text);
+    RequireFolderOf(path);
     Session.ProjectFile = path;
     FileDialogs().SplitProjectPath(path, Session.DataDir, Session.ProjectName);
     Session.WorkDir = Session.DataDir;
@@ -165,16 +168,14 @@ void ApplySets(const std::vector<std::string>& sets) {
             throw CommandFailure(ExitStatus::BadCommandLine, Text(text, {{"|1", pair}}));
         };
         if (equals == std::string::npos || word.empty()) fail(902007_text);
-        const std::string name = FieldNameOf(Session.ProblemType, word).value_or(word);
-        switch (SetSessionField(name, pair.substr(equals + 1))) {
+        const auto name = FieldNameOf(Session.ProblemType, word);
+        if (!name) throw CommandFailure(ExitStatus::BadCommandLine, pair + ": " + UnknownFieldText(word));
+        switch (SetSessionField(*name, pair.substr(equals + 1))) {
             case SetFieldOutcome::Done:
-                if (name == "TimeUnit") Session.TimeUnit = TimeUnitInForce(Session.TimeUnit);
+                if (*name == "TimeUnit") Session.TimeUnit = TimeUnitInForce(Session.TimeUnit);
                 if (!FindProblem(Session.ProblemType)) fail(902010_text);
                 break;
-            case SetFieldOutcome::NoSuchField: {
-                const std::string nearest(NearestWord(word, FieldWords(Session.ProblemType)));
-                throw CommandFailure(ExitStatus::BadCommandLine, Text(908308_text, {{"|1", pair}, {"|2", nearest}}));
-            }
+            case SetFieldOutcome::NoSuchField:
             case SetFieldOutcome::NoSuchElement:
                 fail(902009_text);
                 break;
@@ -191,6 +192,7 @@ void OpenProjectForRun(const CommonOptions& options) {
         FailFile(DataFileName(Session.WorkDir, Session.WorkName, problem->Extension), 902005_text);
     }
     RefuseProjectFile(options.Output);
+    RequireFolderOf(options.Output);
     ApplySets(options.Sets);
     SetDerivedFields();
 }

@@ -15,6 +15,7 @@ struct CommonOptions {
     std::string Settings;           // program directory; empty: as the desktop finds it
     std::vector<std::string> Sets;  // FIELD=VALUE
     std::string Format, Output;
+    bool NoExport = false;  // a raft run writes no files beside the project
 };
 
 // Language, settings, units, formats and preferences put in force; the host is the console's.

@@ -1,17 +1,14 @@
 #include "base/NumberText.h"
 #include "cli/Commands.h"
+#include "cli/Documents.h"
 #include "cli/Output.h"
+#include "cli/RunFiles.h"
 #include "core/Session.h"
 #include "kernels/RunProject.h"
 #include "report/AfterReport.h"
 #include "report/StepTables.h"
 #include "services/texts/LanguageTexts.h"
 #include "study/CsvText.h"
-#ifdef LITHMARK_RENDER
-#include "render/ReportDocument.h"
-#include "render/StepTablesXlsx.h"
-#include "render/figures/ReportFigures.h"
-#endif
 
 namespace lithmark {
 
@@ -55,16 +52,11 @@ std::string StepTablesCsv() {
 std::string ReportIn(const std::string& format, const ReportOptions& report) {
     if (format == "csv") return StepTablesCsv();
     if (format == "txt") return ReportWith(report.Tables ? Behind::Tables : Behind::Nothing);
-#ifdef LITHMARK_RENDER
-    if (format == "xlsx") return StepTablesXlsx(Steps().Tables());
+    if (!Documents()) FailFormat(format);
+    if (format == "xlsx") return Documents()->StepTables(Steps().Tables());
     const std::string text = ReportWith(report.Tables ? (report.NoNotices ? Behind::Tables : Behind::NoticesAndTables)
                                                       : (report.NoNotices ? Behind::Nothing : Behind::Notices));
-    const ReportPaper paper = PaperWithFigures(report.Figures ? Figures::All : Figures::Drawing);
-    if (format == "html") return ReportHtml(text, paper);
-    if (format == "pdf") return ReportPdf(text, paper);
-    if (format == "rtf") return ReportRtf(text, paper);
-#endif
-    FailFormat(format);
+    return Documents()->Report(format, text, report.Figures);
 }
 
 }  // namespace
@@ -78,6 +70,9 @@ ExitStatus ReportCommand(const CommonOptions& options, const ReportOptions& repo
         throw CommandFailure(ExitStatus::BadCommandLine, Text(911004_text, {{"|1", format}}));
     OpenProjectForRun(options);
     Steps().SwitchOn(report.Tables);
+    // Contour lines among the figures are drawn from the files of the run.
+    const RunFiles::Where without = report.Figures ? RunFiles::Where::Aside : RunFiles::Where::Nowhere;
+    const RunFiles files(options.NoExport ? without : RunFiles::Where::BesideProject);
     RunProject();
     if (format == "json") WriteOutput(options.Output, JsonReport(report, host));
     if (Session.CalcAborted) throw CommandFailure(ExitStatus::Aborted, AbortedLine(host));

@@ -115,10 +115,22 @@ SummaryFile SummaryFileOf(const CommonOptions& options, const StudyOptions& stud
     return file;
 }
 
+// A document or picture is handed over before the project is opened, which might be packed.
+void HandOverEarly(const CommonOptions& options, const StudyOptions& study) {
+    CommonOptions asked = options;
+    asked.Output = OutputOf(options, study);
+    FormatInForce(asked, kStudyFormats);
+    if (study.Summary.empty() || study.Summary == "-") return;
+    asked.Output = study.Summary;
+    asked.Format.clear();
+    FormatInForce(asked, kStudyFormats);
+}
+
 }  // namespace
 
 ExitStatus StudyCommand(const CommonOptions& options, const StudyOptions& study, ConsoleHost& host) {
     CheckOptions(study);
+    HandOverEarly(options, study);
     std::signal(SIGPIPE, SIG_IGN);  // an output that nobody reads any more is a failed write
     OpenProjectForRun(options);
     host.EndOnTermination();

@@ -1,19 +1,16 @@
 #include "cli/StudySheet.h"
 
+#include "cli/Documents.h"
 #include "cli/Failures.h"
 #include "cli/Output.h"
 #include "core/Session.h"
 #include "services/texts/LanguageTexts.h"
-#ifdef LITHMARK_RENDER
-#include "render/ChartDocument.h"
-#endif
 
 namespace lithmark {
 
-#ifdef LITHMARK_RENDER
-
 std::string SheetOf(const std::vector<std::vector<std::string>>& table) {
-    return TableXlsx(Session.ProjectName, table);
+    if (!Documents()) FailFormat("xlsx");
+    return Documents()->Table(Session.ProjectName, table);
 }
 
 namespace {
@@ -34,22 +31,11 @@ class SheetRows : public RowWriter {
 }  // namespace
 
 std::unique_ptr<RowWriter> SheetWriter(const std::string& path, const StudyHead& head, std::uint64_t rows) {
+    if (!Documents()) FailFormat("xlsx");
     constexpr std::uint64_t kMostRows = 1048575;  // with its head
     if (rows > kMostRows)
         throw CommandFailure(ExitStatus::BadCommandLine, Text(908067_text, {{"|1", std::to_string(kMostRows)}}));
     return std::make_unique<SheetRows>(path, head);
 }
-
-#else
-
-std::string SheetOf(const std::vector<std::vector<std::string>>&) {
-    FailFormat("xlsx");
-}
-
-std::unique_ptr<RowWriter> SheetWriter(const std::string&, const StudyHead&, std::uint64_t) {
-    FailFormat("xlsx");
-}
-
-#endif
 
 }  // namespace lithmark

@@ -1,16 +1,13 @@
 // The answer to --tornado.
 #include <algorithm>
-#include <cmath>
 
+#include "cli/Documents.h"
 #include "cli/Output.h"
 #include "cli/StudyAnswers.h"
 #include "core/Session.h"
 #include "services/SharedServices.h"
 #include "study/StudyTakes.h"
 #include "study/Tornado.h"
-#ifdef LITHMARK_RENDER
-#include "render/TornadoDocument.h"
-#endif
 
 namespace lithmark {
 
@@ -35,31 +32,6 @@ TextTable TableOf(const std::vector<Tornado>& tornados, const StudyPlan& plan) {
     return table;
 }
 
-#ifdef LITHMARK_RENDER
-
-std::string PictureOf(const std::string& format, const Tornado& tornado) {
-    TornadoPicture picture;
-    picture.Title = Text(908303_text, {{"|1", tornado.Result}}) + "   " + Session.ProjectName;
-    picture.Axis = tornado.Result;
-    picture.LowLegend = Text(908304_text);
-    picture.HighLegend = Text(908305_text);
-    picture.Middle = static_cast<double>(tornado.Middle);
-    for (const Influence& influence : tornado.Influences)
-        if (!IsMissing(influence.Swing()))
-            picture.Bars.push_back({influence.Field + "   " + influence.Low + " … " + influence.High,
-                                    static_cast<double>(influence.AtLow), static_cast<double>(influence.AtHigh)});
-    if (!std::isfinite(picture.Middle) && !picture.Bars.empty()) picture.Middle = picture.Bars.front().AtLow;
-    return format == "svg" ? TornadoSvg(picture) : format == "png" ? TornadoPng(picture) : TornadoPdf(picture);
-}
-
-#else
-
-std::string PictureOf(const std::string& format, const Tornado&) {
-    FailFormat(format);
-}
-
-#endif
-
 }  // namespace
 
 ExitStatus AnswerTornado(const CommonOptions& options, const StudyOptions& study, const StudyPlan& plan,
@@ -67,6 +39,7 @@ ExitStatus AnswerTornado(const CommonOptions& options, const StudyOptions& study
     const std::string format = FormatOf(options, {"csv", "json", "svg", "png", "pdf"});
     const bool picture = format != "csv" && format != "json";
     const std::vector<Take> takes = TakesOf(study.Request);
+    if (picture && !Documents()) FailFormat(format);
     if (picture && (takes.size() > 1 || plan.Cases().size() > 1))
         throw CommandFailure(ExitStatus::BadCommandLine, Text(908306_text));
     for (const Variation& variation : plan.Variations()) variation.Least();  // a number, or told before anything runs
@@ -79,7 +52,7 @@ ExitStatus AnswerTornado(const CommonOptions& options, const StudyOptions& study
     tally.Missing = cases * (2 * movers + 1) - tally.Rows;
     if (tally.Missing > 0) return StatusOf(tally, options.Project);
     if (picture) {
-        WriteOutput(PathOf(options), PictureOf(format, tornados.front()));
+        WriteOutput(PathOf(options), Documents()->TornadoOf(format, tornados.front()));
     } else {
         WriteTable(PathOf(options), format, TableOf(tornados, plan));
     }

@@ -1,77 +1,14 @@
 #include "core/FieldNames.h"
 
 #include <algorithm>
-#include <array>
 #include <cctype>
-#include <span>
 
+#include "core/FieldMeanings.h"
 #include "core/SessionFields.h"
 
 namespace lithmark {
 
 namespace {
-
-struct FieldSymbol {
-    std::string_view Symbol, Name;
-};
-
-constexpr std::array kPointSymbols = {
-    FieldSymbol{"Q", "Q"}, FieldSymbol{"p", "P"},   FieldSymbol{"a", "A"},
-    FieldSymbol{"b", "B"}, FieldSymbol{"x", "x"},   FieldSymbol{"y", "y"},
-    FieldSymbol{"z", "z"}, FieldSymbol{"Es", "Es"}, FieldSymbol{"Nue_s", "Nue"},
-};
-
-constexpr std::array kConsolidationSymbols = {
-    FieldSymbol{"Q", "Q"},           FieldSymbol{"p", "P"},        FieldSymbol{"a", "A"},   FieldSymbol{"b", "B"},
-    FieldSymbol{"x", "x"},           FieldSymbol{"y", "y"},        FieldSymbol{"z", "z"},   FieldSymbol{"h", "h"},
-    FieldSymbol{"Es", "Es"},         FieldSymbol{"Cc", "Cc"},      FieldSymbol{"eo", "eo"}, FieldSymbol{"po", "Po"},
-    FieldSymbol{"Gamma_c", "Gamma"}, FieldSymbol{"Gamma*z", "Po"},
-};
-
-constexpr std::array kRateSymbols = {
-    FieldSymbol{"uo", "U"},         FieldSymbol{"Q", "Q"},
-    FieldSymbol{"p", "P"},          FieldSymbol{"a", "A"},
-    FieldSymbol{"b", "B"},          FieldSymbol{"x", "x"},
-    FieldSymbol{"y", "y"},          FieldSymbol{"z", "z"},
-    FieldSymbol{"h1", "hLayer(1)"}, FieldSymbol{"h2", "hLayer(2)"},
-    FieldSymbol{"Tc", "T"},         FieldSymbol{"Cv1", "CvLayer(1)"},
-    FieldSymbol{"k1", "KLayer(1)"}, FieldSymbol{"Cv2", "CvLayer(2)"},
-    FieldSymbol{"k2", "KLayer(2)"},
-};
-
-constexpr std::array kTimeSymbols = {
-    FieldSymbol{"Pt", "Pt"}, FieldSymbol{"Sc", "Sc"}, FieldSymbol{"Sm", "Sm"},   FieldSymbol{"Hm", "Hm"},
-    FieldSymbol{"Hb", "h"},  FieldSymbol{"k", "kf"},  FieldSymbol{"Es", "EsTS"}, FieldSymbol{"Ws", "Ws"},
-    FieldSymbol{"qv", "qv"}, FieldSymbol{"qe", "qe"}, FieldSymbol{"Cv", "CvTS"},
-};
-
-constexpr std::array kRaftSymbols = {
-    FieldSymbol{"Q", "Q"},   FieldSymbol{"e", "Exz_x"}, FieldSymbol{"a", "A"},           FieldSymbol{"b", "B"},
-    FieldSymbol{"z", "z"},   FieldSymbol{"h", "h"},     FieldSymbol{"Es", "Es"},         FieldSymbol{"Nue_s", "Nue"},
-    FieldSymbol{"Cc", "Cc"}, FieldSymbol{"eo", "eo"},   FieldSymbol{"Gamma_c", "Gamma"}, FieldSymbol{"Gamma*z", "Po"},
-};
-
-std::span<const FieldSymbol> SymbolsOf(int problemType) {
-    switch (problemType) {
-        case 1:
-        case 2:
-        case 3:
-            return kPointSymbols;
-        case 4:
-            return kConsolidationSymbols;
-        case 5:
-            return kRateSymbols;
-        case 6:
-        case 7:
-        case 8:
-            return kTimeSymbols;
-        case 9:
-        case 10:
-            return kRaftSymbols;
-        default:
-            return {};
-    }
-}
 
 char Lower(char c) {
     return static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
@@ -104,23 +41,29 @@ std::optional<std::string> FieldNameOf(int problemType, std::string_view word) {
         if (!element) return std::string(name);
         return std::string(name) + "(" + std::string(word.substr(open + 1, word.size() - open - 2)) + ")";
     }
-    const auto symbols = SymbolsOf(problemType);
-    const auto found = std::ranges::find(symbols, word, &FieldSymbol::Symbol);
-    if (found == symbols.end()) return std::nullopt;
+    if (word.empty()) return std::nullopt;
+    const auto rows = MeaningsOf(problemType);
+    const auto found = std::ranges::find(rows, word, &FieldMeaning::Symbol);
+    if (found == rows.end()) return std::nullopt;
     return std::string(found->Name);
 }
 
 std::string_view SymbolOfField(int problemType, std::string_view name) {
-    const auto symbols = SymbolsOf(problemType);
-    const auto found = std::ranges::find(symbols, name, &FieldSymbol::Name);
-    return found == symbols.end() ? std::string_view() : found->Symbol;
+    const FieldMeaning* meaning = FindMeaning(problemType, name);
+    return meaning ? meaning->Symbol : std::string_view();
 }
 
 std::vector<std::string_view> FieldWords(int problemType) {
     std::vector<std::string_view> words;
     for (const SessionField& field : SessionFields()) words.push_back(field.Name);
-    for (const FieldSymbol& symbol : SymbolsOf(problemType)) words.push_back(symbol.Symbol);
+    for (const FieldMeaning& meaning : MeaningsOf(problemType))
+        if (!meaning.Symbol.empty()) words.push_back(meaning.Symbol);
     return words;
+}
+
+std::vector<std::string_view> NearestFirst(std::string_view word, std::vector<std::string_view> known) {
+    std::ranges::stable_sort(known, {}, [&](std::string_view candidate) { return Distance(word, candidate); });
+    return known;
 }
 
 std::string_view NearestWord(std::string_view word, const std::vector<std::string_view>& known) {

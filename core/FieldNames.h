@@ -20,5 +20,7 @@ std::vector<std::string_view> FieldWords(int problemType);
 
 // The known word that takes the fewest letters to change into; the first of several. Letter case counts half.
 std::string_view NearestWord(std::string_view word, const std::vector<std::string_view>& known);
+// The known words, those first that take the fewest letters; of equals in their order.
+std::vector<std::string_view> NearestFirst(std::string_view word, std::vector<std::string_view> known);
 
 }  // namespace lithmark

@@ -43,22 +43,12 @@ def run(program, *words):
 
 
 def value_of(rest, entry):
-    """Takes apart `TEXT:{a,b} ... REQUIRED`, `INT:INT in [1 - 11]` and `a|b`."""
-    if rest.endswith(' REQUIRED') or rest == 'REQUIRED':
-        entry.required = True
-        rest = rest[:-len('REQUIRED')].rstrip()
+    """Takes apart `a|b`, and leaves other forms of a value, such as `FILE ...`, without the dots."""
     while rest.endswith(' ...'):
         rest = rest[:-4]
-    choices = re.search(r':\{([^}]*)\}', rest)
-    if choices:
-        entry.choices = choices.group(1).split(',')
-        rest = rest[:choices.start()] + rest[choices.end():]
-    elif '|' in rest:
+    if '|' in rest:
         entry.choices = rest.split('|')
-    limits = re.search(r':\S+ in \[(\S+) - (\S+)\]', rest)
-    if limits:
-        rest = rest[:limits.start()] + rest[limits.end():]
-    entry.value = {'TEXT': 'WORD', 'INT': 'N'}.get(rest, rest)
+    entry.value = rest
     return entry
 
 
@@ -85,7 +75,7 @@ def rows(lines):
 
 
 # What stands under a heading, by its English words; help in another language has the same parts in the same order.
-PARTS = {'positionals': 'arguments', 'arguments': 'arguments', 'subcommands': 'commands', 'commands': 'commands',
+PARTS = {'arguments': 'arguments', 'subcommands': 'commands', 'commands': 'commands',
          'options': 'options', 'common options': 'options', 'examples': None, 'exit status': None, 'usage': None}
 
 
@@ -109,6 +99,10 @@ def read(program, language, *words):
             command.options += [entry_of(name, text) for name, text in rows(body)]
         elif what:
             raise SystemExit(f'a part of the help that is not known: {heading}')
+        elif heading.startswith('Usage'):
+            needed = set(heading.split())
+    for option in command.options:
+        option.required = option.long in needed
     if not words and not command.commands:
         raise SystemExit(f'{program} names no commands')
     for each in command.commands:

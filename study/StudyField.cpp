@@ -6,17 +6,14 @@
 #include "base/NumberText.h"
 #include "core/FieldNames.h"
 #include "core/Session.h"
+#include "files/UnknownField.h"
 #include "study/StudyFailure.h"
 
 namespace lithmark {
 
 StudyField FindStudyField(const std::string& word) {
-    const int problem = Session.ProblemType;
-    const auto name = FieldNameOf(problem, word);
-    if (!name) {
-        const std::string nearest(NearestWord(word, FieldWords(problem)));
-        throw StudyFailure(StudyFailure::Cause::Request, Text(908011_text, {{"|1", word}, {"|2", nearest}}));
-    }
+    const auto name = FieldNameOf(Session.ProblemType, word);
+    if (!name) throw StudyFailure(StudyFailure::Cause::Request, UnknownFieldText(word));
     const auto value = SessionValue(*name);
     if (!value) FailRequest(902009_text, word);
     return {*name, value->Kind};

@@ -20,7 +20,8 @@ CliResult CliTest::RunPlain(const std::vector<std::string>& words, const std::st
     // Root may write everywhere, unless this one ability is taken from it.
     const bool dropped = asOrdinaryUser && geteuid() == 0;
     std::string line = dropped ? "setpriv --bounding-set=-dac_override --inh-caps=-dac_override env " : "";
-    line += runner + "XDG_CONFIG_HOME=" + Quoted(settings_.Dir()) + " " + Quoted(CommandLineTool().string());
+    line += runner + "XDG_CONFIG_HOME=" + Quoted(settings_.Dir()) + " " +
+            Quoted(otherProgram.empty() ? CommandLineTool().string() : otherProgram);
     for (const std::string& word : words) line += " " + Quoted(word);
     const std::string outFile = out.empty() ? output_ / "out" : out, errFile = output_ / "err";
     line += " >" + Quoted(outFile) + " 2>" + Quoted(errFile) + " </dev/null";

@@ -33,7 +33,8 @@ class CliTest : public testing::Test {
 
     TestFolder work;
     bool asOrdinaryUser = false;
-    std::string runner;  // a command that runs the program, with a blank at its end
+    std::string otherProgram;  // instead of the built one
+    std::string runner;        // a command that runs the program, with a blank at its end
 
   private:
     static std::string Quoted(const std::string& word);

@@ -1,5 +1,8 @@
 // Every output format, without a display.
+#include <cstdlib>
+
 #include "cli/CliCase.h"
+#include "support/Places.h"
 
 namespace lithmark::tests {
 namespace {
@@ -41,11 +44,50 @@ TEST_F(CliFormats, EachFormatIsWhatItsNameSays) {
         for (const std::string& line : LinesOf(result.Err)) EXPECT_TRUE(line.starts_with("notice: ")) << line;
         EXPECT_TRUE(ReadBytes(output).starts_with(c.Begin));
 #else
-        ExpectFailure(result, 2, {c.Format});
+        ExpectFailure(result, 1, {c.Format, "lithmark-render"});
         EXPECT_FALSE(std::filesystem::exists(output));
 #endif
     }
 }
+
+// The program for scripts starts in a few milliseconds because it loads nothing that draws.
+TEST_F(CliFormats, TheProgramIsLinkedWithoutTheToolkit) {
+    const std::string list = work / "libraries";
+    ASSERT_EQ(std::system(("ldd '" + CommandLineTool().string() + "' >'" + list + "'").c_str()), 0);
+    EXPECT_THAT(ReadBytes(list), HasSubstr("libc.so"));
+    for (const char* library : {"libQt", "libqcustomplot", "libxlsxwriter", "libX11"})
+        EXPECT_THAT(ReadBytes(list), testing::Not(HasSubstr(library)));
+}
+
+// lithmark-cli alone, as a package without documents has it.
+TEST_F(CliFormats, WithoutTheProgramThatDrawsADocumentIsRefusedAndTextIsNot) {
+    const std::string project = New("Footing", 1), report = Run({"report", project}).Out;
+    const std::string alone = work / "alone";
+    std::filesystem::create_directory(alone);
+    std::filesystem::copy_file(CommandLineTool(), alone + "/lithmark-cli");
+    otherProgram = alone + "/lithmark-cli";
+    EXPECT_EQ(Run({"report", project}).Out, report);
+    for (const char* format : {"pdf", "html", "rtf"}) {
+        ExpectFailure(Run({"report", project, "--format", format}), 1, {format, alone + "/lithmark-render", "package"});
+        ExpectFailure(Run({"report", project, "-o", work / (std::string("report.") + format)}), 1, {"lithmark-render"});
+    }
+    ExpectFailure(Run({"study", project, "--vary", "Q=1,2", "-o", work / "rows.xlsx"}), 1, {"lithmark-render"});
+    EXPECT_FALSE(std::filesystem::exists(work / "report.pdf"));
+    WriteBytes(alone + "/lithmark-render", "no program");
+    ExpectFailure(Run({"report", project, "--format", "pdf"}), 1, {"lithmark-render", "cannot be started"});
+}
+
+#ifdef LITHMARK_RENDER
+TEST_F(CliFormats, ADocumentGoesToStandardOutputWithTheMessagesOfItsOwnRun) {
+    const std::string project = New("Raft", 9, {"LoadType=2", "A=4", "B=4", "h=5", "Exz_x=1.2"});
+    const CliResult text = Run({"report", project}), page = Run({"report", project, "--format", "html", "-o", "-"});
+    EXPECT_EQ(page.Status, 0);
+    EXPECT_TRUE(page.Out.starts_with("<!DOCTYPE html>"));
+    EXPECT_EQ(page.Err, text.Err);
+    EXPECT_EQ(Run({"report", project, "--format", "pdf", "--set", "Es=0"}).Status, 3);
+    ExpectFailure(Run({"report", work / "Nothing.PO3", "--format", "pdf"}), 1, {"Nothing.PO3"});
+}
+#endif
 
 TEST_F(CliFormats, AProjectIsFoundFromItsOwnFolderAndUnderAnyLetterCase) {
     const std::string project = Example("PointLoad");

@@ -75,7 +75,7 @@ TEST_F(CliStudy, SymbolsOfTheReportNameFieldsAndResultsToo) {
 
 TEST_F(CliStudy, UnknownNamesAreToldWithTheNearestKnownOne) {
     const std::string project = Example("RectangularFooting");
-    ExpectFailure(Run({"study", project, "--vary", "Nu=1,2"}), 2, {"Nu:", "Nue"});
+    ExpectFailure(Run({"study", project, "--vary", "Nu=1,2"}), 2, {"\"Nu\"", "the nearest is Nue"});
     ExpectFailure(Run({"study", project, "--vary", "z=1", "--take", "Sigmaz"}), 2, {"Sigmaz", "Sigma_z"});
     ExpectFailure(Run({"study", Example("SquareRaft"), "--vary", "Q=1000", "--take", "max(NodePresure)"}), 2,
                   {"max(NodePresure)", "NodePressure"});

@@ -59,7 +59,7 @@ TEST_F(CliTables, AloneAsCsv) {
     std::vector<std::string> lines = LinesOf(result.Out);
     ASSERT_EQ(lines.size(), 2 + 441 + 3 + 1u);
     EXPECT_EQ(lines[0], "Nodes and equilibrium\r");
-    EXPECT_THAT(lines[1], StartsWith("No. i,Distance from the centre u [m],"));
+    EXPECT_THAT(lines[1], StartsWith("No. i,Distance from the center u [m],"));
     EXPECT_THAT(lines[2], StartsWith("1,-5,-5,0.0625,"));
     EXPECT_THAT(lines[443], StartsWith("Sum,,,100,,"));
     EXPECT_THAT(lines[444], StartsWith("Load,,,100,,"));

@@ -32,7 +32,7 @@ const std::map<std::string, HelpCase>& Cases() {
           {"In the menu, data and results can be listed or sent", "to printer, Excel, Word, Clipboard and",
            "VERDA-Text. Settlements and contact pressures", "of rafts can be displayed as contour lines."},
           {"في هذه القائمة يمكن عرض المعطيات والنتائج أو إرسالها", "إلى الطابعة وإكسل وورد والحافظة وفيردا تكست.",
-           "ويمكن رسم هبوط اللبشة والإجهادات تحتها كخطوط كنتورية."}}},
+           "ويمكن رسم هبوط البلاطة وضغوط التماس تحتها كخطوط كنتورية."}}},
         {"frmOptionDraw",
          {{"Dieses Menü zeigt die verfügbaren Kurven der Ergebnisse an.",
            "Wählen Sie eine der Kurven der Ergebnisse aus,",

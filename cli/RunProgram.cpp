@@ -1,0 +1,35 @@
+#include "cli/RunProgram.h"
+
+#include <cstdio>
+#include <exception>
+#include <string>
+
+#include "base/RemovedOnEnd.h"
+#include "cli/CommandLine.h"
+#include "cli/Documents.h"
+#include "services/SharedServices.h"
+#include "study/StudyFailure.h"
+
+namespace lithmark {
+
+int RunProgram(int argc, char** argv) {
+    const auto fail = [](ExitStatus status, const std::string& line) {
+        std::fprintf(stderr, "lithmark-cli: %s\n", OneLine(line).c_str());
+        return static_cast<int>(status);
+    };
+    EndCleanlyOnSignals();
+    KeepCommandLine(argv);
+    try {
+        UseLanguageAsked(argc, argv);
+        return static_cast<int>(CommandLine().Run(argc, argv));
+    } catch (const CommandFailure& failure) {
+        return fail(failure.Status(), failure.what());
+    } catch (const StudyFailure& failure) {
+        const bool request = failure.Why() == StudyFailure::Cause::Request;
+        return fail(request ? ExitStatus::BadCommandLine : ExitStatus::FileTrouble, failure.what());
+    } catch (const std::exception& error) {
+        return fail(ExitStatus::FileTrouble, SharedServices().FailureText(FailureFrom(error)));
+    }
+}
+
+}  // namespace lithmark
