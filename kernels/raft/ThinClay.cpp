@@ -26,7 +26,7 @@ Single UnitMoment(int n, const Matrix<Single>& stiffness, const Array<Single>& d
             const auto row = stiffness.Row(r);
             for (int k = 0; k < columns; ++k)
                 terms[static_cast<std::size_t>(k) * static_cast<std::size_t>(n) + static_cast<std::size_t>(r - 1)] =
-                    distances(r) * row[static_cast<std::size_t>(c + k)] * weight(r);
+                    distances(r) * row[static_cast<std::size_t>(c) + static_cast<std::size_t>(k)] * weight(r);
         }
         for (std::size_t i = 0; i < static_cast<std::size_t>(columns) * static_cast<std::size_t>(n); ++i)
             sum += terms[i];
