@@ -19,6 +19,7 @@
 #include <QSet>
 #include <QTabBar>
 
+#include "desktop/BoxMark.h"
 #include "desktop/LinkList.h"
 #include "desktop/ManualTopics.h"
 #include "desktop/PictureView.h"
@@ -28,6 +29,7 @@
 #include "render/QtText.h"
 #include "render/drawings/Symbols.h"
 #include "services/TextTools.h"
+#include "ui/model/BoxMarks.h"
 
 namespace lithmark {
 
@@ -302,6 +304,7 @@ void FormView::Show(Control& control, QWidget& widget) {
             auto& box = static_cast<QLineEdit&>(widget);
             if (box.text() != Q(control.Text)) box.setText(Q(control.Text));
             box.setReadOnly(control.ReadOnly);
+            if (const auto* marks = dynamic_cast<const BoxMarks*>(&form_)) ShowMark(box, marks->MarkOf(control));
             break;
         }
         case ControlKind::Option:

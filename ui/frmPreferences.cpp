@@ -76,7 +76,7 @@ void frmPreferences::StorePreferences() {
     if (const std::vector<BoxFault> faults = Faults(); !faults.empty()) {
         const Control* box = faults.front().Box;
         SelectRow(sstMainData, box == &txtTol || box == &txtImax ? kIterationTab : kGeometryTab);
-        return Tell(faults.front());
+        return Refuse(faults);
     }
     StoreFields(Session);
     // The circle is divided symmetrically.

@@ -291,6 +291,14 @@ TEST_F(StressViewTest, ABadValueIsToldAndTakesTheFocus) {
     EXPECT_EQ(form_.Focus, &form_.txt_Nue);
     view_->FocusOn(*form_.Focus);
     EXPECT_EQ(QApplication::focusWidget(), &Box("txt_Nue"));
+    // Marked until it is right, in words too.
+    const auto marks = [&] { return Box("txt_Nue").findChildren<QAction*>(QStringLiteral("mark")).size(); };
+    EXPECT_EQ(marks(), 1);
+    EXPECT_TRUE(Box("txt_Nue").toolTip().contains(QStringLiteral("0.5")));
+    EXPECT_EQ(Box("txt_Nue").accessibleDescription(), Box("txt_Nue").toolTip());
+    Type("txt_Nue", "0.3");
+    EXPECT_EQ(marks(), 0);
+    EXPECT_TRUE(Box("txt_Nue").toolTip().isEmpty());
 }
 
 TEST_F(StressViewTest, HidingThePictureMakesTheWindowNarrower) {

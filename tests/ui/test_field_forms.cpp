@@ -30,7 +30,7 @@ class DemoForm : public FieldForm {
         });
         cmdSave.OnClick = [this] {
             ++Pressed;
-            if (const auto faults = Faults(); !faults.empty()) return Tell(faults.front());
+            if (const auto faults = Faults(); !faults.empty()) return Refuse(faults);
             StoreFields(Session);
             MarkStored();
         };
@@ -55,6 +55,22 @@ class FieldForms : public FormTest {
         Session.Exz_x = 1;
     }
 };
+
+TEST_F(FieldForms, WhatACommandRefusesIsMarkedUntilItIsRight) {
+    DemoForm form;
+    Type(form, "txtTimePeriod", "71");
+    Type(form, "txt_A", "ab");
+    EXPECT_EQ(form.MarkOf(form.txtTimePeriod), "");  // while one types
+    Click(form, "cmdSave");
+    EXPECT_THAT(form.MarkOf(form.txtTimePeriod), HasSubstr("70"));
+    EXPECT_THAT(form.MarkOf(form.txt_A), HasSubstr("ab"));
+    EXPECT_EQ(form.MarkOf(form.txt_h), "");
+    Type(form, "txtTimePeriod", "70");
+    EXPECT_EQ(form.MarkOf(form.txtTimePeriod), "");
+    Type(form, "txtTimePeriod", "700");
+    EXPECT_THAT(form.MarkOf(form.txtTimePeriod), HasSubstr("70"));
+    EXPECT_THAT(host.Messages, ::testing::SizeIs(1));
+}
 
 TEST_F(FieldForms, WholeNumbersAndElementsOfArraysAreFieldsToo) {
     DemoForm form;

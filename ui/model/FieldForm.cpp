@@ -97,8 +97,15 @@ std::vector<BoxFault> FieldForm::Faults() const {
     return faults;
 }
 
-void FieldForm::Tell(const BoxFault& fault) {
-    SharedServices().RefuseBox(*this, *fault.Box, fault.Reason);
+void FieldForm::Refuse(const std::vector<BoxFault>& faults) {
+    for (const BoxFault& fault : faults) refused_.insert(fault.Box);
+    SharedServices().RefuseBox(*this, *faults.front().Box, faults.front().Reason);
+}
+
+std::string FieldForm::MarkOf(const Control& box) const {
+    if (!refused_.contains(&box)) return {};
+    const FieldRow* row = RowOf(box);
+    return row != nullptr && row->Field.Exists() ? row->Fault().value_or("") : "";
 }
 
 void FieldForm::StoreFields(SessionRecord& record) const {

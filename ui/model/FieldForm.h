@@ -1,9 +1,11 @@
 // FieldForm: a form whose fields, choices and captions are tables, and the way of the Enter key with them.
 #pragma once
 
+#include <set>
 #include <string>
 #include <vector>
 
+#include "ui/model/BoxMarks.h"
 #include "ui/model/ChoiceRow.h"
 #include "ui/model/FieldRow.h"
 
@@ -15,7 +17,7 @@ struct BoxFault {
     std::string Reason;
 };
 
-class FieldForm : public Form {
+class FieldForm : public Form, public BoxMarks {
   public:
     const std::vector<FieldRow>& Fields() const noexcept { return fields_; }
     const std::vector<ChoiceRow>& Choices() const noexcept { return choices_; }
@@ -24,6 +26,8 @@ class FieldForm : public Form {
 
     // What the user can change, as texts: boxes, dates, lists, options and check boxes, in the order of the controls.
     virtual std::vector<std::string> Inputs() const;
+
+    std::string MarkOf(const Control& box) const override;
 
   protected:
     using Form::Form;
@@ -46,8 +50,8 @@ class FieldForm : public Form {
 
     // What keeps the boxes from being stored, in the order of the rows.
     std::vector<BoxFault> Faults() const;
-    // Shows the message of a fault and goes to its box.
-    void Tell(const BoxFault& fault);
+    // Marks the boxes of all faults, shows the message of the first and goes to its box.
+    void Refuse(const std::vector<BoxFault>& faults);
     // Stores all values, those of hidden boxes too. A box that the user has not changed stores the very value that it
     // was shown from; one that was not checked and holds nothing that its field can take leaves the field as it was.
     // There are no faults.
@@ -67,6 +71,7 @@ class FieldForm : public Form {
     std::vector<FieldRow> fields_;
     std::vector<ChoiceRow> choices_;
     std::vector<CaptionRow> captions_;
+    std::set<const Control*> refused_;  // boxes that a command found at fault
 };
 
 }  // namespace lithmark

@@ -120,7 +120,7 @@ FormDraft ProblemForm::Draft() const {
 void ProblemForm::StoreData() {
     BeforeStore();
     FormDraft draft = Draft();
-    if (!draft.Valid()) return Tell(draft.Faults.front());
+    if (!draft.Valid()) return Refuse(draft.Faults);
     Session = std::move(draft.Record);
     MarkStored();
 }
