@@ -28,7 +28,7 @@ void AddLayers(const ConsolidationRateInput& in, const MarchRecord& march) {
 }
 
 void AddNodes(const MarchRecord& march) {
-    const double length = Session.Len1Factor, pressure = UnitFactor(0);
+    const double length = Session.Len1Factor, pressure = FactorOf(Unit::Pressure);
     StepTable& table = Steps().Add(Text(907231_text));
     table.AddColumn(13_text, "i");
     table.AddColumn(300018_text, "z", Session.Len1Label);
@@ -63,7 +63,7 @@ void AddWeights(const MarchRecord& march) {
 void AddSublayerTable(const ConsolidationInput& in, const std::vector<Sublayer>& sublayers) {
     if (sublayers.empty()) return;
     const bool byIndex = in.SoilPropertyType == SoilDefinition::ByCompressionIndex;
-    const double length = Session.Len1Factor, stress = UnitFactor(0), settlement = Session.Len2Factor;
+    const double length = Session.Len1Factor, stress = FactorOf(Unit::Pressure), settlement = Session.Len2Factor;
     StepTable& table = Steps().Add(Text(907217_text));
     table.AddColumn(907218_text, "i");
     table.AddColumn(907219_text, "z", Session.Len1Label);

@@ -25,7 +25,7 @@ void AddNodeTable(const RaftResult& result) {
         const double u = (Session.NodeX(i) - halfA) * length, v = (Session.NodeY(i) - halfB) * length;
         const double f = Session.NodeForce(i) * force;
         table.Rows.push_back({double(i), u, v, Session.NodeArea(i) * UnitFactor(6),
-                              Session.NodePressure(i) * UnitFactor(0), f, f * u, f * v,
+                              Session.NodePressure(i) * FactorOf(Unit::Pressure), f, f * u, f * v,
                               Session.NodeSettlement(i) * Session.Len2Factor});
     }
     table.AddSums({3, 5, 6, 7});

@@ -73,7 +73,7 @@ void AddStressTerms(const SoilStressInput& in, const CornerRecord& record) {
               {Sum::TauXz, "Tau_xz"},
               {Sum::TauYz, "Tau_yz"}},
              "[-]");
-    const double unit = UnitFactor(0), f = in.P / (2 * PI) * unit;
+    const double unit = FactorOf(Unit::Pressure), f = in.P / (2 * PI) * unit;
     table.AddLine(Text(907212_text, {{"|1", UnitLabel(0)}}), UnderTerms({f, -f, -f, f, -f, -f}));
     table.AddLine(Text(907213_text, {{"|1", UnitLabel(0)}}),
                   UnderTerms({Session.Sigma_z * unit, Session.Sigma_x * unit, Session.Sigma_y * unit,
