@@ -4,12 +4,14 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QStatusBar>
-#include <QStyleFactory>
 #include <QTranslator>
 
 #include "desktop/Icons.h"
 #include "desktop/MainWindow.h"
+#include "desktop/Palettes.h"
 #include "desktop/QtHost.h"
+#include "desktop/ScreenRoom.h"
+#include "desktop/WindowStyle.h"
 #include "services/SharedServices.h"
 #include "services/texts/LanguageTexts.h"
 #include "ui/frame/MDITools.h"
@@ -41,14 +43,12 @@ void PrepareApplication(QApplication& application) {
     application.setApplicationName(QString::fromStdString(kApplicationTitle));
     application.setApplicationVersion(QStringLiteral(LITHMARK_VERSION));
     application.setQuitOnLastWindowClosed(false);
-    if (QStyle* fusion = QStyleFactory::create(QStringLiteral("Fusion"))) QApplication::setStyle(fusion);
+    QApplication::setStyle(new WindowStyle);
     QFont font = QApplication::font();
     if (font.pointSizeF() < kLeastPointSize) font.setPointSizeF(kLeastPointSize);
     QApplication::setFont(font);
-    QPalette palette = QApplication::palette();
-    palette.setColor(QPalette::Highlight, QColor(0x1F, 0x77, 0xC4));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    QApplication::setPalette(palette);
+    QApplication::setPalette(PaletteOf(ThemeOf(QApplication::palette())));
+    application.installEventFilter(new KeepsOnScreen(&application));
     QApplication::setWindowIcon(ProgramIcon());
     SharedServices().DecimalSign = QLocale::system().decimalPoint() == QLatin1String(",") ? ',' : '.';
 }

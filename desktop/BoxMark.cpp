@@ -6,7 +6,7 @@
 #include <QPainter>
 #include <QPixmap>
 
-#include "desktop/Inks.h"
+#include "render/drawings/Inks.h"
 #include "render/QtText.h"
 
 namespace lithmark {

@@ -11,13 +11,13 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QShortcut>
 #include <QTableWidget>
 #include <QTextBrowser>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "core/Session.h"
+#include "desktop/FindBar.h"
 #include "desktop/ManualTopics.h"
 #include "desktop/ManualWindow.h"
 #include "desktop/ReportView.h"
@@ -35,23 +35,32 @@ namespace {
 // A dialog with a column for its content and buttons under it.
 class PlainDialog : public QDialog {
   public:
-    PlainDialog(QWidget* parent, const QString& title, bool cancel) : QDialog(parent), Content(new QVBoxLayout) {
+    PlainDialog(QWidget* parent, const QString& title, bool cancel)
+        : QDialog(parent), Content(new QVBoxLayout), cancel_(cancel) {
         setWindowTitle(title);
         setLayoutDirection(LanguageTexts().RightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
         auto* column = new QVBoxLayout(this);
         column->addLayout(Content, 1);
+    }
+    QVBoxLayout* const Content;
+
+    // The buttons are made behind the content, as the Tab key goes.
+    bool Run() {
         auto* buttons = new QDialogButtonBox(this);
         QPushButton* ok = buttons->addButton(Q(Text(6_text, Styles::Button)), QDialogButtonBox::AcceptRole);
         ok->setDefault(true);
         ok->setObjectName(QStringLiteral("cmdok"));
         connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-        if (cancel) {
+        if (cancel_) {
             buttons->addButton(Q(Text(7_text, Styles::Button)), QDialogButtonBox::RejectRole);
             connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
         }
-        column->addWidget(buttons);
+        layout()->addWidget(buttons);
+        return exec() == QDialog::Accepted;
     }
-    QVBoxLayout* Content;
+
+  private:
+    const bool cancel_;
 };
 
 // The line of the company's logo: the file that is in force or chosen, and buttons to choose and to remove it.
@@ -116,7 +125,7 @@ void ShowTextWindow(QWidget* parent, const QString& title, const QString& text) 
     label->setMinimumWidth(wide ? 560 : std::max(320, label->sizeHint().width()));
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     dialog.Content->addWidget(label);
-    dialog.exec();
+    dialog.Run();
 }
 
 void ShowManual(QWidget* parent, const QString& topic) {
@@ -142,7 +151,7 @@ std::optional<CompanyLines> AskCompanyLines(QWidget* parent, const CompanyLines&
     auto* logo = new LogoRow(&dialog);
     form->addRow(Q(Text(911005_text)), logo);
     dialog.Content->addLayout(form);
-    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    if (!dialog.Run()) return std::nullopt;
     logo->Store();
     return CompanyLines{line1->text().toStdString(), line2->text().toStdString()};
 }
@@ -166,7 +175,7 @@ std::optional<Language> AskLanguage(QWidget* parent, Language current) {
     note->setMinimumWidth(360);
     dialog.Content->addSpacing(8);
     dialog.Content->addWidget(note);
-    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    if (!dialog.Run()) return std::nullopt;
     for (std::size_t i = 0; i < options.size(); ++i)
         if (options[i]->isChecked()) return languages[i].first;
     return std::nullopt;
@@ -178,6 +187,7 @@ void ShowFilesOfFolder(QWidget* parent, const QString& folder, const QString& ex
         QDir(folder).entryInfoList({QStringLiteral("*.") + extension}, QDir::Files, QDir::Name | QDir::IgnoreCase);
     auto* table = new QTableWidget(static_cast<int>(files.size()), 3, &dialog);
     table->setObjectName(QStringLiteral("fileList"));
+    table->setAccessibleName(folder);
     table->setHorizontalHeaderLabels({Q(Text(903010_text)), Q(Text(903011_text)), Q(Text(903012_text))});
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -194,22 +204,20 @@ void ShowFilesOfFolder(QWidget* parent, const QString& folder, const QString& ex
     table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     table->setMinimumSize(560, 320);
     dialog.Content->addWidget(table);
-    dialog.exec();
+    dialog.Run();
 }
 
 void ShowReportWindow(QWidget* parent, const std::string& report) {
     PlainDialog dialog(parent, Q(Text(160030_text)), false);
-    auto* find = new QLineEdit(&dialog);
-    find->setPlaceholderText(Q(Text(903000_text)));
+    auto* find = new FindBar(&dialog);
     auto* view = new ReportView(&dialog);
+    find->LookIn(*view);
+    view->setAccessibleName(dialog.windowTitle());
     view->ShowReport(report, Text(160017_text), LanguageTexts().RightToLeft());
-    QObject::connect(find, &QLineEdit::returnPressed, view, [find, view] { view->FindNext(find->text()); });
-    auto* shortcut = new QShortcut(QKeySequence::Find, &dialog);
-    QObject::connect(shortcut, &QShortcut::activated, find, qOverload<>(&QWidget::setFocus));
     dialog.Content->addWidget(find);
     dialog.Content->addWidget(view, 1);
     dialog.resize(760, 700);
-    dialog.exec();
+    dialog.Run();
 }
 
 }  // namespace lithmark

@@ -14,22 +14,26 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScopedValueRollback>
-#include <QScreen>
 #include <QScrollArea>
-#include <QSet>
 #include <QTabBar>
 
 #include "desktop/BoxMark.h"
+#include "desktop/FieldNames.h"
+#include "desktop/FormKeys.h"
 #include "desktop/LinkList.h"
 #include "desktop/ManualTopics.h"
+#include "desktop/NumberSteps.h"
 #include "desktop/PictureView.h"
 #include "desktop/ReportView.h"
+#include "desktop/ScreenRoom.h"
 #include "desktop/Sizes.h"
 #include "desktop/layouts/Layouts.h"
 #include "render/QtText.h"
 #include "render/drawings/Symbols.h"
+#include "services/SharedServices.h"
 #include "services/TextTools.h"
 #include "ui/model/BoxMarks.h"
+#include "ui/model/FindField.h"
 
 namespace lithmark {
 
@@ -64,30 +68,11 @@ FormView::FormView(Form& form, QWidget* parent) : QDialog(parent), form_(form) {
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     BuildLayout(*this);
     for (Control* control : form.Controls()) WidgetOf(*control);
+    BindKeys(*this);
     Refresh();
-    NameFields();
     BindHelpKey(*this, [&form] { return TopicOfForm(form); });
     // All words in full, as far as the screen goes; a layout may have chosen a size of its own.
-    if (!testAttribute(Qt::WA_Resized)) resize(sizeHint().boundedTo(Room()));
-}
-
-QSize FormView::Room() const {
-    return screen()->availableGeometry().size() * sizes::kScreenShare;
-}
-
-void FormView::NameFields() {
-    QSet<QWidget*> labelled;
-    for (const QLabel* label : findChildren<QLabel*>())
-        if (label->buddy() != nullptr) labelled.insert(label->buddy());
-    QString before;
-    for (Control* control : form_.Controls()) {
-        const bool heading = control->Kind == ControlKind::TextLabel || control->Kind == ControlKind::Frame;
-        if (heading && !control->Caption.empty() && !control->Caption.starts_with('[')) before = Q(control->Caption);
-        const bool field = control->Kind == ControlKind::TextBox || control->Kind == ControlKind::ComboBox ||
-                           control->Kind == ControlKind::DatePicker || control->Kind == ControlKind::TextArea;
-        QWidget* widget = WidgetOf(*control);
-        if (field && !labelled.contains(widget)) widget->setAccessibleName(before);
-    }
+    if (!testAttribute(Qt::WA_Resized)) resize(sizeHint().boundedTo(ScreenRoom(*this)));
 }
 
 FormView::~FormView() {
@@ -153,17 +138,15 @@ QWidget* FormView::Make(Control& control) {
         }
         case ControlKind::TextBox: {
             auto* box = new QLineEdit(this);
-            connect(box, &QLineEdit::textEdited, this, [this, &control](const QString& text) {
-                control.Text = text.toStdString();
-                Act(control.OnChange);
-            });
+            connect(box, &QLineEdit::textEdited, this,
+                    [this, &control](const QString& text) { Edited(control, text); });
             box->installEventFilter(this);
             widget = box;
             break;
         }
         case ControlKind::Option: {
             auto* option = new QRadioButton(this);
-            option->setAutoExclusive(false);
+            options_.Add(control, *option);
             connect(option, &QRadioButton::clicked, this, [this, &control] {
                 form_.SelectOption(control);
                 Act(control.OnClick);
@@ -249,6 +232,24 @@ QWidget* FormView::Make(Control& control) {
     return widget;
 }
 
+void FormView::Edited(Control& control, const QString& text) {
+    control.Text = text.toStdString();
+    Act(control.OnChange);
+}
+
+// Up and Down step the digit left of the cursor by one, the page keys by ten.
+bool FormView::StepsNumber(Control& control, QLineEdit& box, int key) {
+    const FieldRow* row = FindField(form_, control);
+    if (row == nullptr || !row->Field.Exists()) return false;
+    const int steps = key == Qt::Key_Up ? 1 : key == Qt::Key_Down ? -1 : key == Qt::Key_PageUp ? 10 : -10;
+    const auto stepped = StepNumber(box.text(), box.cursorPosition(), steps, QLatin1Char(SharedServices().DecimalSign));
+    if (!stepped) return false;
+    box.setText(stepped->Text);
+    Edited(control, stepped->Text);
+    box.setCursorPosition(stepped->Cursor);
+    return true;
+}
+
 void FormView::Act(const std::function<void()>& event) {
     if (event) event();
     keep_.start();
@@ -266,6 +267,8 @@ void FormView::Refresh() {
     setWindowTitle(Q(form_.Caption) + QStringLiteral("[*]"));
     setWindowModified(form_.Modified());
     for (Control* control : form_.Controls()) Show(*control, *WidgetOf(*control));
+    options_.SettleStops();
+    NameFields(*this);
     if (AfterRefresh) AfterRefresh();
     FitContent();
 }
@@ -284,12 +287,18 @@ void FormView::FitContent() {
     // What stands deep inside tells its new size from group to group up to the window.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     layout()->activate();
-    const QSize wanted = sizeHint().boundedTo(Room());
+    const QSize wanted = sizeHint().boundedTo(ScreenRoom(*this));
     const bool grown = wanted.height() > heightWanted_;
     heightWanted_ = wanted.height();
     if (first) return;
     if (pictures) resize(wanted.width(), height());
     if (grown && wanted.height() > height()) resize(width(), wanted.height());
+}
+
+void FormView::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (event->spontaneous() || form_.Focus != nullptr) return;
+    if (QWidget* first = FirstStop(*this)) FocusOn(*form_.Find(first->objectName().toStdString()));
 }
 
 void FormView::Show(Control& control, QWidget& widget) {
@@ -309,7 +318,7 @@ void FormView::Show(Control& control, QWidget& widget) {
         }
         case ControlKind::Option:
             static_cast<QRadioButton&>(widget).setText(caption);
-            static_cast<QRadioButton&>(widget).setChecked(control.Value);
+            OptionGroups::Set(static_cast<QRadioButton&>(widget), control.Value);
             break;
         case ControlKind::CheckBox:
             static_cast<QCheckBox&>(widget).setText(caption);
@@ -381,6 +390,10 @@ bool FormView::eventFilter(QObject* watched, QEvent* event) {
         if (Control* control = form_.Find(watched->objectName().toStdString())) form_.Focus = control;
     } else if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
+        const bool steps = key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown;
+        if (auto* box = qobject_cast<QLineEdit*>(watched); box != nullptr && steps)
+            if (Control* control = form_.Find(box->objectName().toStdString()))
+                if (StepsNumber(*control, *box, key)) return true;
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {
             if (auto* button = qobject_cast<QPushButton*>(watched)) {
                 button->click();

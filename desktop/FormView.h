@@ -7,9 +7,10 @@
 #include <functional>
 #include <unordered_map>
 
+#include "desktop/OptionGroups.h"
 #include "services/host/Form.h"
 
-class QLabel;
+class QLineEdit;
 class QWidget;
 
 namespace lithmark {
@@ -49,24 +50,24 @@ class FormView : public QDialog {
     void reject() override;
 
   protected:
+    void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     QWidget* Make(Control& control);
+    void Edited(Control& control, const QString& text);
+    bool StepsNumber(Control& control, QLineEdit& box, int key);
     void Show(Control& control, QWidget& widget);
-    // Gives every field without a label of its own the name of what stands before it, for screen readers.
-    void NameFields();
     // The window grows and shrinks with its pictures, and grows with the fields that an event brings into sight, as far
     // as the screen goes.
     void FitContent();
-    // What a window may take of the screen.
-    QSize Room() const;
     // Runs an event of the model, then refreshes.
     void Act(const std::function<void()>& event);
 
     Form& form_;
     std::unordered_map<const Control*, QWidget*> widgets_;
     std::unordered_map<const Control*, int> placed_;
+    OptionGroups options_{*this};
     bool refreshing_ = false;
     QTimer keep_;  // runs from an event of the user until the form keeps its input
     int picturesShown_ = -1, heightWanted_ = 0;

@@ -1,5 +1,6 @@
 #include "desktop/Icons.h"
 
+#include <QGuiApplication>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
@@ -8,6 +9,7 @@
 
 #include "core/Catalogue.h"
 #include "render/drawings/Logo.h"
+#include "render/drawings/Inks.h"
 #include "services/ListTools.h"
 
 namespace lithmark {
@@ -16,6 +18,11 @@ namespace {
 
 const QColor kInk(0x2B, 0x3A, 0x4A), kBlue(0x1F, 0x77, 0xC4), kSand(0xE3, 0xC5, 0x8F), kClay(0xB9, 0x7A, 0x4F),
     kGreen(0x2E, 0x8B, 0x57), kPaper(0xFF, 0xFF, 0xFF);
+
+// Lines that are seen on the windows' ground.
+QColor Outline() {
+    return ThemeOf(QGuiApplication::palette()) == Theme::Dark ? ColourOf(Ink::Quiet, Theme::Dark) : kInk;
+}
 
 // Drawings on a field of 24 by 24.
 using Drawing = std::function<void(QPainter&)>;
@@ -28,7 +35,7 @@ void Paper(QPainter& p) {
     page.lineTo(18, 21);
     page.lineTo(6, 21);
     page.closeSubpath();
-    p.setPen(QPen(kInk, 1.4));
+    p.setPen(QPen(Outline(), 1.4));
     p.setBrush(kPaper);
     p.drawPath(page);
     p.drawPolyline(QPolygonF({{14, 3}, {14, 7}, {18, 7}}));
@@ -42,7 +49,7 @@ void NewIcon(QPainter& p) {
 }
 
 void FolderIcon(QPainter& p) {
-    p.setPen(QPen(kInk, 1.4));
+    p.setPen(QPen(Outline(), 1.4));
     p.setBrush(kSand);
     p.drawPolygon(QPolygonF({{3, 6}, {9, 6}, {11, 8}, {20, 8}, {20, 19}, {3, 19}}));
     p.setBrush(kSand.lighter(112));
@@ -50,7 +57,7 @@ void FolderIcon(QPainter& p) {
 }
 
 void SaveIcon(QPainter& p) {
-    p.setPen(QPen(kInk, 1.4));
+    p.setPen(QPen(Outline(), 1.4));
     p.setBrush(kBlue);
     p.drawPolygon(QPolygonF({{4, 4}, {17, 4}, {20, 7}, {20, 20}, {4, 20}}));
     p.setBrush(kPaper);
@@ -74,7 +81,7 @@ void LoadOnSoil(QPainter& p) {
 
 // A settlement curve that runs out.
 void CurveIcon(QPainter& p) {
-    p.setPen(QPen(kInk, 1.4));
+    p.setPen(QPen(Outline(), 1.4));
     p.drawPolyline(QPolygonF({{21.5, 4}, {4, 4}, {4, 21.5}}));
     QPainterPath curve(QPointF(4, 4));
     curve.cubicTo(QPointF(6, 15), QPointF(12, 18), QPointF(21, 18.5));
@@ -87,7 +94,7 @@ void RaftIcon(QPainter& p) {
     p.setPen(Qt::NoPen);
     p.setBrush(kSand);
     p.drawRect(QRectF(2, 13, 20, 9));
-    p.setBrush(kInk);
+    p.setBrush(Outline());
     p.drawRect(QRectF(4, 9.5, 16, 3.5));
     p.drawRect(QRectF(10, 3, 4, 7));
     p.setPen(QPen(kBlue, 1.4));
@@ -109,12 +116,12 @@ void ListIcon(QPainter& p) {
 
 void GearIcon(QPainter& p) {
     p.translate(12, 12);
-    p.setPen(QPen(kInk, 3.4));
+    p.setPen(QPen(Outline(), 3.4));
     for (int i = 0; i < 8; ++i) {
         p.drawLine(QPointF(0, -6), QPointF(0, -9));
         p.rotate(45);
     }
-    p.setPen(QPen(kInk, 1.4));
+    p.setPen(QPen(Outline(), 1.4));
     p.setBrush(kBlue.lighter(140));
     p.drawEllipse(QPointF(0, 0), 6.4, 6.4);
     p.setBrush(kPaper);
@@ -122,14 +129,14 @@ void GearIcon(QPainter& p) {
 }
 
 void RulerIcon(QPainter& p) {
-    p.setPen(QPen(kInk, 1.4));
+    p.setPen(QPen(Outline(), 1.4));
     p.setBrush(kSand);
     p.drawRect(QRectF(2, 8, 20, 8));
     for (int i = 1; i < 8; ++i) p.drawLine(QPointF(2 + 2.5 * i, 8), QPointF(2 + 2.5 * i, i % 2 == 0 ? 13 : 11));
 }
 
 void GlobeIcon(QPainter& p) {
-    p.setPen(QPen(kInk, 1.3));
+    p.setPen(QPen(Outline(), 1.3));
     p.setBrush(kBlue.lighter(165));
     p.drawEllipse(QRectF(3, 3, 18, 18));
     p.setBrush(Qt::NoBrush);
@@ -140,19 +147,19 @@ void GlobeIcon(QPainter& p) {
 }
 
 void CompanyIcon(QPainter& p) {
-    p.setPen(QPen(kInk, 1.4));
+    p.setPen(QPen(Outline(), 1.4));
     p.setBrush(kSand.lighter(115));
     p.drawRect(QRectF(5, 3, 14, 18));
     p.setPen(Qt::NoPen);
     p.setBrush(kBlue);
     for (const double y : {6.0, 10.0, 14.0})
         for (const double x : {8.0, 13.5}) p.drawRect(QRectF(x, y, 2.6, 2.6));
-    p.setBrush(kInk);
+    p.setBrush(Outline());
     p.drawRect(QRectF(10.4, 17, 3.2, 4));
 }
 
 void HelpIcon(QPainter& p, const QString& sign) {
-    p.setPen(QPen(kInk, 1.4));
+    p.setPen(QPen(Outline(), 1.4));
     p.setBrush(kBlue);
     p.drawEllipse(QRectF(3, 3, 18, 18));
     QFont font(QStringLiteral("DejaVu Sans"));

@@ -15,6 +15,7 @@
 #include "desktop/Icons.h"
 #include "desktop/ManualTopics.h"
 #include "desktop/ProjectView.h"
+#include "desktop/ScrollColumn.h"
 #include "desktop/StartView.h"
 #include "render/QtText.h"
 
@@ -24,6 +25,7 @@ namespace {
 
 constexpr int kRightButton = 2;
 constexpr int kLongestPath = 64;
+constexpr int kStartPage = 0, kProjectPage = 1;
 
 bool IsRecentFile(const std::string& key) {
     return key.starts_with("MnuRecentFile");
@@ -72,8 +74,8 @@ void MainWindow::Build() {
     start_->OnCommand = [this](const std::string& key) { RunLater(key); };
     project_ = new ProjectView(pages_);
     project_->OnCommand = [this](const std::string& key) { RunLater(key); };
-    pages_->addWidget(start_);
-    pages_->addWidget(project_);
+    pages_->insertWidget(kStartPage, new ScrollColumn(start_, pages_));
+    pages_->insertWidget(kProjectPage, new ScrollColumn(project_, pages_));
 }
 
 void MainWindow::BuildMenu(QMenu& menu, const std::string& parent) {
@@ -159,11 +161,11 @@ void MainWindow::ShowPage() {
     if (frame_.ProjectOpen()) {
         const ProjectSummary summary = frame_.Summary();
         project_->Show(summary);
-        pages_->setCurrentWidget(project_);
+        pages_->setCurrentIndex(kProjectPage);
         place_->setText(Q(summary.Directory));
     } else {
         start_->Show(frame_.RecentProjects());
-        pages_->setCurrentWidget(start_);
+        pages_->setCurrentIndex(kStartPage);
         place_->clear();
     }
 }

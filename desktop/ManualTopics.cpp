@@ -35,11 +35,6 @@ std::string_view Find(const std::array<Key, n>& keys, std::string_view name) {
     return {};
 }
 
-std::string ProblemTopic() {
-    const int problem = Session.ProblemType;
-    return problem >= 1 && problem <= 10 ? std::string(kProblemPage) + std::to_string(problem) : "index";
-}
-
 }  // namespace
 
 std::string PageOfTopic(const std::string& topic) {
@@ -57,9 +52,14 @@ std::string PageOfTopic(const std::string& topic) {
     return {};
 }
 
+std::string TopicOfProblem() {
+    const int problem = Session.ProblemType;
+    return problem >= 1 && problem <= 10 ? std::string(kProblemPage) + std::to_string(problem) : "index";
+}
+
 std::string TopicOfForm(const Form& form) {
     const std::string_view page = Find(kForms, form.Name);
-    return page.empty() ? ProblemTopic() : std::string(page);
+    return page.empty() ? TopicOfProblem() : std::string(page);
 }
 
 std::string PageOfLink(const std::string& page, const std::string& link) {

@@ -22,6 +22,9 @@ std::string PageOfTopic(const std::string& topic);
 // The topic of a form: its problem's page, or the page on what the form sets.
 std::string TopicOfForm(const Form& form);
 
+// The page of the problem in force.
+std::string TopicOfProblem();
+
 // Where a link of a page leads, as a page with its section. Empty for one that leads out of the manual.
 std::string PageOfLink(const std::string& page, const std::string& link);
 

@@ -110,6 +110,7 @@ ManualWindow::ManualWindow(QWidget* parent, const std::string& page)
     setObjectName(QStringLiteral("manualWindow"));
     setWindowTitle(Q(Text(160030_text)));
     browser_->setObjectName(QStringLiteral("manualPage"));
+    browser_->setAccessibleName(windowTitle());
     browser_->setOpenLinks(false);
     connect(browser_, &QTextBrowser::anchorClicked, this,
             [this](const QUrl& link) { Follow(link.toString().toStdString()); });

@@ -3,6 +3,7 @@
 #include <QBoxLayout>
 #include <QLabel>
 
+#include "services/SharedServices.h"
 #include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
@@ -73,6 +74,11 @@ void MakeQuiet(QLabel& label) {
 QString PlainCaption(const std::string& caption) {
     QString text = QString::fromStdString(caption);
     return text.remove(QLatin1Char('&'));
+}
+
+QString PlainNumber(double value) {
+    constexpr int kDigits = 6;
+    return QString::number(value, 'g', kDigits).replace(QLatin1Char('.'), QLatin1Char(SharedServices().DecimalSign));
 }
 
 }  // namespace lithmark

@@ -27,7 +27,10 @@ class PageButton : public QPushButton {
 };
 // Writes a label in a softer colour.
 void MakeQuiet(QLabel& label);
-// A menu caption without its mnemonic mark.
+// A caption without its mnemonic mark.
 QString PlainCaption(const std::string& caption);
+
+// A number as short as six digits allow, with the decimal sign in force.
+QString PlainNumber(double value);
 
 }  // namespace lithmark

@@ -5,6 +5,7 @@
 #include <QWidget>
 #include <functional>
 
+#include "desktop/Sizes.h"
 #include "render/drawings/DrawnForm.h"
 #include "render/drawings/Sketch.h"
 
@@ -13,7 +14,7 @@ namespace lithmark {
 class PictureView : public QWidget {
   public:
     PictureView(const Control& control, QWidget* parent);
-    QSize sizeHint() const override { return {340, 300}; }
+    QSize sizeHint() const override { return {sizes::kPictureGoodWidth, sizes::kPictureGoodHeight}; }
 
     // The values may have changed.
     void Follow();

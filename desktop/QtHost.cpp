@@ -4,7 +4,6 @@
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QProcess>
@@ -14,13 +13,16 @@
 #include <QTemporaryDir>
 #include <QThread>
 #include <QUrl>
+#include <limits>
 
 #include "desktop/ChartWindow.h"
 #include "desktop/Dialogs.h"
 #include "desktop/FormView.h"
 #include "desktop/Printing.h"
+#include "desktop/SaveReport.h"
 #include "desktop/SplashView.h"
 #include "desktop/TableEditorDialog.h"
+#include "desktop/Toast.h"
 #include "render/QtText.h"
 #include "render/ReportDocument.h"
 #include "render/figures/ReportFigures.h"
@@ -117,17 +119,26 @@ void QtHost::ShowFileStatus(FileStatus status) {
                                                  : QString());
 }
 
-// The bar comes only for runs that take long enough to be waited for.
+// The bar comes only for runs that take long enough to be waited for. The windows are painted all the while, but until
+// the bar is there no key and no click may begin anything else.
 bool QtHost::Progress(double fraction) {
+    constexpr int kWhole = 1000;
+    constexpr qint64 kPatience = 700;  // milliseconds
     if (!progress_) {
-        progress_ = std::make_unique<QProgressDialog>(Q(Text(903005_text)), Q(Text(7_text)), 0, 1000, Parent());
-        progress_->setWindowModality(Qt::WindowModal);
+        progress_ = std::make_unique<QProgressDialog>(Q(Text(903005_text)), Q(Text(7_text)), 0, kWhole, Parent());
+        progress_->setObjectName(QStringLiteral("progress"));
+        progress_->setLayoutDirection(LanguageTexts().RightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+        progress_->setWindowModality(Qt::ApplicationModal);
         progress_->setWindowTitle(Q(Text(160030_text)));
-        progress_->setMinimumDuration(700);
+        progress_->setMinimumDuration(std::numeric_limits<int>::max());
         progress_->setAutoClose(false);
         progress_->setAutoReset(false);
+        progressSince_.start();
     }
-    progress_->setValue(static_cast<int>(fraction * 1000));
+    progress_->setValue(static_cast<int>(fraction * kWhole));
+    if (!progress_->isVisible() && !progress_->wasCanceled() && progressSince_.elapsed() >= kPatience)
+        progress_->show();
+    QApplication::processEvents(progress_->isVisible() ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents);
     return !progress_->wasCanceled();
 }
 
@@ -240,11 +251,12 @@ void QtHost::OpenWordProcessor(const std::string& text, const std::string&, int,
     const QString opener = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
     const bool opened = opener.isEmpty() ? QDesktopServices::openUrl(QUrl::fromLocalFile(Q(path)))
                                          : QProcess::startDetached(opener, {Q(path)});
-    if (!opened) ShowMessage(Text(160030_text), Text(909012_text, {{"|1", path}}), MessageIcon::Exclamation);
+    if (!opened) SaveReport(Parent(), text);
 }
 
 void QtHost::SetClipboardText(const std::string& text) {
     QApplication::clipboard()->setText(Q(text));
+    if (QWidget* window = Parent()) ShowToast(*window, Q(Text(910214_text)));
 }
 
 void QtHost::StartProcess(const std::string& program, const std::vector<std::string>& arguments) {

@@ -1,6 +1,7 @@
 // QtHost: the desktop's answer to everything that the program asks of a screen.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QPointer>
 #include <memory>
 
@@ -60,6 +61,7 @@ class QtHost : public Host {
     QPointer<QWidget> frame_;
     std::unique_ptr<SplashView> splash_;
     std::unique_ptr<QProgressDialog> progress_;
+    QElapsedTimer progressSince_;
     bool hourglass_ = false;
 };
 

@@ -9,10 +9,16 @@
 
 namespace lithmark {
 
+namespace {
+
+constexpr int kLeastWidth = 420, kLeastHeight = 120;  // on a small screen
+
+}  // namespace
+
 ReportView::ReportView(QWidget* parent) : QPlainTextEdit(parent) {
     setReadOnly(true);
     setLineWrapMode(QPlainTextEdit::NoWrap);
-    setMinimumSize(560, 420);
+    setMinimumSize(kLeastWidth, kLeastHeight);
 }
 
 void ReportView::ShowReport(const std::string& text, const std::string& fontName, bool rightToLeft) {
@@ -31,6 +37,20 @@ void ReportView::ShowReport(const std::string& text, const std::string& fontName
     option.setWrapMode(QTextOption::NoWrap);
     document()->setDefaultTextOption(option);
     setPlainText(QString::fromStdString(shown));
+}
+
+QSize ReportView::sizeHint() const {
+    constexpr int kColumns = 66, kLines = 26;
+    return {fontMetrics().averageCharWidth() * kColumns + 2 * frameWidth(), fontMetrics().lineSpacing() * kLines};
+}
+
+std::pair<int, int> ReportView::PlaceOf(const QString& text) const {
+    int place = 0, all = 0;
+    for (QTextCursor at = document()->find(text); !at.isNull(); at = document()->find(text, at)) {
+        ++all;
+        if (at.selectionStart() == textCursor().selectionStart() && textCursor().hasSelection()) place = all;
+    }
+    return {place, all};
 }
 
 bool ReportView::FindNext(const QString& text, bool backwards) {

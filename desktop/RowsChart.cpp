@@ -4,9 +4,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "base/NumberText.h"
-#include "render/QtText.h"
-#include "services/SharedServices.h"
+#include "desktop/PageTools.h"
 
 namespace lithmark {
 
@@ -26,7 +24,7 @@ std::pair<double, double> RangeOf(const std::vector<QPointF>& points, double (QP
 }
 
 QString NumberAt(double value) {
-    return Q(FormatNumber(value, "0.###", SharedServices().DecimalSign));
+    return PlainNumber(value);
 }
 
 }  // namespace
@@ -48,7 +46,8 @@ void RowsChart::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillRect(rect(), palette().base());
-    const QRectF area(kLeftRoom, kEdge + kLineRoom, width() - kLeftRoom - 2 * kEdge, height() - kEdge - 3 * kLineRoom);
+    const QRectF area(kLeftRoom, kEdge + 2 * kLineRoom, width() - kLeftRoom - 2 * kEdge,
+                      height() - kEdge - 4 * kLineRoom);
     const auto [x0, x1] = RangeOf(points_, &QPointF::x);
     const auto [y0, y1] = RangeOf(points_, &QPointF::y);
     const auto at = [&, x0 = x0, x1 = x1, y0 = y0, y1 = y1](const QPointF& p) {

@@ -13,7 +13,11 @@ inline constexpr int kColumnGap = 8;  // between the parts of a field's line
 // One width for all boxes, units and symbols, so that they stand under each other from group to group.
 inline constexpr int kBoxWidth = 120, kUnitWidth = 68, kSymbolWidth = 48;
 
+inline constexpr int kClicked = 24;  // the least of what is clicked
+
 inline constexpr int kPictureWidth = 300, kPictureHeight = 260;  // the least
-inline constexpr double kScreenShare = 0.95;                     // of the free area, for a window at most
+inline constexpr int kPictureGoodWidth = 440, kPictureGoodHeight = 400;
+inline constexpr double kScreenShare = 0.95;  // of the free area, for a window at most
+inline constexpr int kTitleBar = 36;          // what its frame takes of it
 
 }  // namespace lithmark::sizes

@@ -12,6 +12,8 @@
 #include <algorithm>
 
 #include "base/Utf8.h"
+#include "render/drawings/Inks.h"
+#include "desktop/ManualTopics.h"
 #include "desktop/PageTools.h"
 #include "desktop/RowsChart.h"
 #include "desktop/Sizes.h"
@@ -22,8 +24,6 @@
 namespace lithmark {
 
 namespace {
-
-const QColor kErrorGround(0xFB, 0xDD, 0xDA), kErrorInk(0xA8, 0x23, 0x1B);
 
 // "Time [days]": title and unit of a column.
 QString AxisTitle(const std::string& head) {
@@ -129,6 +129,7 @@ void TableEditorDialog::BindKeys() {
     bind(QKeySequence(Qt::CTRL | Qt::Key_Minus), [this] { delete_->click(); });
     bind(QKeySequence(Qt::ALT | Qt::Key_Up), [this] { up_->click(); });
     bind(QKeySequence(Qt::ALT | Qt::Key_Down), [this] { down_->click(); });
+    BindHelpKey(*this, TopicOfProblem);
 }
 
 TableEditorDialog::Selection TableEditorDialog::Selected() const {
@@ -159,8 +160,11 @@ void TableEditorDialog::MarkCell(int row, int column) {
     QTableWidgetItem& item = *grid_->item(row, column);
     const auto fault = rows_.Fault(row, column);
     const bool hides = !fault && rows_.HidesDigits(row, column);
-    item.setBackground(fault ? QBrush(kErrorGround) : QBrush());
-    item.setForeground(fault ? QBrush(kErrorInk) : QBrush());
+    const QColor ink = ColourOf(Ink::Error, ThemeOf(palette()));
+    QColor ground = ink;
+    ground.setAlpha(40);
+    item.setBackground(fault ? QBrush(ground) : QBrush());
+    item.setForeground(fault ? QBrush(ink) : QBrush());
     QFont font = item.font();
     font.setItalic(hides);
     font.setBold(fault.has_value());
@@ -181,7 +185,7 @@ void TableEditorDialog::ShowState() {
     }
     note_->setText(Q(note));
     QPalette ink = palette();
-    if (fault) ink.setColor(QPalette::WindowText, kErrorInk);
+    if (fault) ink.setColor(QPalette::WindowText, ColourOf(Ink::Error, ThemeOf(palette())));
     note_->setPalette(ink);
     ok_->setEnabled(!fault);
     undo_->setEnabled(rows_.CanUndo());

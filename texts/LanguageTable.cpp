@@ -44,6 +44,7 @@ constexpr LanguageRow kRows[] = {
 #include "texts/tables/own_help.inc"
 #include "texts/tables/own_dialogs.inc"
 #include "texts/tables/own_storage.inc"
+#include "texts/tables/own_windows.inc"
     // clang-format on
 };
 

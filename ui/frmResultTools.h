@@ -41,10 +41,12 @@ class frmResultTools : public Form {
     // The manual's section of the notice that is selected.
     void lstNotices_Click();
 
+    // The report as documents have it.
+    std::string DocumentText() const;
+
   private:
     void ShowNotices();
     std::string SentText() const;
-    std::string DocumentText() const;
 };
 
 // The viewer for SetResultViewer.

@@ -1,9 +1,12 @@
 #include <QBoxLayout>
-#include <QLineEdit>
-#include <QShortcut>
+#include <QPushButton>
 
+#include "desktop/FindBar.h"
 #include "desktop/FormView.h"
 #include "desktop/ReportView.h"
+#include "desktop/SaveReport.h"
+#include "desktop/ScreenRoom.h"
+#include "desktop/ScrollColumn.h"
 #include "desktop/Sizes.h"
 #include "desktop/layouts/LayoutTools.h"
 #include "desktop/layouts/Layouts.h"
@@ -15,18 +18,10 @@ namespace lithmark {
 
 static const LayoutOf<frmResultTools> kLayout([](FormView& view, frmResultTools& form) {
     QWidget* result = view.Place(form.fraResult);
+    auto* find = new FindBar(&view);
     auto* report = &view.Place<ReportView>(form.txtResult);
+    find->LookIn(*report);
 
-    auto* find = new QLineEdit(&view);
-    find->setObjectName(QStringLiteral("txtFind"));
-    find->setPlaceholderText(Q(Text(903000_text)));
-    find->setClearButtonEnabled(true);
-    QObject::connect(find, &QLineEdit::returnPressed, report, [find, report] { report->FindNext(find->text()); });
-    auto* shortcut = new QShortcut(QKeySequence::Find, &view);
-    QObject::connect(shortcut, &QShortcut::activated, find, [find] {
-        find->setFocus();
-        find->selectAll();
-    });
     auto* text = new QVBoxLayout(result);
     text->addWidget(find);
     text->addWidget(report, 1);
@@ -35,20 +30,31 @@ static const LayoutOf<frmResultTools> kLayout([](FormView& view, frmResultTools&
     text->addWidget(view.Place(form.chkTables));
     text->addWidget(view.Place(form.chkNotices));
 
-    auto* buttons = new QVBoxLayout;
+    // The buttons scroll where the screen is small; those that end the window stay.
+    auto* ways = new QWidget;
+    auto* buttons = new QVBoxLayout(ways);
+    buttons->setContentsMargins(0, 0, 0, 0);
     buttons->setSpacing(sizes::kRowGap);
     for (Control* button : ControlList{form.cmdPrinter, form.cmdWord, form.cmdClipboard, form.CmdTextEditor,
                                        form.CmdExcel, form.cmdVERDA})
         buttons->addWidget(view.Place(*button));
+    auto* save = new QPushButton(Q(Text(9_text, Styles::DialogButton)), &view);
+    save->setObjectName(QStringLiteral("cmdSaveAs"));
+    save->setAutoDefault(false);
+    QObject::connect(save, &QPushButton::clicked, &view, [&view, &form] { SaveReport(&view, form.DocumentText()); });
+    buttons->addWidget(save);
     buttons->addStretch(1);
-    for (Control* button : ControlList{form.cmdHelp, form.cmdok}) buttons->addWidget(view.Place(*button));
+    auto* side = new QVBoxLayout;
+    side->setSpacing(sizes::kRowGap);
+    side->addWidget(new ScrollColumn(ways, &view), 1);
+    for (Control* button : ControlList{form.cmdHelp, form.cmdok}) side->addWidget(view.Place(*button));
 
     auto* columns = new QHBoxLayout;
     columns->setSpacing(sizes::kEdge);
     columns->addWidget(result, 1);
-    columns->addLayout(buttons);
+    columns->addLayout(side);
     WindowColumn(view)->addLayout(columns, 1);
-    view.resize(900, 680);
+    view.resize(QSize(900, 680).boundedTo(ScreenRoom(view)));
 });
 
 }  // namespace lithmark

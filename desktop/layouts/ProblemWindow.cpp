@@ -15,8 +15,6 @@ namespace {
 
 using namespace sizes;
 
-constexpr int kFieldsShare = 3, kPictureShare = 2;
-
 QWidget* Fields(FormView& view, const PictureForm& form, std::initializer_list<GroupOf> groups) {
     auto* fields = new QWidget;
     auto* column = new QVBoxLayout(fields);
@@ -43,8 +41,9 @@ void LayoutProblem(FormView& view, PictureForm& form, std::initializer_list<Grou
     QVBoxLayout* window = WindowColumn(view);
     auto* columns = new QHBoxLayout;
     columns->setSpacing(kGroupGap);
-    columns->addWidget(new ScrollColumn(Fields(view, form, groups), &view), kFieldsShare);
-    columns->addWidget(view.Place(form.PctInvertedT), kPictureShare);
+    columns->addWidget(new ScrollColumn(Fields(view, form, groups), &view));
+    // Room to spare is the drawing's.
+    columns->addWidget(view.Place(form.PctInvertedT), 1);
     window->addLayout(columns, 1);
     window->addLayout(ButtonRow(view, {form.cmdSave, form.cmdSaveAs, form.cmdOpen, form.CmdMoreLess, form.cmdHelp},
                                 {form.cmdResult, form.cmdok}));

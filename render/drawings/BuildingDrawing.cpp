@@ -48,7 +48,8 @@ void DrawPressures(Sketch& s, const QRectF& house) {
     s.Rect(lower, s.PenOf("txt_qv", s.Pen(Ink::Load, 1.2)), fill);
     s.Rect(upper, s.PenOf("txt_qe", s.Pen(Ink::Load, 1.2)), fill.lighter(130));
     s.Number("txt_qe", {both.right(), upper.center().y()}, Side::Right, Ink::Load);
-    s.Number("txt_qv", {both.right(), lower.center().y()}, Side::Right, Ink::Load);
+    s.Number("txt_qv", {both.right(), std::min(lower.center().y(), both.bottom() - s.LineHeight() * 0.7)}, Side::Right,
+             Ink::Load);
 }
 
 // The ring of the oedometer with the sample between two filter stones.

@@ -24,7 +24,9 @@ Perspective::Perspective(Sketch& sketch, const QRectF& room, const Block& block,
 double Perspective::SpareDepth(const QRectF& room, const Block& block, double above) {
     const double width = Flat(-block.X, block.Y, 0).x() - Flat(block.X, -block.Y, 0).x();
     const double height = Flat(block.X, 0, block.Depths.back()).y() - std::min(Flat(-block.X, 0, 0).y(), -above);
-    return width * room.height() / room.width() - height;
+    // No tower: from here on the figure stands in the middle of its room.
+    constexpr double kSlimmest = 1.45;
+    return width * std::min(room.height() / room.width(), kSlimmest) - height;
 }
 
 double Perspective::SpareWidth(const QRectF& room, const Block& block, double above) {

@@ -71,7 +71,9 @@ void RateDrawing(Sketch& s) {
     const char* const properties[2][2] = {{"txt_Cv1", "txt_K1"}, {"txt_Cv2", "txt_K2"}};
     for (std::size_t i = 0; i < clay.size(); ++i) {
         const QRectF layer = section.Layer(i);
-        s.Numbers({properties[i][0], properties[i][1]}, {layer.left() + layer.width() * 0.62, layer.center().y()});
+        // Over the number of the thickness, which stands in the middle.
+        const double y = layer.height() > 7 * line ? layer.top() + layer.height() * 0.28 : layer.center().y();
+        s.Numbers({properties[i][0], properties[i][1]}, {layer.left() + layer.width() * 0.6, y});
     }
     DrawPressure(s, {all.right() + 2 * kEdge, all.top(), s.Area.right() - all.right() - 4 * kEdge, all.height()});
 }

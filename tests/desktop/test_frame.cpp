@@ -141,8 +141,9 @@ TEST_F(FrameViewTest, TheTableEditorTakesWhatIsTypedAndRefusesWhatIsNoNumber) {
         grid.item(2, 0)->setText("3.5");
         grid.item(2, 1)->setText("70");
         EXPECT_FALSE(Child<QPushButton>(editor, "cmdok").isEnabled());
-        EXPECT_THAT(Child<QLabel>(editor, "lblNote").text().toStdString(),
-                    ::testing::StartsWith("Row 3, n - n: Please enter a number from 1 to 10. The number must be whole."));
+        EXPECT_THAT(
+            Child<QLabel>(editor, "lblNote").text().toStdString(),
+            ::testing::StartsWith("Row 3, n - n: Please enter a number from 1 to 10. The number must be whole."));
         EXPECT_FALSE(grid.item(2, 0)->toolTip().isEmpty());
         grid.item(2, 0)->setText("3");
         grid.setCurrentCell(0, 0);

@@ -50,6 +50,7 @@ TEST_F(NoticesOnScreen, AClickOpensTheManualAtTheSection) {
             second = TopOf(manual);
             ClickOn(manual, "cmdok");
         });
+        BackTo(viewer);
         list.setCurrentRow(1);
         list.setFocus();
         QTest::keyClick(&list, Qt::Key_Return);

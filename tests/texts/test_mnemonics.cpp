@@ -29,12 +29,14 @@ std::string MarkedLetter(std::string_view text) {
     return LowerAscii(Trim(FirstCharacters(text.substr(mark + 1), 1)));
 }
 
-TEST(MnemonicTest, AMarkStandsInAllLanguagesOrInNoneAndBeforeALetter) {
+// Arabic letters are not typed with Alt, and a mark would tear a word.
+TEST(MnemonicTest, AMarkStandsBeforeALetterInGermanAndEnglishAndNeverInArabic) {
     std::vector<int> failing;
     for (const LanguageRow& row : LanguageTable())
         for (const Language language : kLanguages) {
             const std::string_view text = TextIn(row, language);
-            const bool good = Marks(text) == Marks(row.English) && Marks(text) <= 1 &&
+            const std::size_t wanted = language == Language::Arabic ? 0 : Marks(row.English);
+            const bool good = Marks(text) == wanted && Marks(text) <= 1 &&
                               (Marks(text) == 0 || !MarkedLetter(text).empty());
             if (!good) failing.push_back(row.Number);
         }
@@ -53,12 +55,12 @@ TEST(MnemonicTest, LettersDifferWithinAWindowOrMenu) {
         {"problem dialog", {140096, 6, 8, 111, 9, 10016}},
         {"time-settlement, curve points", {140096, 6, 8, 111, 9, 10016, 400125, 300044}},
         {"time-settlement, oedometer", {140096, 6, 8, 111, 9, 10016, 400125, 300036}},
-        {"result viewer", {10, 70033, 40086, 90096, 70034, 400198, 6, 8, 907261, 907262}},
+        {"result viewer", {9, 10, 70033, 40086, 90096, 70034, 400198, 6, 8, 907261, 907262}},
         {"contour window", {400079, 400080, 26, 6, 8}},
         {"choice", {6, 7, 8}},
         {"settings dialog", {111, 7, 8}}};
     for (const auto& [name, numbers] : groups)
-        for (const Language language : kLanguages) {
+        for (const Language language : {Language::German, Language::English}) {
             std::map<std::string, int> seen;
             for (const int number : numbers) {
                 const LanguageRow* row = FindLanguageRow(number);

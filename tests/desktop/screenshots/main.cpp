@@ -1,6 +1,6 @@
 // All windows of the program in three languages as pictures, for people to look at:
 //
-//     QT_QPA_PLATFORM=offscreen screenshots OUTDIR
+//     QT_QPA_PLATFORM=offscreen screenshots OUTDIR [dark]
 #include <QApplication>
 #include <QDir>
 #include <QTemporaryDir>
@@ -17,6 +17,9 @@
 #include "desktop/ChartView.h"
 #include "desktop/FormView.h"
 #include "desktop/MainWindow.h"
+#include "desktop/ManualTopics.h"
+#include "desktop/ManualWindow.h"
+#include "desktop/Palettes.h"
 #include "desktop/QtHost.h"
 #include "desktop/SplashView.h"
 #include "kernels/RunKernel.h"
@@ -132,6 +135,44 @@ void MarkAndTurn(QWidget& window) {
     plot->Mark(false);
 }
 
+// Dialogs with values of their own, for what the drawings make of them.
+void TakeUnusualValues(Gallery& gallery) {
+    struct Values {
+        int Problem;
+        const char* Name;
+        std::vector<std::pair<const char*, const char*>> Texts;  // of a box, or a click
+    };
+    const Values all[] = {
+        {3, "unusual-stress", {{"txt_A", "2"}, {"txt_B", "30"}, {"txt_x", "-3"}, {"txt_y", "7"}, {"txt_z", "6"}}},
+        {4, "unusual-consolidation", {{"txt_x", "2.5"}, {"txt_y", "-1"}, {"txt_z", "3"}, {"txt_h", "8"}}},
+        {5,
+         "unusual-rate",
+         {{"chkPressure", ""}, {"chkLayers", ""}, {"txt_h2", "2"}, {"txt_x", "1"}, {"txt_y", "0.5"}}},
+        {9, "unusual-raft", {{"optAnalysisType(1)", ""}, {"txt_A", "12"}, {"txt_B", "6"}, {"txt_h", "8"}}},
+        {10,
+         "unusual-circle",
+         {{"optAnalysisType(1)", ""}, {"optLoadType(2)", ""}, {"txt_z", "2"}, {"txt_Exz_x", "1.2"}}},
+    };
+    for (const Values& values : all) {
+        Session.ProblemType = values.Problem;
+        for (const tests::FormRow& row : tests::AllForms()) {
+            if (row.ProblemType != values.Problem) continue;
+            const std::unique_ptr<Form> form = row.Make();
+            if (dynamic_cast<PictureForm*>(form.get()) == nullptr) continue;
+            gallery.Take(*form, QString::fromLatin1(values.Name), [&] {
+                for (const auto& [name, text] : values.Texts) {
+                    Control& control = *form->Find(name);
+                    if (control.Kind == ControlKind::Option) form->SelectOption(control);
+                    if (control.Kind == ControlKind::CheckBox) control.Value = !control.Value;
+                    if (control.Kind == ControlKind::TextBox) control.Text = text;
+                    if (control.OnClick) control.OnClick();
+                    if (control.OnChange) control.OnChange();
+                }
+            });
+        }
+    }
+}
+
 bool TakeAll(const QString& folder, Language language, const QString& code) {
     const QTemporaryDir place;
     const std::string settings = place.path().toStdString() + "/";
@@ -164,6 +205,7 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
     splashView.hide();
 
     TakeProblemDialogs(gallery);
+    TakeUnusualValues(gallery);
     frmstress stress;
     Session.ProblemType = 1;
     stress.Reopen();
@@ -223,6 +265,9 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
     SetProblemDefaults();
     Session.AnalysisType = Analysis::Numerical;
     RunProblemKernel();
+    gallery.Take(results, QStringLiteral("frmResultTools-raft"));
+    ManualWindow manual(nullptr, "notices#raft-tension");
+    gallery.Take(manual, QStringLiteral("manual"));
     Session.CurveChoice = Session.ContourResult = "Tab5";
     frmContour contour;
     gallery.Take(contour, QStringLiteral("frmContour"), [&] { contour.Activate(); });
@@ -240,7 +285,7 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
     TableEdit table;
     table.Title = Text(140187_text);
     table.Columns = {{"t\n[1]\n[-]", TableEdit::Kind::Whole}, {"p\n[2]\n[%]", TableEdit::Kind::Real, 100, 0}};
-    table.Rows = {{"1", "19"}, {"2", "42"}, {"4", "83"}};
+    table.Rows = {{"1", "19"}, {"2", "42"}, {"4.5", "83"}};
     gallery.TakeModal(QStringLiteral("table"), [&] { host.EditTable(table); });
 
     frame.SetWindow(nullptr);
@@ -255,11 +300,13 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
-    if (argc != 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
-        QTextStream(stderr) << "screenshots OUTDIR\n";
+    const bool dark = argc == 3 && QString::fromLocal8Bit(argv[2]) == QStringLiteral("dark");
+    if ((argc != 2 && !dark) || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
+        QTextStream(stderr) << "screenshots OUTDIR [dark]\n";
         return 2;
     }
     lithmark::PrepareApplication(application);
+    if (dark) QApplication::setPalette(lithmark::PaletteOf(lithmark::Theme::Dark));
     lithmark::SharedServices().DecimalSign = '.';
     const QString folder = QString::fromLocal8Bit(argv[1]);
     using lithmark::Language;

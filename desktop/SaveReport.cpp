@@ -1,0 +1,61 @@
+#include "desktop/SaveReport.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+
+#include "core/Session.h"
+#include "desktop/PageTools.h"
+#include "files/CommonStep.h"
+#include "render/QtText.h"
+#include "render/ReportDocument.h"
+#include "services/SharedServices.h"
+#include "services/storage/WrittenFile.h"
+#include "services/texts/LanguageTexts.h"
+
+namespace lithmark {
+
+namespace {
+
+struct Kind {
+    const char* Ending;
+    std::string (*Bytes)(const std::string& report);
+};
+constexpr Kind kKinds[] = {{"pdf", ReportPdf},
+                           {"rtf", ReportRtf},
+                           {"html", ReportHtml},
+                           {"txt", [](const std::string& report) { return report; }}};
+
+const Kind* KindOf(const QString& ending) {
+    for (const Kind& kind : kKinds)
+        if (ending.compare(QLatin1String(kind.Ending), Qt::CaseInsensitive) == 0) return &kind;
+    return nullptr;
+}
+
+}  // namespace
+
+void SaveReport(QWidget* parent, const std::string& report) {
+    QStringList filters;
+    for (const Kind& kind : kKinds) {
+        const QString ending = QLatin1String(kind.Ending);
+        filters.append(ending.toUpper() + QStringLiteral(" (*.") + ending + QLatin1Char(')'));
+    }
+    QFileDialog dialog(parent, PlainCaption(Text(9_text)), Q(Session.WorkDir), filters.join(QStringLiteral(";;")));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    const auto follow = [&dialog] {
+        dialog.setDefaultSuffix(dialog.selectedNameFilter().section(QLatin1Char(' '), 0, 0).toLower());
+    };
+    follow();
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, follow);
+    dialog.selectFile(Q(Session.WorkName));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
+    const QString file = dialog.selectedFiles().front();
+    const Kind* kind = KindOf(QFileInfo(file).suffix());
+    UnderCommonStep([&] {
+        SharedServices().SetCurrentFile(file.toStdString());
+        // Any other ending is the user's own name for a text.
+        WriteWholeFile(file.toStdString(), kind != nullptr ? kind->Bytes(report) : report);
+    });
+}
+
+}  // namespace lithmark

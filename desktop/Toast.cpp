@@ -1,0 +1,34 @@
+#include "desktop/Toast.h"
+
+#include <QAccessible>
+#include <QLabel>
+#include <QTimer>
+
+#include "desktop/Sizes.h"
+
+namespace lithmark {
+
+void ShowToast(QWidget& window, const QString& words) {
+    constexpr int kStays = 2000;  // milliseconds
+    if (auto* former = window.findChild<QLabel*>(QStringLiteral("toast"))) {
+        former->setObjectName({});
+        former->hide();
+        former->deleteLater();
+    }
+    auto* toast = new QLabel(words, &window);
+    toast->setObjectName(QStringLiteral("toast"));
+    toast->setAutoFillBackground(true);
+    toast->setBackgroundRole(QPalette::Highlight);
+    toast->setForegroundRole(QPalette::HighlightedText);
+    toast->setMargin(sizes::kGroupPad);
+    toast->setAttribute(Qt::WA_TransparentForMouseEvents);
+    toast->adjustSize();
+    toast->move((window.width() - toast->width()) / 2, window.height() - toast->height() - sizes::kGroupGap);
+    toast->show();
+    toast->raise();
+    QAccessibleEvent event(toast, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
+    QTimer::singleShot(kStays, toast, &QObject::deleteLater);
+}
+
+}  // namespace lithmark

@@ -1,0 +1,126 @@
+// Windows on their screen: nothing outside, nothing cut, the fields scroll and the buttons stay. The screen is the one
+// that the test runs on: a large one, and one of 1366 x 768 at 125 % of which a bar takes its part (CMakeLists.txt).
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTabBar>
+#include <QTableWidget>
+
+#include "EveryWindow.h"
+#include "desktop/Palettes.h"
+#include "desktop/ScreenRoom.h"
+#include "desktop/Sizes.h"
+
+namespace lithmark::tests {
+namespace {
+
+using ::testing::IsEmpty;
+
+class RoomTest : public EveryWindow {};
+
+// Inside something that scrolls, which brings it into sight.
+const QAbstractScrollArea* ScrolledBy(const QWidget& widget, const QWidget& window) {
+    for (const QWidget* parent = widget.parentWidget(); parent != nullptr && parent != &window;
+         parent = parent->parentWidget())
+        if (const auto* area = qobject_cast<const QAbstractScrollArea*>(parent);
+            area != nullptr && area->viewport()->isAncestorOf(&widget))
+            return area;
+    return nullptr;
+}
+
+bool IsOutside(const QWidget& widget, const QWidget& window) {
+    const QAbstractScrollArea* area = ScrolledBy(widget, window);
+    const QWidget& frame = area != nullptr ? *area->viewport() : window;
+    const QRect place(widget.mapTo(&frame, QPoint()), widget.size());
+    if (area == nullptr) return !frame.rect().contains(place);
+    // It may stand further down, but not at the side.
+    return place.left() < 0 || place.right() > frame.rect().right();
+}
+
+// Words that have less room than they take.
+bool IsCut(const QWidget& widget) {
+    if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
+        if (label->wordWrap()) return label->height() < label->heightForWidth(label->width());
+        return label->width() < label->sizeHint().width() || label->height() < label->sizeHint().height();
+    }
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget);
+        button != nullptr && !button->text().isEmpty())
+        return button->width() < button->sizeHint().width() || button->height() < button->sizeHint().height();
+    if (const auto* list = qobject_cast<const QComboBox*>(&widget)) return list->width() < list->sizeHint().width();
+    if (const auto* group = qobject_cast<const QGroupBox*>(&widget))
+        return group->width() < group->fontMetrics().horizontalAdvance(group->title());
+    if (const auto* tabs = qobject_cast<const QTabBar*>(&widget)) return tabs->width() < tabs->sizeHint().width();
+    if (const auto* head = qobject_cast<const QHeaderView*>(&widget);
+        head != nullptr && head->orientation() == Qt::Horizontal)
+        for (int i = 0; i < head->count(); ++i)
+            if (head->sectionSize(i) < head->sectionSizeHint(i)) return true;
+    return false;
+}
+
+TEST_F(RoomTest, EveryWindowFitsItsScreenWithEverythingInsideAndInFull) {
+    std::vector<std::string> failing;
+    ForAllWindows([&](QWidget& window, const std::string& name) {
+        const QSize free = window.screen()->availableGeometry().size();
+        if (window.width() > free.width() || window.height() > free.height() - sizes::kTitleBar)
+            failing.push_back(name + ": " + std::to_string(window.width()) + " x " + std::to_string(window.height()));
+        for (const QWidget* widget : window.findChildren<QWidget*>()) {
+            if (!widget->isVisibleTo(&window) || widget->window() != &window) continue;
+            if (IsOutside(*widget, window)) failing.push_back(name + ": outside " + widget->objectName().toStdString());
+            if (IsCut(*widget)) failing.push_back(name + ": cut " + widget->objectName().toStdString());
+        }
+    });
+    EXPECT_THAT(failing, IsEmpty());
+}
+
+TEST_F(RoomTest, ButtonsNeverScroll) {
+    ForAllForms([](Form& form, FormView& view, const std::string& name) {
+        if (dynamic_cast<PictureForm*>(&form) == nullptr) return;
+        for (const char* button : {"cmdSave", "cmdSaveAs", "cmdOpen", "CmdMoreLess", "cmdHelp", "cmdResult"}) {
+            const auto* widget = view.findChild<QPushButton*>(QString::fromLatin1(button));
+            EXPECT_EQ(ScrolledBy(*widget, view), nullptr) << name << ": " << button;
+            EXPECT_EQ(widget->visibleRegion().boundingRect().size(), widget->size()) << name << ": " << button;
+        }
+    });
+}
+
+// The fields have a bar exactly where they need one, and nothing at their side is hidden by it.
+TEST_F(RoomTest, FieldsScrollWhereTheyDoNotFit) {
+    const bool small = QApplication::primaryScreen()->availableGeometry().height() < 600;
+    int scrolling = 0;
+    ForAllForms([&](Form& form, FormView& view, const std::string& name) {
+        if (dynamic_cast<PictureForm*>(&form) == nullptr) return;
+        const auto* column = view.findChild<QScrollArea*>();
+        ASSERT_NE(column, nullptr) << name;
+        EXPECT_FALSE(column->horizontalScrollBar()->isVisible()) << name;
+        const bool fits = column->widget()->sizeHint().height() <= column->viewport()->height();
+        EXPECT_NE(column->verticalScrollBar()->isVisible(), fits) << name;
+        scrolling += fits ? 0 : 1;
+    });
+    if (small)
+        EXPECT_GT(scrolling, 0);
+    else
+        EXPECT_EQ(scrolling, 0);
+}
+
+TEST_F(RoomTest, ADarkPaletteIsWhole) {
+    for (const Theme theme : {Theme::Light, Theme::Dark}) {
+        const QPalette palette = PaletteOf(theme);
+        for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+            for (int role = 0; role < QPalette::NColorRoles; ++role) {
+                if (role == QPalette::NoRole) continue;
+                EXPECT_TRUE(palette.isBrushSet(group, static_cast<QPalette::ColorRole>(role))) << group << " " << role;
+            }
+        EXPECT_EQ(ThemeOf(palette), theme);
+    }
+}
+
+}  // namespace
+}  // namespace lithmark::tests
