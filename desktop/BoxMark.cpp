@@ -6,8 +6,8 @@
 #include <QPainter>
 #include <QPixmap>
 
-#include "render/drawings/Inks.h"
 #include "render/QtText.h"
+#include "render/drawings/Inks.h"
 
 namespace lithmark {
 

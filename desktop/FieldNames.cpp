@@ -6,8 +6,8 @@
 #include "core/Units.h"
 #include "desktop/FormView.h"
 #include "desktop/PageTools.h"
-#include "render/drawings/Symbols.h"
 #include "render/QtText.h"
+#include "render/drawings/Symbols.h"
 #include "services/texts/LanguageTexts.h"
 #include "ui/model/FindField.h"
 

@@ -8,8 +8,8 @@
 #include <map>
 
 #include "core/Catalogue.h"
-#include "render/drawings/Logo.h"
 #include "render/drawings/Inks.h"
+#include "render/drawings/Logo.h"
 #include "services/ListTools.h"
 
 namespace lithmark {

@@ -8,6 +8,7 @@
 #include "files/CommonStep.h"
 #include "render/QtText.h"
 #include "render/ReportDocument.h"
+#include "render/figures/ReportFigures.h"
 #include "services/SharedServices.h"
 #include "services/storage/WrittenFile.h"
 #include "services/texts/LanguageTexts.h"
@@ -20,10 +21,12 @@ struct Kind {
     const char* Ending;
     std::string (*Bytes)(const std::string& report);
 };
-constexpr Kind kKinds[] = {{"pdf", ReportPdf},
-                           {"rtf", ReportRtf},
-                           {"html", ReportHtml},
-                           {"txt", [](const std::string& report) { return report; }}};
+// The documents have the problem's drawing behind the text.
+constexpr Kind kKinds[] = {
+    {"pdf", [](const std::string& report) { return ReportPdf(report, PaperWithFigures(Figures::Drawing)); }},
+    {"rtf", [](const std::string& report) { return ReportRtf(report, PaperWithFigures(Figures::Drawing)); }},
+    {"html", [](const std::string& report) { return ReportHtml(report, PaperWithFigures(Figures::Drawing)); }},
+    {"txt", [](const std::string& report) { return report; }}};
 
 const Kind* KindOf(const QString& ending) {
     for (const Kind& kind : kKinds)

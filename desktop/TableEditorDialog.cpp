@@ -12,12 +12,12 @@
 #include <algorithm>
 
 #include "base/Utf8.h"
-#include "render/drawings/Inks.h"
 #include "desktop/ManualTopics.h"
 #include "desktop/PageTools.h"
 #include "desktop/RowsChart.h"
 #include "desktop/Sizes.h"
 #include "render/QtText.h"
+#include "render/drawings/Inks.h"
 #include "services/SharedServices.h"
 #include "services/texts/LanguageTexts.h"
 

@@ -36,8 +36,8 @@ TEST(MnemonicTest, AMarkStandsBeforeALetterInGermanAndEnglishAndNeverInArabic) {
         for (const Language language : kLanguages) {
             const std::string_view text = TextIn(row, language);
             const std::size_t wanted = language == Language::Arabic ? 0 : Marks(row.English);
-            const bool good = Marks(text) == wanted && Marks(text) <= 1 &&
-                              (Marks(text) == 0 || !MarkedLetter(text).empty());
+            const bool good =
+                Marks(text) == wanted && Marks(text) <= 1 && (Marks(text) == 0 || !MarkedLetter(text).empty());
             if (!good) failing.push_back(row.Number);
         }
     EXPECT_THAT(failing, IsEmpty());
