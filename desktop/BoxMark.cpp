@@ -40,7 +40,6 @@ void ShowMark(QLineEdit& box, const std::string& reason) {
         delete sign;
         box.setStyleSheet({});
         box.setToolTip({});
-        box.setAccessibleDescription({});
         return;
     }
     if (sign == nullptr) {
@@ -51,7 +50,6 @@ void ShowMark(QLineEdit& box, const std::string& reason) {
         box.setStyleSheet(QStringLiteral("QLineEdit { border: 2px solid %1; }").arg(colour.name()));
     }
     box.setToolTip(Q(reason));
-    box.setAccessibleDescription(Q(reason));
 }
 
 }  // namespace lithmark

@@ -1,4 +1,5 @@
-// The mark of a box that is not right: a frame of 2 in the colour of errors, a "!" inside, the reason as its tooltip.
+// The mark of a box that is not right: a frame of 2 in the colour of errors, a "!" inside, the reason as its tooltip. A
+// screen reader has it in the description of the box (FieldNames.h).
 #pragma once
 
 #include <string>

@@ -72,6 +72,7 @@ class LogoRow : public QWidget {
         shown_ = new QLineEdit(this);
         shown_->setObjectName(QStringLiteral("txtLogo"));
         shown_->setReadOnly(true);
+        shown_->setAccessibleName(Q(Text(911005_text)));
         row->addWidget(shown_, 1);
         const auto add = [&](TextId caption, const char* name, auto&& slot) {
             auto* button = new QPushButton(Q(Text(caption)), this);
