@@ -3,8 +3,7 @@
 #include "base/Array.h"
 #include "base/Single.h"
 
-using namespace lithmark;
-
+namespace lithmark::tests {
 namespace {
 
 TEST(Array, TwoNumbersInBracesAreBoundsAndNotValues) {
@@ -26,3 +25,4 @@ TEST(Array, OfHoldsItsValuesFromIndexOneOn) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -4,8 +4,7 @@
 #include "base/NumberText.h"
 #include "base/Utf8.h"
 
-using namespace lithmark;
-
+namespace lithmark::tests {
 namespace {
 
 FailureKind KindOf(auto&& action) {
@@ -131,3 +130,4 @@ TEST(Utf8, CountsCharactersNotBytes) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

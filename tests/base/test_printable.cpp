@@ -11,8 +11,7 @@
 #include "base/Failure.h"
 #include "base/Utf8.h"
 
-using namespace lithmark;
-
+namespace lithmark::tests {
 namespace {
 
 TEST(PrintableText, KeepsEveryCharacterThatADocumentCanHold) {
@@ -53,3 +52,4 @@ TEST(FailureOfALibrary, BecomesOneOfThePrograms) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

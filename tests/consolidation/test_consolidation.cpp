@@ -9,9 +9,7 @@
 #include "support/ScriptedHost.h"
 #include "support/TestSession.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
-
+namespace lithmark::tests {
 namespace {
 
 constexpr double kPi = 3.14159265358979323846;
@@ -396,3 +394,4 @@ TEST_F(Consolidation, EndsWhenTheUserEndsIt) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -11,11 +11,10 @@
 #include "support/ScriptedHost.h"
 #include "support/TestSession.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
-using ::testing::ElementsAre;
-
+namespace lithmark::tests {
 namespace {
+
+using ::testing::ElementsAre;
 
 ConsolidationInput Example(int loadType, int soilPropertyType) {
     return {.x = 0,
@@ -143,3 +142,4 @@ INSTANTIATE_TEST_SUITE_P(Languages, ConsolidationReportGolden,
                                            std::pair{Language::Arabic, "ar"}));
 
 }  // namespace
+}  // namespace lithmark::tests

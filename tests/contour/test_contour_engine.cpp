@@ -11,9 +11,7 @@
 #include "contour/RecordingSurface.h"
 #include "core/StartSession.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
-
+namespace lithmark::tests {
 namespace {
 
 // What the plot's boundary lines are, by drawing nothing else.
@@ -314,3 +312,4 @@ TEST_F(ContourEngine, TheLegendHasTenBoxesWithTheirLabels) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

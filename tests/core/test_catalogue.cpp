@@ -6,9 +6,7 @@
 #include "support/Files.h"
 #include "support/TestSession.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
-
+namespace lithmark::tests {
 namespace {
 
 TEST(ProblemCatalogue, HasElevenRowsInOrderWithTheirMenuEntryTextAndExtension) {
@@ -286,3 +284,4 @@ TEST(ProblemDefaults, WordsAreThoseOfTheLanguageInForce) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -5,8 +5,7 @@
 #include "core/Catalogue.h"
 #include "core/SessionFields.h"
 
-using namespace lithmark;
-
+namespace lithmark::tests {
 namespace {
 
 class SessionFieldsTest : public testing::Test {
@@ -83,3 +82,4 @@ TEST_F(SessionFieldsTest, TextsFollowTheWrittenNumberRule) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

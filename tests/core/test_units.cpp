@@ -8,9 +8,7 @@
 #include "support/Files.h"
 #include "support/TestSession.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
-
+namespace lithmark::tests {
 namespace {
 
 class Units : public testing::Test {
@@ -283,3 +281,4 @@ TEST_F(Units, ASessionStartsWithBaseUnitsDefaultsAndTheWordsOfTheLanguage) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -4,14 +4,13 @@
 #include "files/ProjectFiles.h"
 #include "files/ProjectTest.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-
-namespace {
 
 class Damaged : public ProjectTest {
   protected:
@@ -359,3 +358,4 @@ TEST_F(Damaged, WithoutItsProjectFileATimeSettlementIsNotWritten) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -3,13 +3,12 @@
 #include "files/ProjectFiles.h"
 #include "files/ProjectTest.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-
-namespace {
 
 class ProblemData : public ProjectTest {};
 
@@ -260,3 +259,4 @@ TEST_F(ProblemData, AProblemOutsideTheCatalogueIsAToldFailure) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -2,13 +2,12 @@
 #include "files/ProjectFiles.h"
 #include "files/ProjectTest.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-
-namespace {
 
 class ProjectFiles : public ProjectTest {
   protected:
@@ -224,3 +223,4 @@ TEST_F(Wrappers, ADataFileNameIsFoldedToUpperCaseUnlessAnotherFormExists) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -3,13 +3,12 @@
 #include "files/ProjectTest.h"
 #include "files/SettingsFiles.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-
-namespace {
 
 class SettingsFiles : public ProjectTest {
   protected:
@@ -293,3 +292,4 @@ TEST_F(SettingsFiles, ADataDirectoryThatCannotBeStoredIsNotSaved) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -2,9 +2,7 @@
 #include "ProjectTest.h"
 #include "core/TimeUnits.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
-
+namespace lithmark::tests {
 namespace {
 
 class TimeUnitWords : public ProjectTest {};
@@ -42,3 +40,4 @@ TEST_F(TimeUnitWords, OfNoLanguageStay) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -6,8 +6,7 @@
 
 #include "kernels/elastic/LayerFactors.h"
 
-using namespace lithmark;
-
+namespace lithmark::tests {
 namespace {
 
 constexpr double kPi = 3.14159265358979323846;
@@ -222,3 +221,4 @@ TEST(MeanCircleAxisFactor, IsTheDepthMeanOfTheAxisStress) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -9,8 +9,7 @@
 #include "kernels/raft/PolarSymmetry.h"
 #include "kernels/raft/SectorIntegral.h"
 
-using namespace lithmark;
-
+namespace lithmark::tests {
 namespace {
 
 constexpr double kPi = 3.14159265358979323846;
@@ -198,3 +197,4 @@ TEST(CopyBySymmetry, LeavesTheGivenHalfOfAnEccentricLoad) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -6,11 +6,10 @@
 #include "support/Lines.h"
 #include "support/TestSession.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
-using testing::ElementsAre;
-
+namespace lithmark::tests {
 namespace {
+
+using testing::ElementsAre;
 
 class Heading : public testing::Test {
   protected:
@@ -84,3 +83,4 @@ TEST_F(Lines, TakeOnlyDigitsForANumber) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

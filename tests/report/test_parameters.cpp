@@ -6,11 +6,10 @@
 #include "support/Lines.h"
 #include "support/TestSession.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
-using testing::ElementsAre;
-
+namespace lithmark::tests {
 namespace {
+
+using testing::ElementsAre;
 
 class Parameters : public testing::Test {
   protected:
@@ -162,3 +161,4 @@ TEST_F(Parameters, OfASectionBeginWithAnEmptyLineAndTheHeading) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

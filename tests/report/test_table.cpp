@@ -7,11 +7,10 @@
 #include "support/Lines.h"
 #include "support/TestSession.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
-using testing::ElementsAre;
-
+namespace lithmark::tests {
 namespace {
+
+using testing::ElementsAre;
 
 class Table : public testing::Test {
   protected:
@@ -249,3 +248,4 @@ TEST_F(Table, HasATitleOfItsOwnAndALineOfDashes) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

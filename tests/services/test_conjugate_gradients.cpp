@@ -8,8 +8,7 @@
 
 #include "services/numerics/ConjugateGradients.h"
 
-using namespace lithmark;
-
+namespace lithmark::tests {
 namespace {
 
 using Vectors = std::vector<std::vector<double>>;
@@ -124,3 +123,4 @@ TEST(ScalarProduct, AddsEightPartialSums) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

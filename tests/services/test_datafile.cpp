@@ -10,11 +10,10 @@
 #include "services/texts/LanguageTexts.h"
 #include "support/Files.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
-using ::testing::ElementsAre;
-
+namespace lithmark::tests {
 namespace {
+
+using ::testing::ElementsAre;
 
 class DataFile : public ::testing::Test {
   protected:
@@ -525,3 +524,4 @@ TEST_F(DataFileSet, AFailureIsToldForItsFileAndKeepsWhatIsInPlace) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

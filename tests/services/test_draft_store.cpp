@@ -7,11 +7,10 @@
 #include "services/storage/DraftStore.h"
 #include "support/Files.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
-using ::testing::SizeIs;
-
+namespace lithmark::tests {
 namespace {
+
+using ::testing::SizeIs;
 
 class DraftStoreTest : public ::testing::Test {
   protected:
@@ -77,3 +76,4 @@ TEST_F(DraftStoreTest, TheFolderIsTheUsersOwn) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -6,9 +6,7 @@
 #include "support/Files.h"
 #include "support/ScriptedHost.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
-
+namespace lithmark::tests {
 namespace {
 
 TEST(FileNames, TheExtensionIsWhatStandsBehindTheLastPointOfTheLastPart) {
@@ -128,3 +126,4 @@ TEST(FileDialogs, APathFromTheCommandLineNamesAnExistingProjectFile) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

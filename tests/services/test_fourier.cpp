@@ -10,10 +10,10 @@
 #include "services/numerics/GridFourier.h"
 #include "support/Files.h"
 
-using namespace lithmark;
-using lithmark::tests::KindOf;
-
+namespace lithmark::tests {
 namespace {
+
+using lithmark::tests::KindOf;
 
 constexpr int kLanes = FourierTransform::kLanes;
 
@@ -168,3 +168,4 @@ TEST(GridFourier, AShortPeriodWrapsAround) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -10,10 +10,10 @@
 #include "services/numerics/NumericLib.h"
 #include "support/Files.h"
 
-using namespace lithmark;
-using lithmark::tests::KindOf;
-
+namespace lithmark::tests {
 namespace {
+
+using lithmark::tests::KindOf;
 
 using Real = Single::Storage;
 using WideMatrix = Eigen::Matrix<double, Eigen::Dynamic, Eigen::Dynamic, Eigen::RowMajor>;
@@ -412,3 +412,4 @@ TEST(BuildEdges, RefusesACornerCountThatTheRecordCannotHold) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

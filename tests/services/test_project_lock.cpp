@@ -12,14 +12,13 @@
 #include "support/Files.h"
 #include "support/ScriptedHost.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
-
-namespace {
 
 class ProjectLockTest : public ::testing::Test {
   protected:
@@ -160,3 +159,4 @@ TEST_F(ProjectLockTest, WhatAnotherProgramIsWritingStays) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -13,14 +13,13 @@
 #include "support/Files.h"
 #include "support/ScriptedHost.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
-
-namespace {
 
 using Files = std::map<std::string, std::string>;  // by name
 
@@ -327,11 +326,10 @@ TEST_F(ProjectStoreTest, WhatAnArchiveSaysOfItsSizeTakesNoMemory) {
     for (std::size_t at = 0; (at = archive.find(size, at)) != std::string::npos; ++places)
         archive.replace(at, 4, claimed);
     ASSERT_EQ(places, 2);  // in the entry's own head and in the archive's list
-    const rlim_t kLittle = rlim_t{512} << 20;
     rlimit before{};
     ::getrlimit(RLIMIT_AS, &before);
 #ifndef __SANITIZE_ADDRESS__
-    const rlimit little{kLittle, before.rlim_max};
+    const rlimit little{rlim_t{512} << 20, before.rlim_max};
     ::setrlimit(RLIMIT_AS, &little);
 #endif
     const auto kind = KindOf([&] { ReadArchive(archive); });
@@ -446,3 +444,4 @@ TEST_F(ProjectStoreTest, AFolderInTheWayOfAFileStopsTheUnpackingBeforeAnythingCh
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -9,9 +9,7 @@
 #include "services/storage/WrittenFile.h"
 #include "support/Files.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
-
+namespace lithmark::tests {
 namespace {
 
 class ReadFileTest : public ::testing::Test {
@@ -80,3 +78,4 @@ TEST_F(ReadFileTest, AMarkTellsAChangedFile) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

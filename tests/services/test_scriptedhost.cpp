@@ -4,11 +4,10 @@
 
 #include "support/ScriptedHost.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
-using ::testing::ElementsAre;
-
+namespace lithmark::tests {
 namespace {
+
+using ::testing::ElementsAre;
 
 struct DemoForm : Form {
     DemoForm() : Form("frmDemo") {
@@ -155,3 +154,4 @@ TEST(Host, AHostOffersNothingButSilentMessagesUnlessItSaysSo) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -5,15 +5,14 @@
 #include "support/Files.h"
 #include "support/ScriptedHost.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::AllOf;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
-
-namespace {
 
 class Settings : public ::testing::Test {
   protected:
@@ -255,3 +254,4 @@ TEST_F(Settings, WithoutAStoredLanguageTheGivenOneIsInForce) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -5,15 +5,14 @@
 #include "support/Files.h"
 #include "support/ScriptedHost.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::AllOf;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::Not;
 using ::testing::SizeIs;
-
-namespace {
 
 constexpr Language kLanguages[] = {Language::German, Language::English, Language::Arabic};
 
@@ -236,3 +235,4 @@ TEST_F(Services, TheTextNumberIsHeld) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -11,14 +11,13 @@
 #include "support/Files.h"
 #include "support/ScriptedHost.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
-
-namespace {
 
 constexpr Language kLanguages[] = {Language::German, Language::English, Language::Arabic};
 
@@ -264,3 +263,4 @@ TEST_F(Console, CtrlCMeansWhatItMeantBeforeAndAfterTheHost) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

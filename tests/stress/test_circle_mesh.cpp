@@ -7,9 +7,7 @@
 #include "kernels/elastic/CircleMesh.h"
 #include "support/Files.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
-
+namespace lithmark::tests {
 namespace {
 
 double TotalArea(const CircleMesh& mesh) {
@@ -72,3 +70,4 @@ TEST(StressCircleMesh, FailsWithoutDivisions) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

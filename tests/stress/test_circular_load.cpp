@@ -9,9 +9,7 @@
 #include "stress/StressCase.h"
 #include "support/Files.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
-
+namespace lithmark::tests {
 namespace {
 
 constexpr double kPi = std::numbers::pi;
@@ -194,3 +192,4 @@ TEST_F(CircularLoad, StressOfTheMeshOnTheSurfaceNeedsNoSubstitute) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

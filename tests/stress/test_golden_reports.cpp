@@ -11,9 +11,7 @@
 #include "support/Lines.h"
 #include "support/TestSession.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
-
+namespace lithmark::tests {
 namespace {
 
 constexpr const char* kProblems[] = {"", "stress", "strain", "displacement"};
@@ -111,3 +109,4 @@ TEST(GoldenNumbers, OfTheCircleAreThoseOfTheIntegratedPointLoadWithinItsMesh) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

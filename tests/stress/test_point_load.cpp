@@ -8,9 +8,7 @@
 #include "stress/StressCase.h"
 #include "support/Files.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
-
+namespace lithmark::tests {
 namespace {
 
 constexpr double kPi = std::numbers::pi;
@@ -139,3 +137,4 @@ TEST(PointLoad, FailsForAModulusOfZero) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

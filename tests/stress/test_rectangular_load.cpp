@@ -9,9 +9,7 @@
 #include "stress/StressCase.h"
 #include "support/Files.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
-
+namespace lithmark::tests {
 namespace {
 
 constexpr double kPi = std::numbers::pi;
@@ -230,3 +228,4 @@ TEST(RectangularLoad, StressSumOnTheSurfaceIsADivisionByZero) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

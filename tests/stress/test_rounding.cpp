@@ -4,9 +4,7 @@
 #include "core/Session.h"
 #include "stress/StressCase.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
-
+namespace lithmark::tests {
 namespace {
 
 struct RoundedRow {
@@ -34,3 +32,4 @@ TEST(StressRounding, HappensWhereAQuantityIsNamed) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -14,15 +14,14 @@
 #include "support/ScriptedHost.h"
 #include "support/TestSession.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using testing::ElementsAre;
 using testing::ElementsAreArray;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
-
-namespace {
 
 class StressRun : public testing::Test {
   protected:
@@ -291,3 +290,4 @@ TEST_F(LoadRows, HaveTheUnitFactorTwiceInCoordinatesWhereAReportAsksForIt) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

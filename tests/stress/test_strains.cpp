@@ -7,9 +7,7 @@
 #include "stress/StressCase.h"
 #include "support/Files.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
-
+namespace lithmark::tests {
 namespace {
 
 class Strains : public testing::Test {
@@ -100,3 +98,4 @@ TEST(PrincipalStrains, AreThoseOfTheCircleInTheXZPlane) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

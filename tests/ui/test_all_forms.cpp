@@ -7,12 +7,11 @@
 #include "FormTest.h"
 #include "core/SessionFields.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::IsEmpty;
 using ::testing::Not;
-
-namespace {
 
 class EveryForm : public FormTest {
   protected:
@@ -199,3 +198,4 @@ TEST_F(EveryForm, HasHelpUnderItsCaptionInThreeLanguages) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -6,12 +6,11 @@
 #include "FormTest.h"
 #include "ui/frmstress.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-namespace {
 
 using R = SessionRecord;
 
@@ -178,3 +177,4 @@ TEST_F(ChoiceRows, BoxesThatAreNotShownAnewStandForWhatTheyWereShownFrom) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -6,9 +6,7 @@
 #include "ui/model/Controls.h"
 #include "ui/model/ProjectFlags.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
-
+namespace lithmark::tests {
 namespace {
 
 struct TwoOptions : Form {
@@ -74,3 +72,4 @@ TEST(Words, AreWorkedOutInTheLanguageInForceEachTime) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

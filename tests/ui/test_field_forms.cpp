@@ -5,13 +5,12 @@
 #include "FormTest.h"
 #include "ui/model/FieldForm.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::StartsWith;
-
-namespace {
 
 using R = SessionRecord;
 
@@ -184,3 +183,4 @@ TEST_F(FieldForms, InputsAreWhatTheUserCanChange) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

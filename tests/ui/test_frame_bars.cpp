@@ -4,12 +4,11 @@
 
 #include "FrameTest.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-namespace {
 
 class FrameBars : public FrameTest {
   protected:
@@ -156,3 +155,4 @@ TEST_F(FrameBars, AFailingResetIsToldAndLeavesTheBars) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

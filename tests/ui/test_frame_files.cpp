@@ -4,13 +4,12 @@
 
 #include "FrameTest.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-
-namespace {
 
 class FrameFiles : public FrameTest {
   protected:
@@ -242,3 +241,4 @@ TEST_F(FrameFiles, TheSeparatorAndEmptyRowsDoNothing) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -10,12 +10,11 @@
 #include "ui/frmUnits.h"
 #include "ui/frmstress.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-namespace {
 
 class FrameMenu : public FrameTest {
   protected:
@@ -271,3 +270,4 @@ TEST_F(FrameMenu, ArabicRunsFromRightToLeft) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -5,13 +5,12 @@
 #include "FrameTest.h"
 #include "ui/frmstress.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-
-namespace {
 
 class FrameProject : public FrameTest {
   protected:
@@ -324,3 +323,4 @@ TEST_F(FrameProject, OpeningTheOpenProjectAgainPacksNothing) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

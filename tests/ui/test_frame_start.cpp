@@ -4,13 +4,12 @@
 
 #include "FrameTest.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-
-namespace {
 
 using FrameStart = FrameTest;
 
@@ -230,3 +229,4 @@ TEST_F(FrameStart, NothingKeepsTheProgramFromEnding) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

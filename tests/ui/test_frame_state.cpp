@@ -8,14 +8,13 @@
 #include "services/storage/ProjectLock.h"
 #include "ui/frmstress.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
-
-namespace {
 
 class FrameState : public FrameTest {
   protected:
@@ -259,3 +258,4 @@ TEST_F(FrameState, TheOpenProjectIsLockedAsLongAsItIsOpen) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -3,12 +3,11 @@
 #include "ui/frmConsolidation.h"
 #include "ui/frmConsolidationRate.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-namespace {
 
 class ConsolidationDialog : public ProblemDialogTest {};
 
@@ -218,3 +217,4 @@ TEST_F(RateDialog, EnterFollowsTheShownBoxes) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

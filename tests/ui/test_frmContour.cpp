@@ -5,12 +5,11 @@
 #include "ui/frmOptionDraw.h"
 #include "ui/frmRigidDisplacement.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
-
-namespace {
 
 class ContourWindow : public ProblemDialogTest {
   protected:
@@ -257,3 +256,4 @@ TEST_F(ContourWindow, IsReachedFromTheCurvesOfARaftAlone) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -5,11 +5,10 @@
 #include "FormTest.h"
 #include "ui/frmDataDir.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
-using ::testing::ElementsAre;
-
+namespace lithmark::tests {
 namespace {
+
+using ::testing::ElementsAre;
 
 class DataDirDialog : public FormTest {};
 
@@ -132,3 +131,4 @@ TEST_F(DataDirDialog, TheOpenProjectsDirectoryStays) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

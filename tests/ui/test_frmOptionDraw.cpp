@@ -5,11 +5,10 @@
 #include "FormTest.h"
 #include "ui/frmOptionDraw.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
-using ::testing::IsEmpty;
-
+namespace lithmark::tests {
 namespace {
+
+using ::testing::IsEmpty;
 
 class CurveChoice : public FormTest {
   protected:
@@ -134,3 +133,4 @@ TEST_F(CurveChoice, HelpInThreeLanguages) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

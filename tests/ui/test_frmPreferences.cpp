@@ -6,13 +6,12 @@
 #include "FormTest.h"
 #include "ui/frmPreferences.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-
-namespace {
 
 class PreferencesDialog : public FormTest {
   protected:
@@ -213,3 +212,4 @@ TEST_F(PreferencesDialog, HelpIsOneSentence) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -6,13 +6,12 @@
 #include "FrameTest.h"
 #include "services/TextTools.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-
-namespace {
 
 class ProjectDialog : public FrameTest {
   protected:
@@ -495,3 +494,4 @@ TEST_F(ProjectCheckDialog, HelpEndsEachLineInAReturn) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -12,13 +12,12 @@
 #include "ui/frmOptionDraw.h"
 #include "ui/frmResultTools.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-
-namespace {
 
 const std::string kReport = "Stresses\r\n----\r\n";
 
@@ -393,3 +392,4 @@ TEST_F(Viewer, HelpTellsTheWaysOutInThreeLanguages) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -3,12 +3,11 @@
 #include "ui/frmRigidConsolidation.h"
 #include "ui/frmRigidDisplacement.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-namespace {
 
 class RaftDialog : public ProblemDialogTest {};
 
@@ -179,3 +178,4 @@ TEST_F(RaftDialog, BothShareTheStateOfThePicture) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

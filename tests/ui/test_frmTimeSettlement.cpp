@@ -6,12 +6,11 @@
 #include "ui/frmTimeSettlement2.h"
 #include "ui/frmTimeSettlement3.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-namespace {
 
 class MethodDialog : public ProblemDialogTest {};
 
@@ -268,3 +267,4 @@ TEST_F(TimeDialog, EnterFollowsTheFieldsAndEndsInTheResults) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -6,11 +6,10 @@
 #include "files/SettingsFiles.h"
 #include "ui/frmUnits.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
-using ::testing::ElementsAre;
-
+namespace lithmark::tests {
 namespace {
+
+using ::testing::ElementsAre;
 
 class UnitsDialog : public FormTest {
   protected:
@@ -182,3 +181,4 @@ TEST_F(UnitsDialog, CancelChangesNothingAndHelpIsAPage) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -8,14 +8,13 @@
 #include "ui/frmstress.h"
 #include "ui/model/UnsavedInput.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::StartsWith;
-
-namespace {
 
 class StressDialog : public FormTest {
   protected:
@@ -137,13 +136,17 @@ TEST_F(StressDialog, FieldsAreCheckedInTheirOrderAndNamedInTheMessage) {
     const std::vector<FieldCase> point = {{"txt_x", "x-coordinate:"},      {"txt_y", "y-coordinate:"},
                                           {"txt_z", "z-coordinate:"},      {"txt_Q", "Point load:"},
                                           {"txt_Nue", "Poisson's ratio:"}, {"txt_Es", "Modulus of Compressibility:"}};
-    const std::vector<FieldCase> rectangle = {{"txt_x", "x-coordinate:"},      {"txt_y", "y-coordinate:"},
-                                              {"txt_z", "z-coordinate:"},      {"txt_P", "Uniform load:"},
-                                              {"txt_A", "Radius/ Length:"},    {"txt_B", "Width:"},
-                                              {"txt_Nue", "Poisson's ratio:"}, {"txt_Es", "Modulus of Compressibility:"}};
-    const std::vector<FieldCase> circle = {{"txt_x", "x-coordinate:"},          {"txt_y", "y-coordinate:"},
-                                           {"txt_z", "z-coordinate:"},          {"txt_P", "Uniform load:"},
-                                           {"txt_A", "Radius/ Length:"},        {"txt_Nue", "Poisson's ratio:"},
+    const std::vector<FieldCase> rectangle = {
+        {"txt_x", "x-coordinate:"},      {"txt_y", "y-coordinate:"},
+        {"txt_z", "z-coordinate:"},      {"txt_P", "Uniform load:"},
+        {"txt_A", "Radius/ Length:"},    {"txt_B", "Width:"},
+        {"txt_Nue", "Poisson's ratio:"}, {"txt_Es", "Modulus of Compressibility:"}};
+    const std::vector<FieldCase> circle = {{"txt_x", "x-coordinate:"},
+                                           {"txt_y", "y-coordinate:"},
+                                           {"txt_z", "z-coordinate:"},
+                                           {"txt_P", "Uniform load:"},
+                                           {"txt_A", "Radius/ Length:"},
+                                           {"txt_Nue", "Poisson's ratio:"},
                                            {"txt_Es", "Modulus of Compressibility:"}};
     int option = 0;
     for (const auto& fields : {point, rectangle, circle}) {
@@ -315,3 +318,4 @@ TEST_F(StressDialog, ALoadTypeThatDoesNotExistShowsNoLoadAndIsKept) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -8,14 +8,13 @@
 #include "ui/frmResultTools.h"
 #include "ui/frmstress.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::ElementsAre;
 using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-
-namespace {
 
 class StressCommands : public FormTest {
   protected:
@@ -409,3 +408,4 @@ TEST_F(StressCommands, HelpTellsWhatTheProblemComputesInThreeLanguages) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

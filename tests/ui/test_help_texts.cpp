@@ -6,9 +6,7 @@
 #include "AllForms.h"
 #include "FormTest.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
-
+namespace lithmark::tests {
 namespace {
 
 struct HelpCase {
@@ -89,3 +87,4 @@ TEST_F(HelpBoxes, ReadAsTheyAlwaysDid) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

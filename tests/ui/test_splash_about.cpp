@@ -5,9 +5,7 @@
 #include "ui/frmAbout.h"
 #include "ui/frmSplash.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
-
+namespace lithmark::tests {
 namespace {
 
 class SplashForm : public FormTest {
@@ -89,3 +87,4 @@ TEST_F(FormTest, AboutTellsNameAndVersion) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -4,13 +4,12 @@
 #include "FormTest.h"
 #include "ui/model/TableEditing.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
-
-namespace {
 
 using Rows = std::vector<std::vector<std::string>>;
 
@@ -133,3 +132,4 @@ TEST_F(TableEditingTest, TheOtherDecimalSignIsReadWhereItCanMeanNothingElse) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -7,13 +7,12 @@
 #include "services/storage/DraftStore.h"
 #include "ui/model/UnsavedInput.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
-
-namespace {
 
 class UnsavedInput : public FormTest {
   protected:
@@ -180,3 +179,4 @@ TEST_F(UnsavedInput, AStateFolderThatCannotBeWrittenStopsNobody) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -12,14 +12,13 @@
 #include "support/DistinctFields.h"
 #include "support/Places.h"
 
-using namespace lithmark;
-using namespace lithmark::tests;
+namespace lithmark::tests {
+namespace {
+
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::StartsWith;
-
-namespace {
 
 class UntouchedBoxes : public FormTest {
   protected:
@@ -230,3 +229,4 @@ TEST_F(UntouchedBoxes, AValueThatDoesNotFitIsAReasonThatNamesItsField) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests
