@@ -72,14 +72,16 @@ TEST_F(CliTables, AloneAsSpreadsheet) {
     EXPECT_EQ(result.Status, 0) << result.Err;
     EXPECT_TRUE(ReadBytes(output).starts_with("PK"));
 #else
-    ExpectFailure(result, 2, {"xlsx"});
+    ExpectFailure(result, 1, {"xlsx", "lithmark-render"});
 #endif
 }
 
 TEST_F(CliTables, CsvAndSpreadsheetAreForTablesAlone) {
     const std::string project = Example("SquareRaft");
-    for (const char* format : {"csv", "xlsx"})
-        ExpectFailure(Run({"report", project, "--format", format, "--lang", "en"}), 2, {format, "--tables"});
+    ExpectFailure(Run({"report", project, "--format", "csv", "--lang", "en"}), 2, {"csv", "--tables"});
+#ifdef LITHMARK_RENDER
+    ExpectFailure(Run({"report", project, "--format", "xlsx", "--lang", "en"}), 2, {"xlsx", "--tables"});
+#endif
 }
 
 #ifdef LITHMARK_RENDER
