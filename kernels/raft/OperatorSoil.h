@@ -7,8 +7,8 @@
 //
 // The method asks for a soil on which no set of forces does negative work. Elements more than about four times as long
 // as wide violate this, since a force acts on other nodes as a point load, and so may a layer that begins below the
-// surface under a fine mesh. The operations then fail with SingularMatrix, as they do when the goal is not reached: such
-// a system is the inverse's.
+// surface under a fine mesh. The operations then fail with SingularMatrix, as they do when the goal is not reached:
+// such a system is the inverse's.
 #pragma once
 
 #include <vector>

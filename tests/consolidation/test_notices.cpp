@@ -69,7 +69,7 @@ TEST_F(ConsolidationNotices, PressuresBeyondTheInitialOnesAreTold) {
     RateCase c;
     c.NumLayers = 2;
     c.h = Array<Single>::Of({8, 1});  // the second layer's step number is 2.67
-    c.T = 0.05;  // 14 steps, each of which multiplies the error by some ten
+    c.T = 0.05;                       // 14 steps, each of which multiplies the error by some ten
     c.Run();
     ASSERT_FALSE(Session.CalcAborted);
     EXPECT_TRUE(Raised(NoticeId::MarchRange));

@@ -80,17 +80,17 @@ TEST_F(AfterReport, ATableHasItsColumnsUnderEachOtherAndItsSums) {
     EXPECT_THAT(ReportLinesOf(StepTablesText()),
                 ElementsAre("", "Tables for a check by hand", "--------------------------", "", "Parts:",
                             "------------------------------",  //
-                            "  Part    Depth of  Settlement",   //
-                            "        the middle",               //
-                            "     i           z          ds",   //
-                            "               [m]        [cm]",   //
+                            "  Part    Depth of  Settlement",  //
+                            "        the middle",              //
+                            "     i           z          ds",  //
+                            "               [m]        [cm]",  //
                             "------------------------------",  //
-                            "     1   0.1250000    12.25000",   //
-                            "     2   0.3750000     0.50000",   //
-                            "     3                    none",   //
+                            "     1   0.1250000    12.25000",  //
+                            "     2   0.3750000     0.50000",  //
+                            "     3                    none",  //
                             "------------------------------",  //
-                            "Sum                   12.75000",   //
-                            "Result                12.75000",   //
+                            "Sum                   12.75000",  //
+                            "Result                12.75000",  //
                             "------------------------------",  //
                             "ds is the settlement of a part.", ""));
     EXPECT_EQ(ReportWith(Behind::Tables), Session.ResultText + StepTablesText());
