@@ -8,6 +8,7 @@
 #include "files/ProjectFiles.h"
 #include "kernels/RunKernel.h"
 #include "services/SharedServices.h"
+#include "support/RunProject.h"
 #include "support/ScriptedHost.h"
 #include "support/TestSession.h"
 
@@ -61,18 +62,7 @@ class CliResults : public CliTest {
         return Json::parse(result.Out);
     }
     // The same run in this process.
-    void RunHere(const std::string& name) const {
-        FreshSession();
-        Session.DataDir = Session.WorkDir = work.Dir();
-        Session.ProjectName = Session.WorkName = name;
-        ASSERT_EQ(ReadProjectFile(), ReadOutcome::Read);
-        ASSERT_EQ(ReadOrderFile(), ReadOutcome::Read);
-        SetProblemDefaults();
-        ASSERT_EQ(ReadProblemData(), ReadOutcome::Read);
-        Session.A0 = Session.A;
-        RunProblemKernel();
-        ASSERT_FALSE(Session.CalcAborted);
-    }
+    void RunHere(const std::string& name) const { ASSERT_NO_FATAL_FAILURE(ReadAndRunProject(work.Dir(), name)); }
 };
 
 void ExpectSame(const Json& json, Single value) {

@@ -1,5 +1,7 @@
 #include "RenderCase.h"
 
+#include "support/RunProject.h"
+
 namespace lithmark::tests {
 
 void RenderTest::RunExample(const std::string& name, Language language) {
@@ -12,16 +14,7 @@ void RenderTest::RunExample(const std::string& name, Language language) {
 }
 
 void RenderTest::ReadAndRun(const std::string& name, Language language) {
-    FreshSession(language);
-    Session.DataDir = Session.WorkDir = folder.Dir();
-    Session.ProjectName = Session.WorkName = name;
-    ASSERT_EQ(ReadProjectFile(), ReadOutcome::Read);
-    ASSERT_EQ(ReadOrderFile(), ReadOutcome::Read);
-    SetProblemDefaults();
-    ASSERT_EQ(ReadProblemData(), ReadOutcome::Read);
-    Session.A0 = Session.A;
-    RunProblemKernel();
-    ASSERT_FALSE(Session.CalcAborted);
+    ASSERT_NO_FATAL_FAILURE(ReadAndRunProject(folder.Dir(), name, language));
     Session.CurveLoadUnit = Session.Force1Label;
     Session.CurveSettlementUnit = Session.Len2Label;
 }
