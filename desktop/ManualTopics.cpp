@@ -46,9 +46,12 @@ std::string PageOfTopic(const std::string& topic) {
     // Arabic has the program's own words by problem on one page.
     if (language == Language::Arabic && name.starts_with(kProblemPage))
         return "manual/ar/words#" + name.substr(kProblemPage.size());
-    for (const std::string& folder :
-         {std::string(language == Language::German ? "manual/de/" : "manual/en/"), std::string()})
-        if (!ManualPage(folder + name).empty()) return folder + name + section;
+    // In English where the language has no page of its own.
+    const std::string_view own = language == Language::German   ? "manual/de/"
+                                 : language == Language::Arabic ? "manual/ar/"
+                                                                : "manual/en/";
+    for (const std::string_view folder : {own, std::string_view("manual/en/"), std::string_view()})
+        if (const std::string page = std::string(folder) + name; !ManualPage(page).empty()) return page + section;
     return {};
 }
 

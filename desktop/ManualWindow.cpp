@@ -135,7 +135,7 @@ void ManualWindow::Open(const std::string& page) {
     section_ = mark == std::string::npos ? std::string() : page.substr(mark + 1);
     if (name != page_) {
         page_ = name;
-        // Pages are written in English and German; the page of Arabic words runs the other way.
+        // Arabic pages run the other way.
         const auto direction = name.starts_with("manual/ar/") ? Qt::RightToLeft : Qt::LeftToRight;
         browser_->setLayoutDirection(direction);
         static_cast<ManualBrowser*>(browser_)->Page = name;

@@ -2,6 +2,7 @@
 
 #include "services/SharedServices.h"
 #include "services/storage/FileNames.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 
@@ -25,8 +26,12 @@ void CommitDataFiles(NumberedFileSet& files) {
     files.Commit([](const std::string& path) { SharedServices().SetCurrentFile(path); });
 }
 
-void FileError(const Failure& failure) {
-    SharedServices().ShowFileError(failure);
+void FileError(const Failure& failure, const std::string& more) {
+    if (more.empty())
+        SharedServices().ShowFileError(failure);
+    else
+        SharedServices().ShowMessageBox(Text(160030_text), SharedServices().FailureText(failure) + " " + more,
+                                        MessageIcon::Exclamation);
     DropNumberedFile(1);
     SharedServices().ClearFileStatus();
 }

@@ -19,8 +19,8 @@ void CloseDataFile(int fileNumber);
 void CommitDataFiles(NumberedFileSet& files);
 
 // The common step after a failure, for kernels and file routines alike: tells it for the file last opened, drops the
-// open file under number 1, clears the notice.
-void FileError(const Failure& failure);
+// open file under number 1, clears the notice. `more` are sentences that stand behind what went wrong.
+void FileError(const Failure& failure, const std::string& more = {});
 
 // `dir` & `name` & "." & `extension` as the file is really called.
 std::string DataFileName(const std::string& dir, const std::string& name, const std::string& extension);

@@ -17,4 +17,13 @@ Failure WithCause(Failure failure, const std::string& cause) {
     }
 }
 
+void TellFailedRun(const Failure& failure) {
+    std::string notices;
+    for (const Notice& notice : Notices().All()) {
+        if (!notices.empty()) notices += ' ';
+        notices += NoticeText(notice);
+    }
+    FileError(failure, notices);
+}
+
 }  // namespace lithmark

@@ -16,6 +16,9 @@ namespace lithmark {
 // where `cause` knows one.
 Failure WithCause(Failure failure, const std::string& cause);
 
+// Tells a failed run: what went wrong, and behind it the notices, since no result is shown that they could stand beside.
+void TellFailedRun(const Failure& failure);
+
 // Runs the body of a kernel, with an empty board of notices and no tables of steps. Any run-time failure ends it: the
 // shared failure routine tells it, with what `cause` then says of the input (report/Causes.h), and drops the open file,
 // and Session.CalcAborted is set. A run that the user ends leaves the notices and steps of the one before it. The
@@ -30,10 +33,12 @@ void RunKernel(Body&& body, Cause&& cause) {
         body();
     } catch (const std::exception& error) {
         const Failure failure = FailureFrom(error);
-        FileError(WithCause(failure, cause()));
         if (failure.Kind() == FailureKind::Cancelled) {
             Notices() = formerNotices;
             Steps() = std::move(formerSteps);
+            FileError(failure);
+        } else {
+            TellFailedRun(WithCause(failure, cause()));
         }
         Session.CalcAborted = true;
     }

@@ -2,7 +2,8 @@
 //
 // One board for the process. A kernel raises a notice where it can measure that a result deserves less trust than its
 // digits promise; the run starts with an empty board (RunKernel). A notice never stops a run and never stands in the
-// report: viewer, documents and command line show the notices beside it. docs/notices.md has a section for each id.
+// report: viewer, documents and command line show the notices beside it, and a run that fails tells them behind its
+// failure. docs/notices.md has a section for each id.
 #pragma once
 
 #include <string>

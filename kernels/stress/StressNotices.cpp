@@ -102,17 +102,22 @@ void MeasureCircle(const SoilStressInput& in, Single zc) {
     }
 }
 
-// The deviatoric stress of three principal stresses is never greater than their greatest difference.
+// The deviatoric stress of three principal stresses is never greater than their greatest difference. In the x-z plane's
+// own terms the third of them is Sigma_y, which the report does not print among them.
 void MeasureDeviator() {
     const PrincipalStresses principal =
         ComputePrincipalStresses(Session.Sigma_x, Session.Sigma_y, Session.Sigma_z, Session.Tau_xz);
     const double max = principal.max_Sigma, min = principal.min_Sigma, difference = max - min;
     if (principal.q <= difference * (1 + kRoundings)) return;
-    // In the x-z plane's own terms the third principal stress is Sigma_y.
     const double third = Session.Sigma_y;
     const double q = std::sqrt((Square(difference) + Square(third - min) + Square(max - third)) / 2);
-    Notices().Raise(NoticeId::QImpossible, 907033_text,
-                    {MeasuredPressure(principal.q), MeasuredPressure(difference), MeasuredPressure(q)});
+    if (third < min || third > max)
+        Notices().Raise(NoticeId::QImpossible, 907270_text,
+                        {MeasuredPressure(principal.q), MeasuredPressure(difference), MeasuredPressure(third),
+                         MeasuredPressure(q)});
+    else
+        Notices().Raise(NoticeId::QImpossible, 907033_text,
+                        {MeasuredPressure(principal.q), MeasuredPressure(difference), MeasuredPressure(q)});
 }
 
 }  // namespace

@@ -51,6 +51,7 @@ std::vector<StepCell> AddTerms(StepTable& table, const CornerRecord& record,
         columns.push_back(table.Columns.size() - 1);
     }
     table.AddSums(columns);
+    table.Notes.push_back(Text(907271_text));
     if (leftOut) table.Notes.push_back(Text(907209_text));
     return table.Sums.back().Cells;
 }

@@ -29,7 +29,7 @@ def pages():
     """All pages by their place under docs/, in the order of the book."""
     names = [f"manual/{language}/{name}" for language in ("en", "de") for name in ORDER]
     names[len(ORDER):len(ORDER)] = ENGLISH
-    return [*names, "manual/ar/words"]
+    return [*names, "manual/de/notices", "manual/ar/words", "manual/ar/notices"]
 
 
 def language_of(name):

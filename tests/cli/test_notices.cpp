@@ -48,8 +48,8 @@ TEST_F(CliNotices, AreLinesOfChartAndContourToo) {
     EXPECT_THAT(contour.Err, HasSubstr("notice: The equations of the raft are badly conditioned"));
 }
 
-// An aborted run keeps what it raised before, and its one line on standard error.
-TEST_F(CliNotices, OfAnAbortedRunStandInItsJsonAlone) {
+// An aborted run keeps what it raised before, in its JSON and in its one line on standard error.
+TEST_F(CliNotices, OfAnAbortedRunStandInItsJsonAndItsMessage) {
     const CliResult result =
         Run({"report", Example("OneClayLayer"), "--format", "json", "--set", "NumLayers=2", "--set", "hLayer(1)=8",
              "--set", "hLayer(2)=1", "--set", "CvLayer(2)=1.5e-6", "--set", "T=2"});
@@ -57,6 +57,7 @@ TEST_F(CliNotices, OfAnAbortedRunStandInItsJsonAlone) {
     EXPECT_EQ(Json::parse(result.Out)["notices"][0]["id"], "march-unstable");
     EXPECT_EQ(LinesOf(result.Err).size(), 1u);
     EXPECT_THAT(result.Err, StartsWith("lithmark-cli: "));
+    EXPECT_THAT(result.Err, HasSubstr(Json::parse(result.Out)["notices"][0]["text"].get<std::string>()));
 }
 
 // What the examples tell, each of them right: the shift of loads against a measurement, q, an unused layer, a tank's

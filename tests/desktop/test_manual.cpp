@@ -78,7 +78,8 @@ TEST_F(ManualOnScreen, PicturesAreShownAndTablesHaveLines) {
 }
 
 TEST_F(ManualOnScreen, PagesAreThoseOfTheDocumentation) {
-    for (const char* name : {"notices", "manual", "raft-theory", "manual/en/problem-1", "manual/ar/words"})
+    for (const char* name : {"notices", "manual/de/notices", "manual/ar/notices", "manual", "raft-theory",
+                             "manual/en/problem-1", "manual/ar/words"})
         EXPECT_EQ(ManualPage(name), ReadBytes(kDocs / (std::string(name) + ".md"))) << name;
     EXPECT_EQ(ManualPage("manual/pictures/raft.svg"), ReadBytes(kDocs / "manual/pictures/raft.svg"));
     EXPECT_EQ(ManualPage("7_7"), "");
@@ -93,8 +94,11 @@ TEST_F(ManualOnScreen, TopicsHavePagesInTheLanguage) {
     LanguageTexts().SetCurrent(Language::German);
     EXPECT_EQ(PageOfTopic("7_7"), "manual/de/settings-files");
     EXPECT_EQ(PageOfTopic("problem-7"), "manual/de/problem-7");
+    EXPECT_EQ(PageOfTopic("notices#raft-tension"), "manual/de/notices#raft-tension");
     LanguageTexts().SetCurrent(Language::Arabic);
     EXPECT_EQ(PageOfTopic("problem-7"), "manual/ar/words#7");
+    EXPECT_EQ(PageOfTopic("notices#raft-tension"), "manual/ar/notices#raft-tension");
+    EXPECT_EQ(PageOfTopic("7_7"), "manual/en/settings-files");
     LanguageTexts().SetCurrent(Language::English);
 }
 

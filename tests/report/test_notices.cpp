@@ -69,6 +69,10 @@ TEST_F(NoticesTest, ARunStartsWithAnEmptyBoardAndAFailureKeepsWhatItRaised) {
     });
     EXPECT_TRUE(Session.CalcAborted);
     EXPECT_EQ(NoticeIds(), "march-unstable");
+    // No result is shown that it could stand beside, so the failure's message has it.
+    EXPECT_EQ(host_.LastMessage().Text,
+              "The calculation was stopped: a value became too large. Layer 1: the step number is 2; beyond 0.5 the "
+              "march is unstable.");
 }
 
 TEST_F(NoticesTest, AMeasureThatFailsEndsAlone) {
@@ -76,16 +80,15 @@ TEST_F(NoticesTest, AMeasureThatFailsEndsAlone) {
     EXPECT_TRUE(host_.Messages.empty());
 }
 
-// Scripts and the manual know a notice by its name.
+// Scripts and the manual know a notice by its name, in each language.
 TEST_F(NoticesTest, EveryIdHasANameAndASectionOfTheManual) {
-    const std::string manual = ReadBytes(SourceDir() / "docs" / "notices.md");
     std::set<std::string> names;
-    for (int id = 0; id < kNoticeIds; ++id) {
-        const std::string name(NoticeName(static_cast<NoticeId>(id)));
-        names.insert(name);
-        EXPECT_THAT(manual, HasSubstr("\n## " + name + "\n"));
-    }
+    for (int id = 0; id < kNoticeIds; ++id) names.emplace(NoticeName(static_cast<NoticeId>(id)));
     EXPECT_EQ(names.size(), static_cast<std::size_t>(kNoticeIds));
+    for (const char* page : {"notices.md", "manual/de/notices.md", "manual/ar/notices.md"}) {
+        const std::string manual = ReadBytes(SourceDir() / "docs" / page);
+        for (const std::string& name : names) EXPECT_THAT(manual, HasSubstr("\n## " + name + "\n")) << page;
+    }
 }
 
 TEST_F(NoticesTest, MeasuredValuesHaveFourDigitsAndTheUnitInForce) {

@@ -78,6 +78,21 @@ TEST_F(StressNotices, QIsToldWhereItIsBeyondTheDifferenceOfThePrincipalStresses)
     EXPECT_FALSE(Raised(NoticeId::QImpossible));
 }
 
+// Beside the load along y the greatest stress is Sigma_y, which the x-z plane does not have: q may then be greater than
+// the difference in that plane, and the notice must not say that it cannot.
+TEST_F(StressNotices, QIsToldWithSigmaYWhereThatLiesOutsideThePlanesStresses) {
+    Run(1, PointLoadAt(0, 2, 1));
+    const double y = Session.Sigma_y, max = Session.Sigma_z, min = Session.Sigma_x;  // Tau_xz is 0 at x = 0
+    ASSERT_EQ(static_cast<double>(Session.Tau_xz), 0);
+    ASSERT_GT(y, max);
+    ASSERT_GT(max, min);
+    const double q = std::sqrt((std::pow(max - min, 2) + std::pow(y - min, 2) + std::pow(max - y, 2)) / 2);
+    ASSERT_GT(q, max - min);
+    EXPECT_THAT(Told(NoticeId::QImpossible), HasSubstr("x-z plane, " + MeasuredPressure(max - min)));
+    EXPECT_THAT(Told(NoticeId::QImpossible), HasSubstr("Sigma_y = " + MeasuredPressure(y) + " lies outside"));
+    EXPECT_THAT(Told(NoticeId::QImpossible), HasSubstr("third one q = " + MeasuredPressure(q)));
+}
+
 TEST_F(StressNotices, ShearsOfACircleAreToldInLineWithNodes) {
     // On the x axis the 13 nodes of the axis are left out of all shears. Theory: symmetry leaves Tau_xz alone.
     Run(1, CircleAt(4, 0, 1, 5));

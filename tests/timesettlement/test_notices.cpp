@@ -27,6 +27,13 @@ TEST_F(HistoryNotices, TheShiftOfLoadsAgainstTheMeasurementIsTold) {
     Session.DesignCode = 1;  // one unit later there would be no load yet
     Run();
     EXPECT_THAT(Told(NoticeId::HistoryShift), HasSubstr("no settlement yet"));
+    // Five units behind the last load (12 in the table, 11 by its slot) the settlement has come to its end.
+    Session.DesignCode = 16;
+    Run();
+    EXPECT_TRUE(Raised(NoticeId::HistoryShift));
+    Session.DesignCode = 17;
+    Run();
+    EXPECT_FALSE(Raised(NoticeId::HistoryShift));
     Session.Ms = false;  // nothing to hold the history against
     Run();
     EXPECT_FALSE(Raised(NoticeId::HistoryShift));

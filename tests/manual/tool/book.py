@@ -9,6 +9,8 @@ from tool.source import LANGUAGES, SOURCE_PAGES, Page
 DOCS = ROOT / "docs" / "manual"
 # Pages for those who look behind the methods, beside the other theory pages.
 ENGLISH_ALONE = ("consolidation-theory.md", "raft-theory.md")
+# In all three languages, as the program tells them; the English page stands beside the theory.
+NOTICES = "notices.md"
 MADE = "<!-- Made by tests/renew-manual from docs/manual/source. -->\n"
 
 
@@ -42,6 +44,12 @@ class Book:
             words = words.replace("|3", self.texts[int(cause)][language])
         return re.sub(r"\|\d", "…", words)
 
+    @staticmethod
+    def _languages(name):
+        if name in ENGLISH_ALONE:
+            return ("en",)
+        return (*LANGUAGES, "ar") if name == NOTICES else LANGUAGES
+
     def written(self):
         """All files by path, and what is wrong."""
         files = {DOCS / "pictures" / f"{name}.svg": text for name, text in sketches.drawn().items()}
@@ -49,9 +57,10 @@ class Book:
         for source in sorted(SOURCE_PAGES.glob("*.md")):
             if source.name == "README.md":
                 continue
-            for language in ("en",) if source.name in ENGLISH_ALONE else LANGUAGES:
+            for language in self._languages(source.name):
                 page = Page(source, language, self)
-                folder = DOCS.parent if source.name in ENGLISH_ALONE else DOCS / language
+                beside = language == "en" and source.name in (*ENGLISH_ALONE, NOTICES)
+                folder = DOCS.parent if beside else DOCS / language
                 files[folder / source.name] = MADE + page.written()
                 wrong += page.wrong
         files[DOCS / "ar" / "words.md"] = MADE + words.page(self)

@@ -3,11 +3,13 @@ import re
 import textwrap
 
 from tool import fields, settings
+from tool.direction import isolated
 from tool.numbers import plain, signs_in
 from tool.program import ROOT
 from tool.steps import Steps
 
 LANGUAGES = ("en", "de")
+NOTICES = {"en": "../../notices.md", "de": "notices.md"}  # seen from a problem's page
 SOURCE_PAGES = ROOT / "docs" / "manual" / "source"
 WIDTH = 120
 TOLERANCE = 2e-5  # of a hand calculation in 64 bits against the program's numbers of seven digits
@@ -46,7 +48,7 @@ class Page:
 
     def written(self):
         for number, line in enumerate(self.path.read_text(encoding="utf-8").split("\n"), 1):
-            tagged = re.match(r"(en|de)\| ?", line)
+            tagged = re.match(r"(en|de|ar)\| ?", line)
             if tagged:
                 if tagged[1] != self.language:
                     continue
@@ -72,6 +74,8 @@ class Page:
         if self.listed and line and not re.match(r"\d+\. ", line):
             self.out.append("")  # a list ends with an empty line
         self.listed = bool(re.match(r"\d+\. ", line))
+        if self.language == "ar":
+            line = isolated(line)
         self.out += self._wrapped(lowered(line))
 
     @staticmethod
@@ -197,7 +201,7 @@ class Page:
         self._head({"en": ("notice", "means", "do"), "de": ("Hinweis", "bedeutet", "Abhilfe")})
         for name in rest.split():
             means, remedy = self.book.notices[name][self.language]
-            self._put(f"| [{name}](../../notices.md#{name}) | {means} | {remedy} |")
+            self._put(f"| [{name}]({NOTICES[self.language]}#{name}) | {means} | {remedy} |")
 
     def _do_picture(self, rest):
         name, _, words = rest.partition(" ")

@@ -7,7 +7,7 @@ from tool.source import SOURCE_PAGES, lowered
 HEAD = """# كلمات البرنامج
 
 أسماء الحقول والرسائل كما يعرضها البرنامج، لكل مسألة. الصيغ والأمثلة في الصفحات الإنجليزية والألمانية: [English](../en/index.md)،
-[Deutsch](../de/index.md).
+[Deutsch](../de/index.md). وما يبلغ به الحساب إلى جانب تقريره: [التنبيهات](notices.md).
 """
 MESSAGES = "الرسائل"
 

@@ -88,7 +88,7 @@ class Study:
         if data.get("extrapolated"):
             cells = [cell for errors in all_errors for cell in (f"{numbers.plain(self.limit(errors), 2)} {unit}", "")]
             lines.append("| " + " | ".join(["twice the last less the one before", *cells]) + " |")
-        lines += ["", f"| result | error of the default | 1 {unit} |", "|---|---|---|"]
+        lines += ["", f"| result | error of the default | 1 {unit.removesuffix('s')} |", "|---|---|---|"]
         for label, errors in zip(labels, all_errors):
             default, within = self.default_error(errors), self.first_within(errors)
             lines.append(f"| {label} | " + ("" if default is None else f"{numbers.plain(default, 2)} {unit}") + " | "

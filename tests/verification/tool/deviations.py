@@ -43,6 +43,7 @@ class Deviations:
             names = names_of(program.run(row.project, row.run))
             names["other"] = lambda run, quantity, project=row.project: value_of(
                 quantity, names_of(program.run(project, run)))
+            names["wide"] = lambda quantity, row=row: value_of(quantity, names_of(program.wide.run(row.project, row.run)))
             ours = value_of(row.quantity, names)
             theory = value_of(row.theory, names) if row.theory else None
             values = {"ours": float(ours), "rough": rough(float(ours))}
