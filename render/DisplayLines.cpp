@@ -55,6 +55,19 @@ std::vector<Word> WordsOf(std::string_view line) {
     return words;
 }
 
+// Signs outside of a word's isolates ("(12 m)." with the isolates around "12 m") belong to the sentence around it.
+bool HasSignsOfSentence(std::string_view text) {
+    bool isolated = false, outside = false;
+    int depth = 0;
+    for (const char32_t c : CodePoints(text)) {
+        const bool opens = c >= 0x2066 && c <= 0x2068, closes = c == 0x2069;
+        depth += opens ? 1 : closes ? -1 : 0;
+        isolated = isolated || opens;
+        outside = outside || (depth == 0 && !closes);
+    }
+    return isolated && outside;
+}
+
 bool IsNumber(const std::string& word) {
     return word.find_first_of("0123456789") != std::string::npos &&
            word.find_first_not_of("0123456789.,+-E") == std::string::npos;
@@ -103,7 +116,7 @@ DisplayLine PlaceRightToLeft(const std::vector<Word>& words, LineKind kind) {
             const bool plain = words[k].Plain;
             while (plain && k + 1 < end && BelongTogether(words[k], words[k + 1])) text += " " + words[++k].Text;
             const int cells = CellsOf(text);
-            pieces.push_back({column, cells, text, !plain});
+            pieces.push_back({column, cells, text, !plain || HasSignsOfSentence(text)});
             column += cells + 1;
         }
         const int cells = column - 1;

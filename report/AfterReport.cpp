@@ -134,7 +134,8 @@ std::string NoticeBox() {
     if (Notices().All().empty()) return {};
     std::string box = kLineEnd + Ruler() + kLineEnd + Text(907200_text, Style{4}) + kLineEnd + Ruler() + kLineEnd;
     for (const Notice& notice : Notices().All()) {
-        const std::string id(NoticeName(notice.Id));
+        std::string id(NoticeName(notice.Id));
+        if (LanguageTexts().RightToLeft()) id = "\u2066" + id + "\u2069";
         for (const std::string& line : Wrapped(id + ": " + NoticeText(notice), kReportWidth)) box += line + kLineEnd;
     }
     return box + Ruler() + kLineEnd;

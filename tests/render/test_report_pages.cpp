@@ -147,6 +147,14 @@ TEST_F(ReportPages, NumbersAndUnitsAreKeptWholeBetweenIsolates) {
     EXPECT_EQ(DisplayTexts({"a  1"}, false).front(), "a  1") << "other languages need nothing";
 }
 
+// A full stop or a bracket behind a value is the Arabic sentence's: it stands left of the value, not right of its unit.
+TEST_F(ReportPages, SignsBehindAnIsolateAreLeftToTheSentence) {
+    for (const std::string line : {"التكييف \u2066371492\u2069): يمكن", "متوسطه \u206680 kN/m²\u2069. لا يصح",
+                                   "\u2066raft-tension\u2069: ينخفض", "(\u206636.56 %\u2069). عزمها"})
+        EXPECT_EQ(RightToLeft(line), line);
+    EXPECT_EQ(RightToLeft("إلى \u206612 m\u2069 وهو"), "إلى \u2066\u206612 m\u2069\u2069 وهو");
+}
+
 TEST_F(ReportPages, AParameterLineHasItsPartsOnTheirColumns) {
     // A pair lam-alef is drawn as one cell and a mark over a letter takes none; the symbol stands at its place.
     const auto lines = DisplayLines({"الأساس             Pt [kN] = 1.0", "الحمل شاملاً       Q  [m]  = 2.0"}, true);

@@ -73,6 +73,8 @@ TEST_F(AfterReport, InArabicAValueIsNotPartedFromItsUnit) {
         for (const char32_t c : CodePoints(line)) open += c == 0x2066 ? 1 : c == 0x2069 ? -1 : 0;
         EXPECT_EQ(open, 0) << line;
     }
+    // The name of a notice, too, is one word apart from the sentence's signs.
+    EXPECT_THAT(NoticeBox(), HasSubstr("\u2066raft-tension\u2069: "));
 }
 
 TEST_F(AfterReport, ATableHasItsColumnsUnderEachOtherAndItsSums) {
