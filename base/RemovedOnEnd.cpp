@@ -53,8 +53,10 @@ RemovedOnEnd::~RemovedOnEnd() {
 }
 
 void RemoveRegisteredFiles() noexcept {
-    for (const Slot& slot : slots)
-        if (slot.State == SlotState::Registered && slot.Process == ::getpid()) ::unlink(slot.Path.data());
+    // Folders when they are empty.
+    for (const auto remove : {::unlink, ::rmdir})
+        for (const Slot& slot : slots)
+            if (slot.State == SlotState::Registered && slot.Process == ::getpid()) remove(slot.Path.data());
 }
 
 void EndCleanlyOnSignals() {

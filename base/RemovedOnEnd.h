@@ -1,12 +1,12 @@
-// Files that must not outlive the process, also when a signal ends it: temporary files, locks.
+// Files that must not outlive the process, also when a signal ends it: temporary files, locks, folders for the while.
 #pragma once
 
 #include <string>
 
 namespace lithmark {
 
-// A file that is registered as long as this lives. The file itself is not touched. Of more files than a fixed number
-// the last ones are not registered; they are what a crash leaves.
+// A file, or a folder of such files, that is registered as long as this lives. It itself is not touched. Of more files
+// than a fixed number the last ones are not registered; they are what a crash leaves.
 class RemovedOnEnd {
   public:
     explicit RemovedOnEnd(const std::string& path) noexcept;

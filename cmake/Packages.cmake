@@ -21,9 +21,9 @@ set(same_version "${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}")
 
 set(CPACK_DEBIAN_DESKTOP_PACKAGE_NAME lithmark)
 set(CPACK_DEBIAN_DESKTOP_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_DESKTOP_PACKAGE_DEPENDS "lithmark-data (= ${same_version}), fonts-dejavu-core")
+set(CPACK_DEBIAN_DESKTOP_PACKAGE_DEPENDS "lithmark-cli (= ${same_version}), lithmark-data (= ${same_version}), fonts-dejavu-core")
 set(CPACK_DEBIAN_DESKTOP_PACKAGE_RECOMMENDS
-  "desktop-file-utils, lithmark-cli, qt6-translations-l10n, shared-mime-info, xdg-utils")
+  "desktop-file-utils, qt6-translations-l10n, shared-mime-info, xdg-utils")
 set(CPACK_DEBIAN_DESKTOP_PACKAGE_SUGGESTS lithmark-doc)
 set(CPACK_DEBIAN_DESKTOP_DESCRIPTION "calculator for foundation engineers
 Stresses, strains and displacements of the soil under point, rectangular and

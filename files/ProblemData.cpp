@@ -131,22 +131,37 @@ void ReadValue(Array<T>& values) {
     for (T& value : values) ReadValue(value);
 }
 
-void WriteValue(Single value) {
-    WriteNumber(kFile, value);
-}
-void WriteValue(Integer value) {
-    WriteNumber(kFile, value);
-}
-void WriteValue(bool value) {
-    WriteFlag(kFile, value);
-}
-void WriteValue(const std::string& value) {
-    WriteRawLine(kFile, value);
-}
-template <typename T>
-void WriteValue(const Array<T>& values) {
-    for (const T& value : values) WriteValue(value);
-}
+// A line for each value of a record.
+class LineWriter {
+  public:
+    explicit LineWriter(const SessionRecord& record) : record_(record) {}
+
+    void operator()(const Fields& row) {
+        for (const FieldPointer& field : row.Items)
+            std::visit([this](const auto value) { Add(record_.*value); }, field);
+    }
+    void operator()(const ListText& row) { Add(record_.*row.Item); }
+    void operator()(const Count& row) { Add(record_.*row.Rows); }
+    void operator()(const Table& row) {
+        for (int i = 1; i <= record_.*row.Rows; ++i)
+            for (const ColumnPointer& column : row.Columns)
+                std::visit([this, i](const auto values) { Add((record_.*values)(i)); }, column);
+    }
+
+    std::vector<std::string> Lines;
+
+  private:
+    void Add(Single value) { Lines.push_back(NumberToText(value)); }
+    void Add(Integer value) { Lines.push_back(NumberToText(static_cast<int>(value))); }
+    void Add(bool value) { Lines.push_back(FlagText(value)); }
+    void Add(const std::string& value) { Lines.push_back(value); }
+    template <typename T>
+    void Add(const Array<T>& values) {
+        for (const T& value : values) Add(value);
+    }
+
+    const SessionRecord& record_;
+};
 
 // Takes a table's count and gives its arrays that size; nothing of their old rows stays. A count that no table can have
 // is refused before anything is changed.
@@ -164,33 +179,19 @@ void Read(const Count& row) {
     for (const ColumnPointer& column : row.Columns)
         std::visit([&](const auto values) { (Session.*values).Redim(1, count); }, column);
 }
-void Write(const Count& row) {
-    WriteValue(Session.*row.Rows);
-}
 
 void Read(const Fields& row) {
     for (const FieldPointer& field : row.Items) std::visit([](const auto value) { ReadValue(Session.*value); }, field);
 }
-void Write(const Fields& row) {
-    for (const FieldPointer& field : row.Items) std::visit([](const auto value) { WriteValue(Session.*value); }, field);
-}
 
 void Read(const ListText& row) {
     Session.*row.Item = ReadListItem(kFile);
-}
-void Write(const ListText& row) {
-    WriteValue(Session.*row.Item);
 }
 
 void Read(const Table& row) {
     for (int i = 1; i <= Session.*row.Rows; ++i)
         for (const ColumnPointer& column : row.Columns)
             std::visit([i](const auto values) { ReadValue((Session.*values)(i)); }, column);
-}
-void Write(const Table& row) {
-    for (int i = 1; i <= Session.*row.Rows; ++i)
-        for (const ColumnPointer& column : row.Columns)
-            std::visit([i](const auto values) { WriteValue((Session.*values)(i)); }, column);
 }
 
 // The fields that a row has in the file and no row ahead of it.
@@ -242,12 +243,18 @@ void WriteProblemData() {
         NumberedFileSet files;
         if (IsTimeSettlement(problem)) WriteProjectFile(Session.WorkDir, Session.WorkName);
         OpenDataFile(NameOfDataFile(), FileMode::Output, kFile);
-        for (const FileRow& row : RowsOf(problem)) std::visit([](const auto& r) { Write(r); }, row);
+        for (const std::string& line : ProblemDataLines(Session)) WriteRawLine(kFile, line);
         CloseDataFile(kFile);
         CommitDataFiles(files);
         Session.FileSaved = true;
     });
     SharedServices().SetPointer(PointerShape::Default);
+}
+
+std::vector<std::string> ProblemDataLines(const SessionRecord& record) {
+    LineWriter writer(record);
+    for (const FileRow& row : RowsOf(record.ProblemType)) std::visit(writer, row);
+    return std::move(writer.Lines);
 }
 
 std::vector<std::string_view> ProblemFieldNames(int problemType) {

@@ -5,10 +5,13 @@
 // and leaves the fields that were read so far; Session.FileSaved stays false.
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
 namespace lithmark {
+
+struct SessionRecord;
 
 enum class ReadOutcome { Read, Missing, Failed };
 
@@ -18,6 +21,9 @@ ReadOutcome ReadProblemData();
 // Sets Session.FileSaved when everything was written. The time-settlement problems write their project file first,
 // since the method can change without the project dialog.
 void WriteProblemData();
+
+// The lines that WriteProblemData would write for a record of a problem.
+std::vector<std::string> ProblemDataLines(const SessionRecord& record);
 
 // The fields of a problem's data file in the file's order, each once.
 std::vector<std::string_view> ProblemFieldNames(int problemType);

@@ -1,5 +1,6 @@
 #include "files/ProjectFiles.h"
 
+#include "base/NumberText.h"
 #include "core/Session.h"
 #include "files/CommonStep.h"
 #include "services/ProjectStore.h"
@@ -57,11 +58,17 @@ ReadOutcome ReadProjectData() {
     return order == ReadOutcome::Failed ? order : project;
 }
 
+std::vector<std::string> ProjectFileLines(const SessionRecord& record) {
+    return {"Version 9", NumberToText(static_cast<int>(record.ProblemType)), "0"};
+}
+
+std::vector<std::string> OrderFileLines(const SessionRecord& record) {
+    return {record.Auftr, record.Datum, record.Proj};
+}
+
 void WriteProjectFile(const std::string& dir, const std::string& name) {
     OpenDataFile(DataFileName(dir, name, "PO3"), FileMode::Output, kFile);
-    WriteRawLine(kFile, "Version 9");
-    WriteNumber(kFile, Session.ProblemType);
-    WriteNumber(kFile, 0L);
+    for (const std::string& line : ProjectFileLines(Session)) WriteRawLine(kFile, line);
     CloseDataFile(kFile);
 }
 
@@ -72,9 +79,7 @@ void WriteProjectData() {
         const auto saving = ProjectStore().BeginSave(Session.WorkDir + Session.WorkName);
         NumberedFileSet files;
         OpenDataFile(DataFileName(Session.WorkDir, Session.WorkName, "AUF"), FileMode::Output, kFile);
-        WriteRawLine(kFile, Session.Auftr);
-        WriteRawLine(kFile, Session.Datum);
-        WriteRawLine(kFile, Session.Proj);
+        for (const std::string& line : OrderFileLines(Session)) WriteRawLine(kFile, line);
         CloseDataFile(kFile);
         WriteProjectFile(Session.WorkDir, Session.WorkName);
         CommitDataFiles(files);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "base/Integer.h"
 #include "files/ProblemData.h"
@@ -25,6 +26,10 @@ void WriteProjectData();
 // Writes the project file of a directory and name: the literal "Version 9", ProblemType, 0. Throws Failure. Who calls
 // it holds ProjectStore's BeginSave.
 void WriteProjectFile(const std::string& dir, const std::string& name);
+
+// The lines of the two files for a record.
+std::vector<std::string> ProjectFileLines(const SessionRecord& record);
+std::vector<std::string> OrderFileLines(const SessionRecord& record);
 
 // True when the open project has a file of this extension, in whatever letter case.
 bool ProjectHasFile(const std::string& extension);

@@ -1,5 +1,6 @@
 #include "files/SettingsFiles.h"
 
+#include "base/NumberText.h"
 #include "core/Session.h"
 #include "core/StartSession.h"
 #include "core/Units.h"
@@ -75,15 +76,22 @@ void LoadPreferences() {
     });
 }
 
+std::vector<std::string> NumberFormatLines(const SessionRecord& record) {
+    std::vector<std::string> lines;
+    for (const NumberFormatRow& row : NumberFormats()) lines.push_back(record.*row.Field);
+    return lines;
+}
+
+std::vector<std::string> PreferenceLines(const SessionRecord& record) {
+    return {NumberToText(record.PrefDx),  NumberToText(record.PrefDy),
+            NumberToText(record.PrefDz),  NumberToText(static_cast<int>(record.PrefND)),
+            NumberToText(record.PrefTol), NumberToText(static_cast<int>(record.PrefImax))};
+}
+
 void SavePreferences() {
     Session.FileSaved = false;
     Session.FileSaved = WriteSettings("Preferen.tol", [] {
-        WriteNumber(kFile, Session.PrefDx);
-        WriteNumber(kFile, Session.PrefDy);
-        WriteNumber(kFile, Session.PrefDz);
-        WriteNumber(kFile, Session.PrefND);
-        WriteNumber(kFile, Session.PrefTol);
-        WriteNumber(kFile, Session.PrefImax);
+        for (const std::string& line : PreferenceLines(Session)) WriteRawLine(kFile, line);
     });
 }
 

@@ -2,8 +2,11 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace lithmark {
+
+struct SessionRecord;
 
 // Puts the units of the file "Units" into Session. Without the file the base units hold.
 void LoadUnits();
@@ -18,6 +21,10 @@ void LoadNumberFormats();
 void LoadPreferences();
 // Writes them and sets Session.FileSaved; a failure goes through FileError.
 void SavePreferences();
+
+// The lines of "NOFORMAT" and "Preferen.tol" for a record.
+std::vector<std::string> NumberFormatLines(const SessionRecord& record);
+std::vector<std::string> PreferenceLines(const SessionRecord& record);
 
 // The data directory and Session.CompressFlag of "STEU"; true when both could be read. Otherwise DataDirUnset and 2;
 // a damaged file is told.

@@ -157,10 +157,6 @@ void WriteLine(int fileNumber, std::string_view text) {
     file.Append(kLineEnd);
 }
 
-std::string FlagText(bool value) {
-    return value ? "#TRUE#" : "#FALSE#";
-}
-
 std::string ItemText(const ListItem& item) {
     return std::visit(
         [](const auto& value) -> std::string {
@@ -292,15 +288,15 @@ void WriteNumber(int fileNumber, double value) {
     WriteLine(fileNumber, NumberToText(value));
 }
 
-void WriteFlag(int fileNumber, bool value) {
-    WriteLine(fileNumber, FlagText(value));
+std::string FlagText(bool value) {
+    return value ? "#TRUE#" : "#FALSE#";
 }
 
 void WriteRawLine(int fileNumber, const std::string& text) {
     WriteLine(fileNumber, text);
 }
 
-void WriteList(int fileNumber, std::initializer_list<ListItem> items) {
+std::string ListLine(std::initializer_list<ListItem> items) {
     std::string line;
     bool first = true;
     for (const ListItem& item : items) {
@@ -308,7 +304,11 @@ void WriteList(int fileNumber, std::initializer_list<ListItem> items) {
         line += ItemText(item);
         first = false;
     }
-    WriteLine(fileNumber, line);
+    return line;
+}
+
+void WriteList(int fileNumber, std::initializer_list<ListItem> items) {
+    WriteLine(fileNumber, ListLine(items));
 }
 
 void PutRecord(int fileNumber, int record, Single value) {

@@ -56,12 +56,13 @@ void WriteNumber(int fileNumber, Single value);
 void WriteNumber(int fileNumber, Integer value);
 void WriteNumber(int fileNumber, long value);
 void WriteNumber(int fileNumber, double value);
-void WriteFlag(int fileNumber, bool value);
 void WriteRawLine(int fileNumber, const std::string& text);
+std::string FlagText(bool value);  // #TRUE# or #FALSE#
 
 // A comma list on one line: bare numbers, #TRUE# or #FALSE#, texts in double quotes, an empty value as nothing.
 using ListItem = std::variant<std::monostate, Single, Integer, long, double, bool, std::string>;
 void WriteList(int fileNumber, std::initializer_list<ListItem> items);
+std::string ListLine(std::initializer_list<ListItem> items);
 
 // Record files: a value at the start of record n (from 1), little endian. A string is a 16-bit length and its bytes.
 void PutRecord(int fileNumber, int record, Single value);

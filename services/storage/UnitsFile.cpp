@@ -101,14 +101,17 @@ UnitSettings ReadUnitLines(int fileNumber) {
     return units;
 }
 
-void WriteUnitLines(int fileNumber, const UnitSettings& units) {
+std::vector<std::string> UnitLines(const UnitSettings& units) {
+    std::vector<std::string> lines;
     for (const UnitGroup& group : kGroups) {
         const std::string label = LabelForFile(group.Units, units.*group.Label);
-        if (group.Factor == nullptr)
-            WriteList(fileNumber, {label});
-        else
-            WriteList(fileNumber, {label, units.*group.Factor});
+        lines.push_back(group.Factor == nullptr ? ListLine({label}) : ListLine({label, units.*group.Factor}));
     }
+    return lines;
+}
+
+void WriteUnitLines(int fileNumber, const UnitSettings& units) {
+    for (const std::string& line : UnitLines(units)) WriteRawLine(fileNumber, line);
 }
 
 }  // namespace lithmark

@@ -3,6 +3,7 @@
 
 #include <span>
 #include <string>
+#include <vector>
 
 #include "base/TextId.h"
 
@@ -31,5 +32,6 @@ UnitSettings BaseUnits();
 // label that no row has is written as it stands; read, it is a BadWord. BadNumber for a factor that is not above 0.
 UnitSettings ReadUnitLines(int fileNumber);
 void WriteUnitLines(int fileNumber, const UnitSettings& units);
+std::vector<std::string> UnitLines(const UnitSettings& units);
 
 }  // namespace lithmark

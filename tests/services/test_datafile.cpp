@@ -285,7 +285,7 @@ TEST_F(DataFile, ANumberIsInUseUntilItsFileIsClosed) {
     CloseNumberedFile(1);
     EXPECT_FALSE(IsNumberedFileOpen(1));
     EXPECT_EQ(KindOf([] { ReadSingle(1); }), FailureKind::ReadError);
-    EXPECT_EQ(KindOf([] { WriteFlag(1, true); }), FailureKind::WriteError);
+    EXPECT_EQ(KindOf([] { WriteRawLine(1, FlagText(true)); }), FailureKind::WriteError);
     CloseNumberedFile(1);  // closing what is not open does nothing
 }
 
@@ -298,8 +298,8 @@ TEST_F(DataFile, WritesOneValueALineEndedByCrLf) {
     WriteNumber(1, Integer(-7));
     WriteNumber(1, 100000L);
     WriteNumber(1, 39.3700787401575);
-    WriteFlag(1, true);
-    WriteFlag(1, false);
+    WriteRawLine(1, FlagText(true));
+    WriteRawLine(1, FlagText(false));
     WriteRawLine(1, "Version 9, größer");
     CloseNumberedFile(1);
     EXPECT_EQ(ReadBytes(folder / "A.SSD"),
@@ -357,7 +357,7 @@ TEST_F(DataFile, ARecordHoldsNoMoreThanItsLengthAndCountsFromOne) {
 TEST_F(DataFile, TheOldFileStandsUntilTheNewOneIsClosed) {
     WriteBytes(folder / "A.SSD", "old");
     StartWriting();
-    for (int i = 0; i < 100000; ++i) WriteFlag(1, true);
+    for (int i = 0; i < 100000; ++i) WriteRawLine(1, FlagText(true));
     EXPECT_EQ(ReadBytes(folder / "A.SSD"), "old");
     CloseNumberedFile(1);
     EXPECT_EQ(ReadBytes(folder / "A.SSD").size(), 800000u);

@@ -1,6 +1,5 @@
 // A project is open in one program at a time.
 #include <gmock/gmock.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <memory>
@@ -10,6 +9,7 @@
 #include "services/storage/TemporaryFile.h"
 #include "services/texts/LanguageTexts.h"
 #include "support/Files.h"
+#include "support/OtherProcess.h"
 #include "support/ScriptedHost.h"
 
 namespace lithmark::tests {
@@ -27,38 +27,6 @@ class ProjectLockTest : public ::testing::Test {
 
     TestFolder folder;
     ScriptedHost host;
-};
-
-// Runs an action in a process of its own that ends by a kill when `until` returns.
-class OtherProcess {
-  public:
-    explicit OtherProcess(const std::function<void()>& action) {
-        int ready[2];
-        EXPECT_EQ(::pipe(ready), 0);
-        process_ = ::fork();
-        if (process_ == 0) {
-            action();
-            EXPECT_EQ(::write(ready[1], "x", 1), 1);
-            for (;;) ::pause();
-        }
-        char byte = 0;
-        EXPECT_EQ(::read(ready[0], &byte, 1), 1);
-        ::close(ready[0]);
-        ::close(ready[1]);
-    }
-    ~OtherProcess() { Kill(); }
-    OtherProcess(const OtherProcess&) = delete;
-    OtherProcess& operator=(const OtherProcess&) = delete;
-    void Kill(int signal = SIGKILL) {
-        if (process_ <= 0) return;
-        ::kill(process_, signal);
-        ::waitpid(process_, nullptr, 0);
-        process_ = 0;
-    }
-    pid_t Process() const { return process_; }
-
-  private:
-    pid_t process_;
 };
 
 TEST_F(ProjectLockTest, ALockHasItsFileAsLongAsItIsHeld) {

@@ -1,0 +1,131 @@
+// A dialog's unsaved input as a project of its own: what Save would write, for as long as it is needed.
+#include <sys/stat.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+
+#include "AllForms.h"
+#include "FormTest.h"
+#include "services/storage/ProjectLock.h"
+#include "support/OtherProcess.h"
+#include "support/Places.h"
+#include "ui/model/DraftProject.h"
+#include "ui/model/ProblemForm.h"
+
+namespace lithmark::tests {
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+class DraftProjectTest : public FormTest {
+  protected:
+    // Plays a script in the dialog of every problem, with a box of it changed.
+    void InEveryDialog(const std::function<void(ProblemForm&)>& script) {
+        int dialogs = 0;
+        for (const FormRow& row : AllForms()) {
+            const auto form = row.Make();
+            if (dynamic_cast<ProblemForm*>(form.get()) == nullptr) continue;
+            SCOPED_TRACE(form->Name + " of problem " + std::to_string(row.ProblemType));
+            ++dialogs;
+            Session.ProblemType = row.ProblemType;
+            host.OnForm([&](Form& shown) {
+                auto& dialog = dynamic_cast<ProblemForm&>(shown);
+                Type(dialog, dialog.Find("txt_A") ? "txt_A" : "txt_Pt", "7.123456");
+                script(dialog);
+            });
+            CurrentHost().ShowForm(*form);
+        }
+        EXPECT_EQ(dialogs, 10);
+    }
+    // The report of the command line for a draft.
+    std::string ReportOf(const DraftProject& draft) const {
+        const std::string out = DataFile("out");
+        std::string line = CommandLineTool().string() + " report '" + draft.ProjectFile() + "'";
+        for (const std::string& word : draft.Options()) line += " '" + word + "'";
+        EXPECT_EQ(std::system((line + " > '" + out + "' 2> /dev/null").c_str()), 0);
+        std::string text = ReadBytes(out);
+        fs::remove(out);
+        return text;
+    }
+};
+
+TEST_F(DraftProjectTest, HoldsWhatSaveWouldWrite) {
+    InEveryDialog([&](ProblemForm& form) {
+        const auto before = DataFiles();
+        const DraftProject draft(form.Draft().Record);
+        EXPECT_EQ(DataFiles(), before);
+        Click(form, "cmdSave");
+        for (const std::string& name : DataFiles()) {
+            if (!name.ends_with(ProblemInForce().Extension)) continue;
+            EXPECT_EQ(ReadBytes(draft.Folder() + name), ReadBytes(DataFile(name))) << name;
+            fs::remove(DataFile(name));
+        }
+        EXPECT_EQ(ReadBytes(draft.ProjectFile()), "Version 9\r\n" + std::to_string(Session.ProblemType) + "\r\n0\r\n");
+    });
+}
+
+// In units, formats and preferences of its own, in each language.
+TEST_F(DraftProjectTest, GivesTheReportOfTheDialog) {
+    for (const Language language : {Language::German, Language::English, Language::Arabic}) {
+        StartIn(language);
+        Session.Auftr = "GT-7";
+        Session.Len1Label = Text(38_text);
+        Session.Len1Factor = 100;
+        Session.FmtStress = "0.000";
+        DeriveNumberFormats();
+        Session.PrefND = 8;
+        InEveryDialog([&](ProblemForm& form) {
+            const DraftProject draft(form.Draft().Record);
+            const std::string told = ReportOf(draft);
+            host.OnForm([](Form& viewer) { Click(viewer, "cmdok"); });
+            Click(form, "cmdResult");
+            EXPECT_EQ(told, Session.ResultText);
+            form.KeepInput();
+        });
+        fs::remove_all(SharedServices().StateDir());
+    }
+}
+
+TEST_F(DraftProjectTest, IsTheUsersOwnAndGoesWithItsOwner) {
+    std::string folder;
+    InEveryDialog([&](ProblemForm& form) {
+        const DraftProject draft(form.Draft().Record);
+        folder = draft.Folder();
+        struct stat status {};
+        ASSERT_EQ(::stat(folder.c_str(), &status), 0);
+        EXPECT_EQ(status.st_mode & 0777, 0700u);
+        WriteBytes(folder + "left by a command", "");
+    });
+    EXPECT_FALSE(fs::exists(folder));
+}
+
+TEST_F(DraftProjectTest, GoesWithAProgramThatIsAskedToEnd) {
+    Session.ProblemType = 1;
+    const std::string told = DataFile("told");
+    OtherProcess program([&] {
+        EndCleanlyOnSignals();
+        WriteBytes(told, (new DraftProject(Session))->Folder());
+    });
+    const std::string folder = ReadBytes(told);
+    EXPECT_TRUE(fs::exists(folder));
+    program.Kill(SIGTERM);
+    EXPECT_FALSE(fs::exists(folder));
+}
+
+TEST_F(DraftProjectTest, AFolderThatCannotBeMadeIsAFailure) {
+    Session.ProblemType = 1;
+    const char* was = std::getenv("TMPDIR");
+    const std::string before = was ? was : "";
+    ::setenv("TMPDIR", DataFile("missing").c_str(), 1);
+    EXPECT_TRUE(FailureOf([] { DraftProject draft(Session); }));
+    if (was)
+        ::setenv("TMPDIR", before.c_str(), 1);
+    else
+        ::unsetenv("TMPDIR");
+}
+
+}  // namespace
+}  // namespace lithmark::tests
