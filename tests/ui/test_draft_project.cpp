@@ -7,6 +7,8 @@
 
 #include "AllForms.h"
 #include "FormTest.h"
+#include "core/Catalogue.h"
+#include "core/Units.h"
 #include "services/storage/ProjectLock.h"
 #include "support/OtherProcess.h"
 #include "support/Places.h"
