@@ -22,7 +22,10 @@ namespace {
 namespace fs = std::filesystem;
 
 std::string NewFolder() {
-    std::string folder = (fs::temp_directory_path() / "lithmark-draft-XXXXXX").string();
+    std::error_code error;
+    const fs::path place = fs::temp_directory_path(error);
+    if (error) FailWithSystemError(error.value(), FailureKind::WriteError, place.string());
+    std::string folder = (place / "lithmark-draft-XXXXXX").string();
     if (mkdtemp(folder.data()) == nullptr) FailWithSystemError(errno, FailureKind::WriteError, folder);
     return folder;
 }
