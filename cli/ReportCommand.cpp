@@ -1,4 +1,3 @@
-#include "base/NumberText.h"
 #include "cli/Commands.h"
 #include "cli/Documents.h"
 #include "cli/Output.h"
@@ -7,8 +6,8 @@
 #include "kernels/RunProject.h"
 #include "report/AfterReport.h"
 #include "report/StepTables.h"
+#include "report/StepTablesCsv.h"
 #include "services/texts/LanguageTexts.h"
-#include "study/CsvText.h"
 
 namespace lithmark {
 
@@ -27,30 +26,8 @@ std::string JsonReport(const ReportOptions& report, const ConsoleHost& host) {
     return JsonText(json);
 }
 
-// All tables, one below the other and an empty line between two: title, head (title, symbol and unit of each column),
-// rows, sums, notes. Lines end in CR LF, as RFC 4180 has it.
-std::string StepTablesCsv() {
-    std::string csv;
-    const auto cellText = [](const StepCell& cell) { return cell.Number ? JsonNumber(*cell.Number) : cell.Word; };
-    const auto line = [&csv](const std::string& first, auto begin, auto end, const auto& textOf) {
-        csv += CsvWords(first);
-        for (auto cell = begin; cell != end; ++cell) csv += "," + CsvWords(textOf(*cell));
-        csv += "\r\n";
-    };
-    for (const StepTable& table : Steps().Tables()) {
-        if (!csv.empty()) csv += "\r\n";
-        csv += CsvWords(table.Title) + "\r\n";
-        line(table.Columns.front().Head(), table.Columns.begin() + 1, table.Columns.end(),
-             [](const StepColumn& column) { return column.Head(); });
-        for (const auto& row : table.Rows) line(cellText(row.front()), row.begin() + 1, row.end(), cellText);
-        for (const StepSum& sum : table.Sums) line(sum.Label, sum.Cells.begin(), sum.Cells.end(), cellText);
-        for (const std::string& note : table.Notes) csv += CsvWords(note) + "\r\n";
-    }
-    return csv;
-}
-
 std::string ReportIn(const std::string& format, const ReportOptions& report) {
-    if (format == "csv") return StepTablesCsv();
+    if (format == "csv") return StepTablesCsv(Steps().Tables());
     if (format == "txt") return ReportWith(report.Tables ? Behind::Tables : Behind::Nothing);
     if (!Documents()) FailFormat(format);
     if (format == "xlsx") return Documents()->StepTables(Steps().Tables());

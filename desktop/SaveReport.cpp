@@ -8,7 +8,10 @@
 #include "files/CommonStep.h"
 #include "render/QtText.h"
 #include "render/ReportDocument.h"
+#include "render/StepTablesXlsx.h"
 #include "render/figures/ReportFigures.h"
+#include "report/StepTables.h"
+#include "report/StepTablesCsv.h"
 #include "services/SharedServices.h"
 #include "services/storage/WrittenFile.h"
 #include "services/texts/LanguageTexts.h"
@@ -20,25 +23,34 @@ namespace {
 struct Kind {
     const char* Ending;
     std::string (*Bytes)(const std::string& report);
+    bool OfTables = false;  // has the tables for a check by hand and nothing else
 };
 // The documents have the problem's drawing behind the text.
 constexpr Kind kKinds[] = {
     {"pdf", [](const std::string& report) { return ReportPdf(report, PaperWithFigures(Figures::Drawing)); }},
     {"rtf", [](const std::string& report) { return ReportRtf(report, PaperWithFigures(Figures::Drawing)); }},
     {"html", [](const std::string& report) { return ReportHtml(report, PaperWithFigures(Figures::Drawing)); }},
-    {"txt", [](const std::string& report) { return report; }}};
+    {"txt", [](const std::string& report) { return report; }},
+    {"xlsx", [](const std::string&) { return StepTablesXlsx(Steps().Tables()); }, true},
+    {"csv", [](const std::string&) { return StepTablesCsv(Steps().Tables()); }, true}};
 
-const Kind* KindOf(const QString& ending) {
+bool IsThere(const Kind& kind, bool withTables) {
+    return !kind.OfTables || (withTables && !Steps().Tables().empty());
+}
+
+const Kind* KindOf(const QString& ending, bool withTables) {
     for (const Kind& kind : kKinds)
-        if (ending.compare(QLatin1String(kind.Ending), Qt::CaseInsensitive) == 0) return &kind;
+        if (IsThere(kind, withTables) && ending.compare(QLatin1String(kind.Ending), Qt::CaseInsensitive) == 0)
+            return &kind;
     return nullptr;
 }
 
 }  // namespace
 
-void SaveReport(QWidget* parent, const std::string& report) {
+void SaveReport(QWidget* parent, const std::string& report, bool withTables) {
     QStringList filters;
     for (const Kind& kind : kKinds) {
+        if (!IsThere(kind, withTables)) continue;
         const QString ending = QLatin1String(kind.Ending);
         filters.append(ending.toUpper() + QStringLiteral(" (*.") + ending + QLatin1Char(')'));
     }
@@ -53,7 +65,7 @@ void SaveReport(QWidget* parent, const std::string& report) {
     dialog.selectFile(Q(Session.WorkName));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
     const QString file = dialog.selectedFiles().front();
-    const Kind* kind = KindOf(QFileInfo(file).suffix());
+    const Kind* kind = KindOf(QFileInfo(file).suffix(), withTables);
     UnderCommonStep([&] {
         SharedServices().SetCurrentFile(file.toStdString());
         // Any other ending is the user's own name for a text.

@@ -41,7 +41,8 @@ static const LayoutOf<frmResultTools> kLayout([](FormView& view, frmResultTools&
     auto* save = new QPushButton(Q(Text(9_text, Styles::DialogButton)), &view);
     save->setObjectName(QStringLiteral("cmdSaveAs"));
     save->setAutoDefault(false);
-    QObject::connect(save, &QPushButton::clicked, &view, [&view, &form] { SaveReport(&view, form.DocumentText()); });
+    QObject::connect(save, &QPushButton::clicked, &view,
+                     [&view, &form] { SaveReport(&view, form.DocumentText(), form.chkTables.Value); });
     buttons->addWidget(save);
     buttons->addStretch(1);
     auto* side = new QVBoxLayout;

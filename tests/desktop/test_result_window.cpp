@@ -7,6 +7,7 @@
 
 #include "ScreenRun.h"
 #include "report/Notices.h"
+#include "report/StepTables.h"
 #include "ui/frmResultTools.h"
 
 namespace lithmark::tests {
@@ -24,8 +25,12 @@ class ResultWindow : public ::testing::Test {
         Session.WorkName = "Silo";
         Session.ResultText = "Sigma_z = 1\r\nTau = 2\r\nSigma_z = 3\r\n";
         Notices().Clear();
+        Steps().Clear();
     }
-    ~ResultWindow() override { Notices().Clear(); }
+    ~ResultWindow() override {
+        Notices().Clear();
+        Steps().Clear();
+    }
     void Show(const std::function<void(QWidget&)>& step) {
         run_.In("frmResultTools", [&](QWidget& viewer) {
             step(viewer);
@@ -98,6 +103,24 @@ TEST_F(ResultWindow, TheReportIsSavedAsTheChosenKindOfDocument) {
     const std::string text = ReadBytes(folder_ / "four.txt");
     EXPECT_THAT(text, StartsWith(Session.ResultText));
     EXPECT_THAT(text, HasSubstr("-121 kN/m²")) << "the box of notices is ticked";
+}
+
+TEST_F(ResultWindow, TheTablesForACheckByHandAreSavedAloneWhereTheyAreShown) {
+    StepTable& table = Steps().Add("Sublayers");
+    table.AddColumn(std::string("Sublayer"), "i");
+    table.AddColumn(std::string("Settlement"), "ds", "[cm]");
+    table.Rows = {{1.0, 3.5}, {2.0, 0.25}};
+    table.AddSums({1});
+    Show([&](QWidget& viewer) {
+        Save(viewer, "zero.csv", 3);  // not ticked: a name of the user's own for the text
+        ClickOn(viewer, "chkTables");
+        Save(viewer, "one", 4);
+        Save(viewer, "two", 5);
+    });
+    EXPECT_EQ(ReadBytes(folder_ / "zero.csv"), Session.ResultText);
+    EXPECT_THAT(ReadBytes(folder_ / "one.xlsx"), StartsWith("PK"));
+    EXPECT_EQ(ReadBytes(folder_ / "two.csv"),
+              "Sublayers\r\nSublayer i,Settlement ds [cm]\r\n1,3.5\r\n2,0.25\r\nSum,3.75\r\n");
 }
 
 TEST_F(ResultWindow, AWordTellsThatTheReportWasCopiedAndGoes) {
