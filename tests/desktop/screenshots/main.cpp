@@ -266,7 +266,7 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
     Session.AnalysisType = Analysis::Numerical;
     RunProblemKernel();
     gallery.Take(results, QStringLiteral("frmResultTools-raft"));
-    ManualWindow manual(nullptr, "notices#raft-tension");
+    ManualWindow manual(nullptr, PageOfTopic("notices#raft-tension"));
     gallery.Take(manual, QStringLiteral("manual"));
     Session.CurveChoice = Session.ContourResult = "Tab5";
     frmContour contour;
