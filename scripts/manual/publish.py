@@ -45,7 +45,11 @@ def html_of(name):
     text = (DOCS / f"{name}.md").read_text(encoding="utf-8")
     converter = markdown.Markdown(extensions=["tables", "fenced_code", "sane_lists", "toc"],
                                   extension_configs={"toc": {"slugify": slug}})
-    return converter.convert(text)
+    body = converter.convert(text)
+    if language_of(name) == "ar":
+        # weasyprint takes a line's direction from its first strong sign: a right-to-left mark ahead of what runs the other way.
+        body = re.sub("\u2066|<code>", lambda match: "\u200f" + match[0], body)
+    return body
 
 
 def document(title, language, body):

@@ -9,8 +9,12 @@ RUN = re.compile(rf"[−+±√]?[0-9A-Za-zΑ-ω√]{PIECE}*(?<=[0-9A-Za-zΑ-ω²
 APART = re.compile(r"(`[^`]*`|\[[^\]]*\]\([^)]*\)|^#+ .*$)")  # code, links and headings stay as they are
 
 
+# A symbol's index stands on the line here, as in the reports ("Es"): a lowered one would part the run on paper.
+INDEX = re.compile(r"(?<![A-Za-z0-9_])([A-Za-zα-ω])_([A-Za-z0-9]+)")
+
+
 def isolated(line):
     parts = APART.split(line)
     for i in range(0, len(parts), 2):
-        parts[i] = RUN.sub(lambda match: f"\u2066{match[0]}\u2069", parts[i])
+        parts[i] = RUN.sub(lambda match: f"\u2066{match[0]}\u2069", INDEX.sub(r"\1\2", parts[i]))
     return "".join(parts)

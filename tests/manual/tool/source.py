@@ -74,9 +74,7 @@ class Page:
         if self.listed and line and not re.match(r"\d+\. ", line):
             self.out.append("")  # a list ends with an empty line
         self.listed = bool(re.match(r"\d+\. ", line))
-        if self.language == "ar":
-            line = isolated(line)
-        self.out += self._wrapped(lowered(line))
+        self.out += self._wrapped(isolated(line) if self.language == "ar" else lowered(line))
 
     @staticmethod
     def _wrapped(line):
