@@ -1,13 +1,12 @@
 #include "cli/Documents.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <array>
 #include <string_view>
 
 #include "cli/Failures.h"
 #include "services/SharedServices.h"
+#include "services/platform/Process.h"
 #include "services/storage/FileNames.h"
 
 namespace lithmark {
@@ -40,7 +39,7 @@ void HandOver(const std::string& format) {
     const std::string program = SharedServices().ExecutableDir() + kRenderProgram;
     if (!PathExists(program))
         throw CommandFailure(ExitStatus::FileTrouble, Text(911203_text, {{"|1", format}, {"|2", program}}));
-    execv(program.c_str(), commandLine);
+    platform::BecomeProgram(program, commandLine);
     throw CommandFailure(ExitStatus::FileTrouble, Text(911204_text, {{"|1", program}}));
 }
 

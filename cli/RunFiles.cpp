@@ -1,13 +1,13 @@
 #include "cli/RunFiles.h"
 
 #include <cerrno>
-#include <cstdlib>
 #include <filesystem>
 #include <system_error>
 
 #include "base/Failure.h"
 #include "core/Session.h"
 #include "kernels/raft/RaftRun.h"
+#include "services/platform/Files.h"
 #include "services/storage/FileNames.h"
 
 namespace lithmark {
@@ -15,8 +15,8 @@ namespace lithmark {
 RunFiles::RunFiles(Where where) {
     SetRaftExport(where != Where::Nowhere);
     if (where != Where::Aside) return;
-    folder_ = (std::filesystem::temp_directory_path() / "lithmark-XXXXXX").string();
-    if (!mkdtemp(folder_.data())) FailWithSystemError(errno, FailureKind::WriteError, folder_);
+    folder_ = platform::MakeTemporaryFolder();
+    if (folder_.empty()) FailWithSystemError(errno, FailureKind::WriteError, platform::TemporaryFolder());
     dataDir_ = Session.DataDir;
     workDir_ = Session.WorkDir;
     Session.DataDir = Session.WorkDir = WithSeparator(folder_);

@@ -3,11 +3,13 @@
 #include <cstdio>
 #include <exception>
 #include <string>
+#include <vector>
 
-#include "base/RemovedOnEnd.h"
 #include "cli/CommandLine.h"
 #include "cli/Documents.h"
 #include "services/SharedServices.h"
+#include "services/platform/Process.h"
+#include "services/platform/RemovedOnEnd.h"
 #include "study/StudyFailure.h"
 
 namespace lithmark {
@@ -19,9 +21,15 @@ int RunProgram(int argc, char** argv) {
     };
     EndCleanlyOnSignals();
     KeepCommandLine(argv);
+    platform::UseBytesForStandardStreams();
+    std::vector<std::string> arguments = platform::Arguments(argc, argv);
+    std::vector<char*> words;
+    for (std::string& argument : arguments) words.push_back(argument.data());
+    const int count = static_cast<int>(words.size());
+    words.push_back(nullptr);
     try {
-        UseLanguageAsked(argc, argv);
-        return static_cast<int>(CommandLine().Run(argc, argv));
+        UseLanguageAsked(count, words.data());
+        return static_cast<int>(CommandLine().Run(count, words.data()));
     } catch (const CommandFailure& failure) {
         return fail(failure.Status(), failure.what());
     } catch (const StudyFailure& failure) {

@@ -1,6 +1,5 @@
 #include "cli/StudyCommand.h"
 
-#include <csignal>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -13,12 +12,14 @@
 #include "core/Session.h"
 #include "files/ProblemData.h"
 #include "services/SharedServices.h"
+#include "services/platform/Process.h"
 #include "study/StudyFailure.h"
 #include "study/StudyIdentity.h"
 #include "study/StudyJoin.h"
 #include "study/StudyRun.h"
 #include "study/StudySummary.h"
 #include "study/StudyTakes.h"
+#include "study/Worker.h"
 
 namespace lithmark {
 
@@ -131,8 +132,9 @@ void HandOverEarly(const CommonOptions& options, const StudyOptions& study) {
 ExitStatus StudyCommand(const CommonOptions& options, const StudyOptions& study, ConsoleHost& host) {
     CheckOptions(study);
     HandOverEarly(options, study);
-    std::signal(SIGPIPE, SIG_IGN);  // an output that nobody reads any more is a failed write
+    platform::FailOnBrokenPipe();  // an output that nobody reads any more is a failed write
     OpenProjectForRun(options);
+    WorkIfStartedAnew();
     host.EndOnTermination();
 
     StudyRequest request = study.Request;

@@ -65,9 +65,15 @@ if(LITHMARK_FUZZ)
 endif()
 
 # lithmark_floor(NAME FOLDER LIBRARIES...): a static library of the .cpp files of a folder; it links what the folder
-# includes and no more, so that the linker keeps the walls too.
+# includes and no more, so that the linker keeps the walls too. A file whose name begins with another system's is left out.
+if(WIN32)
+  set(LITHMARK_OTHER_SYSTEM Posix)
+else()
+  set(LITHMARK_OTHER_SYSTEM Windows)
+endif()
 function(lithmark_floor name folder)
   file(GLOB sources CONFIGURE_DEPENDS ${folder}/*.cpp)
+  list(FILTER sources EXCLUDE REGEX "/${LITHMARK_OTHER_SYSTEM}[^/]*$")
   if(sources)
     add_library(${name} STATIC ${sources})
     target_link_libraries(${name} PUBLIC lithmark_flags ${ARGN})

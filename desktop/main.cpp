@@ -1,4 +1,4 @@
-#include "base/RemovedOnEnd.h"
+#include "services/platform/RemovedOnEnd.h"
 #include "desktop/Application.h"
 
 int main(int argc, char** argv) {

@@ -1,7 +1,5 @@
 #include "render/Workbook.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <cerrno>
 #include <cstdint>
@@ -11,6 +9,7 @@
 #include "base/Failure.h"
 #include "base/Utf8.h"
 #include "render/ReportPaper.h"
+#include "services/platform/Files.h"
 #include "services/storage/ReadFile.h"
 #include "services/texts/LanguageTexts.h"
 
@@ -71,11 +70,9 @@ std::size_t LongestWord(const std::string& text) {
 }  // namespace
 
 Workbook::Workbook() {
-    folder_ = std::filesystem::temp_directory_path().string();
-    path_ = folder_ + "/lithmark-XXXXXX";
-    const int descriptor = mkstemp(path_.data());
-    if (descriptor < 0) FailWithSystemError(errno, FailureKind::WriteError, path_);
-    close(descriptor);
+    folder_ = platform::TemporaryFolder();
+    path_ = platform::MakeTemporaryFile();
+    if (path_.empty()) FailWithSystemError(errno, FailureKind::WriteError, folder_);
     registered_.emplace(path_);
     lxw_workbook_options options = {};
     options.tmpdir = folder_.data();

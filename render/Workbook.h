@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "base/RemovedOnEnd.h"
+#include "services/platform/RemovedOnEnd.h"
 
 namespace lithmark {
 

@@ -1,13 +1,10 @@
 // The part of SharedServices that knows where files lie and what the settings files hold.
-#include <unistd.h>
-
-#include <array>
-#include <climits>
 #include <filesystem>
 #include <system_error>
 
 #include "base/Utf8.h"
 #include "services/SharedServices.h"
+#include "services/platform/Process.h"
 #include "services/storage/DataFile.h"
 #include "services/storage/FileNames.h"
 #include "services/storage/SettingsStore.h"
@@ -34,11 +31,10 @@ void SharedServicesService::UseSettingsDirectory(const std::string& dir) {
 }
 
 std::string SharedServicesService::ExecutableDir() const {
-    std::array<char, PATH_MAX> path;
-    const ssize_t length = ::readlink("/proc/self/exe", path.data(), path.size());
+    const std::string program = platform::ProgramFile();
     std::error_code error;
-    if (length <= 0) return WithSeparator(fs::current_path(error).string());
-    return WithSeparator(fs::path(std::string(path.data(), static_cast<std::size_t>(length))).parent_path().string());
+    return WithSeparator(
+        (program.empty() ? fs::current_path(error) : fs::path(program).parent_path()).generic_string());
 }
 
 std::string SharedServicesService::StateDir() const {
@@ -47,7 +43,7 @@ std::string SharedServicesService::StateDir() const {
 
 std::string SharedServicesService::ResourceDir() const {
     const std::string executable = ExecutableDir();
-    const std::string shared = (fs::path(executable) / "../share/lithmark").lexically_normal().string();
+    const std::string shared = (fs::path(executable) / "../share/lithmark").lexically_normal().generic_string();
     std::error_code error;
     return fs::is_directory(shared, error) ? WithSeparator(shared) : executable;
 }

@@ -8,6 +8,7 @@
 
 #include "base/Utf8.h"
 #include "services/SharedServices.h"
+#include "services/platform/Process.h"
 #include "services/storage/FileNames.h"
 
 namespace lithmark {
@@ -84,9 +85,7 @@ std::string TextToolsService::LongDate(int dayNumber) const {
 }
 
 int TextToolsService::Today() const {
-    const std::time_t now = std::time(nullptr);
-    std::tm local{};
-    ::localtime_r(&now, &local);
+    const std::tm local = platform::LocalTime(std::time(nullptr));
     return DayNumber(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday).value();
 }
 

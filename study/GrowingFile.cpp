@@ -1,15 +1,14 @@
 #include "study/GrowingFile.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <cerrno>
-#include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <utility>
 
+#include "base/Failure.h"
 #include "services/SharedServices.h"
+#include "services/platform/Files.h"
+#include "services/platform/Process.h"
 #include "services/storage/WrittenFile.h"
 #include "study/StudyFailure.h"
 
@@ -23,46 +22,46 @@ std::string TargetOf(const std::string& path) {
     std::error_code error;
     if (!std::filesystem::is_symlink(path, error)) return path;
     const auto real = std::filesystem::weakly_canonical(path, error);
-    return error ? path : real.string();
+    return error ? path : real.generic_string();
 }
 
 }  // namespace
 
-GrowingFile::GrowingFile(const std::string& path) : path_(path), descriptor_(STDOUT_FILENO) {
+GrowingFile::GrowingFile(const std::string& path) : path_(path), descriptor_(platform::kStandardOutput) {
     if (path.empty()) return;
     target_ = TargetOf(path);
-    struct stat status {};
-    const bool exists = stat(target_.c_str(), &status) == 0;
-    if (exists && access(target_.c_str(), W_OK) != 0) FailHere(errno);
-    if (exists && !S_ISREG(status.st_mode)) {
-        descriptor_ = open(target_.c_str(), O_WRONLY | O_CLOEXEC);
-    } else {
-        const auto folder = std::filesystem::path(target_).parent_path();
-        temporary_ = (folder / (".lithmark-" + std::to_string(getpid()) + "-study.tmp")).string();
-        descriptor_ = open(temporary_.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
-        if (descriptor_ >= 0 && exists) fchmod(descriptor_, status.st_mode & 07777);
+    platform::FileState state;
+    const bool exists = platform::StateOf(target_, state);
+    if (exists && !platform::MayWrite(target_)) FailHere(errno);
+    if (exists && state.What != platform::FileState::Kind::Regular) {
+        device_ = descriptor_ = platform::OpenFile(target_, platform::Open::Write);
+        if (descriptor_ < 0) FailHere(errno);
+        return;
     }
-    if (descriptor_ < 0) {
-        const int error = errno;
-        temporary_.clear();
-        FailHere(error);
-    }
-    owned_ = true;
+    const auto folder = std::filesystem::path(target_).parent_path().generic_string();
+    Told([&] { temporary_.emplace(folder.empty() || folder.ends_with('/') ? folder : folder + '/', path_); });
+    descriptor_ = temporary_->Descriptor();
+    if (exists) platform::SetPermissions(descriptor_, state.Permissions);
 }
 
 GrowingFile::~GrowingFile() {
-    if (owned_) close(descriptor_);
-    if (!temporary_.empty()) unlink(temporary_.c_str());
+    if (device_ >= 0) platform::CloseFile(device_);
 }
 
-void GrowingFile::FailHere(int error) const {
-    if (path_.empty()) FailStudyFile(902001_text, {});
+template <class Step>
+void GrowingFile::Told(const Step& step) const {
     try {
-        FailWithSystemError(error, FailureKind::WriteError);
+        step();
     } catch (const Failure& failure) {
         SharedServices().SetCurrentFile(path_);
         throw StudyFailure(StudyFailure::Cause::File, SharedServices().FailureText(failure));
     }
+}
+
+void GrowingFile::FailHere(int error) const {
+    if (path_.empty()) FailStudyFile(902001_text, {});
+    Told([&] { FailWithSystemError(error, FailureKind::WriteError); });
+    std::abort();  // never reached
 }
 
 void GrowingFile::Append(std::string_view bytes) {
@@ -73,8 +72,7 @@ void GrowingFile::Append(std::string_view bytes) {
 void GrowingFile::Flush() {
     const std::string bytes = std::exchange(buffer_, {});
     for (std::string_view rest = bytes; !rest.empty();) {
-        const ssize_t written = write(descriptor_, rest.data(), rest.size());
-        if (written < 0 && errno == EINTR) continue;
+        const std::int64_t written = platform::WriteTo(descriptor_, rest.data(), rest.size());
         if (written < 0) FailHere(errno);
         rest.remove_prefix(static_cast<std::size_t>(written));
     }
@@ -82,18 +80,15 @@ void GrowingFile::Flush() {
 
 void GrowingFile::Settle() {
     Flush();
-    if (temporary_.empty()) return;
-    if (std::rename(temporary_.c_str(), target_.c_str()) != 0) FailHere(errno);
-    temporary_.clear();
+    if (!temporary_ || temporary_->Name().empty()) return;
+    Told([&] { temporary_->TakePlaceOf(target_, path_); });
 }
 
 void GrowingFile::Finish() {
     Flush();
-    const bool regular =
-        !target_.empty() && std::filesystem::is_regular_file(temporary_.empty() ? target_ : temporary_);
-    if (regular && fsync(descriptor_) != 0) FailHere(errno);
+    if (temporary_ && platform::SyncFile(descriptor_) != 0) FailHere(errno);
     Settle();
-    if (regular) SyncFolderOf(target_);
+    if (temporary_) SyncFolderOf(target_);
 }
 
 }  // namespace lithmark

@@ -2,8 +2,11 @@
 // it has something to show; from then on what is appended is seen there. Until then the target stays as it was.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
+
+#include "services/storage/TemporaryFile.h"
 
 namespace lithmark {
 
@@ -28,9 +31,13 @@ class GrowingFile {
   private:
     [[noreturn]] void FailHere(int error) const;
 
-    std::string path_, target_, temporary_, buffer_;
-    int descriptor_ = -1;
-    bool owned_ = false;
+    // Does a step; its failure becomes the study's.
+    template <class Step>
+    void Told(const Step& step) const;
+
+    std::string path_, target_, buffer_;
+    std::optional<TemporaryFile> temporary_;  // of a regular file
+    int descriptor_ = -1, device_ = -1;
 };
 
 }  // namespace lithmark

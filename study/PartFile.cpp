@@ -5,6 +5,7 @@
 
 #include "base/NumberText.h"
 #include "services/SharedServices.h"
+#include "services/platform/Files.h"
 #include "services/storage/WrittenFile.h"
 #include "study/CsvText.h"
 #include "study/StudyFailure.h"
@@ -31,7 +32,7 @@ std::string RowOf(const std::string& record) {
 }  // namespace
 
 PartFile::PartFile(const std::string& path, const StudyHead& head)
-    : path_(path), head_(head), columns_(head.Columns()), file_(std::fopen(path.c_str(), "rbe"), &std::fclose) {
+    : path_(path), head_(head), columns_(head.Columns()), file_(platform::OpenStream(path), &std::fclose) {
     if (!file_) FailFile(path, errno);
     ReadHead();
 }

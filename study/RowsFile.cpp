@@ -1,13 +1,12 @@
 #include "study/RowsFile.h"
 
-#include <unistd.h>
-
 #include <array>
-#include <cerrno>
 
 #include "base/NumberText.h"
 #include "base/Utf8.h"
 #include "services/SharedServices.h"
+#include "services/platform/Files.h"
+#include "services/platform/Process.h"
 #include "services/storage/ReadFile.h"
 #include "services/storage/WrittenFile.h"
 #include "study/CsvText.h"
@@ -21,8 +20,7 @@ std::string ReadStandardInput() {
     std::string text;
     std::array<char, 65536> buffer;
     for (;;) {
-        const ssize_t count = read(STDIN_FILENO, buffer.data(), buffer.size());
-        if (count < 0 && errno == EINTR) continue;
+        const std::int64_t count = platform::ReadFrom(platform::kStandardInput, buffer.data(), buffer.size());
         if (count < 0) FailStudyFile(902002_text, "-");
         if (count == 0) return text;
         text.append(buffer.data(), static_cast<std::size_t>(count));

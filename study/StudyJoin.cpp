@@ -1,26 +1,17 @@
 #include "study/StudyJoin.h"
 
-#include <sys/resource.h>
-
 #include <functional>
 #include <optional>
 #include <queue>
 #include <utility>
 
+#include "services/platform/Process.h"
 #include "study/PartFile.h"
 #include "study/StudyFailure.h"
 
 namespace lithmark {
 
 namespace {
-
-// Each part stays open, so as many files may be open as the system allows at most.
-void AllowManyFiles() {
-    rlimit limit{};
-    if (getrlimit(RLIMIT_NOFILE, &limit) != 0) return;
-    limit.rlim_cur = limit.rlim_max;
-    setrlimit(RLIMIT_NOFILE, &limit);
-}
 
 struct Part {
     PartFile File;
@@ -90,7 +81,7 @@ class MergedParts {
 
 StudyTally JoinParts(const StudyPlan& plan, const StudyHead& head, const std::vector<std::string>& files,
                      RowWriter& writer, const std::function<void(const StudyLine&)>& seen) {
-    AllowManyFiles();
+    platform::AllowManyOpenFiles();  // each part stays open
     MergedParts parts(files, head, plan);
     StudyTally tally;
     MissingRows missing;

@@ -1,11 +1,8 @@
 #include "study/Worker.h"
 
-#include <sys/socket.h>
-#include <unistd.h>
-
 #include <array>
-#include <cerrno>
 #include <chrono>
+#include <utility>
 
 #include "study/RowWork.h"
 
@@ -16,30 +13,17 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 // False when the study is gone.
-bool SendAll(int socket, std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t sent = send(socket, bytes.data(), bytes.size(), MSG_NOSIGNAL);
-        if (sent < 0 && errno == EINTR) continue;
-        if (sent <= 0) return false;
-        bytes.remove_prefix(static_cast<std::size_t>(sent));
-    }
-    return true;
-}
-
-bool Receive(int socket, FrameBuffer& frames) {
+bool Receive(platform::Socket socket, FrameBuffer& frames) {
     std::array<char, 65536> buffer;
-    ssize_t count = 0;
-    do count = recv(socket, buffer.data(), buffer.size(), 0);
-    while (count < 0 && errno == EINTR);
-    if (count <= 0) return false;
-    frames.Append({buffer.data(), static_cast<std::size_t>(count)});
-    return true;
+    const std::size_t count = platform::ReceiveSome(socket, buffer.data(), buffer.size());
+    frames.Append({buffer.data(), count});
+    return count > 0;
 }
 
 // Outcomes are kept back for a moment, so that short rows travel together.
 class Answers {
   public:
-    explicit Answers(int socket) : socket_(socket) {}
+    explicit Answers(platform::Socket socket) : socket_(socket) {}
 
     bool Add(Ticket ticket, float seconds, const RowOutcome& outcome) {
         writer_.Put(ticket);
@@ -49,23 +33,23 @@ class Answers {
     }
     bool Send() {
         sent_ = Clock::now();
-        return writer_.Empty() || SendAll(socket_, writer_.TakeFrame());
+        return writer_.Empty() || platform::SendAll(socket_, writer_.TakeFrame());
     }
 
   private:
     static constexpr std::chrono::milliseconds kPatience{20};
 
-    int socket_;
+    platform::Socket socket_;
     WireWriter writer_;
     Clock::time_point sent_ = Clock::now();
 };
 
 }  // namespace
 
-void WorkRows(int socket, std::atomic<Ticket>& inWork, const SessionRecord& start, const std::vector<Take>& takes) {
-    const pid_t study = getppid();
-    const RowWork work(start, takes, [study] { return getppid() == study; });
-    FrameBuffer frames;
+void WorkRows(platform::Socket socket, std::atomic<Ticket>& inWork, const SessionRecord& start,
+              const std::vector<Take>& takes, FrameBuffer frames) {
+    const int study = platform::StarterId();
+    const RowWork work(start, takes, [study] { return platform::StarterId() == study; });
     Answers answers(socket);
     for (;;) {
         while (const auto frame = frames.Next()) {
@@ -84,6 +68,28 @@ void WorkRows(int socket, std::atomic<Ticket>& inWork, const SessionRecord& star
         }
         if (!Receive(socket, frames)) return;
     }
+}
+
+std::string TakesFrame(const std::vector<Take>& takes) {
+    WireWriter writer;
+    for (const Take& take : takes) writer.Put(take.Name);
+    return writer.TakeFrame();
+}
+
+void WorkIfStartedAnew() {
+    platform::RunAsWorker([](platform::Socket socket, std::atomic<Ticket>& inWork) {
+        FrameBuffer frames;
+        std::vector<Take> takes;
+        for (bool told = false; !told;) {
+            if (!Receive(socket, frames)) return;
+            const auto frame = frames.Next();
+            if (!frame) continue;
+            WireReader names(*frame);
+            while (!names.AtEnd()) takes.push_back(ParseTake(Session.ProblemType, names.Text()).value());
+            told = true;
+        }
+        WorkRows(socket, inWork, Session, takes, std::move(frames));
+    });
 }
 
 }  // namespace lithmark

@@ -1,15 +1,7 @@
 #include "study/WorkerPool.h"
 
-#include <poll.h>
-#include <sys/mman.h>
-#include <sys/socket.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <array>
-#include <cerrno>
-#include <csignal>
 #include <new>
 #include <thread>
 #include <utility>
@@ -22,31 +14,12 @@ namespace lithmark {
 
 namespace {
 
-static_assert(std::atomic<Ticket>::is_always_lock_free, "a worker that dies must not leave a lock behind");
-
 // Rows travel in batches of about this much work; longer ones one by one.
 constexpr double kBatchSeconds = 0.005;
 constexpr std::size_t kMostInBatch = 512;
 constexpr int kMostDeathsWithoutRow = 3;
 
-pid_t WaitFor(pid_t process, int& status) {
-    pid_t reaped = 0;
-    do reaped = waitpid(process, &status, 0);
-    while (reaped < 0 && errno == EINTR);
-    return reaped;
-}
-
 }  // namespace
-
-SharedTickets::SharedTickets(std::size_t count) : bytes_(count * sizeof(std::atomic<Ticket>)) {
-    void* memory = mmap(nullptr, bytes_, PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
-    if (memory == MAP_FAILED) FailStudyFile(902047_text, {});
-    tickets_ = new (memory) std::atomic<Ticket>[count];
-}
-
-SharedTickets::~SharedTickets() {
-    munmap(tickets_, bytes_);
-}
 
 int WorkerPool::AllCores() {
     return static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
@@ -58,9 +31,7 @@ WorkerPool::WorkerPool(const SessionRecord& start, std::vector<Take> takes, int 
       workers_(static_cast<std::size_t>(std::max(1, workers))),
       inWork_(workers_.size()) {}
 
-WorkerPool::~WorkerPool() {
-    for (Worker& worker : workers_) End(worker);
-}
+WorkerPool::~WorkerPool() = default;
 
 void WorkerPool::Add(Ticket row, RowInput input) {
     waiting_.push_back({row, std::move(input)});
@@ -79,28 +50,12 @@ std::size_t WorkerPool::Appetite() const noexcept {
 
 bool WorkerPool::Start(std::size_t index) {
     Worker& worker = workers_[index];
-    std::array<int, 2> ends{};
-    if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0) return false;
     inWork_[index] = kNoRow;
-    const pid_t process = fork();
-    if (process < 0) {
-        close(ends[0]);
-        close(ends[1]);
-        return false;
-    }
-    if (process == 0) {
-        // The study alone decides when its workers end: a Ctrl+C goes to them all.
-        for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGPIPE}) std::signal(signal, SIG_IGN);
-        close(ends[0]);
-        for (const Worker& other : workers_)
-            if (other.Socket >= 0) close(other.Socket);
-        WorkRows(ends[1], inWork_[index], start_, takes_);
-        _exit(0);
-    }
-    close(ends[1]);
-    worker.Process = process;
-    worker.Socket = ends[0];
-    worker.Answered = false;
+    const auto work = [this](platform::Socket socket, std::atomic<Ticket>& inWork) {
+        WorkRows(socket, inWork, start_, takes_);
+    };
+    if (!worker.Process.Start(work, inWork_, index)) return false;
+    if (platform::WorkersStartAnew()) worker.Unsent = TakesFrame(takes_);
     return true;
 }
 
@@ -112,7 +67,7 @@ void WorkerPool::HandOut() {
         // A second batch lies ready where rows are short, so that the worker never waits for the way to and fro.
         const std::size_t most = batch > 1 ? 2 * batch : 1;
         if (worker.Held.size() + batch > most) continue;
-        if (worker.Process == 0 && !Start(i)) continue;
+        if (!worker.Process.Runs() && !Start(i)) continue;
         started = true;
         const std::size_t share = (waiting_.size() + workers_.size() - 1) / workers_.size();
         WireWriter writer;
@@ -125,25 +80,23 @@ void WorkerPool::HandOut() {
         worker.Unsent += writer.TakeFrame();
         Send(worker);
     }
-    const bool anyRuns = started || std::ranges::any_of(workers_, [](const Worker& w) { return w.Process != 0; });
+    const bool anyRuns = started || std::ranges::any_of(workers_, [](const Worker& w) { return w.Process.Runs(); });
     if (!anyRuns && !waiting_.empty()) FailStudyFile(902047_text, {});
 }
 
 void WorkerPool::Send(Worker& worker) {
     while (!worker.Unsent.empty()) {
-        const ssize_t sent =
-            send(worker.Socket, worker.Unsent.data(), worker.Unsent.size(), MSG_NOSIGNAL | MSG_DONTWAIT);
-        if (sent <= 0) return;  // full, or gone: reading tells which
-        worker.Unsent.erase(0, static_cast<std::size_t>(sent));
+        const std::size_t sent = platform::SendSome(worker.Process.Stream(), worker.Unsent);
+        if (sent == 0) return;  // full, or gone: reading tells which
+        worker.Unsent.erase(0, sent);
     }
 }
 
 bool WorkerPool::Receive(Worker& worker, std::vector<Answer>& answers) {
     std::array<char, 65536> buffer;
     for (;;) {
-        const ssize_t count = recv(worker.Socket, buffer.data(), buffer.size(), MSG_DONTWAIT);
-        if (count < 0 && (errno == EAGAIN || errno == EINTR)) return true;
-        if (count <= 0) return false;
+        const std::ptrdiff_t count = platform::ReceiveIfAny(worker.Process.Stream(), buffer.data(), buffer.size());
+        if (count <= 0) return count == 0;
         worker.Received.Append({buffer.data(), static_cast<std::size_t>(count)});
         TakeAnswers(worker, answers);
     }
@@ -168,17 +121,13 @@ void WorkerPool::TakeAnswers(Worker& worker, std::vector<Answer>& answers) {
 
 void WorkerPool::Bury(std::size_t index, std::vector<Answer>& answers) {
     Worker& worker = workers_[index];
-    int status = 0;
-    kill(worker.Process, SIGKILL);  // it may have closed its socket and live
-    WaitFor(worker.Process, status);
-    close(worker.Socket);
+    const int signal = worker.Process.End();
     const Ticket fatal = inWork_[index];
-    std::deque<PendingRow> held = std::exchange(worker, {}).Held;
+    std::deque<PendingRow> held = Empty(worker);
 
     const auto row = std::ranges::find(held, fatal, &PendingRow::Row);
     if (fatal != kNoRow && row != held.end()) {
         RowOutcome outcome;
-        const int signal = WIFSIGNALED(status) ? WTERMSIG(status) : 0;
         outcome.Messages.push_back(Text(908001_text, {{"|1", NumberToText(signal)}}));
         answers.push_back({fatal, std::move(outcome)});
         held.erase(row);
@@ -190,42 +139,40 @@ void WorkerPool::Bury(std::size_t index, std::vector<Answer>& answers) {
     waiting_.insert(waiting_.begin(), std::make_move_iterator(held.begin()), std::make_move_iterator(held.end()));
 }
 
-void WorkerPool::End(Worker& worker) noexcept {
-    if (worker.Process == 0) return;
-    int status = 0;
-    kill(worker.Process, SIGKILL);
-    WaitFor(worker.Process, status);
-    close(worker.Socket);
-    worker = {};
+// The place of a worker that has ended, and what it held.
+std::deque<WorkerPool::PendingRow> WorkerPool::Empty(Worker& worker) {
+    worker.Unsent.clear();
+    worker.Received = {};
+    worker.Answered = false;
+    return std::exchange(worker.Held, {});
 }
 
 void WorkerPool::Collect(std::vector<Answer>& answers, int milliseconds) {
     HandOut();
-    std::vector<pollfd> sockets;
-    for (const Worker& worker : workers_) {
-        const short wanted = worker.Unsent.empty() ? POLLIN : POLLIN | POLLOUT;
-        sockets.push_back({worker.Socket, wanted, 0});
-    }
-    if (poll(sockets.data(), sockets.size(), milliseconds) <= 0) return;
+    std::vector<platform::Awaited> streams;
+    for (const Worker& worker : workers_) streams.push_back({worker.Process.Stream(), !worker.Unsent.empty()});
+    if (!platform::Await(streams, milliseconds)) return;
     for (std::size_t i = 0; i < workers_.size(); ++i) {
-        if (sockets[i].revents == 0) continue;
-        if (sockets[i].revents & POLLOUT) Send(workers_[i]);
-        if (!Receive(workers_[i], answers)) Bury(i, answers);
+        if (streams[i].CanWrite) Send(workers_[i]);
+        if (streams[i].CanRead && !Receive(workers_[i], answers)) Bury(i, answers);
     }
     HandOut();
 }
 
 void WorkerPool::Abandon() {
-    for (Worker& worker : workers_)
-        if (!worker.Held.empty()) End(worker);
+    for (Worker& worker : workers_) {
+        if (worker.Held.empty()) continue;
+        worker.Process.End();
+        Empty(worker);
+    }
     waiting_.clear();
     unanswered_ = 0;
 }
 
-std::vector<pid_t> WorkerPool::Processes() const {
-    std::vector<pid_t> processes;
+std::vector<int> WorkerPool::Processes() const {
+    std::vector<int> processes;
     for (const Worker& worker : workers_)
-        if (worker.Process != 0) processes.push_back(worker.Process);
+        if (worker.Process.Runs()) processes.push_back(worker.Process.Id());
     return processes;
 }
 

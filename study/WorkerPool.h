@@ -1,4 +1,4 @@
-// WorkerPool: forked processes that work rows beside the program, each on a copy of the project that was open when the
+// WorkerPool: processes that work rows beside the program, each on a copy of the project that was open when the
 // pool was made. Nothing that a row does is seen by the program: no field, file or preference of it changes.
 //
 //     WorkerPool pool(Session, takes, WorkerPool::AllCores());
@@ -10,34 +10,17 @@
 // the rows that it still held are worked again. Rows are answered as they are done, in any order.
 #pragma once
 
-#include <sys/types.h>
-
-#include <atomic>
 #include <cstddef>
 #include <deque>
 #include <vector>
 
 #include "core/Session.h"
+#include "services/platform/Workers.h"
 #include "study/Row.h"
 #include "study/Take.h"
 #include "study/Wire.h"
 
 namespace lithmark {
-
-// Tickets in memory that forked processes share.
-class SharedTickets {
-  public:
-    explicit SharedTickets(std::size_t count);
-    ~SharedTickets();
-    SharedTickets(const SharedTickets&) = delete;
-    SharedTickets& operator=(const SharedTickets&) = delete;
-
-    std::atomic<Ticket>& operator[](std::size_t i) noexcept { return tickets_[i]; }
-
-  private:
-    std::atomic<Ticket>* tickets_;
-    std::size_t bytes_;
-};
 
 class WorkerPool {
   public:
@@ -49,8 +32,8 @@ class WorkerPool {
     // As many as this process may use.
     static int AllCores();
 
-    // Workers are started as rows come in, and start from `start`. They are forked, so a program with a toolkit makes
-    // its pool before the toolkit starts threads.
+    // Workers are started as rows come in, and start from `start`. They are copies of the process where the system can
+    // make some, so a program with a toolkit makes its pool before the toolkit starts threads.
     WorkerPool(const SessionRecord& start, std::vector<Take> takes, int workers);
     // Ends the workers at once, whatever they are at.
     ~WorkerPool();
@@ -71,7 +54,7 @@ class WorkerPool {
     void Abandon();
 
     // The processes that run, for tests and for those who watch over them.
-    std::vector<pid_t> Processes() const;
+    std::vector<int> Processes() const;
 
   private:
     struct PendingRow {
@@ -79,8 +62,7 @@ class WorkerPool {
         RowInput Input;
     };
     struct Worker {
-        pid_t Process = 0;  // 0: none runs
-        int Socket = -1;
+        platform::WorkerProcess Process;
         std::deque<PendingRow> Held;  // handed out and not answered, in order
         std::string Unsent;
         FrameBuffer Received;
@@ -95,7 +77,7 @@ class WorkerPool {
     void TakeAnswers(Worker& worker, std::vector<Answer>& answers);
     // Reaps a worker that is gone and sees to the rows that it held.
     void Bury(std::size_t worker, std::vector<Answer>& answers);
-    void End(Worker& worker) noexcept;
+    static std::deque<PendingRow> Empty(Worker& worker);
     std::size_t Batch() const noexcept;
 
     SessionRecord start_;
@@ -105,7 +87,7 @@ class WorkerPool {
     std::size_t unanswered_ = 0;
     double rowSeconds_ = -1;  // what a row has taken of late; below 0 before the first
     int deathsWithoutRow_ = 0;
-    SharedTickets inWork_;  // the row in work of each worker
+    platform::SharedNumbers inWork_;  // the row in work of each worker
 };
 
 }  // namespace lithmark

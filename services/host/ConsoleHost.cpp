@@ -1,12 +1,11 @@
 #include "services/host/ConsoleHost.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <csignal>
 
-#include "base/RemovedOnEnd.h"
 #include "base/Utf8.h"
+#include "services/platform/Process.h"
+#include "services/platform/RemovedOnEnd.h"
 
 namespace lithmark {
 
@@ -20,7 +19,7 @@ volatile std::sig_atomic_t interrupted = 0;
 extern "C" void OnInterrupt(int) {
     if (interrupted != 0) {
         RemoveRegisteredFiles();
-        ::_exit(kExitAfterInterrupt);
+        platform::EndAtOnce(kExitAfterInterrupt);
     }
     interrupted = 1;
 }
@@ -37,7 +36,7 @@ std::string OneLine(const std::string& text) {
     return line;
 }
 
-ConsoleHost::ConsoleHost() : ConsoleHost(stderr, ::isatty(STDERR_FILENO) != 0) {}
+ConsoleHost::ConsoleHost() : ConsoleHost(stderr, platform::IsTerminal(stderr)) {}
 
 ConsoleHost::ConsoleHost(std::FILE* out, bool terminal) : out_(out), terminal_(terminal) {
     interrupted = 0;
@@ -55,8 +54,7 @@ void ConsoleHost::Catch(int signal) {
 }
 
 void ConsoleHost::EndOnTermination() {
-    Catch(SIGTERM);
-    Catch(SIGHUP);
+    for (const int signal : platform::EndingSignals()) Catch(signal);
 }
 
 void ConsoleHost::ShowMessage(const std::string& title, const std::string& text, MessageIcon) {

@@ -48,7 +48,7 @@ std::string_view ExtensionOf(std::string_view path) {
 }
 
 std::string MappedFileName(std::string_view name) {
-    std::string path = ReplaceAll(name, kSeparator == '/' ? "\\" : "/", std::string(1, kSeparator));
+    std::string path = ReplaceAll(name, "\\", std::string(1, kSeparator));
     const std::string extension(ExtensionOf(path));
     if (extension.empty()) return path;
     const std::string upper = UpperAscii(extension);

@@ -7,11 +7,8 @@
 
 namespace lithmark {
 
-#ifdef _WIN32
-inline constexpr char kSeparator = '\\';
-#else
+// What stands between folders in the program's own paths, on every system.
 inline constexpr char kSeparator = '/';
-#endif
 
 // The extensions of all files that a project can consist of, upper case: the project and order file, the problems' data
 // files, and the files of a raft export.
@@ -21,7 +18,7 @@ std::span<const std::string_view> ProjectExtensions();
 // one.
 std::string_view ExtensionOf(std::string_view path);
 
-// The name that a path is really opened under. Both separators become that of the platform. A project extension is
+// The name that a path is really opened under. A backslash becomes a slash. A project extension is
 // folded to upper case; when no such file exists but one whose extension differs in letter case alone, it is that file.
 std::string MappedFileName(std::string_view name);
 

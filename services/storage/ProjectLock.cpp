@@ -1,15 +1,8 @@
 #include "services/storage/ProjectLock.h"
 
-#include <fcntl.h>
-#include <pwd.h>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <array>
 #include <cerrno>
 #include <chrono>
-#include <climits>
 #include <filesystem>
 #include <string_view>
 #include <thread>
@@ -18,6 +11,8 @@
 
 #include "base/Failure.h"
 #include "base/Utf8.h"
+#include "services/platform/Files.h"
+#include "services/platform/Process.h"
 #include "services/storage/TemporaryFile.h"
 #include "services/texts/LanguageTexts.h"
 
@@ -30,28 +25,18 @@ constexpr std::chrono::milliseconds kPause(20);
 
 std::string LockFileOf(const std::string& project) {
     const std::filesystem::path path(project);
-    return (path.parent_path() / (std::string(kHiddenStart) + path.filename().string() + ".lock")).string();
-}
-
-std::string UserName() {
-    const passwd* user = ::getpwuid(::getuid());
-    return user != nullptr ? user->pw_name : std::to_string(::getuid());
-}
-
-std::string MachineName() {
-    std::array<char, HOST_NAME_MAX + 1> name{};
-    return ::gethostname(name.data(), name.size() - 1) == 0 ? name.data() : std::string();
+    return (path.parent_path() / (std::string(kHiddenStart) + path.filename().string() + ".lock")).generic_string();
 }
 
 // Who this process is, a line each: user, machine, process.
 std::string Card() {
-    return UserName() + "\n" + MachineName() + "\n" + std::to_string(::getpid()) + "\n";
+    return platform::UserName() + "\n" + platform::MachineName() + "\n" + std::to_string(platform::ProcessId()) + "\n";
 }
 
 // Who holds a lock, by the card in its file; the card may still be missing.
 std::string HolderIn(int descriptor) {
     std::array<char, 512> bytes;
-    const ssize_t count = ::pread(descriptor, bytes.data(), bytes.size(), 0);
+    const std::int64_t count = platform::ReadFromAt(descriptor, bytes.data(), bytes.size(), 0);
     std::vector<std::string> lines =
         Split(std::string_view(bytes.data(), static_cast<std::size_t>(count < 0 ? 0 : count)), '\n');
     lines.resize(3);
@@ -60,10 +45,9 @@ std::string HolderIn(int descriptor) {
 
 // True when the descriptor's file is the one that stands under the name; a holder removes the file as it leaves.
 bool StandsUnder(int descriptor, const std::string& file) {
-    struct stat open {
-    }, named{};
-    return ::fstat(descriptor, &open) == 0 && ::stat(file.c_str(), &named) == 0 && open.st_dev == named.st_dev &&
-           open.st_ino == named.st_ino;
+    platform::FileState open, named;
+    return platform::StateOf(descriptor, open) && platform::StateOf(file, named) && open.Device == named.Device &&
+           open.Number == named.Number;
 }
 
 }  // namespace
@@ -76,39 +60,40 @@ ProjectLock::ProjectLock(const std::string& project) : project_(project) {
 
 // False when the lock is to be tried again: it is held, or the file went away under it.
 bool ProjectLock::TryOnce(const std::string& file, bool again) {
+    using namespace platform;
     // No link is followed: the name is the program's own, and what it leads to need not be.
-    constexpr int kFlags = O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
-    int descriptor = ::open(file.c_str(), O_RDWR | O_CREAT | kFlags, 0666);
+    int descriptor = OpenFile(file, Open::Card);
     // The file of another user, who may well hold the lock.
-    if (descriptor < 0 && errno == EACCES) descriptor = ::open(file.c_str(), O_RDONLY | kFlags);
+    if (descriptor < 0 && errno == EACCES) descriptor = OpenFile(file, Open::ReadOwnName);
     if (descriptor < 0) return true;
-    if (::flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
-        const bool held = errno == EWOULDBLOCK;
+    const Locked lock = TryLock(descriptor);
+    if (lock != Locked::Yes) {
+        const bool held = lock == Locked::HeldByAnother;
         const std::string holder = held ? HolderIn(descriptor) : std::string();
-        ::close(descriptor);
+        CloseFile(descriptor);
         if (held && !again) FailInFile(FailureKind::ProjectInUse, project_, holder);
         return !held;
     }
     if (!StandsUnder(descriptor, file)) {
-        ::close(descriptor);
+        CloseFile(descriptor);
         return false;
     }
     descriptor_ = descriptor;
     file_ = file;
-    process_ = ::getpid();
+    process_ = ProcessId();
     registered_ = std::make_unique<RemovedOnEnd>(file_);
     const std::string card = Card();
     // A card that cannot be written leaves the holder unnamed; the lock holds all the same.
-    if (::ftruncate(descriptor_, 0) == 0) static_cast<void>(::pwrite(descriptor_, card.data(), card.size(), 0) < 0);
+    if (CutFile(descriptor_) == 0) static_cast<void>(WriteToAt(descriptor_, card.data(), card.size(), 0) < 0);
     return true;
 }
 
 ProjectLock::~ProjectLock() {
     if (descriptor_ < 0) return;
     // A process that was forked off has the lock's descriptor too; the file is its maker's.
-    if (process_ == ::getpid() && StandsUnder(descriptor_, file_)) ::unlink(file_.c_str());
+    if (process_ == platform::ProcessId() && StandsUnder(descriptor_, file_)) platform::RemoveFile(file_.c_str());
     registered_.reset();
-    ::close(descriptor_);
+    platform::CloseFile(descriptor_);
 }
 
 }  // namespace lithmark

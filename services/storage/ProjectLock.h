@@ -8,7 +8,7 @@
 #include <memory>
 #include <string>
 
-#include "base/RemovedOnEnd.h"
+#include "services/platform/RemovedOnEnd.h"
 
 namespace lithmark {
 

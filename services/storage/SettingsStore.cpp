@@ -1,11 +1,11 @@
 #include "services/storage/SettingsStore.h"
 
 #include <cstdint>
-#include <cstdio>
 #include <filesystem>
 #include <nlohmann/json.hpp>
 #include <system_error>
 
+#include "services/platform/Files.h"
 #include "services/storage/JsonDepth.h"
 #include "services/storage/ReadFile.h"
 #include "services/storage/WrittenFile.h"
@@ -31,7 +31,7 @@ Json ReadStore(const std::string& file, StoreTrouble& trouble) {
         if (store.is_object()) return store;
     }
     const std::string aside = file + ".damaged";
-    if (std::rename(file.c_str(), aside.c_str()) == 0)
+    if (platform::RenameOver(file, aside) == 0)
         trouble.SetAside = aside;
     else
         trouble.Unreadable = Failure(FailureKind::ReadError).InFile(file);

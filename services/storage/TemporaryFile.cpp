@@ -1,19 +1,15 @@
 #include "services/storage/TemporaryFile.h"
 
-#include <fcntl.h>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <atomic>
 #include <cerrno>
 #include <chrono>
-#include <cstdio>
 #include <filesystem>
 #include <system_error>
 #include <utility>
 
 #include "base/Failure.h"
+#include "services/platform/Files.h"
+#include "services/platform/Process.h"
 
 namespace lithmark {
 
@@ -31,11 +27,13 @@ bool IsOld(const std::filesystem::path& path) noexcept {
 // Removes a file that nobody uses. The lock is held until the name is gone, so that a file that is just being made is
 // either left alone or seen by its maker to be gone.
 void RemoveUnused(const std::filesystem::path& path) noexcept {
-    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
+    using namespace platform;
+    const std::string name = path.generic_string();
+    const int descriptor = OpenFile(name, Open::ReadOwnName);
     if (descriptor < 0) return;
-    const bool unused = ::flock(descriptor, LOCK_EX | LOCK_NB) == 0 || (errno != EWOULDBLOCK && IsOld(path));
-    if (unused) ::unlink(path.c_str());
-    ::close(descriptor);
+    const Locked lock = TryLock(descriptor);
+    if (lock == Locked::Yes || (lock == Locked::NoLocks && IsOld(path))) RemoveFile(name.c_str());
+    CloseFile(descriptor);
 }
 
 }  // namespace
@@ -44,8 +42,9 @@ TemporaryFile::TemporaryFile(const std::string& folder, const std::string& targe
     static std::atomic<unsigned> counter = 0;
     do {
         // The name is short whatever the target is called, so that long names can be written too.
-        name_ = folder + kHiddenStart + std::to_string(::getpid()) + "-" + std::to_string(++counter) + kTemporaryEnd;
-        descriptor_ = ::open(name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        name_ = folder + kHiddenStart + std::to_string(platform::ProcessId()) + "-" + std::to_string(++counter) +
+                kTemporaryEnd;
+        descriptor_ = platform::OpenFile(name_, platform::Open::New);
     } while (descriptor_ < 0 ? errno == EEXIST : !LockIt());
     if (descriptor_ < 0) FailWithSystemError(errno, FailureKind::WriteError, target);
     registered_.emplace(name_);
@@ -54,32 +53,33 @@ TemporaryFile::TemporaryFile(const std::string& folder, const std::string& targe
 // False when the file was taken for a leftover before the lock was on it. The lock is on a second descriptor, so that
 // the writing can be ended and the file stays in use.
 bool TemporaryFile::LockIt() noexcept {
-    lock_ = ::fcntl(descriptor_, F_DUPFD_CLOEXEC, 0);
-    if (lock_ < 0 || ::flock(lock_, LOCK_EX) != 0) return true;
-    struct stat status {};
-    if (::fstat(lock_, &status) == 0 && status.st_nlink == 0) {
-        ::close(std::exchange(lock_, -1));
-        ::close(std::exchange(descriptor_, -1));
+    lock_ = platform::DuplicateFile(descriptor_);
+    if (lock_ < 0 || !platform::Lock(lock_)) return true;
+    platform::FileState state;
+    if (platform::StateOf(lock_, state) && state.Names == 0) {
+        platform::CloseFile(std::exchange(lock_, -1));
+        platform::CloseFile(std::exchange(descriptor_, -1));
         return false;
     }
     return true;
 }
 
 TemporaryFile::~TemporaryFile() {
-    if (!name_.empty()) ::unlink(name_.c_str());
-    if (descriptor_ >= 0) ::close(descriptor_);
-    if (lock_ >= 0) ::close(lock_);
+    if (!name_.empty()) platform::RemoveFile(name_.c_str());
+    if (descriptor_ >= 0) platform::CloseFile(descriptor_);
+    if (lock_ >= 0) platform::CloseFile(lock_);
 }
 
 void TemporaryFile::Close(const std::string& target) {
-    if (::close(std::exchange(descriptor_, -1)) != 0) FailWithSystemError(errno, FailureKind::WriteError, target);
+    if (platform::CloseFile(std::exchange(descriptor_, -1)) != 0)
+        FailWithSystemError(errno, FailureKind::WriteError, target);
 }
 
 void TemporaryFile::TakePlaceOf(const std::string& target, const std::string& told) {
-    if (std::rename(name_.c_str(), target.c_str()) != 0) FailWithSystemError(errno, FailureKind::WriteError, told);
+    if (platform::RenameOver(name_, target) != 0) FailWithSystemError(errno, FailureKind::WriteError, told);
     name_.clear();
     registered_.reset();
-    if (lock_ >= 0) ::close(std::exchange(lock_, -1));
+    if (lock_ >= 0) platform::CloseFile(std::exchange(lock_, -1));
 }
 
 void RemoveLeftovers(const std::string& folder) noexcept {

@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-#include "base/RemovedOnEnd.h"
+#include "services/platform/RemovedOnEnd.h"
 
 namespace lithmark {
 

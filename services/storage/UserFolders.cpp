@@ -1,15 +1,9 @@
 #include "services/storage/UserFolders.h"
 
-#include <pwd.h>
-#include <unistd.h>
-
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <optional>
-#include <string_view>
 #include <system_error>
 
+#include "services/platform/Process.h"
 #include "services/storage/FileNames.h"
 
 namespace lithmark {
@@ -17,27 +11,6 @@ namespace lithmark {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string HomeDir() {
-    const char* home = std::getenv("HOME");
-    if (home == nullptr || *home != '/') {
-        const passwd* user = ::getpwuid(::getuid());
-        home = user != nullptr ? user->pw_dir : nullptr;
-    }
-    return home != nullptr && *home == '/' ? WithSeparator(home) : "";
-}
-
-// A folder that all programs share: the one that the variable names, or `otherwise` in the home.
-std::string SharedFolder(const char* variable, const char* otherwise) {
-    const char* named = std::getenv(variable);
-    if (named != nullptr && *named == '/') return WithSeparator(named);
-    const std::string home = HomeDir();
-    return home.empty() ? "" : home + otherwise;
-}
-
-std::string ConfigDir() {
-    return SharedFolder("XDG_CONFIG_HOME", ".config/");
-}
 
 // This program's own in it.
 std::string OwnIn(const std::string& folder) {
@@ -49,25 +22,14 @@ bool IsFolder(const std::string& path) {
     return fs::is_directory(path, error);
 }
 
-// The value of a line XDG_DOCUMENTS_DIR="..." of user-dirs.dirs: a path, or one that begins with $HOME.
-std::optional<std::string> NamedDocuments(const std::string& line) {
-    constexpr std::string_view kName = "XDG_DOCUMENTS_DIR=\"", kHome = "$HOME";
-    if (!line.starts_with(kName) || !line.ends_with('"') || line.size() == kName.size()) return std::nullopt;
-    const std::string value = line.substr(kName.size(), line.size() - kName.size() - 1);
-    if (value.starts_with('/')) return value;
-    if (value != kHome && !value.starts_with("$HOME/")) return std::nullopt;
-    const std::string below = value.substr(kHome.size());
-    return HomeDir() + (below.empty() ? below : below.substr(1));
-}
-
 }  // namespace
 
 std::string UserSettingsDir() {
-    return OwnIn(ConfigDir());
+    return OwnIn(platform::SettingsFolder());
 }
 
 std::string UserStateDir() {
-    return OwnIn(SharedFolder("XDG_STATE_HOME", ".local/state/"));
+    return OwnIn(platform::StateFolder());
 }
 
 void MakeSettingsDir(const std::string& programDir) {
@@ -76,13 +38,8 @@ void MakeSettingsDir(const std::string& programDir) {
 }
 
 std::string UserDocumentsDir() {
-    const std::string home = HomeDir();
-    if (home.empty()) return "";
-    std::string documents = home + "Documents";
-    std::ifstream names(ConfigDir() + "user-dirs.dirs");
-    for (std::string line; std::getline(names, line);)
-        if (const auto named = NamedDocuments(line)) documents = *named;
-    return IsFolder(documents) ? WithSeparator(documents) : home;
+    const std::string documents = platform::DocumentsFolder();
+    return IsFolder(documents) ? documents : platform::HomeFolder();
 }
 
 std::string DataDirUnset(const std::string& programDir) {

@@ -1,9 +1,5 @@
 #include "services/storage/WrittenFile.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <cerrno>
 #include <filesystem>
 #include <set>
@@ -11,6 +7,8 @@
 #include <thread>
 #include <utility>
 #include <vector>
+
+#include "services/platform/Files.h"
 
 namespace lithmark {
 
@@ -21,12 +19,9 @@ constexpr std::size_t kBufferSize = 1 << 16;
 // Writes all bytes, at an offset or, when it is negative, at the current place. The error's number, 0 for none.
 int WriteAll(int descriptor, std::string_view bytes, std::int64_t offset) {
     while (!bytes.empty()) {
-        const ssize_t written = offset < 0 ? ::write(descriptor, bytes.data(), bytes.size())
-                                           : ::pwrite(descriptor, bytes.data(), bytes.size(), offset);
-        if (written < 0) {
-            if (errno == EINTR) continue;
-            return errno;
-        }
+        const std::int64_t written = offset < 0 ? platform::WriteTo(descriptor, bytes.data(), bytes.size())
+                                                : platform::WriteToAt(descriptor, bytes.data(), bytes.size(), offset);
+        if (written < 0) return errno;
         bytes.remove_prefix(static_cast<std::size_t>(written));
         if (offset >= 0) offset += written;
     }
@@ -38,7 +33,7 @@ std::string RealTarget(const std::string& path) {
     std::error_code error;
     if (!std::filesystem::is_symlink(path, error)) return path;
     const auto real = std::filesystem::weakly_canonical(path, error);
-    return error ? path : real.string();
+    return error ? path : real.generic_string();
 }
 
 // The folder that a path lies in, with its slash at the end; empty for the current one.
@@ -50,14 +45,15 @@ std::string FolderOf(const std::string& path) {
 }  // namespace
 
 WrittenFile::WrittenFile(const std::string& path, Target kind) : path_(path), target_(RealTarget(path)) {
-    struct stat status {};
-    if (::stat(target_.c_str(), &status) == 0) {
-        if (S_ISREG(status.st_mode)) {
-            if (::access(target_.c_str(), W_OK) != 0) FailToWrite(errno);
-            mode_ = status.st_mode & 07777;
+    using Kind = platform::FileState::Kind;
+    platform::FileState state;
+    if (platform::StateOf(target_, state)) {
+        if (state.What == Kind::Regular) {
+            if (!platform::MayWrite(target_)) FailToWrite(errno);
+            permissions_ = state.Permissions;
         } else {
-            if (kind == Target::File || S_ISDIR(status.st_mode)) FailToWrite(EISDIR);
-            device_ = ::open(target_.c_str(), O_WRONLY | O_CLOEXEC);
+            if (kind == Target::File || state.What == Kind::Folder) FailToWrite(EISDIR);
+            device_ = platform::OpenFile(target_, platform::Open::Write);
             if (device_ < 0) FailToWrite(errno);
             return;
         }
@@ -65,7 +61,7 @@ WrittenFile::WrittenFile(const std::string& path, Target kind) : path_(path), ta
         FailToWrite(errno);
     }
     temporary_ = std::make_unique<TemporaryFile>(FolderOf(target_), path_);
-    if (mode_ != 0) ::fchmod(temporary_->Descriptor(), mode_);
+    if (permissions_ != 0) platform::SetPermissions(temporary_->Descriptor(), permissions_);
 }
 
 WrittenFile::~WrittenFile() {
@@ -100,13 +96,13 @@ void WrittenFile::Sync() {
 }
 
 int WrittenFile::SyncError() const noexcept {
-    return !temporary_ || ::fsync(temporary_->Descriptor()) == 0 ? 0 : errno;
+    return !temporary_ || platform::SyncFile(temporary_->Descriptor()) == 0 ? 0 : errno;
 }
 
 void WrittenFile::Close() {
     if (temporary_)
         temporary_->Close(path_);
-    else if (::close(std::exchange(device_, -1)) != 0)
+    else if (platform::CloseFile(std::exchange(device_, -1)) != 0)
         FailToWrite(errno);
 }
 
@@ -173,7 +169,7 @@ void WrittenFile::CommitTogether(std::span<const std::unique_ptr<WrittenFile>> f
 void WrittenFile::Drop() noexcept {
     buffer_.clear();
     temporary_.reset();
-    if (device_ >= 0) ::close(std::exchange(device_, -1));
+    if (device_ >= 0) platform::CloseFile(std::exchange(device_, -1));
 }
 
 void WriteWholeFile(const std::string& path, std::string_view content, WrittenFile::Target kind) {
@@ -183,11 +179,7 @@ void WriteWholeFile(const std::string& path, std::string_view content, WrittenFi
 }
 
 void SyncFolderOf(const std::string& path) noexcept {
-    const std::string folder = FolderOf(path);
-    const int descriptor = ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0) return;
-    ::fsync(descriptor);
-    ::close(descriptor);
+    platform::SyncFolder(FolderOf(path));
 }
 
 }  // namespace lithmark

@@ -59,7 +59,7 @@ class WrittenFile {
     std::string path_, target_, buffer_;
     std::unique_ptr<TemporaryFile> temporary_;
     int device_ = -1;
-    unsigned mode_ = 0;  // of the file to be replaced; 0 when there is none
+    unsigned permissions_ = 0;  // of the file to be replaced; 0 when there is none
 };
 
 // Writes a whole file by way of a WrittenFile.

@@ -45,6 +45,8 @@ TEST(Walls, AFileIncludesOnlyFromItsOwnFloorOrFloorsBelow) {
 }
 
 TEST(Walls, TheDrawersOfTheServices) {
+    ExpectNoWay("services/platform",
+                {"base", "texts", "services/numerics", "services/texts", "services/storage", "services/host"});
     ExpectNoWay("services/numerics", {"texts", "services/texts", "services/storage", "services/host"});
     ExpectNoWay("services/texts", {"services/numerics", "services/storage", "services/host"});
     ExpectNoWay("services/storage", {"services/numerics", "services/host"});
@@ -56,6 +58,25 @@ TEST(Walls, TheDrawersOfTheServices) {
             EXPECT_FALSE(name.starts_with("services/") && name.find('/', 9) == std::string::npos)
                 << file.Path << " includes " << name;
     }
+}
+
+// What differs between operating systems stands in services/platform, in files that bear their names.
+TEST(Walls, OnlyThePlatformKnowsTheOperatingSystem) {
+    static const std::regex header(
+        R"(^(unistd|fcntl|pwd|poll|spawn|dirent|dlfcn|termios|windows|winsock2|io|process|shlobj)\.h$|^sys/.*|^linux/.*)"),
+        asked(R"(#\s*(if|ifdef|ifndef|elif)\b[^\n]*(_WIN32|_WIN64|__linux__|__unix__|__APPLE__|__MINGW\w*__))");
+    static const std::regex named(R"(^services/platform/(Posix|Windows)\w+\.(cpp|h)$)");
+    int ofSystems = 0;
+    for (const auto& file : Sources()) {
+        EXPECT_FALSE(std::regex_search(file.Text, asked)) << file.Path;
+        if (std::regex_match(file.Path, named)) {
+            ++ofSystems;
+            continue;
+        }
+        for (const auto& name : Includes(file.Text))
+            EXPECT_FALSE(std::regex_match(name, header)) << file.Path << " includes " << name;
+    }
+    EXPECT_GE(ofSystems, 6);
 }
 
 // No family of kernels knows another one; what several need stands in kernels/elastic, or lower.

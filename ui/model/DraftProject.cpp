@@ -1,7 +1,6 @@
 #include "ui/model/DraftProject.h"
 
 #include <cerrno>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <system_error>
@@ -12,6 +11,7 @@
 #include "files/ProblemData.h"
 #include "files/ProjectFiles.h"
 #include "files/SettingsFiles.h"
+#include "services/platform/Files.h"
 #include "services/storage/FileNames.h"
 #include "services/texts/LanguageTexts.h"
 
@@ -22,11 +22,8 @@ namespace {
 namespace fs = std::filesystem;
 
 std::string NewFolder() {
-    std::error_code error;
-    const fs::path place = fs::temp_directory_path(error);
-    if (error) FailWithSystemError(error.value(), FailureKind::WriteError, place.string());
-    std::string folder = (place / "lithmark-draft-XXXXXX").string();
-    if (mkdtemp(folder.data()) == nullptr) FailWithSystemError(errno, FailureKind::WriteError, folder);
+    std::string folder = platform::MakeTemporaryFolder();
+    if (folder.empty()) FailWithSystemError(errno, FailureKind::WriteError, platform::TemporaryFolder());
     return folder;
 }
 

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "base/RemovedOnEnd.h"
 #include "core/Session.h"
+#include "services/platform/RemovedOnEnd.h"
 
 namespace lithmark {
 
