@@ -24,7 +24,9 @@ FailureKind KindOf(int error, FailureKind otherwise) {
         case EROFS:
             return FailureKind::PermissionDenied;
         case ENOSPC:
+#ifdef EDQUOT
         case EDQUOT:
+#endif
             return FailureKind::DiskFull;
         case ENOMEM:
             return FailureKind::OutOfMemory;

@@ -1,4 +1,3 @@
-#include <windows.h>
 #include <winsock2.h>
 #include <ws2tcpip.h>
 
@@ -13,11 +12,16 @@
 #include "services/platform/WindowsText.h"
 #include "services/platform/Workers.h"
 
+// Ahead of the other header of the system.
+#include <winsock2.h>
+#include <ws2tcpip.h>
+
 namespace lithmark::platform {
 
 namespace {
 
-// What a worker started anew is told: the handles of its stream and of the shared numbers, and which is its own.
+// What a worker started anew is told: the handle of the shared memory, of how many workers, and which it is. The memory
+// holds the numbers, and behind them each worker's stream as the system hands it to another process.
 constexpr wchar_t kVariable[] = L"LITHMARK_WORKER";
 
 void StartSockets() {
@@ -71,8 +75,7 @@ bool MakePair(std::array<Socket, 2>& ends) {
     const DWORD atOnce = 1;
     for (const Socket end : ends)
         ::setsockopt(Raw(end), IPPROTO_TCP, TCP_NODELAY, reinterpret_cast<const char*>(&atOnce), sizeof atOnce);
-    ::SetHandleInformation(reinterpret_cast<HANDLE>(ends[0]), HANDLE_FLAG_INHERIT, 0);
-    ::SetHandleInformation(reinterpret_cast<HANDLE>(ends[1]), HANDLE_FLAG_INHERIT, HANDLE_FLAG_INHERIT);
+    for (const Socket end : ends) ::SetHandleInformation(reinterpret_cast<HANDLE>(end), HANDLE_FLAG_INHERIT, 0);
     return true;
 }
 
@@ -88,6 +91,10 @@ HANDLE Job() {
     return job;
 }
 
+WSAPROTOCOL_INFOW* StreamsBehind(std::atomic<std::uint64_t>* numbers, std::size_t count) noexcept {
+    return reinterpret_cast<WSAPROTOCOL_INFOW*>(numbers + count);
+}
+
 int AsInt(DWORD number) noexcept {
     return static_cast<int>(number);
 }
@@ -96,7 +103,7 @@ int AsInt(DWORD number) noexcept {
 
 SharedNumbers::SharedNumbers(std::size_t count) : count_(count) {
     SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
-    const auto bytes = static_cast<DWORD>(count * sizeof(*numbers_));
+    const auto bytes = static_cast<DWORD>(count * (sizeof(*numbers_) + sizeof(WSAPROTOCOL_INFOW)));
     const HANDLE mapping = ::CreateFileMappingW(INVALID_HANDLE_VALUE, &inherited, PAGE_READWRITE, 0, bytes, nullptr);
     void* memory = mapping != nullptr ? ::MapViewOfFile(mapping, FILE_MAP_ALL_ACCESS, 0, 0, bytes) : nullptr;
     if (memory == nullptr) throw std::bad_alloc();
@@ -144,13 +151,16 @@ void RunAsWorker(const WorkerMain& work) {
     ::SetEnvironmentVariableW(kVariable, nullptr);
     StartSockets();
     char* rest = nullptr;
-    const auto socket = static_cast<Socket>(std::strtoll(told->c_str(), &rest, 10));
-    const auto mapping = static_cast<std::intptr_t>(std::strtoll(rest, &rest, 10));
+    const auto mapping = static_cast<std::intptr_t>(std::strtoll(told->c_str(), &rest, 10));
+    const auto count = static_cast<std::size_t>(std::strtoull(rest, &rest, 10));
     const auto index = static_cast<std::size_t>(std::strtoull(rest, &rest, 10));
     void* memory = ::MapViewOfFile(reinterpret_cast<HANDLE>(mapping), FILE_MAP_ALL_ACCESS, 0, 0, 0);
-    if (memory == nullptr) EndAtOnce(1);
+    if (memory == nullptr || index >= count) EndAtOnce(1);
+    auto* numbers = static_cast<std::atomic<std::uint64_t>*>(memory);
+    const SOCKET socket = ::WSASocketW(AF_INET, SOCK_STREAM, IPPROTO_TCP, StreamsBehind(numbers, count) + index, 0, 0);
+    if (socket == INVALID_SOCKET) EndAtOnce(1);
     ::SetConsoleCtrlHandler(nullptr, TRUE);  // the program alone decides when its workers end
-    work(socket, static_cast<std::atomic<std::uint64_t>*>(memory)[index]);
+    work(static_cast<Socket>(socket), numbers[index]);
     EndAtOnce(0);
 }
 
@@ -158,7 +168,7 @@ bool WorkerProcess::Start(const WorkerMain&, SharedNumbers& numbers, std::size_t
     std::array<Socket, 2> ends;
     if (!MakePair(ends)) return false;
     const std::string told =
-        std::to_string(ends[1]) + " " + std::to_string(numbers.Handle()) + " " + std::to_string(index);
+        std::to_string(numbers.Handle()) + " " + std::to_string(numbers.Count()) + " " + std::to_string(index);
     ::SetEnvironmentVariableW(kVariable, Wide(told).c_str());
     SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
     const HANDLE nowhere = ::CreateFileW(L"NUL", GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
@@ -173,8 +183,15 @@ bool WorkerProcess::Start(const WorkerMain&, SharedNumbers& numbers, std::size_t
                                        CREATE_SUSPENDED, nullptr, nullptr, &start, &started) != 0;
     ::SetEnvironmentVariableW(kVariable, nullptr);
     ::CloseHandle(nowhere);
+    const bool given = runs && ::WSADuplicateSocketW(Raw(ends[1]), started.dwProcessId,
+                                                     StreamsBehind(&numbers[0], numbers.Count()) + index) == 0;
     CloseStream(ends[1]);
-    if (!runs) {
+    if (runs && !given) {
+        ::TerminateProcess(started.hProcess, 1);
+        ::CloseHandle(started.hThread);
+        ::CloseHandle(started.hProcess);
+    }
+    if (!given) {
         CloseStream(ends[0]);
         return false;
     }

@@ -20,6 +20,8 @@ class SharedNumbers {
     SharedNumbers& operator=(const SharedNumbers&) = delete;
 
     std::atomic<std::uint64_t>& operator[](std::size_t i) noexcept { return numbers_[i]; }
+    std::size_t Count() const noexcept { return count_; }
+    // How the system knows the memory, where workers start anew.
     std::intptr_t Handle() const noexcept { return handle_; }
 
   private:

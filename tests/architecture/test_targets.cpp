@@ -25,6 +25,10 @@ struct Target {
 
 // Which includes a library of others is linked for.
 const std::map<std::string, std::string> kLibraries = {
+    {"ws2_32", "winsock2\\.h"},
+    {"ole32", "shlobj\\.h"},
+    {"shell32", "shlobj\\.h"},
+    {"uuid", "shlobj\\.h"},
     {"Threads::Threads", "thread|mutex|condition_variable|future"},
     {"nlohmann_json::nlohmann_json", "nlohmann/.*"},
     {"PkgConfig::LIBZIP", "zip\\.h"},
