@@ -17,6 +17,9 @@ RunFiles::RunFiles(Where where) {
     if (where != Where::Aside) return;
     folder_ = platform::MakeTemporaryFolder();
     if (folder_.empty()) FailWithSystemError(errno, FailureKind::WriteError, platform::TemporaryFolder());
+    registered_.emplace_back(folder_);
+    for (const std::string_view extension : ProjectExtensions())
+        registered_.emplace_back(folder_ + "/" + Session.WorkName + "." + std::string(extension));
     dataDir_ = Session.DataDir;
     workDir_ = Session.WorkDir;
     Session.DataDir = Session.WorkDir = WithSeparator(folder_);

@@ -1,7 +1,10 @@
 // Where a raft run leaves its files.
 #pragma once
 
+#include <deque>
 #include <string>
+
+#include "services/platform/RemovedOnEnd.h"
 
 namespace lithmark {
 
@@ -15,13 +18,14 @@ class RunFiles {
 
     // WriteError where no folder can be made aside.
     explicit RunFiles(Where where);
-    // Removes the folder; Session's folders are as before.
+    // Removes the folder; Session's folders are as before. A signal that ends the program removes it too.
     ~RunFiles();
     RunFiles(const RunFiles&) = delete;
     RunFiles& operator=(const RunFiles&) = delete;
 
   private:
     std::string folder_, dataDir_, workDir_;
+    std::deque<RemovedOnEnd> registered_;
 };
 
 }  // namespace lithmark

@@ -116,6 +116,18 @@ SummaryFile SummaryFileOf(const CommonOptions& options, const StudyOptions& stud
     return file;
 }
 
+// What a study reads is not what it writes: a table of rows would be gone, and a part of a study that is summed up.
+void RefuseInputs(const StudyOptions& study, const std::string& output) {
+    const auto refuse = [](const std::string& read, const std::string& written, const char* names) {
+        std::error_code error;
+        if (!read.empty() && !written.empty() && fs::equivalent(read, written, error))
+            FailCommandLine(908061_text, names);
+    };
+    refuse(study.Request.Rows, output, "--rows, --output");
+    refuse(study.Request.Rows, study.Summary, "--rows, --summary");
+    for (const std::string& part : study.Join) refuse(part, study.Summary, "--join, --summary");
+}
+
 // A document or picture is handed over before the project is opened, which might be packed.
 void HandOverEarly(const CommonOptions& options, const StudyOptions& study) {
     CommonOptions asked = options;
@@ -133,6 +145,7 @@ ExitStatus StudyCommand(const CommonOptions& options, const StudyOptions& study,
     CheckOptions(study);
     HandOverEarly(options, study);
     platform::FailOnBrokenPipe();  // an output that nobody reads any more is a failed write
+    RefuseInputs(study, OutputOf(options, study));
     OpenProjectForRun(options);
     WorkIfStartedAnew();
     host.EndOnTermination();

@@ -25,6 +25,7 @@
 #include "render/QtText.h"
 #include "render/ReportPaper.h"
 #include "services/storage/ReadFile.h"
+#include "services/storage/UserFolders.h"
 #include "services/storage/WrittenFile.h"
 #include "services/texts/LanguageTexts.h"
 
@@ -98,9 +99,11 @@ class LogoRow : public QWidget {
             constexpr std::uint64_t kMostBytes = 4u << 20;
             const std::string picture =
                 file_.isEmpty() ? std::string() : ReadWholeFile(file_.toStdString(), kMostBytes);
-            if (!old.isEmpty()) QFile::remove(old);
-            if (file_.isEmpty()) return;
-            WriteWholeFile(Session.ProgramDir + "Logo." + QFileInfo(file_).suffix().toLower().toStdString(), picture);
+            const std::string path = Session.ProgramDir + "Logo." + QFileInfo(file_).suffix().toLower().toStdString();
+            MakeSettingsDir(Session.ProgramDir);
+            if (!file_.isEmpty()) WriteWholeFile(path, picture);
+            // The old one goes once the new one stands.
+            if (!old.isEmpty() && (file_.isEmpty() || old != Q(path))) QFile::remove(old);
         });
     }
 

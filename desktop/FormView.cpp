@@ -34,6 +34,7 @@
 #include "services/TextTools.h"
 #include "ui/model/BoxMarks.h"
 #include "ui/model/FindField.h"
+#include "ui/model/UnsavedInput.h"
 
 namespace lithmark {
 
@@ -43,9 +44,6 @@ std::unordered_map<const Form*, FormView*>& OpenViews() {
     static std::unordered_map<const Form*, FormView*> views;
     return views;
 }
-
-// What was typed is kept this many milliseconds after the last key.
-constexpr int kKeepAfter = 1000;
 
 // Day 25569 of the text service is 1 January 1970.
 constexpr int kEpochDay = 25569;

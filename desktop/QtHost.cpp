@@ -75,6 +75,7 @@ void QtHost::ShowMessage(const std::string& title, const std::string& text, Mess
     QMessageBox box(Parent());
     box.setObjectName(QStringLiteral("messageBox"));
     box.setWindowTitle(Q(title.empty() ? Text(160030_text) : title));
+    box.setTextFormat(Qt::PlainText);  // what users typed and called their files is no markup
     box.setText(Q(text));
     box.setLayoutDirection(LanguageTexts().RightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     box.setIcon(icon == MessageIcon::Information   ? QMessageBox::Information
@@ -90,6 +91,7 @@ bool QtHost::AskYesNo(const std::string& title, const std::string& text) {
     QMessageBox box(Parent());
     box.setObjectName(QStringLiteral("questionBox"));
     box.setWindowTitle(Q(title));
+    box.setTextFormat(Qt::PlainText);
     box.setText(Q(text));
     box.setLayoutDirection(LanguageTexts().RightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     box.setIcon(QMessageBox::Question);

@@ -20,6 +20,8 @@
 #include "render/drawings/Inks.h"
 #include "services/SharedServices.h"
 #include "services/texts/LanguageTexts.h"
+#include "ui/model/UnsavedInput.h"
+#include "ui/model/UnsavedTable.h"
 
 namespace lithmark {
 
@@ -53,6 +55,7 @@ TableEditorDialog::TableEditorDialog(TableEdit& table, QWidget* parent)
     grid_->setToolTip(Q(ReplaceAll(table.RowHead, "\n", " ")));
     grid_->installEventFilter(this);
     note_->setObjectName(QStringLiteral("lblNote"));
+    note_->setTextFormat(Qt::PlainText);
     note_->setWordWrap(true);
     note_->setMinimumHeight(2 * note_->fontMetrics().height());
 
@@ -69,6 +72,9 @@ TableEditorDialog::TableEditorDialog(TableEdit& table, QWidget* parent)
     window->addWidget(note_);
     window->addWidget(Buttons());
     BindKeys();
+    keep_.setSingleShot(true);
+    keep_.setInterval(kKeepAfter);
+    connect(&keep_, &QTimer::timeout, this, [this] { KeepRows(table_, rows_.Texts()); });
     connect(grid_, &QTableWidget::cellChanged, this, [this](int row, int column) { Typed(row, column); });
     connect(grid_, &QTableWidget::itemSelectionChanged, this, [this] {
         if (!showing_) ShowState();
@@ -212,6 +218,7 @@ void TableEditorDialog::Typed(int row, int column) {
     MarkCell(row, column);
     showing_ = false;
     ShowState();
+    keep_.start();
 }
 
 template <typename Command>
@@ -221,6 +228,7 @@ void TableEditorDialog::Change(Command&& command, int row, int column) {
     ShowRows();
     grid_->setCurrentCell(std::clamp(row, 0, rows_.Rows() - 1), std::clamp(column, 0, rows_.Columns() - 1));
     ShowState();
+    keep_.start();
 }
 
 void TableEditorDialog::MoveRows(int by) {
@@ -261,8 +269,15 @@ bool TableEditorDialog::Run() {
     return exec() == QDialog::Accepted;
 }
 
+void TableEditorDialog::reject() {
+    if (keep_.isActive()) KeepRows(table_, rows_.Texts());
+    keep_.stop();
+    QDialog::reject();
+}
+
 void TableEditorDialog::accept() {
     if (rows_.FirstFault()) return;
+    keep_.stop();
     table_.Rows = rows_.Texts();
     QDialog::accept();
 }

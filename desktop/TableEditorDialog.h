@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QTimer>
 
 #include "ui/model/TableEditing.h"
 
@@ -20,6 +21,8 @@ class TableEditorDialog : public QDialog {
     bool Run();
 
     void accept() override;
+    // What was typed is kept when the window is closed too.
+    void reject() override;
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -46,6 +49,7 @@ class TableEditorDialog : public QDialog {
 
     TableEdit& table_;
     TableEditing rows_;
+    QTimer keep_;
     QTableWidget* grid_;
     RowsChart* chart_;
     QLabel* note_;

@@ -1,5 +1,6 @@
 #include "files/UnknownField.h"
 
+#include "base/Utf8.h"
 #include "core/FieldNames.h"
 #include "core/Session.h"
 #include "files/ProblemData.h"
@@ -16,7 +17,8 @@ std::string UnknownFieldText(const std::string& word) {
         const std::string_view symbol = SymbolOfField(problem, name);
         if (!symbol.empty() && symbol != name) list += " (" + std::string(symbol) + ")";
     }
-    return Text(911205_text, {{"|1", word}, {"|2", std::string(NearestWord(word, FieldWords(problem)))}, {"|3", list}});
+    return Text(911205_text,
+                {{"|1", Excerpt(word)}, {"|2", std::string(NearestWord(word, FieldWords(problem)))}, {"|3", list}});
 }
 
 }  // namespace lithmark

@@ -5,11 +5,13 @@
 #include <cstdint>
 #include <filesystem>
 #include <string_view>
+#include <utility>
 
 #include "base/Failure.h"
 #include "base/Utf8.h"
 #include "render/ReportPaper.h"
 #include "services/platform/Files.h"
+#include "services/platform/Process.h"
 #include "services/storage/ReadFile.h"
 #include "services/texts/LanguageTexts.h"
 
@@ -95,8 +97,15 @@ Workbook::Workbook() {
     workbook_set_properties(book_, &properties);
 }
 
+// The library writes words of its own about what fails; the failure is told by the program.
+lxw_error Workbook::Close() noexcept {
+    if (!book_) return LXW_NO_ERROR;
+    const platform::NoStandardErrors quiet;
+    return workbook_close(std::exchange(book_, nullptr));
+}
+
 Workbook::~Workbook() {
-    if (book_) workbook_close(book_);
+    Close();
     std::error_code ignored;
     std::filesystem::remove(path_, ignored);
 }
@@ -149,9 +158,7 @@ void Workbook::WriteHead(lxw_worksheet* sheet, lxw_row_t row, const std::vector<
 }
 
 std::string Workbook::Bytes() {
-    const lxw_error error = workbook_close(book_);
-    book_ = nullptr;
-    if (error != LXW_NO_ERROR) FailInFile(FailureKind::WriteError, path_);
+    if (Close() != LXW_NO_ERROR) FailInFile(FailureKind::WriteError, path_);
     return ReadWholeFile(path_, kMostBytes);
 }
 

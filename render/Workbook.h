@@ -40,6 +40,8 @@ class Workbook {
     lxw_format* Head = nullptr;
 
   private:
+    lxw_error Close() noexcept;
+
     lxw_workbook* book_ = nullptr;
     std::string folder_, path_;
     std::optional<RemovedOnEnd> registered_;

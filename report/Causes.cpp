@@ -2,14 +2,25 @@
 
 #include <cmath>
 
+#include "base/Integer.h"
 #include "base/NumberText.h"
 #include "base/Utf8.h"
+#include "services/SharedServices.h"
 
 namespace lithmark {
 
 namespace {
 
-constexpr double kHuge = 1e12;
+constexpr double kHuge = 1e12, kTiny = 1e-18;
+constexpr double kLongest = 1000, kShortest = 0.001;  // metres
+
+std::string IfAbove(const std::string& name, double value, double most) {
+    return std::abs(value) > most ? Text(909103_text, {{"|1", name}}) : std::string();
+}
+
+std::string IfNearZero(const std::string& name, double value, double least) {
+    return value != 0 && std::abs(value) < least ? Text(909600_text, {{"|1", name}}) : std::string();
+}
 
 }  // namespace
 
@@ -43,17 +54,34 @@ std::string IfNegative(const std::string& name, double value) {
     return value < 0 ? Text(909102_text, {{"|1", name}}) : std::string();
 }
 
-std::string IfHuge(const std::string& name, double value) {
-    return std::abs(value) > kHuge ? Text(909103_text, {{"|1", name}}) : std::string();
+std::string IfExtreme(const std::string& name, double value) {
+    return FirstCause({IfAbove(name, value, kHuge), IfNearZero(name, value, kTiny)});
+}
+
+std::string IfNoLength(const std::string& name, double value) {
+    return FirstCause({IfAbove(name, value, kLongest), IfNearZero(name, value, kShortest)});
+}
+
+std::string IfFar(const std::string& name, double value) {
+    return IfAbove(name, value, kLongest);
+}
+
+std::string IfOdd(const std::string& name, int value) {
+    return value % 2 != 0 ? Text(909601_text, {{"|1", name}}) : std::string();
 }
 
 std::string IfOutside(const std::string& name, double value, double lower, double upper) {
     if (value >= lower && value <= upper) return {};
-    return Text(909104_text, {{"|1", name}, {"|2", NumberToText(lower)}, {"|3", NumberToText(upper)}});
+    const SharedServicesService& services = SharedServices();
+    return Text(909104_text, {{"|1", name}, {"|2", services.AsTyped(lower)}, {"|3", services.AsTyped(upper)}});
 }
 
 std::string IfBelow(const std::string& name, double value, const std::string& otherName, double other) {
-    return value < other ? Text(909105_text, {{"|1", name}, {"|2", otherName}}) : std::string();
+    return value <= other ? Text(909105_text, {{"|1", name}, {"|2", otherName}}) : std::string();
+}
+
+std::string IfUncountable(const std::string& name, double nodes) {
+    return nodes > Integer::kMax ? Text(909106_text, {{"|1", name}}) : std::string();
 }
 
 std::string FirstCause(std::initializer_list<std::string> causes) {

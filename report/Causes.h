@@ -24,11 +24,20 @@ std::string IfNegative(const std::string& name, double value);
 inline std::string IfNotPositive(const std::string& name, double value) {
     return value == 0 ? IfZero(name, value) : IfNegative(name, value);
 }
-// A value so large that no soil or building has it, and that overflows in formulas.
-std::string IfHuge(const std::string& name, double value);
+// A value so large that no soil or building has it, or so near to 0, and that overflows in formulas.
+std::string IfExtreme(const std::string& name, double value);
+// The same of lengths in metres, which are known better. It belongs behind all other causes.
+std::string IfNoLength(const std::string& name, double value);
+// Of coordinates in metres: 0 and its neighbours are places as others are.
+std::string IfFar(const std::string& name, double value);
+// A whole number that should be even.
+std::string IfOdd(const std::string& name, int value);
 std::string IfOutside(const std::string& name, double value, double lower, double upper);
-// A value below the smallest that the formulas can divide.
+// A value that is not above the smallest that the formulas can divide.
 std::string IfBelow(const std::string& name, double value, const std::string& otherName, double other);
+
+// A value that makes more nodes than 16 bits count.
+std::string IfUncountable(const std::string& name, double nodes);
 
 // The first of several causes that is one.
 std::string FirstCause(std::initializer_list<std::string> causes);

@@ -33,12 +33,15 @@ std::string PlainDigits(const std::string& typed, char decimalSign) {
     return plain;
 }
 
-// A limit as the user would type it.
-std::string LimitText(double limit, char decimalSign) {
-    std::string text = NumberToText(limit);
-    const std::size_t first = text.starts_with('-') ? 1 : 0;
-    if (text[first] == '.') text.insert(first, "0");
-    return ReplaceAll(text, ".", std::string(1, decimalSign));
+bool IsDigits(std::string_view text) {
+    return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+// "1,500" may be one and a half or fifteen hundred. "0,500", "1500,250" and "1,5" may not: nobody parts them so.
+bool MayPartThousands(std::string_view number, std::size_t sign) {
+    const std::size_t first = number.starts_with('-') || number.starts_with('+') ? 1 : 0;
+    const std::string_view ahead = number.substr(first, sign - first), behind = number.substr(sign + 1);
+    return IsDigits(ahead) && ahead.size() <= 3 && ahead.front() != '0' && IsDigits(behind) && behind.size() == 3;
 }
 
 // The text of a failure that concerns a file, or nothing when the kind does not.
@@ -188,15 +191,19 @@ void SharedServicesService::PrepareForm(Form& form) {
     form.RightToLeft = LanguageTexts().RightToLeft();
 }
 
+std::string SharedServicesService::AsTyped(double number) const {
+    std::string text = NumberToText(number);
+    const std::size_t first = text.starts_with('-') ? 1 : 0;
+    if (text[first] == '.') text.insert(first, "0");
+    return ReplaceAll(text, ".", std::string(1, DecimalSign));
+}
+
 std::optional<double> SharedServicesService::NumberOf(const std::string& typed) const {
     const std::string plain = Trim(PlainDigits(typed, DecimalSign));
     if (const auto value = ParseNumber(plain, DecimalSign)) return value;
     const char other = DecimalSign == '.' ? ',' : '.';
     const std::size_t at = plain.find(other);
-    const bool once = at != std::string::npos && plain.find(other, at + 1) == std::string::npos;
-    // "1,500" may be one and a half or fifteen hundred.
-    const auto digits = plain.find_first_not_of("0123456789", at + 1);
-    if (!once || (digits == std::string::npos && plain.size() - at - 1 == 3)) return std::nullopt;
+    if (at == std::string::npos || MayPartThousands(plain, at)) return std::nullopt;
     return ParseNumber(plain, other);
 }
 
@@ -214,8 +221,9 @@ std::string WhatIsWrong(const std::string& typed, std::optional<double> value, d
     if (value && *value > upper) return Text(906543_text);
     if (value) return {};  // not whole, and told so
     if (Trim(typed).empty()) return Text(906540_text);
-    if (ParseNumber(Trim(typed), sign == '.' ? ',' : '.')) return Text(906544_text, {{"|1", std::string(1, sign)}});
-    return Text(906541_text, {{"|1", FirstCharacters(Trim(typed), 30)}});
+    if (ParseNumber(PlainDigits(typed, sign), sign == '.' ? ',' : '.'))
+        return Text(906544_text, {{"|1", std::string(1, sign)}});
+    return Text(906541_text, {{"|1", Excerpt(Trim(typed))}});
 }
 
 }  // namespace
@@ -233,9 +241,8 @@ std::optional<std::string> SharedServicesService::TextFault(const std::string& t
                                            : 901003_text;
     std::string name = Trim(label);
     if (name.ends_with(':')) name.pop_back();
-    std::string text = Text(id, {{"|1", name},
-                                 {"|2", hasLower ? LimitText(lower, DecimalSign) : ""},
-                                 {"|3", hasUpper ? LimitText(upper, DecimalSign) : ""}});
+    std::string text =
+        Text(id, {{"|1", name}, {"|2", hasLower ? AsTyped(lower) : ""}, {"|3", hasUpper ? AsTyped(upper) : ""}});
     if (whole) text += " " + Text(901004_text);
     const std::string wrong = WhatIsWrong(typed, value, upper, lower, DecimalSign);
     return wrong.empty() ? text : text + " " + wrong;

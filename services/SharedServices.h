@@ -99,8 +99,10 @@ class SharedServicesService {
     }
     std::optional<std::string> TextFault(const std::string& typed, int kind, double upper, double lower,
                                          const std::string& label) const;
+    // A number as a user would type it: with a digit ahead of the decimal sign in force.
+    std::string AsTyped(double number) const;
     // The number of a typed text, nothing when it is none. The other of "." and "," is taken as the decimal sign too
-    // where it cannot part thousands: once in the text, and not ahead of three digits at its end.
+    // where it cannot part thousands, as in "1,5", "0,125" and "1500,250", but not in "1,500".
     std::optional<double> NumberOf(const std::string& typed) const;
     // Shows why a box cannot be taken and puts the focus on it.
     void RefuseBox(Form& form, Control& box, const std::string& reason);

@@ -37,12 +37,17 @@ PartFile::PartFile(const std::string& path, const StudyHead& head)
     ReadHead();
 }
 
-// A line without its line end; nothing for a last one that has none.
+// A line without its line end; nothing for a last one that has none. One that no row can fill is not read to its end.
 std::optional<std::string> PartFile::NextLine() {
+    constexpr std::size_t kLongest = std::size_t{1} << 24;
     std::string line;
     std::array<char, 4096> piece;
     while (std::fgets(piece.data(), piece.size(), file_.get())) {
         line += piece.data();
+        if (line.size() > kLongest) {
+            ++line_;
+            FailLine();
+        }
         if (!line.ends_with('\n')) continue;
         ++line_;
         line.pop_back();

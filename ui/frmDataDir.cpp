@@ -22,7 +22,7 @@ bool DirectoryExists(const std::string& path) {
 
 }  // namespace
 
-frmDataDir::frmDataDir() : FieldForm("frmDataDir") {
+frmDataDir::frmDataDir() : KeptForm("frmDataDir") {
     CmdBrowse.OnClick = [this] { CmdBrowse_Click(); };
     cmdSave.OnClick = [this] { cmdSave_Click(); };
     CmdCancel.OnClick = [this] { CmdCancel_Click(); };
@@ -43,6 +43,7 @@ void frmDataDir::Load() {
     // Ticked when projects are packed as they are left. Without a setting they are not.
     const bool set = ReadDataDirSettings(txtDataDir.Text);
     chkCompressFlag[0].Value = set && Session.CompressFlag != kPackingOff;
+    OfferUnsavedInput({});
 }
 
 void frmDataDir::CmdBrowse_Click() {
@@ -54,7 +55,9 @@ void frmDataDir::CmdBrowse_Click() {
 void frmDataDir::cmdSave_Click() {
     Session.FileSaved = false;
     UnderCommonStep([&] { StoreDataDir(); });
-    if (Session.FileSaved) Unload();
+    if (!Session.FileSaved) return;
+    InputIsSaved();
+    Unload();
 }
 
 void frmDataDir::StoreDataDir() {

@@ -1,11 +1,11 @@
 // frmDataDir: the data directory and whether projects are packed, for the next start of the program.
 #pragma once
 
-#include "ui/model/FieldForm.h"
+#include "ui/model/KeptForm.h"
 
 namespace lithmark {
 
-class frmDataDir : public FieldForm {
+class frmDataDir : public KeptForm {
   public:
     frmDataDir();
 

@@ -27,7 +27,7 @@ double LeastSizeShown() {
 
 }  // namespace
 
-frmPreferences::frmPreferences() : FieldForm("frmPreferences") {
+frmPreferences::frmPreferences() : KeptForm("frmPreferences") {
     const Limit least(LeastSizeShown);
     SetFields({
         FieldRow({lblDx, 400131_text}, {}, txtDx, {lblUnitDx, Unit::Length}, {&R::PrefDx, &R::FmtLength}, {least},
@@ -58,6 +58,7 @@ void frmPreferences::Load() {
     SelectRow(sstMainData, kGeometryTab);
     ShowCaptions();
     ShowPreferences();
+    OfferUnsavedInput({});
 }
 
 void frmPreferences::ShowPreferences() {
@@ -68,7 +69,9 @@ void frmPreferences::ShowPreferences() {
 void frmPreferences::cmdSave_Click() {
     Session.FileSaved = false;
     UnderCommonStep([&] { StorePreferences(); });
-    if (Session.FileSaved) Unload();
+    if (!Session.FileSaved) return;
+    InputIsSaved();
+    Unload();
 }
 
 // A bad value is told on the tab that holds it, and nothing is stored then.

@@ -1,11 +1,11 @@
 // frmPreferences: resolution and iteration of the numerical calculations, for the whole installation.
 #pragma once
 
-#include "ui/model/FieldForm.h"
+#include "ui/model/KeptForm.h"
 
 namespace lithmark {
 
-class frmPreferences : public FieldForm {
+class frmPreferences : public KeptForm {
   public:
     frmPreferences();
 

@@ -34,8 +34,7 @@ void ClearHeading() {
 
 }  // namespace
 
-frmProblemType::frmProblemType(std::function<void()> saved)
-    : FieldForm("frmProblemType"), tellSaved_(std::move(saved)) {
+frmProblemType::frmProblemType(std::function<void()> saved) : KeptForm("frmProblemType"), tellSaved_(std::move(saved)) {
     DTPicker1.OnChange = [this] { DTPicker1_Change(); };
     cmdSave.OnClick = [this] { cmdSave_Click(); };
     cmdSaveAs.OnClick = [this] { cmdSaveAs_Click(); };
@@ -91,6 +90,7 @@ void frmProblemType::Load() {
         else if (projectOpen)
             ReadProjectFile();
         ShowProjectFields();
+        OfferUnsavedInput(Session.DataDir + Session.ProjectName);
     });
 }
 
@@ -144,6 +144,7 @@ void frmProblemType::cmdSave_Click() {
         }
         if (!Session.FileSaved) return;
         saved_ = true;
+        InputIsSaved();
         if (tellSaved_) tellSaved_();
         Unload();
     });

@@ -4,11 +4,11 @@
 #include <functional>
 
 #include "core/Problems.h"
-#include "ui/model/FieldForm.h"
+#include "ui/model/KeptForm.h"
 
 namespace lithmark {
 
-class frmProblemType : public FieldForm {
+class frmProblemType : public KeptForm {
   public:
     // `saved` runs when the data of the open project have been saved: its name and its problem may be new.
     explicit frmProblemType(std::function<void()> saved = {});

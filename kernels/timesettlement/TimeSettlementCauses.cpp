@@ -29,9 +29,16 @@ std::string CauseInHistory() {
     return cause;
 }
 
+std::string CauseInLoads() {
+    std::string cause;
+    for (int i = 1; i <= std::min<int>(Session.NLoad, Session.LoadValue.Upper()) && cause.empty(); ++i)
+        cause = IfExtreme(QuantityName(40087_text), Session.LoadValue(i));
+    return cause;
+}
+
 std::string CauseInDrainage() {
     const std::string thickness = QuantityName(300025_text);
-    return FirstCause({IfZero(thickness, Session.h), IfHuge(thickness, Session.h)});
+    return FirstCause({IfZero(thickness, Session.h), IfExtreme(thickness, Session.h)});
 }
 
 std::string CauseInTheory() {
@@ -44,7 +51,8 @@ std::string CauseInTheory() {
                        When(soil, IfNegative(QuantityName(10242_text), Session.kf)),
                        When(soil, IfNegative(QuantityName(90152_text), Session.EsTS)),
                        When(soil, IfNegative(QuantityName(90153_text), Session.Ws)),
-                       IfHuge(QuantityName(10243_text), Session.CvTS)});
+                       IfExtreme(QuantityName(10243_text), Session.CvTS),
+                       When(soil, IfExtreme(QuantityName(10242_text), Session.kf))});
 }
 
 // A measurement is compared with the settlement computed for its time.
@@ -65,14 +73,15 @@ std::string CauseInTimeSettlement() {
     const int problem = Session.ProblemType;
     const bool noUnit = problem != Problem::TimeDirect && SecondsPerTimeUnit(Session.TimeUnit) == 0;
     const bool oedometer = problem == Problem::TimeOedometer, direct = problem == Problem::TimeDirect;
-    return FirstCause({When(noUnit, Text(905001_text, {{"|1", Session.TimeUnit}})), CauseInHistory(),
-                       When(direct, direct ? IfTimesDoNotIncrease(Session.StsTime, Session.NSts) : std::string()),
-                       When(oedometer, IfZero(QuantityName(300035_text), Session.Hm)),
-                       When(oedometer, CauseInDrainage()),
-                       When(oedometer, oedometer ? IfTimesDoNotIncrease(Session.OedTime, Session.NOed) : std::string()),
-                       When(problem == Problem::TimeTheory, CauseInTheory()), When(Session.Ms, CauseInMeasurement()),
-                       IfOutside(QuantityName(300071_text), Session.TimePeriod, 1, kMostWhole - 1),
-                       IfHuge(QuantityName(400124_text), Session.Sc), IfHuge(QuantityName(300026_text), Session.Pt)});
+    return FirstCause(
+        {When(noUnit, Text(905001_text, {{"|1", Session.TimeUnit}})), CauseInHistory(),
+         When(direct, direct ? IfTimesDoNotIncrease(Session.StsTime, Session.NSts) : std::string()),
+         When(oedometer, IfZero(QuantityName(300035_text), Session.Hm)), When(oedometer, CauseInDrainage()),
+         When(oedometer, oedometer ? IfTimesDoNotIncrease(Session.OedTime, Session.NOed) : std::string()),
+         When(problem == Problem::TimeTheory, CauseInTheory()), When(Session.Ms, CauseInMeasurement()),
+         IfOutside(QuantityName(300071_text), Session.TimePeriod, 1, kMostWhole - 1),
+         IfExtreme(QuantityName(400124_text), Session.Sc), IfExtreme(QuantityName(300026_text), Session.Pt),
+         When(oedometer, IfExtreme(QuantityName(300035_text), Session.Hm)), CauseInLoads()});
 }
 
 }  // namespace lithmark

@@ -1,3 +1,4 @@
+#include <fcntl.h>
 #include <pwd.h>
 #include <sys/resource.h>
 #include <unistd.h>
@@ -5,6 +6,7 @@
 #include <array>
 #include <climits>
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -93,7 +95,10 @@ std::string DocumentsFolder() {
     const std::string home = HomeFolder();
     if (home.empty()) return "";
     std::string documents = home + "Documents";
-    std::ifstream names(SettingsFolder() + "user-dirs.dirs");
+    const std::string file = SettingsFolder() + "user-dirs.dirs";
+    std::error_code error;  // what is no file, a pipe perhaps, is not waited for
+    if (!std::filesystem::is_regular_file(file, error)) return WithSlash(documents);
+    std::ifstream names(file);
     for (std::string line; std::getline(names, line);)
         if (const auto named = NamedDocuments(line)) documents = *named;
     return WithSlash(documents);
@@ -124,6 +129,22 @@ void FailOnBrokenPipe() noexcept {
 
 void BecomeProgram(const std::string& program, char** argv) {
     ::execv(program.c_str(), argv);
+}
+
+NoStandardErrors::NoStandardErrors() noexcept {
+    std::fflush(stderr);
+    const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
+    if (nowhere < 0) return;
+    kept_ = ::fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 3);
+    if (kept_ >= 0) ::dup2(nowhere, STDERR_FILENO);
+    ::close(nowhere);
+}
+
+NoStandardErrors::~NoStandardErrors() {
+    if (kept_ < 0) return;
+    std::fflush(stderr);
+    ::dup2(kept_, STDERR_FILENO);
+    ::close(kept_);
 }
 
 void AllowManyOpenFiles() noexcept {

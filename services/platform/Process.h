@@ -45,6 +45,18 @@ void FailOnBrokenPipe() noexcept;
 // where it does not start.
 void BecomeProgram(const std::string& program, char** argv);
 
+// Standard error goes nowhere as long as this lives: a library has words of its own for it.
+class NoStandardErrors {
+  public:
+    NoStandardErrors() noexcept;
+    ~NoStandardErrors();
+    NoStandardErrors(const NoStandardErrors&) = delete;
+    NoStandardErrors& operator=(const NoStandardErrors&) = delete;
+
+  private:
+    int kept_ = -1;
+};
+
 // As many files may be open as the system allows at most.
 void AllowManyOpenFiles() noexcept;
 

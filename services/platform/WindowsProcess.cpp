@@ -136,6 +136,10 @@ void BecomeProgram(const std::string& program, char**) {
     EndAtOnce(static_cast<int>(status));
 }
 
+// The command line has no library that writes there.
+NoStandardErrors::NoStandardErrors() noexcept = default;
+NoStandardErrors::~NoStandardErrors() = default;
+
 void AllowManyOpenFiles() noexcept {
     ::_setmaxstdio(2048);
 }

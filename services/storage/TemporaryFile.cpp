@@ -4,6 +4,8 @@
 #include <cerrno>
 #include <chrono>
 #include <filesystem>
+#include <mutex>
+#include <set>
 #include <system_error>
 #include <utility>
 
@@ -36,9 +38,21 @@ void RemoveUnused(const std::filesystem::path& path) noexcept {
     CloseFile(descriptor);
 }
 
+// Whoever writes tidies up first: not every folder that is written to is one that projects are opened in.
+void TidyOnce(const std::string& folder) {
+    static std::mutex guard;
+    static std::set<std::string> tidied;
+    {
+        const std::lock_guard lock(guard);
+        if (!tidied.insert(folder).second) return;
+    }
+    RemoveLeftovers(folder.empty() ? "." : folder);
+}
+
 }  // namespace
 
 TemporaryFile::TemporaryFile(const std::string& folder, const std::string& target) {
+    TidyOnce(folder);
     static std::atomic<unsigned> counter = 0;
     do {
         // The name is short whatever the target is called, so that long names can be written too.

@@ -16,7 +16,8 @@ inline constexpr char kHiddenStart[] = ".lithmark-";
 
 class TemporaryFile {
   public:
-    // A new file in a folder ("" is the current one), open for writing. PermissionDenied, DiskFull, FileMissing for a
+    // A new file in a folder ("" is the current one), open for writing. The first one that a process makes in a folder
+    // also removes what crashes left there. PermissionDenied, DiskFull, FileMissing for a
     // missing folder, WriteError for the rest, all told for `target`.
     TemporaryFile(const std::string& folder, const std::string& target);
     // Removes the file unless it took a target's place.

@@ -46,6 +46,31 @@ TEST_F(CliStorage, APackedProjectIsNotReplacedByItsReport) {
     EXPECT_TRUE(IsArchiveFile(project));
 }
 
+TEST_F(CliStorage, WhatAStudyReadsIsNotWhatItWrites) {
+    const std::string project = New("Footing", 1);
+    const std::string rows = work / "rows.csv", part = work / "part.csv", link = work / "link.csv";
+    WriteBytes(rows, "z\n1\n2\n");
+    std::filesystem::create_symlink(rows, link);
+    ExpectFailure(Run({"study", project, "--rows", rows, "--output", rows}), 2, {"--rows, --output"});
+    ExpectFailure(Run({"study", project, "--rows", rows, "--output", link}), 2, {"--rows, --output"});
+    ExpectFailure(Run({"study", project, "--rows", rows, "--summary", rows}), 2, {"--rows, --summary"});
+    EXPECT_EQ(ReadBytes(rows), "z\n1\n2\n");
+    ASSERT_EQ(Run({"study", project, "--rows", rows, "--output", part}).Status, 0);
+    ExpectFailure(Run({"study", project, "--rows", rows, "--join", part, "--summary", part}), 2, {"--join, --summary"});
+}
+
+// --- scratch ---
+
+TEST_F(CliStorage, AScratchFolderThatIsMissingIsNamed) {
+    const std::string project = New("Raft1", 9, {"LoadType=2", "A=4", "B=4", "h=5"});
+    runner = "TMPDIR=" + (work / "none") + " ";
+    for (const char* lang : {"de", "en", "ar"}) {
+        const CliResult result = Run({"contour", project, "--no-export", "--lang", lang});
+        ExpectFailure(result, 1, {work / "none"});
+        EXPECT_THAT(result.Err, Not(HasSubstr("Raft1.")));
+    }
+}
+
 // --- time units ---
 
 TEST_F(CliStorage, AProjectMadeUnderOneLanguageRunsUnderEveryOther) {
@@ -108,6 +133,54 @@ TEST_F(CliStorage, ASignalThatEndsTheProgramLeavesNothingBehind) {
     for (const std::string& name : work.Names()) EXPECT_THAT(name, Not(testing::StartsWith(".lithmark")));
     runner.clear();
     EXPECT_EQ(Run({"show", project}).Status, 0);
+}
+
+TEST_F(CliStorage, ASignalThatEndsTheProgramLeavesNoScratchBehind) {
+    const std::string project = New("Raft1", 9, {"LoadType=3", "A=5", "h=5", "AnalysisType=false"});
+    const TestFolder scratch;
+    for (const char* signal : {"TERM", "HUP"}) {
+        runner = std::string("timeout -s ") + signal + " 0.3 env TMPDIR=" + scratch.Dir() + " ";
+        const CliResult result = RunPlain({"contour", project, "--no-export", "--set", "PrefND=180"});
+        EXPECT_EQ(result.Status, 124) << result.Err;
+        EXPECT_THAT(scratch.Names(), IsEmpty()) << signal;
+    }
+}
+
+TEST_F(CliStorage, WhatACrashLeftInAFolderThatIsWrittenToGoes) {
+    const std::string project = New("Footing", 1);
+    const TestFolder out;
+    WriteBytes(out / ".lithmark-99999-1.tmp", "half");
+    WriteBytes(out / "mine.tmp", "the user's own");
+    EXPECT_EQ(Run({"report", project, "--output", out / "report.txt"}).Status, 0);
+    EXPECT_THAT(out.Names(), ElementsAre("mine.tmp", "report.txt"));
+}
+
+// Nothing is in the table's place before the first row; whoever tidies up meanwhile leaves what is being written.
+TEST_F(CliStorage, AStudyThatHasNoRowYetIsLeftAloneByOthersAndLeavesNothing) {
+    const std::string project = New("Raft1", 9, {"LoadType=3", "A=5", "h=5", "AnalysisType=false", "Q=1000"});
+    const std::string table = work / "rows.csv";
+    WriteBytes(table, "old");
+    const std::string tool = CommandLineTool();
+    const std::string study = "'" + tool + "' study '" + project + "' --vary Q=1,2 --set PrefND=180 -o '" + table + "'";
+    const auto hidden = [this] {
+        std::vector<std::string> names = work.Names();
+        std::erase_if(names, [](const std::string& name) { return !name.starts_with(".lithmark"); });
+        return names;
+    };
+    ASSERT_EQ(std::system((study + " 2>/dev/null & echo $! >'" + (work / "pid") + "'").c_str()), 0);
+    for (int tries = 0; hidden().empty() && tries < 1000; ++tries)
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    ASSERT_EQ(hidden().size(), 1u);
+    EXPECT_TRUE(ProjectStore().UnpackProject(work / "Raft1", ".po3"));  // tidies up
+    EXPECT_EQ(hidden().size(), 1u);
+    ::kill(std::stoi(ReadBytes(work / "pid")), SIGKILL);
+    EXPECT_EQ(ReadBytes(table), "old");
+    // The workers hold it until they have seen that their study is gone.
+    for (int tries = 0; !hidden().empty() && tries < 1000; ++tries) {
+        EXPECT_TRUE(ProjectStore().UnpackProject(work / "Raft1", ".po3"));
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    EXPECT_THAT(hidden(), IsEmpty());
 }
 
 // --- files that no command should read ---

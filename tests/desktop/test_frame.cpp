@@ -13,6 +13,7 @@
 #include "ScreenRun.h"
 #include "desktop/SplashView.h"
 #include "ui/frmSplash.h"
+#include "ui/model/UnsavedTable.h"
 
 namespace lithmark::tests {
 namespace {
@@ -157,6 +158,33 @@ TEST_F(FrameViewTest, TheTableEditorTakesWhatIsTypedAndRefusesWhatIsNoNumber) {
     run.In("tableEditor", [](QWidget& editor) { ClickOn(editor, "CmdCancel"); });
     EXPECT_FALSE(CurrentHost().EditTable(table));
     EXPECT_EQ(table.Rows, expected);
+}
+
+TEST_F(FrameViewTest, WhatWasTypedIntoTheTableEditorOutlivesItsWindow) {
+    ScreenRun run(Settings());
+    run.Start();
+    TableEdit table;
+    table.Title = "Table";
+    table.Columns = {{"n", TableEdit::Kind::Whole, 10, 1}, {"p", TableEdit::Kind::Real, 100, 0}};
+    table.Rows = {{"1", "19"}, {"2", "42"}};
+    run.In("tableEditor", [](QWidget& editor) {
+        Child<QTableWidget>(editor, "grid").item(1, 1)->setText("<b>43</b>");
+        EXPECT_EQ(Child<QLabel>(editor, "lblNote").textFormat(), Qt::PlainText);
+        QTest::keyClick(&editor, Qt::Key_Escape);
+    });
+    EXPECT_FALSE(CurrentHost().EditTable(table));
+    TableEdit again = table;
+    run.In("questionBox", [](QWidget& box) { ClickOn(box, "cmdYes"); });
+    OfferUnsavedRows(again);
+    EXPECT_EQ(again.Rows.at(1).at(1), "<b>43</b>");
+    run.In("tableEditor", [](QWidget& editor) {
+        Child<QTableWidget>(editor, "grid").item(1, 1)->setText("43");
+        ClickOn(editor, "cmdok");
+    });
+    EXPECT_TRUE(CurrentHost().EditTable(again));
+    DropUnsavedRows(again);
+    OfferUnsavedRows(table);  // asks nothing more
+    EXPECT_EQ(table.Rows.at(1).at(1), "42");
 }
 
 TEST_F(FrameViewTest, TheSplashGoesByAKeyOrAClick) {

@@ -116,6 +116,39 @@ TEST_F(StoryTest, FromANewProjectToItsReportAndBack) {
     run.Menu("mnuProblem(1)");
 }
 
+TEST_F(StoryTest, WhatWasTypedAndNotSavedOutlivesTheWindow) {
+    WriteBytes(Data("Old.PO3"), "Version 9\r\n1\r\n0\r\n");
+    WriteBytes(Data("Old.AUF"), "O\r\nD\r\nP\r\n");
+    const std::string saved = "0\r\n0\r\n2\r\n1000\r\n100\r\n5\r\n5\r\n.3\r\n5000\r\n1\r\n";
+    WriteBytes(Data("Old.SSD"), saved);
+    const std::string drafts = Settings() + "state/drafts";
+    const auto kept = [&] { return std::filesystem::exists(drafts) && !std::filesystem::is_empty(drafts); };
+    const auto day = [&](bool offered, const std::function<void(QWidget&)>& doIt) {
+        ScreenRun run(Settings(), Data("Old.PO3"));
+        run.Start();
+        if (offered) run.In("questionBox", [](QWidget& box) { ClickOn(box, "cmdYes"); });
+        run.In("frmstress", doIt);
+        run.Menu("mnuProblem(1)");
+    };
+    day(false, [&](QWidget& form) {
+        EXPECT_FALSE(kept());
+        TypeInto(form, "txt_z", "4.5");
+        EXPECT_TRUE(QTest::qWaitFor(kept, 30000));  // the program may end from here on in any way
+        TypeInto(form, "txt_z", "4.75");
+        ClickOn(form, "cmdok");  // before a second has gone by, too
+    });
+    EXPECT_EQ(ReadBytes(Data("Old.SSD")), saved);
+    day(true, [&](QWidget& form) {
+        EXPECT_EQ(Child<QLineEdit>(form, "txt_z").text(), "4.75");
+        EXPECT_TRUE(form.isWindowModified());
+        ClickOn(form, "cmdSave");
+        ClickOn(form, "cmdok");
+    });
+    EXPECT_FALSE(kept());
+    EXPECT_THAT(ReadBytes(Data("Old.SSD")), HasSubstr("\r\n4.75\r\n"));
+    day(false, [](QWidget& form) { ClickOn(form, "cmdok"); });
+}
+
 TEST_F(StoryTest, ANameWithoutItsEndingIsAskedAboutBeforeTheOldFileIsReplaced) {
     WriteBytes(Data("Crane.PO3"), "Version 9\r\n1\r\n0\r\n");
     ScreenRun run(Settings());

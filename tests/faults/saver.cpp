@@ -15,6 +15,7 @@
 #include "services/ProjectStore.h"
 #include "services/SharedServices.h"
 #include "services/host/ConsoleHost.h"
+#include "services/storage/DraftStore.h"
 
 using namespace lithmark;
 
@@ -63,6 +64,8 @@ bool Save(const std::string& kind, const std::string& folder) {
     if (kind == "unpack") return ProjectStore().UnpackProject(path, ".po3");
     if (kind == "copy") return Told([&] { CopyProjectFiles({"SSD", "RDE", "AUF", "PO3"}, folder, "Copy"); });
     if (kind == "open") return ProjectStore().TakeProject(path) && SaveProblem(Problem::SoilStress);
+    if (kind == "draft")
+        return Told([&] { WriteDraft(folder, {path, "frmstress", "m", "2 May", {{"txt_z", "4.5"}}, {}}); });
     if (kind == "units") return WriteUnits();
     if (kind == "preferences") {
         Session.PrefND = 17;

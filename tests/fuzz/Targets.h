@@ -1,4 +1,5 @@
-// What the fuzzer and the replay of its corpus run: one target for each reader of files and for each kernel.
+// What the fuzzer and the replay of its corpus run: one target for each reader of files, for
+// what users type, and for each kernel.
 //
 // A target takes any bytes. It ends the process where a law is broken: no exception leaves a reader or a kernel; what a
 // reader accepts comes back unchanged after writing; what it refuses is told once, with the file and, in a text, the

@@ -152,5 +152,24 @@ TEST_F(Spreadsheet, WhatLooksLikeAFormulaStaysText) {
     EXPECT_THAT(parts.at("xl/styles.xml"), HasSubstr("formatCode=\"@\"")) << "text for whoever edits the cell";
 }
 
+// It names its scratch and no file of the project, in no words of the library.
+TEST_F(Spreadsheet, WhatItsScratchCannotTakeIsToldForTheScratch) {
+    const std::vector<std::vector<std::string>> table(3000, {"Q", "1.25", "some words"});
+    EXPECT_TRUE(OnAFullDisk(1000, [&] {
+        testing::internal::CaptureStderr();
+        const auto failure = FailureOf([&] { TableXlsx("t", table); });
+        const std::string words = testing::internal::GetCapturedStderr();
+        return failure && failure->File().find("lithmark-") != std::string::npos && words.empty();
+    }));
+    const char* before = std::getenv("TMPDIR");
+    const std::string kept = before != nullptr ? before : "";
+    ::setenv("TMPDIR", (folder / "none").c_str(), 1);
+    const auto failure = FailureOf([&] { TableXlsx("t", table); });
+    before != nullptr ? ::setenv("TMPDIR", kept.c_str(), 1) : ::unsetenv("TMPDIR");
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->Kind(), FailureKind::FileMissing);
+    EXPECT_EQ(failure->File(), folder / "none");
+}
+
 }  // namespace
 }  // namespace lithmark::tests

@@ -5,6 +5,8 @@
 #include <filesystem>
 #include <iterator>
 
+#include "ui/model/UnsavedTable.h"
+
 namespace lithmark::tests {
 
 namespace {
@@ -219,6 +221,7 @@ bool RandomHost::EditTable(TableEdit& table) {
             table.Rows.erase(at);
         else if (at != table.Rows.end() && !at->empty())
             (*at)[static_cast<std::size_t>(Below(static_cast<int>(at->size())))] = AnyText();
+        KeepRows(table, table.Rows);
     }
     return OnceIn(2);
 }

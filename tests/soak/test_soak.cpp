@@ -12,8 +12,12 @@
 #include <memory>
 #include <string>
 
+#include "base/Utf8.h"
+#include "core/Catalogue.h"
 #include "core/Session.h"
 #include "core/StartSession.h"
+#include "files/ProblemData.h"
+#include "files/ProjectFiles.h"
 #include "services/ProjectStore.h"
 #include "services/SharedServices.h"
 #include "services/storage/DataFile.h"
@@ -32,6 +36,8 @@ long FromEnvironment(const char* name, long otherwise) {
     return text != nullptr && *text != '\0' ? std::atol(text) : otherwise;
 }
 
+const std::string kBad = "PK\x03\x04 broken";
+
 class Soak : public testing::Test {
   protected:
     Soak() : seed_(static_cast<unsigned>(FromEnvironment("LITHMARK_SOAK_SEED", 1))), host_(seed_, data_.Dir()) {
@@ -40,7 +46,7 @@ class Soak : public testing::Test {
         int number = 0;
         for (const auto& entry : fs::recursive_directory_iterator(SourceDir() / "examples"))
             if (entry.path().extension() == ".PO3") CopyProject(entry.path().parent_path(), ++number);
-        WriteBytes(data_ / "bad.PO3", "PK\x03\x04 broken");
+        WriteBytes(data_ / "bad.PO3", kBad);
         WriteBytes(settings_ / "STEU", data_.Dir() + "\r\n7\r\n");
         NewFrame();
     }
@@ -89,6 +95,23 @@ class Soak : public testing::Test {
         EXPECT_EQ(frame_->Summary().Name, Session.ProjectName);
         for (const std::string& file : data_.Names()) EXPECT_FALSE(file.ends_with(".tmp")) << file;
     }
+    // Every project in the folder can be opened, but for the file that was bad from the beginning.
+    void ExpectProjects() {
+        ProjectStore().LeaveProject();
+        for (const std::string& file : data_.Names()) {
+            if (!UpperAscii(file).ends_with(".PO3") || ReadBytes(data_ / file) == kBad) continue;
+            SCOPED_TRACE(file);
+            const std::string name = file.substr(0, file.size() - 4);
+            EXPECT_TRUE(ProjectStore().UnpackProject(data_ / name, ".po3"));
+            Integer problem;
+            EXPECT_EQ(ReadProjectFile(data_.Dir(), name, problem), ReadOutcome::Read);
+            Session.WorkDir = data_.Dir();
+            Session.WorkName = name;
+            Session.ProblemType = problem;
+            SetProblemDefaults();
+            EXPECT_NE(ReadProblemData(), ReadOutcome::Failed);
+        }
+    }
     std::string Story() const {
         std::string story = "LITHMARK_SOAK_SEED=" + std::to_string(seed_) + ", the last steps:\n";
         for (const std::string& step : host_.Steps()) story += "  " + step + "\n";
@@ -112,6 +135,7 @@ TEST_F(Soak, RandomEventsBreakNothing) {
         }
         ExpectOrder();
     }
+    ExpectProjects();
     if (HasFailure()) {
         ADD_FAILURE() << Story();
     }

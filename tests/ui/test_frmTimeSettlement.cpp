@@ -1,5 +1,6 @@
 // The dialogs of the time-settlement curve: the choice of the method, the data, the tables.
 #include "ProblemDialogTest.h"
+#include "base/Utf8.h"
 #include "services/TextTools.h"
 #include "ui/frmMethodtype.h"
 #include "ui/frmTimeSettlement1.h"
@@ -132,6 +133,23 @@ TEST_F(TimeDialog, AnOpenedFileShowsOnlyWhenTheDialogOpensAgain) {
         EXPECT_EQ(Session.Sc, 20);
     });
     On<frmTimeSettlement1>(6, [](frmTimeSettlement1& form) { EXPECT_EQ(form.txt_Sc.Text, "20.00"); });
+}
+
+TEST_F(TimeDialog, ADamagedFileThatIsOpenedLeavesTheTablesAsTheyWere) {
+    On<frmTimeSettlement1>(6, [this](frmTimeSettlement1& form) {
+        Click(form, "cmdSave");
+        // The tables of this file can be read, what follows them cannot.
+        std::string other = ReadBytes(DataFile("P1.TST"));
+        other.resize(other.rfind("\r\n", other.size() - 3) + 2);
+        WriteBytes(DataFile("Other.TST"), ReplaceAll(other, "\r\n83\r\n", "\r\n38\r\n"));
+        host.AnswerFileToOpen(DataFile("Other.TST"));
+        Click(form, "cmdOpen");
+        EXPECT_THAT(host.LastMessage().Text, ::testing::HasSubstr("Other.TST"));
+        EXPECT_EQ(Session.LoadValue(3), 83);
+        EXPECT_FALSE(form.Modified());
+        Click(form, "cmdSave");
+    });
+    EXPECT_THAT(ReadBytes(DataFile("P1.TST")), ::testing::HasSubstr("\r\n83\r\n"));
 }
 
 TEST_F(TimeDialog, AnUntouchedDateStaysAndATypedOneIsWrittenAsALongDate) {

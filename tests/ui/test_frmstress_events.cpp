@@ -306,6 +306,8 @@ TEST_F(StressCommands, OpenOfADamagedFileIsToldAndKeepsWhatWasTyped) {
         EXPECT_EQ(form.txt_x.Text, "8");
         EXPECT_EQ(host.Messages.size(), 1u);
         EXPECT_EQ(host.Pointer(), PointerShape::Default);
+        EXPECT_EQ(Session.x, 1);  // nor does a hidden value come from the damaged file
+        EXPECT_EQ(Session.WorkName, "P1");
     });
 }
 

@@ -116,12 +116,21 @@ TEST_F(TableEditingTest, WhatLiesBesideTheTableIsLeftOutAndAnEmptyTextDoesNothin
     EXPECT_TRUE(rows.Fault(0, 0));
 }
 
-// The same number as in a box: "1,5" is one and a half in either sign, "1,500" only where the comma is the sign.
+// The same number as in a box: "1,5" is one and a half in either sign, "1,500" only where the comma is the sign, since
+// it may be fifteen hundred.
 TEST_F(TableEditingTest, TheOtherDecimalSignIsReadWhereItCanMeanNothingElse) {
     EXPECT_EQ(SharedServices().NumberOf("1,5"), 1.5);
     EXPECT_EQ(SharedServices().NumberOf("-0,25"), -0.25);
     EXPECT_EQ(SharedServices().NumberOf("1,5e3"), 1500);
     EXPECT_FALSE(SharedServices().NumberOf("1,500"));
+    EXPECT_FALSE(SharedServices().NumberOf("-12,500"));
+    EXPECT_FALSE(SharedServices().NumberOf("+123,500"));
+    // Nobody parts thousands so.
+    EXPECT_EQ(SharedServices().NumberOf("0,125"), 0.125);
+    EXPECT_EQ(SharedServices().NumberOf("-0,001"), -0.001);
+    EXPECT_EQ(SharedServices().NumberOf(",333"), 0.333);
+    EXPECT_EQ(SharedServices().NumberOf("1500,250"), 1500.25);
+    EXPECT_EQ(SharedServices().NumberOf("012,345"), 12.345);
     EXPECT_FALSE(SharedServices().NumberOf("1,5,5"));
     EXPECT_FALSE(SharedServices().NumberOf("1,234.5"));
     EXPECT_THAT(SharedServices().TextFault("1,500", 2, 10, 0, "Width").value(), HasSubstr("decimal sign is \".\""));
@@ -129,6 +138,7 @@ TEST_F(TableEditingTest, TheOtherDecimalSignIsReadWhereItCanMeanNothingElse) {
     EXPECT_EQ(SharedServices().NumberOf("1,500"), 1.5);
     EXPECT_EQ(SharedServices().NumberOf("1.5"), 1.5);
     EXPECT_FALSE(SharedServices().NumberOf("1.500"));
+    EXPECT_EQ(SharedServices().NumberOf("0.001"), 0.001);
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "core/Catalogue.h"
 #include "services/storage/DraftStore.h"
 #include "ui/model/UnsavedInput.h"
+#include "ui/model/UnsavedTable.h"
 
 namespace lithmark::tests {
 namespace {
@@ -150,6 +151,148 @@ TEST_F(UnsavedInput, OfTablesComesBackToo) {
         EXPECT_EQ(Session.LoadTime(3), 12);
         EXPECT_EQ(Session.LoadValue(3), last);  // to the last bit
     });
+}
+
+// A date picker that stands at another day than it did must not take the typed date along.
+TEST_F(UnsavedInput, OfADateIsTheTextThatWasTyped) {
+    StartAnew(6);
+    OnShown<frmTimeSettlement1>([&](frmTimeSettlement1& form) {
+        Type(form, "DTPicker1", "Tuesday, May 5, 2026");
+        Type(form, "txt_Date", "after Easter");
+        form.KeepInput();
+    });
+    StartAnew(6);
+    host.AnswerYesNo(true);
+    OnShown<frmTimeSettlement1>([&](frmTimeSettlement1& form) { EXPECT_EQ(form.txt_Date.Text, "after Easter"); });
+}
+
+// --- dialogs that are no problem's ---
+
+TEST_F(UnsavedInput, OfTheProjectsDataComesBack) {
+    const auto type = [&](frmProblemType& form) {
+        Type(form, "txtAuftr", "GT-7");
+        Type(form, "txtDatum", "in spring");
+        Type(form, "txtProj", "Crane runway");
+        Select(form, "cmbItem", 3);
+        form.KeepInput();
+    };
+    for (const char* project : {"P1", ""}) {  // a new project has no name yet
+        SCOPED_TRACE(project);
+        StartAnew(1);
+        Session.ProjectName = project;
+        OnShown<frmProblemType>([&](frmProblemType& form) {
+            type(form);
+            Click(form, "CmdCancel");
+        });
+        StartAnew(1);
+        Session.ProjectName = project;
+        host.AnswerYesNo(true);
+        OnShown<frmProblemType>([&](frmProblemType& form) {
+            EXPECT_EQ(form.txtAuftr.Text, "GT-7");
+            EXPECT_EQ(form.txtDatum.Text, "in spring");
+            EXPECT_EQ(form.txtProj.Text, "Crane runway");
+            EXPECT_EQ(form.cmbItem.ListIndex, 3);
+            if (Session.ProjectName.empty()) host.AnswerFileToSave(DataFile("New"));
+            Click(form, "cmdSave");
+        });
+        EXPECT_EQ(Session.Proj, "Crane runway");
+        EXPECT_THAT(Drafts(), IsEmpty());
+        ProjectStore().LeaveProject();
+    }
+}
+
+TEST_F(UnsavedInput, OfPreferencesAndOfTheDataDirectoryComesBack) {
+    OnShown<frmPreferences>([&](frmPreferences& form) {
+        Type(form, "txtDx", "0.75");
+        form.KeepInput();
+        Click(form, "CmdCancel");
+    });
+    EXPECT_EQ(Session.PrefDx, 0.5);
+    OnShown<frmDataDir>([&](frmDataDir& form) {
+        Type(form, "txtDataDir", DataDir());
+        form.KeepInput();
+    });
+    EXPECT_THAT(Drafts(), SizeIs(2));
+    Session.ProjectName = "P2";  // they belong to no project
+    host.AnswerYesNo(true);
+    OnShown<frmPreferences>([](frmPreferences& form) {
+        EXPECT_EQ(form.txtDx.Text, "0.75");
+        Click(form, "cmdSave");
+    });
+    EXPECT_EQ(Session.PrefDx, 0.75);
+    host.AnswerYesNo(false);
+    OnShown<frmDataDir>([&](frmDataDir& form) { EXPECT_NE(form.txtDataDir.Text, DataDir()); });
+    EXPECT_THAT(Drafts(), IsEmpty());
+}
+
+// --- tables ---
+
+class UnsavedRows : public UnsavedInput {
+  protected:
+    // Edits the table of loads: `edit` is what the user does in the editor.
+    void EditLoads(std::function<bool(TableEdit&)> edit) {
+        StartAnew(6);
+        OnShown<frmTimeSettlement1>([&](frmTimeSettlement1& form) {
+            host.OnTable(std::move(edit));
+            Click(form, "cmdTimeLoad");
+        });
+    }
+    static bool TypeAndCancel(TableEdit& table) {
+        TableTexts rows = table.Rows;
+        rows.push_back({"9", "12.25"});
+        rows.at(0).at(1) = "x";
+        KeepRows(table, rows);
+        return false;
+    }
+};
+
+TEST_F(UnsavedRows, AreOfferedWhenTheTableOpensAgainAndGoWithOK) {
+    EditLoads(TypeAndCancel);
+    EXPECT_EQ(Session.NLoad, 5);
+    host.AnswerYesNo(true);
+    EditLoads([](TableEdit& table) {
+        EXPECT_THAT(table.Rows, SizeIs(6));
+        EXPECT_EQ(table.Rows.at(0).at(1), "x");
+        EXPECT_EQ(table.Rows.at(5).at(1), "12.25");
+        // The digits behind a cell that was typed are gone, those of the others are there.
+        EXPECT_EQ(table.Digits.at(0).at(1), "");
+        EXPECT_EQ(table.Digits.at(2).at(1), "83");
+        table.Rows.at(0).at(1) = "20";
+        return true;
+    });
+    EXPECT_EQ(Session.NLoad, 6);
+    EXPECT_THAT(Drafts(), IsEmpty());
+}
+
+TEST_F(UnsavedRows, AreDeclinedForGood) {
+    EditLoads(TypeAndCancel);
+    host.AnswerYesNo(false);
+    EditLoads([](TableEdit& table) {
+        EXPECT_THAT(table.Rows, SizeIs(5));
+        return false;
+    });
+    EXPECT_THAT(Drafts(), IsEmpty());
+    EditLoads([](TableEdit&) { return false; });
+    EXPECT_THAT(host.Questions, SizeIs(1));
+}
+
+TEST_F(UnsavedRows, ThatEqualTheTableOrStandInAnotherUnitAreNotOffered) {
+    EditLoads([](TableEdit& table) {
+        KeepRows(table, table.Rows);
+        return false;
+    });
+    EditLoads([](TableEdit&) { return false; });
+    EditLoads(TypeAndCancel);
+    StartAnew(6);
+    Session.Force1Label = "[MN]";
+    OnShown<frmTimeSettlement1>([&](frmTimeSettlement1& form) {
+        host.OnTable([](TableEdit& table) {
+            EXPECT_THAT(table.Rows, SizeIs(5));
+            return false;
+        });
+        Click(form, "cmdTimeLoad");
+    });
+    EXPECT_THAT(host.Questions, IsEmpty());
 }
 
 // A text of another unit would be another length.

@@ -13,7 +13,6 @@
 #include "ui/model/HelpText.h"
 #include "ui/model/ProjectFlags.h"
 #include "ui/model/ResultViewer.h"
-#include "ui/model/UnsavedInput.h"
 
 namespace lithmark {
 
@@ -38,7 +37,7 @@ void TakeRadius(SessionRecord& record) {
 }  // namespace
 
 ProblemForm::ProblemForm(std::string name, std::string okButton)
-    : FieldForm(std::move(name)), cmdok(*this, std::move(okButton)) {
+    : KeptForm(std::move(name)), cmdok(*this, std::move(okButton)) {
     cmdok.OnClick = [this] { cmdok_Click(); };
     cmdHelp.OnClick = [this] { cmdHelp_Click(); };
     cmdSave.OnClick = [this] { cmdSave_Click(); };
@@ -66,33 +65,19 @@ void ProblemForm::Load() {
                  {cmdOpen, 10016_text, Styles::DialogButton},
                  {cmdResult, 140096_text, Styles::Button}});
     ShowForProblem();
-    MarkSaved();
-    OfferUnsavedInput();
+    OfferUnsavedInput(Session.DataDir + Session.ProjectName);
 }
 
-void ProblemForm::OfferUnsavedInput() {
-    const std::string folder = DraftFolder();
-    const auto draft = ReadDraft(folder, Session.DataDir + Session.ProjectName, Name);
-    if (!draft) return;
-    if (!CurrentHost().AskYesNo(Caption, Text(906550_text, {{"|1", draft->When}}))) return DropUnsavedInput();
-    TakeDraftData(*draft);
+StoredDraft ProblemForm::KeptInput() const {
+    StoredDraft draft = DraftOf(*this);
+    AddData(draft);
+    return draft;
+}
+
+void ProblemForm::TakeKeptInput(const StoredDraft& draft) {
+    TakeDraftData(draft);
     ShowData();
-    TakeDraftTexts(*this, *draft);
-}
-
-void ProblemForm::KeepInput() {
-    const std::string folder = DraftFolder();
-    if (folder.empty()) return;
-    if (!Modified()) return DropUnsavedInput();
-    try {
-        WriteDraft(folder, DraftOf(*this));
-    } catch (const Failure&) {
-        // The user is typing: what the state folder cannot take is told by no message, saving tells its own.
-    }
-}
-
-void ProblemForm::DropUnsavedInput() {
-    RemoveDraft(DraftFolder(), Session.DataDir + Session.ProjectName, Name);
+    TakeDraftTexts(*this, draft);
 }
 
 void ProblemForm::ShowInForce() {
@@ -131,9 +116,7 @@ void ProblemForm::SaveData() {
     if (!Session.DataValid) return;
     WriteProblemData();
     EndHourglass();
-    if (!Session.FileSaved) return;
-    MarkSaved();
-    DropUnsavedInput();
+    if (Session.FileSaved) InputIsSaved();
 }
 
 void ProblemForm::cmdHelp_Click() {
@@ -159,16 +142,20 @@ void ProblemForm::cmdSaveAs_Click() {
     });
 }
 
+// A file that cannot be read whole changes nothing, neither what the user typed nor the tables behind it.
 void ProblemForm::cmdOpen_Click() {
     Run([&] {
+        const SessionRecord before = Session;
         std::string file;
         if (!FileDialogs().OpenFileDialog(file, Session.DataDir, Session.WorkDir, Session.WorkName,
                                           std::string("*.") + ProblemInForce().Extension, Caption))
             return;
         const ReadOutcome outcome = ReadProblemData();
         EndHourglass();
-        // After a failure the boxes keep what the user typed.
-        if (outcome == ReadOutcome::Read) ShowOpened();
+        if (outcome == ReadOutcome::Read)
+            ShowOpened();
+        else
+            Session = before;
     });
 }
 

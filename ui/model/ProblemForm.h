@@ -5,7 +5,7 @@
 // A form of a problem gives its tables of fields, choices and captions, and its help; see docs/forms.md.
 #pragma once
 
-#include "ui/model/FieldForm.h"
+#include "ui/model/KeptForm.h"
 
 namespace lithmark {
 
@@ -16,7 +16,7 @@ struct FormDraft {
     bool Valid() const noexcept { return Faults.empty(); }
 };
 
-class ProblemForm : public FieldForm {
+class ProblemForm : public KeptForm {
   public:
     Button cmdok, cmdHelp{*this, "cmdHelp"};
     Button cmdSave{*this, "cmdSave"}, cmdSaveAs{*this, "cmdSaveAs"}, cmdOpen{*this, "cmdOpen"};
@@ -26,12 +26,6 @@ class ProblemForm : public FieldForm {
     // The controls as Session stands, without defaults or a file: for a form that is drawn and not shown. Its choices
     // may store what they show in Session.
     void ShowInForce();
-
-    // The controls differ from what the form loaded or last saved. Closing asks nothing and stores nothing, so the
-    // window's title has to tell. Data opened from another file are not the project's until they are saved.
-    bool Modified() const override { return Inputs() != savedInputs_; }
-    // Unsaved input survives in the user's state folder; Load offers it. Saving it, or declining it, removes it.
-    void KeepInput() override;
 
     // What StoreData would leave in Session now. Changes nothing and shows nothing.
     FormDraft Draft() const;
@@ -52,7 +46,8 @@ class ProblemForm : public FieldForm {
     // and nothing is stored. The caller has cleared DataValid.
     void StoreData();
     void SaveData();
-    void MarkSaved() { savedInputs_ = Inputs(); }
+    StoredDraft KeptInput() const override;
+    void TakeKeptInput(const StoredDraft& draft) override;
 
     // Options, check boxes and lists from Session, and what is shown and enabled by them: the rows, and what a form has
     // beyond them.
@@ -67,12 +62,6 @@ class ProblemForm : public FieldForm {
     virtual void ShowOpened() { ShowData(); }
     // The lines of the help box, parted by CR.
     virtual std::string Help() const = 0;
-
-  private:
-    void OfferUnsavedInput();
-    void DropUnsavedInput();
-
-    std::vector<std::string> savedInputs_;
 };
 
 }  // namespace lithmark

@@ -5,6 +5,7 @@
 #include "core/Units.h"
 #include "services/SharedServices.h"
 #include "services/host/Host.h"
+#include "ui/model/UnsavedTable.h"
 
 namespace lithmark {
 
@@ -35,6 +36,7 @@ bool Edit(TextId title, TextId help, const std::string& rowHead, const EditedCol
         table.Rows.push_back({FormatValue(times(row), first.Format), FormatValue(values(row), second.Format)});
         table.Digits.push_back({NumberToText(times(row)), NumberToText(values(row))});
     }
+    OfferUnsavedRows(table);
     if (!CurrentHost().EditTable(table)) return false;
 
     const int rows = static_cast<int>(table.Rows.size());
@@ -49,6 +51,7 @@ bool Edit(TextId title, TextId help, const std::string& rowHead, const EditedCol
     count = newCount;
     times = std::move(newTimes);
     values = std::move(newValues);
+    DropUnsavedRows(table);
     return true;
 }
 

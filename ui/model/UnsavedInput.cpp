@@ -1,5 +1,6 @@
 #include "ui/model/UnsavedInput.h"
 
+#include <algorithm>
 #include <string>
 #include <type_traits>
 #include <variant>
@@ -17,12 +18,9 @@ namespace lithmark {
 
 namespace {
 
-std::string OpenProject() {
-    return Session.DataDir + Session.ProjectName;
-}
-
-// Whatever a control's text depends on.
-std::string HowTextsAreShown() {
+// Whatever the texts of a form's controls depend on: nothing where none of them stands for a number.
+std::string HowTextsAreShown(const FieldForm& form) {
+    if (std::ranges::none_of(form.Fields(), [](const FieldRow& row) { return row.Field.Exists(); })) return {};
     const UnitSettings units = UnitsInForce();
     std::string shown = std::to_string(static_cast<int>(LanguageTexts().Current())) + SharedServices().DecimalSign;
     for (const std::string& label : {units.Len1Label, units.Len2Label, units.Force1Label, units.Force2Label})
@@ -105,15 +103,21 @@ std::string DraftFolder() {
 
 StoredDraft DraftOf(const FieldForm& form) {
     StoredDraft draft;
-    draft.Project = OpenProject();
     draft.Form = form.Name;
-    draft.Shown = HowTextsAreShown();
+    draft.Shown = HowTextsAreShown(form);
     draft.When = TextTools().LongDateOfToday();
     for (const Control* control : form.Controls())
         if (IsInput(control->Kind)) draft.Texts.emplace_back(control->Name, TextOf(*control));
+    return draft;
+}
+
+void AddData(StoredDraft& draft) {
     for (const std::string_view name : ProblemFieldNames(Session.ProblemType))
         if (const SessionField* field = FindSessionField(name)) AppendData(draft.Data, name, field->Ref);
-    return draft;
+}
+
+bool CanTake(const FieldForm& form, const StoredDraft& draft) {
+    return !draft.Data.empty() || draft.Shown == HowTextsAreShown(form);
 }
 
 void TakeDraftData(const StoredDraft& draft) {
@@ -125,9 +129,10 @@ void TakeDraftData(const StoredDraft& draft) {
 }
 
 void TakeDraftTexts(FieldForm& form, const StoredDraft& draft) {
-    if (draft.Shown != HowTextsAreShown()) return;
-    // First what decides which boxes are there and which unit they have, then the boxes.
-    for (const bool boxes : {false, true})
+    if (draft.Shown != HowTextsAreShown(form)) return;
+    // First what decides which boxes are there and which unit they have, then the boxes; and these once more, since the
+    // change of one may be the change of another: a date picker's is that of the date's text.
+    for (const bool boxes : {false, true, true})
         for (const auto& [name, text] : draft.Texts) {
             Control* control = form.Find(name);
             if (control == nullptr || !IsInput(control->Kind) || TextOf(*control) == text) continue;
