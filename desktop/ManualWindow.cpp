@@ -74,13 +74,14 @@ void FormatTables(QTextFrame& frame, const QPalette& palette, Qt::LayoutDirectio
     }
 }
 
-// Headings keep a distance from what stands above them.
-void SpaceHeadings(QTextDocument& document) {
+// Headings keep a distance from what stands above them, and begin where the page's lines do, whatever their letters.
+void PlaceHeadings(QTextDocument& document, Qt::LayoutDirection direction) {
     for (QTextBlock block = document.begin().next(); block.isValid(); block = block.next()) {
         if (block.blockFormat().headingLevel() == 0) continue;
         QTextBlockFormat space;
         space.setTopMargin(18);
         space.setBottomMargin(4);
+        space.setLayoutDirection(direction);
         QTextCursor(block).mergeBlockFormat(space);
     }
 }
@@ -142,7 +143,7 @@ void ManualWindow::Open(const std::string& page) {
         browser_->setMarkdown(TextOf(name));
         browser_->document()->setDocumentMargin(12);
         FormatTables(*browser_->document()->rootFrame(), palette(), direction);
-        SpaceHeadings(*browser_->document());
+        PlaceHeadings(*browser_->document(), direction);
     }
     ScrollToSection();
 }

@@ -102,6 +102,17 @@ TEST_F(ManualOnScreen, TopicsHavePagesInTheLanguage) {
     LanguageTexts().SetCurrent(Language::English);
 }
 
+TEST_F(ManualOnScreen, HeadingsBeginWhereThePagesLinesDo) {
+    for (const auto& [page, direction] : {std::pair("notices#raft-tension", Qt::LeftToRight),
+                                          std::pair("manual/ar/notices#raft-tension", Qt::RightToLeft)}) {
+        ManualWindow window(nullptr, page);
+        window.show();
+        const QTextBlock heading = Child<QTextBrowser>(window, "manualPage").textCursor().block();
+        EXPECT_EQ(heading.text(), QStringLiteral("raft-tension")) << page;
+        EXPECT_EQ(heading.textDirection(), direction) << page;
+    }
+}
+
 // Links of the pages lead to pages of the program; those to projects and to the sources to files that are there.
 TEST_F(ManualOnScreen, EveryLinkLeadsSomewhere) {
     const std::regex link(R"(\]\(([^)\s]+)\))");
