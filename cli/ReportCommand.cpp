@@ -28,11 +28,10 @@ std::string JsonReport(const ReportOptions& report, const ConsoleHost& host) {
 
 std::string ReportIn(const std::string& format, const ReportOptions& report) {
     if (format == "csv") return StepTablesCsv(Steps().Tables());
-    if (format == "txt") return ReportWith(report.Tables ? Behind::Tables : Behind::Nothing);
+    if (format == "txt") return ReportWith({.Notices = false, .Tables = report.Tables});
     if (!Documents()) FailFormat(format);
     if (format == "xlsx") return Documents()->StepTables(Steps().Tables());
-    const std::string text = ReportWith(report.Tables ? (report.NoNotices ? Behind::Tables : Behind::NoticesAndTables)
-                                                      : (report.NoNotices ? Behind::Nothing : Behind::Notices));
+    const std::string text = ReportWith({.Notices = !report.NoNotices, .Tables = report.Tables});
     return Documents()->Report(format, text, report.Figures);
 }
 

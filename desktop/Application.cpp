@@ -77,6 +77,7 @@ int RunDesktop(int argc, char** argv) {
         frame.SetWindow(&window);
         host.SetFrame(&window);
         host.StatusNotice = [&window](const QString& notice) { window.ShowNotice(notice); };
+        host.OpenExample = [&frame](const std::string& name) { frame.OpenExample(name); };
         const std::string path = PathOf(QApplication::arguments());
         frame.Start(path, SystemLanguage());
         UseQtTexts(application, LanguageTexts().Current());
@@ -84,6 +85,7 @@ int RunDesktop(int argc, char** argv) {
             window.statusBar()->showMessage(QString::fromStdString(Text(903021_text, {{"|1", path}})));
         if (!frame.Ended) code = QApplication::exec();
         host.StatusNotice = nullptr;
+        host.OpenExample = nullptr;
         frame.SetWindow(nullptr);
     }
     SetCurrentHost(nullptr);

@@ -24,6 +24,7 @@
 #include "files/CommonStep.h"
 #include "render/QtText.h"
 #include "render/ReportPaper.h"
+#include "services/SharedServices.h"
 #include "services/storage/ReadFile.h"
 #include "services/storage/UserFolders.h"
 #include "services/storage/WrittenFile.h"
@@ -85,7 +86,12 @@ class LogoRow : public QWidget {
         add(911006_text, "cmdChooseLogo", [this] {
             const QString chosen = QFileDialog::getOpenFileName(
                 this, Q(Text(911005_text)), {}, QStringLiteral("PNG, JPEG, SVG (*.png *.jpg *.jpeg *.svg)"));
-            if (!chosen.isEmpty()) Choose(chosen);
+            if (chosen.isEmpty()) return;
+            if (LogoSize(chosen.toStdString()).isEmpty())
+                SharedServices().ShowMessageBox(Text(160030_text), Text(911301_text, {{"|1", chosen.toStdString()}}),
+                                                MessageIcon::Exclamation);
+            else
+                Choose(chosen);
         });
         add(911007_text, "cmdRemoveLogo", [this] { Choose({}); });
         Choose(file_);
@@ -132,13 +138,11 @@ void ShowTextWindow(QWidget* parent, const QString& title, const QString& text) 
     dialog.Run();
 }
 
-void ShowManual(QWidget* parent, const QString& topic) {
+std::string ShowManual(QWidget* parent, const QString& topic, bool opensExamples) {
     const std::string page = PageOfTopic(topic.toStdString());
-    if (!page.empty()) {
-        ManualWindow(parent, page).exec();
-        return;
-    }
-    ShowTextWindow(parent, Q(Text(160030_text)), Q(Text(903006_text)));
+    ManualWindow window(parent, page.empty() ? PageOfTopic("Titel") : page, opensExamples);
+    window.exec();
+    return window.Example();
 }
 
 std::optional<CompanyLines> AskCompanyLines(QWidget* parent, const CompanyLines& lines) {

@@ -12,8 +12,9 @@ class QWidget;
 namespace lithmark {
 
 void ShowTextWindow(QWidget* parent, const QString& title, const QString& text);
-// The manual at a topic.
-void ShowManual(QWidget* parent, const QString& topic);
+// The manual at a topic, at its first page for a topic without one. Gives the example that the user has asked for
+// there, where one can be opened; else an empty name.
+std::string ShowManual(QWidget* parent, const QString& topic, bool opensExamples);
 std::optional<CompanyLines> AskCompanyLines(QWidget* parent, const CompanyLines& lines);
 std::optional<Language> AskLanguage(QWidget* parent, Language current);
 void ShowFilesOfFolder(QWidget* parent, const QString& folder, const QString& extension);

@@ -28,6 +28,13 @@ std::string TopicOfProblem();
 // Where a link of a page leads, as a page with its section. Empty for one that leads out of the manual.
 std::string PageOfLink(const std::string& page, const std::string& link);
 
+// The example that a link of a page names; empty for one that leads elsewhere.
+std::string ExampleOfLink(const std::string& page, const std::string& link);
+
+// A page as it is shown: without the remark that says where it comes from, and without links that lead to what the
+// program does not bring along; their words stay.
+std::string ShownPage(const std::string& name);
+
 // F1 in this window shows the page of a topic.
 void BindHelpKey(QWidget& window, std::function<std::string()> topic);
 

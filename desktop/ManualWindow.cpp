@@ -14,6 +14,7 @@
 
 #include "desktop/ManualTopics.h"
 #include "render/QtText.h"
+#include "services/SharedServices.h"
 #include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
@@ -86,13 +87,6 @@ void PlaceHeadings(QTextDocument& document, Qt::LayoutDirection direction) {
     }
 }
 
-// The page without the remark that says where it comes from.
-QString TextOf(const std::string& page) {
-    const std::string text = ManualPage(page);
-    const std::size_t end = text.starts_with("<!--") ? text.find("-->\n") : std::string::npos;
-    return Q(end == std::string::npos ? text : text.substr(end + 4));
-}
-
 // A heading by its own text, by its number ("4: ..."), or as links name it: small letters, blanks as "-", no signs.
 bool IsSection(const QString& heading, const QString& section) {
     QString link;
@@ -106,8 +100,8 @@ bool IsSection(const QString& heading, const QString& section) {
 
 }  // namespace
 
-ManualWindow::ManualWindow(QWidget* parent, const std::string& page)
-    : QDialog(parent), browser_(new ManualBrowser(this)) {
+ManualWindow::ManualWindow(QWidget* parent, const std::string& page, bool opensExamples)
+    : QDialog(parent), browser_(new ManualBrowser(this)), opensExamples_(opensExamples) {
     setObjectName(QStringLiteral("manualWindow"));
     setWindowTitle(Q(Text(160030_text)));
     browser_->setObjectName(QStringLiteral("manualPage"));
@@ -127,7 +121,14 @@ ManualWindow::ManualWindow(QWidget* parent, const std::string& page)
 }
 
 void ManualWindow::Follow(const std::string& link) {
-    if (const std::string page = PageOfLink(page_, link); !page.empty()) Open(page);
+    if (const std::string page = PageOfLink(page_, link); !page.empty()) return Open(page);
+    const std::string example = ExampleOfLink(page_, link);
+    if (example.empty()) return;
+    if (!opensExamples_)
+        return SharedServices().ShowMessageBox(Text(160030_text), Text(911302_text, {{"|1", example}}),
+                                               MessageIcon::Information);
+    example_ = example;
+    accept();
 }
 
 void ManualWindow::Open(const std::string& page) {
@@ -140,7 +141,7 @@ void ManualWindow::Open(const std::string& page) {
         const auto direction = name.starts_with("manual/ar/") ? Qt::RightToLeft : Qt::LeftToRight;
         browser_->setLayoutDirection(direction);
         static_cast<ManualBrowser*>(browser_)->Page = name;
-        browser_->setMarkdown(TextOf(name));
+        browser_->setMarkdown(Q(ShownPage(name)));
         browser_->document()->setDocumentMargin(12);
         FormatTables(*browser_->document()->rootFrame(), palette(), direction);
         PlaceHeadings(*browser_->document(), direction);

@@ -10,10 +10,12 @@ namespace lithmark {
 
 class ManualWindow : public QDialog {
   public:
-    // A page with its section, as PageOfTopic tells it.
-    ManualWindow(QWidget* parent, const std::string& page);
+    // A page with its section, as PageOfTopic tells it. Where examples cannot be opened, a link to one says why.
+    ManualWindow(QWidget* parent, const std::string& page, bool opensExamples = false);
 
     const std::string& Page() const noexcept { return page_; }
+    // The example that the user has asked for, which closes the window; else empty.
+    const std::string& Example() const noexcept { return example_; }
 
   protected:
     void showEvent(QShowEvent* event) override;
@@ -24,7 +26,8 @@ class ManualWindow : public QDialog {
     void ScrollToSection();
 
     QTextBrowser* browser_;
-    std::string page_, section_;
+    const bool opensExamples_;
+    std::string page_, section_, example_;
 };
 
 }  // namespace lithmark

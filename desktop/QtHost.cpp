@@ -17,6 +17,7 @@
 
 #include "desktop/ChartWindow.h"
 #include "desktop/Dialogs.h"
+#include "desktop/DocumentChoices.h"
 #include "desktop/FormView.h"
 #include "desktop/Printing.h"
 #include "desktop/SaveReport.h"
@@ -25,7 +26,6 @@
 #include "desktop/Toast.h"
 #include "render/QtText.h"
 #include "render/ReportDocument.h"
-#include "render/figures/ReportFigures.h"
 #include "services/storage/WrittenFile.h"
 #include "services/texts/LanguageTexts.h"
 
@@ -184,7 +184,10 @@ void QtHost::ShowHelpText(const std::string& title, const std::string& text) {
 }
 
 void QtHost::ShowHelpTopic(const std::string& topic) {
-    ShowManual(Parent(), Q(topic));
+    // An example takes the place of the open project, which a dialog still works on.
+    const bool opensExamples = OpenExample && QApplication::activeModalWidget() == nullptr;
+    const std::string example = ShowManual(Parent(), Q(topic), opensExamples);
+    if (!example.empty()) OpenExample(example);
 }
 
 std::optional<std::string> QtHost::ChooseFileToOpen(const std::string& title, const std::string& startDir,
@@ -249,11 +252,11 @@ void QtHost::PrintText(const std::string& text, const std::string& fontName, int
 // The document is the word processor's from then on: what the user writes into it must not go with this program.
 void QtHost::OpenWordProcessor(const std::string& text, const std::string&, int, bool) {
     const std::string path = HandOverFile(Text(160030_text) + ".rtf");
-    WriteWholeFile(path, ReportRtf(text, PaperWithFigures(Figures::Drawing)));
+    WriteWholeFile(path, ReportRtf(text, PaperChosen()));
     const QString opener = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
     const bool opened = opener.isEmpty() ? QDesktopServices::openUrl(QUrl::fromLocalFile(Q(path)))
                                          : QProcess::startDetached(opener, {Q(path)});
-    if (!opened) SaveReport(Parent(), text);
+    if (!opened) SaveReport(Parent());
 }
 
 void QtHost::SetClipboardText(const std::string& text) {

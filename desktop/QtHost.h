@@ -3,6 +3,7 @@
 
 #include <QElapsedTimer>
 #include <QPointer>
+#include <functional>
 #include <memory>
 
 #include "services/host/Host.h"
@@ -23,6 +24,8 @@ class QtHost : public Host {
     void SetFrame(QWidget* frame) { frame_ = frame; }
     // What the status bar shows while a file is read or written.
     std::function<void(const QString&)> StatusNotice;
+    // Opens a copy of an example, which the user has asked for in the manual.
+    std::function<void(const std::string&)> OpenExample;
 
     void ShowMessage(const std::string& title, const std::string& text, MessageIcon icon) override;
     void SetPointer(PointerShape shape) override;

@@ -1,6 +1,7 @@
 #include "desktop/SaveDialog.h"
 
 #include <QFileDialog>
+#include <QGridLayout>
 
 #include "core/Session.h"
 #include "render/QtText.h"
@@ -13,9 +14,17 @@ QString FilterOf(const FileKind& kind) {
     return kind.Name + QStringLiteral(" (*.") + kind.Ending + QLatin1Char(')');
 }
 
+// Only the toolkit's own dialog has room for more.
+void ShowUnderFiles(QFileDialog& dialog, QWidget& choices) {
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    if (auto* rows = qobject_cast<QGridLayout*>(dialog.layout()))
+        rows->addWidget(&choices, rows->rowCount(), 0, 1, rows->columnCount());
+}
+
 }  // namespace
 
-std::optional<ChosenFile> AskForFile(QWidget* parent, const QString& title, const std::vector<FileKind>& kinds) {
+std::optional<ChosenFile> AskForFile(QWidget* parent, const QString& title, const std::vector<FileKind>& kinds,
+                                     QWidget* choices) {
     QFileDialog dialog(parent, title, Q(Session.WorkDir));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
@@ -31,7 +40,10 @@ std::optional<ChosenFile> AskForFile(QWidget* parent, const QString& title, cons
     QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, follow);
     follow();
     dialog.selectFile(Q(Session.WorkName));
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+    if (choices != nullptr) ShowUnderFiles(dialog, *choices);
+    const int answer = dialog.exec();
+    if (choices != nullptr) choices->setParent(nullptr);
+    if (answer != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     const QString file = dialog.selectedFiles().front();
     QString ending = chosen().Ending;
     for (const FileKind& kind : kinds)

@@ -1,4 +1,4 @@
-// The dialog that asks for the file of a picture or a table, in one of several kinds.
+// The dialog that asks for the file of a document, a picture or a table, in one of several kinds.
 #pragma once
 
 #include <QString>
@@ -20,7 +20,9 @@ struct ChosenFile {
 };
 
 // A name without an ending takes the one of the chosen kind; one with the ending of another kind is of that one. The
-// first kind is proposed, with the open project's name. Nothing when cancelled.
-std::optional<ChosenFile> AskForFile(QWidget* parent, const QString& title, const std::vector<FileKind>& kinds);
+// first kind is proposed, with the open project's name. What else is to be chosen stands under the files; it stays the
+// caller's. Nothing when cancelled.
+std::optional<ChosenFile> AskForFile(QWidget* parent, const QString& title, const std::vector<FileKind>& kinds,
+                                     QWidget* choices = nullptr);
 
 }  // namespace lithmark

@@ -1,14 +1,12 @@
-// A report saved as a document.
+// The report in force saved as a document.
 #pragma once
-
-#include <string>
 
 class QWidget;
 
 namespace lithmark {
 
-// Asks for a name and writes PDF, RTF, HTML or plain text; with the tables for a check by hand also those alone, as a
-// spreadsheet or CSV. A name without an ending takes the one of the chosen kind. A failure is told.
-void SaveReport(QWidget* parent, const std::string& report, bool withTables = false);
+// Asks for a name, and for what the document is to have, and writes PDF, RTF, HTML or plain text; with the tables for a
+// check by hand chosen, also those alone, as a spreadsheet or CSV. A failure is told.
+void SaveReport(QWidget* parent);
 
 }  // namespace lithmark

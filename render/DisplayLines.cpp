@@ -73,11 +73,11 @@ bool IsNumber(const std::string& word) {
            word.find_first_not_of("0123456789.,+-E") == std::string::npos;
 }
 
-// Two plain words of one phrase ("21 November"), not two cells of a table or the parts of a parameter line.
-bool BelongTogether(const Word& first, const Word& second) {
-    const auto part = [](const Word& word) { return word.Text == "=" || word.Text.front() == '['; };
+// Two plain words of one phrase ("21 November", "q = 7"), not two cells of a table or the parts of a parameter line.
+bool BelongTogether(const Word& first, const Word& second, bool parameter) {
+    const auto part = [&](const Word& word) { return parameter && (word.Text == "=" || word.Text.front() == '['); };
     return first.Plain && second.Plain && second.Blanks == 1 && !part(first) && !part(second) &&
-           (!IsNumber(first.Text) || !IsNumber(second.Text) || first.Text.ends_with(','));
+           !first.Text.ends_with(':') && (!IsNumber(first.Text) || !IsNumber(second.Text) || first.Text.ends_with(','));
 }
 
 // What a line is decides where its pieces stand.
@@ -88,16 +88,21 @@ enum class LineKind {
     TableRow
 };
 
-// The words that stand at a place of their own, in a parameter line: symbol, unit and "=".
+// The words that stand at a place of their own, in a parameter line: symbol, unit and "=". Its unit has brackets, or
+// more than one blank parts its words; other lines may have a formula in them.
 std::size_t FirstOwnPlace(const std::vector<Word>& words) {
-    for (std::size_t i = 0; i < words.size(); ++i)
-        if (words[i].Text == "=" && i + 1 < words.size()) return i >= 2 ? i - 2 : 0;
+    for (std::size_t i = 2; i + 1 < words.size(); ++i) {
+        if (words[i].Text != "=") continue;
+        const bool spaced = words[i - 2].Blanks > 1 || words[i - 1].Blanks > 1 || words[i].Blanks > 1;
+        return spaced || words[i - 1].Text.front() == '[' ? i - 2 : words.size();
+    }
     return words.size();
 }
 
 DisplayLine PlaceRightToLeft(const std::vector<Word>& words, LineKind kind) {
     DisplayLine line;
     const std::size_t ownPlaces = kind == LineKind::Text ? FirstOwnPlace(words) : words.size();
+    const bool parameter = ownPlaces < words.size();
     const bool corrected = kind == LineKind::TableHead || kind == LineKind::TableSums;
     int added = 0;  // blanks that stand for pairs so far
     for (std::size_t i = 0; i < words.size();) {
@@ -114,7 +119,8 @@ DisplayLine PlaceRightToLeft(const std::vector<Word>& words, LineKind kind) {
             std::string text = words[k].Text;
             pairs += LigatureCount(text);
             const bool plain = words[k].Plain;
-            while (plain && k + 1 < end && BelongTogether(words[k], words[k + 1])) text += " " + words[++k].Text;
+            while (plain && k + 1 < end && BelongTogether(words[k], words[k + 1], parameter))
+                text += " " + words[++k].Text;
             const int cells = CellsOf(text);
             pieces.push_back({column, cells, text, !plain || HasSignsOfSentence(text)});
             column += cells + 1;

@@ -13,6 +13,31 @@
 
 namespace lithmark {
 
+namespace {
+
+bool IsArabic(char32_t c) {
+    return c >= 0x0600 && c <= 0x06FF;
+}
+
+// The generator writes each run of a text by itself and leaves out its direction; viewers take it to be from left to
+// right, and put blanks and colons at the wrong end of Arabic words. Marks at both ends of such a run hold them.
+std::string WithDirections(const std::string& svg) {
+    static const std::string kMark = "\u200F", kEnd = "</text>";
+    std::string marked;
+    std::size_t at = 0;
+    for (std::size_t end = svg.find(kEnd); end != std::string::npos; end = svg.find(kEnd, at)) {
+        const std::size_t begin = svg.rfind('>', end - 1) + 1;
+        const std::string run = svg.substr(begin, end - begin);
+        const std::vector<char32_t> letters = CodePoints(run);
+        const bool arabic = std::any_of(letters.begin(), letters.end(), IsArabic);
+        marked += svg.substr(at, begin - at) + (arabic ? kMark + run + kMark : run) + kEnd;
+        at = end + kEnd.size();
+    }
+    return marked + svg.substr(at);
+}
+
+}  // namespace
+
 void DrawAsVectors(QPaintDevice& device, const QSizeF& extent, const QSize& size, const Draw& draw) {
     QCPPainter painter;
     painter.begin(&device);
@@ -38,7 +63,7 @@ std::string SvgOf(const QSize& size, const QString& title, const Draw& draw) {
         DrawAsVectors(generator, size, size, draw);
     }
     // What XML does not allow may stand in any text that was drawn.
-    return PrintableText(buffer.data().toStdString());
+    return WithDirections(PrintableText(buffer.data().toStdString()));
 }
 
 std::string PngOf(const QSize& size, int scale, const Draw& draw) {

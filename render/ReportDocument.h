@@ -14,6 +14,9 @@ class QPagedPaintDevice;
 
 namespace lithmark {
 
+// The size of the report's letters in every document: that of the printer, so that the preview is the PDF.
+inline constexpr int kReportPoints = 8;
+
 std::string ReportHtml(const std::string& report, const ReportPaper& paper = PaperInForce());
 std::string ReportPdf(const std::string& report, const ReportPaper& paper = PaperInForce());
 std::string ReportRtf(const std::string& report, const ReportPaper& paper = PaperInForce());

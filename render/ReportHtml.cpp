@@ -118,7 +118,8 @@ std::string ReportHtml(const std::string& report, const ReportPaper& paper) {
         "figure { margin: 2em 0 0; text-align: center; font: 13px 'DejaVu Sans', sans-serif; break-inside: avoid; }\n"
         "figure img { max-width: min(100%, 760px); }\n" +
         PageStyle(paper, rightToLeft) +
-        "@media print { body { margin: 0; } pre { font-size: 9.5pt; } .heading { break-after: avoid; }\n"
+        "@media print { body { margin: 0; } pre { font-size: " + std::to_string(kReportPoints) +
+        "pt; } .heading { break-after: avoid; }\n"
         "  thead { display: table-header-group; } }\n"
         "</style>\n</head>\n<body>\n";
     const std::string logo = LogoPicture(paper.Logo);

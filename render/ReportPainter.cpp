@@ -23,7 +23,7 @@ constexpr double kMmPerInch = 25.4, kPointsPerInch = 72, kFigureUnitsPerInch = 9
 // not be the paper's.
 constexpr double kUnitsPerInch = 600, kUnitsPerPoint = kUnitsPerInch / kPointsPerInch;
 constexpr double kLineSpacing = 1.09, kMarginPoints = 8;
-constexpr double kMostFigureHeight = 0.46;  // of the room between head and foot: two figures a page
+constexpr double kCaptionSteps = 2.5, kGapSteps = 1.5;  // under a figure and above it, in lines of the report
 
 class ReportPainter {
   public:
@@ -196,9 +196,10 @@ class ReportPainter {
         std::size_t page = pages.size() - 1;
         double top = body_.top() + static_cast<double>(pages.back().Count()) * step_;
         for (const ReportFigure& figure : paper_.Figures) {
-            const double caption = 2.5 * step_, gap = top > body_.top() ? 1.5 * step_ : 0;
+            const double caption = kCaptionSteps * step_, gap = top > body_.top() ? kGapSteps * step_ : 0;
             const double units = kUnitsPerInch / kFigureUnitsPerInch;
-            const QSizeF most(body_.width(), body_.height() * kMostFigureHeight);
+            // Two of them have room on a page.
+            const QSizeF most(body_.width(), (body_.height() - (2 * kCaptionSteps + kGapSteps) * step_) / 2 - 1);
             QSizeF size = QSizeF(figure.Size) * units;
             if (size.width() > most.width() || size.height() > most.height()) size.scale(most, Qt::KeepAspectRatio);
             if (top + gap + size.height() + caption > body_.bottom()) {

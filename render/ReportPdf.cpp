@@ -9,12 +9,6 @@
 
 namespace lithmark {
 
-namespace {
-
-constexpr double kPointSize = 9.5;
-
-}  // namespace
-
 std::string ReportPdf(const std::string& report, const ReportPaper& paper) {
     EnsureRenderApplication();
     QBuffer buffer;
@@ -28,7 +22,7 @@ std::string ReportPdf(const std::string& report, const ReportPaper& paper) {
         writer.setCreator(Q(ReportPaper::Maker()));
         const double height = writer.pageLayout().fullRectPoints().height();
         for (const PaintedHeading& heading :
-             PaintReport(writer, report, paper, Text(160017_text), kPointSize, LanguageTexts().RightToLeft()))
+             PaintReport(writer, report, paper, Text(160017_text), kReportPoints, LanguageTexts().RightToLeft()))
             details.Bookmarks.push_back({heading.Text, heading.Level, heading.Page, height * (1 - heading.Top)});
     }
     details.Author = paper.Author;

@@ -14,7 +14,8 @@ namespace lithmark {
 
 namespace {
 
-constexpr int kHalfPoints = 18;                    // 9 pt
+constexpr int kHalfPoints = 2 * kReportPoints;
+constexpr int kLineTwips = 201;                    // from line to line
 constexpr double kCellOfFont = 0.602;              // a character's width, in parts of the font's size
 constexpr int kTwipsPerPoint = 20, kWidth = 9638;  // of A4 between margins of 20 mm
 constexpr int kTwipsPerUnit = 15;                  // of a figure, 1/96 inch
@@ -143,8 +144,8 @@ class RtfReport {
 
     void Paragraph(std::size_t index, bool keepsNext) {
         rtf_ += Direction() + (keepsNext ? "\\keepn" : "") +
-                (outline_[index] >= 0 ? "\\outlinelevel" + std::to_string(outline_[index]) : "") + "\\sl-226\\slmult0" +
-                Letters(0, halfPoints_[index]);
+                (outline_[index] >= 0 ? "\\outlinelevel" + std::to_string(outline_[index]) : "") + "\\sl-" +
+                std::to_string(kLineTwips) + "\\slmult0" + Letters(0, halfPoints_[index]);
         Content(index);
     }
 

@@ -31,12 +31,25 @@ int CellsOf(const std::string& text) {
     return static_cast<int>(CharacterCount(text)) - isolates(CodePoints(text)) - LigatureCount(text);
 }
 
-// The words of a text; what stands between isolates is one word.
+bool IsNumber(const std::string& word) {
+    return word.find_first_of("0123456789") != std::string::npos &&
+           word.find_first_not_of("0123456789.,+-E") == std::string::npos;
+}
+
+bool IsSign(const std::string& word) {
+    return word == "=" || word == "-" || word == "+";
+}
+
+// The words of a text; what stands between isolates is one word, a number with its unit ("1.244 cm"), a formula
+// ("t - 1").
 std::vector<std::string> WordsOf(const std::string& text) {
     std::vector<std::string> words;
+    std::string before;
     bool open = false;
     for (const std::string& piece : Split(text, ' ')) {
-        if (open && !words.empty())
+        const bool kept = open || IsNumber(before) || IsSign(before) || IsSign(piece);
+        before = piece;
+        if (kept && !words.empty())
             words.back() += " " + piece;
         else
             words.push_back(piece);
@@ -150,10 +163,15 @@ std::string StepTablesText() {
     return text;
 }
 
-std::string ReportWith(Behind parts) {
+DocumentParts& PartsChosen() {
+    static DocumentParts parts;
+    return parts;
+}
+
+std::string ReportWith(const DocumentParts& parts) {
     std::string text = Session.ResultText;
-    if (parts == Behind::Notices || parts == Behind::NoticesAndTables) text += NoticeBox();
-    if (parts == Behind::Tables || parts == Behind::NoticesAndTables) text += StepTablesText();
+    if (parts.Notices) text += NoticeBox();
+    if (parts.Tables) text += StepTablesText();
     return text;
 }
 

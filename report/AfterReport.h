@@ -12,9 +12,17 @@ std::string NoticeBox();
 // Heading and tables, in the same form. Without a table: a line that says so.
 std::string StepTablesText();
 
-enum class Behind { Nothing, Notices, Tables, NoticesAndTables };
+// What a document has besides the report.
+struct DocumentParts {
+    bool Notices = true;   // in a box
+    bool Tables = false;   // for a check by hand
+    bool Figures = false;  // the curves and contour lines of the results
+};
+// What the user has chosen for documents: in the viewer, which begins with the parts above, in the preview of the
+// printer, or where a document is saved.
+DocumentParts& PartsChosen();
 
-// Session.ResultText with what is asked for behind it.
-std::string ReportWith(Behind parts);
+// Session.ResultText with what the parts put behind it as text.
+std::string ReportWith(const DocumentParts& parts);
 
 }  // namespace lithmark

@@ -19,8 +19,10 @@ std::string Bare(const std::string& label) {
     return bracketed ? label.substr(1, label.size() - 2) : label;
 }
 
+// A value and its unit read from left to right, but for a unit that is a word of the language ("7 weeks"): then the
+// first strong letter decides.
 std::string Isolated(const std::string& text) {
-    return LanguageTexts().RightToLeft() ? "\u2066" + text + "\u2069" : text;
+    return LanguageTexts().RightToLeft() ? "\u2068" + text + "\u2069" : text;
 }
 
 std::string Digits(double value) {

@@ -1,7 +1,7 @@
 // Measured values as words of a sentence: four digits and the unit in force, "0.0253 cm".
 //
-// In Arabic a value is kept together with its unit by isolates. Arguments are in base units (m, kN, kN/m2, cm for
-// settlements).
+// In Arabic a value is kept together with its unit by isolates, which read in the direction of the unit. Arguments are
+// in base units (m, kN, kN/m2, cm for settlements).
 #pragma once
 
 #include <string>

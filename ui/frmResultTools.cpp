@@ -28,6 +28,11 @@ std::string ReportFont() {
     return Text(160017_text);
 }
 
+// The report as it goes to other programs' texts: what is no document has no notices.
+std::string SentText() {
+    return ReportWith({.Notices = false, .Tables = PartsChosen().Tables});
+}
+
 }  // namespace
 
 frmResultTools::frmResultTools() : Form("frmResultTools") {
@@ -40,8 +45,9 @@ frmResultTools::frmResultTools() : Form("frmResultTools") {
     cmdok.OnClick = [this] { cmdok_Click(); };
     cmdHelp.OnClick = [this] { cmdHelp_Click(); };
     chkTables.OnClick = [this] { chkTables_Click(); };
+    chkNotices.OnClick = [this] { chkNotices_Click(); };
+    chkFigures.OnClick = [this] { chkFigures_Click(); };
     lstNotices.OnClick = [this] { lstNotices_Click(); };
-    chkNotices.Value = true;
 }
 
 void frmResultTools::Load() {
@@ -56,14 +62,18 @@ void frmResultTools::Load() {
                  {lblNotices, 907200_text, Styles::Heading},
                  {chkTables, 907261_text, Styles::Button},
                  {chkNotices, 907262_text, Styles::Button},
+                 {chkFigures, 911300_text, Styles::Button},
                  {cmdok, 6_text, Styles::Button},
                  {cmdHelp, 8_text, Styles::Button}});
     const ProblemRow* problem = FindProblem(Session.ProblemType);
     if (problem != nullptr) Caption = Text(problem->Subject);
     CmdExcel.Enabled = problem != nullptr && problem->Curves != CurveFamily::None;
     cmdVERDA.Enabled = problem != nullptr && problem->HandsOver;
+    chkFigures.Visible = CmdExcel.Enabled;
     txtResult.ReadOnly = true;
     txtResult.FontName = ReportFont();
+    PartsChosen() = {};
+    ShowParts();
     chkTables_Click();
     ShowNotices();
 }
@@ -78,7 +88,22 @@ void frmResultTools::ShowNotices() {
         Caption = Text(907260_text, {{"|1", Caption}, {"|2", NumberToText(static_cast<int>(lstNotices.Items.size()))}});
 }
 
+void frmResultTools::ShowParts() {
+    chkTables.Value = PartsChosen().Tables;
+    chkNotices.Value = PartsChosen().Notices;
+    chkFigures.Value = PartsChosen().Figures;
+}
+
+void frmResultTools::chkNotices_Click() {
+    PartsChosen().Notices = chkNotices.Value;
+}
+
+void frmResultTools::chkFigures_Click() {
+    PartsChosen().Figures = chkFigures.Value;
+}
+
 void frmResultTools::chkTables_Click() {
+    PartsChosen().Tables = chkTables.Value;
     txtResult.Text = FirstCharacters(Session.ResultText, kShownCharacters);
     if (chkTables.Value) txtResult.Text += StepTablesText();
 }
@@ -91,15 +116,6 @@ void frmResultTools::lstNotices_Click() {
     });
 }
 
-std::string frmResultTools::SentText() const {
-    return ReportWith(chkTables.Value ? Behind::Tables : Behind::Nothing);
-}
-
-std::string frmResultTools::DocumentText() const {
-    if (!chkNotices.Value) return SentText();
-    return ReportWith(chkTables.Value ? Behind::NoticesAndTables : Behind::Notices);
-}
-
 void frmResultTools::ShowContours() {
     UnderCommonStep([] {
         Session.ContourResult = Session.CurveChoice;
@@ -109,12 +125,14 @@ void frmResultTools::ShowContours() {
 }
 
 void frmResultTools::cmdPrinter_Click() {
-    UnderCommonStep(
-        [this] { CurrentHost().PrintText(DocumentText(), ReportFont(), kFontSize, LanguageTexts().RightToLeft()); });
+    UnderCommonStep([] {
+        CurrentHost().PrintText(ReportWith(PartsChosen()), ReportFont(), kFontSize, LanguageTexts().RightToLeft());
+    });
+    ShowParts();
 }
 
 void frmResultTools::CmdTextEditor_Click() {
-    UnderCommonStep([this] { FileTools().ShowTextEditor(Session.ProgramDir, SentText()); });
+    UnderCommonStep([] { FileTools().ShowTextEditor(Session.ProgramDir, SentText()); });
 }
 
 void frmResultTools::CmdExcel_Click() {
@@ -131,13 +149,15 @@ void frmResultTools::CmdExcel_Click() {
 }
 
 void frmResultTools::cmdWord_Click() {
-    UnderCommonStep([this] {
-        CurrentHost().OpenWordProcessor(DocumentText(), ReportFont(), kFontSize, LanguageTexts().RightToLeft());
+    UnderCommonStep([] {
+        CurrentHost().OpenWordProcessor(ReportWith(PartsChosen()), ReportFont(), kFontSize,
+                                        LanguageTexts().RightToLeft());
     });
+    ShowParts();
 }
 
 void frmResultTools::cmdClipboard_Click() {
-    UnderCommonStep([this] { CurrentHost().SetClipboardText(SentText()); });
+    UnderCommonStep([] { CurrentHost().SetClipboardText(SentText()); });
 }
 
 void frmResultTools::cmdVERDA_Click() {

@@ -20,13 +20,13 @@ class frmResultTools : public Form {
     Button cmdok{*this, "cmdok"}, cmdHelp{*this, "cmdHelp"};
     TextLabel lblNotices{*this, "lblNotices"};
     ListBox lstNotices{*this, "lstNotices"};
-    CheckBox chkTables{*this, "chkTables"}, chkNotices{*this, "chkNotices"};
+    CheckBox chkTables{*this, "chkTables"}, chkNotices{*this, "chkNotices"}, chkFigures{*this, "chkFigures"};
 
     void Load() override;
 
     // All of these send the whole report, with the tables behind it when they are shown. To the printer and the word
-    // processor the notices go in a box behind the report, unless their box is unticked. A failure is told and ends the
-    // step alone.
+    // processor the notices go in a box behind the report, unless their box is unticked, and the results' figures when
+    // theirs is ticked. A failure is told and ends the step alone.
     void cmdPrinter_Click();
     void CmdTextEditor_Click();
     void CmdExcel_Click();
@@ -38,15 +38,15 @@ class frmResultTools : public Form {
     void cmdok_Click() { Unload(); }
     void cmdHelp_Click();
     void chkTables_Click();
+    void chkNotices_Click();
+    void chkFigures_Click();
+    // The boxes as the parts of documents are chosen; a preview changes them too.
+    void ShowParts();
     // The manual's section of the notice that is selected.
     void lstNotices_Click();
 
-    // The report as documents have it.
-    std::string DocumentText() const;
-
   private:
     void ShowNotices();
-    std::string SentText() const;
 };
 
 // The viewer for SetResultViewer.

@@ -29,6 +29,7 @@ static const LayoutOf<frmResultTools> kLayout([](FormView& view, frmResultTools&
     text->addWidget(view.Place(form.lstNotices));
     text->addWidget(view.Place(form.chkTables));
     text->addWidget(view.Place(form.chkNotices));
+    text->addWidget(view.Place(form.chkFigures));
 
     // The buttons scroll where the screen is small; those that end the window stay.
     auto* ways = new QWidget;
@@ -41,8 +42,11 @@ static const LayoutOf<frmResultTools> kLayout([](FormView& view, frmResultTools&
     auto* save = new QPushButton(Q(Text(9_text, Styles::DialogButton)), &view);
     save->setObjectName(QStringLiteral("cmdSaveAs"));
     save->setAutoDefault(false);
-    QObject::connect(save, &QPushButton::clicked, &view,
-                     [&view, &form] { SaveReport(&view, form.DocumentText(), form.chkTables.Value); });
+    QObject::connect(save, &QPushButton::clicked, &view, [&view, &form] {
+        SaveReport(&view);
+        form.ShowParts();
+        view.Refresh();
+    });
     buttons->addWidget(save);
     buttons->addStretch(1);
     auto* side = new QVBoxLayout;

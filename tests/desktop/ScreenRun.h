@@ -44,6 +44,7 @@ class ScreenRun {
         frame_.SetWindow(&window_);
         host_.SetFrame(&window_);
         host_.StatusNotice = [this](const QString& notice) { window_.ShowNotice(notice); };
+        host_.OpenExample = [this](const std::string& name) { frame_.OpenExample(name); };
         frame_.SetClock([now = 0LL]() mutable { return now += 1000; });
         QObject::connect(&timer_, &QTimer::timeout, [this] { Play(); });
         timer_.start(10);

@@ -1,6 +1,7 @@
 // The manual in the program: F1 shows the page in the language, with its pictures, and every link leads somewhere.
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
+#include <QMessageBox>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTextTable>
@@ -13,9 +14,14 @@
 #include "support/Places.h"
 #include "ui/frmConsolidation.h"
 #include "ui/frmUnits.h"
+#include "ui/frmstress.h"
 
 namespace lithmark::tests {
 namespace {
+
+using ::testing::HasSubstr;
+using ::testing::Not;
+using ::testing::StartsWith;
 
 const std::filesystem::path kDocs = SourceDir() / "docs";
 
@@ -81,6 +87,7 @@ TEST_F(ManualOnScreen, PagesAreThoseOfTheDocumentation) {
     for (const char* name : {"notices", "manual/de/notices", "manual/ar/notices", "manual", "raft-theory",
                              "manual/en/problem-1", "manual/ar/words"})
         EXPECT_EQ(ManualPage(name), ReadBytes(kDocs / (std::string(name) + ".md"))) << name;
+    EXPECT_EQ(ManualPage("changes"), ReadBytes(SourceDir() / "CHANGELOG.md"));
     EXPECT_EQ(ManualPage("manual/pictures/raft.svg"), ReadBytes(kDocs / "manual/pictures/raft.svg"));
     EXPECT_EQ(ManualPage("7_7"), "");
 }
@@ -89,6 +96,7 @@ TEST_F(ManualOnScreen, TopicsHavePagesInTheLanguage) {
     EXPECT_EQ(PageOfTopic("Titel"), "manual/en/index");
     EXPECT_EQ(PageOfTopic("2"), "manual/en/which-problem");
     EXPECT_EQ(PageOfTopic("7_2"), "project-files");
+    EXPECT_EQ(PageOfTopic("verda_new"), "changes");
     EXPECT_EQ(PageOfTopic("notices#raft-tension"), "notices#raft-tension");
     EXPECT_EQ(PageOfTopic("no such topic"), "");
     LanguageTexts().SetCurrent(Language::German);
@@ -113,25 +121,119 @@ TEST_F(ManualOnScreen, HeadingsBeginWhereThePagesLinesDo) {
     }
 }
 
-// Links of the pages lead to pages of the program; those to projects and to the sources to files that are there.
+// The pages that the program brings along.
+std::vector<std::string> Pages() {
+    std::vector<std::string> pages = {"changes"};
+    for (const auto& file : std::filesystem::recursive_directory_iterator(kDocs)) {
+        std::filesystem::path name = std::filesystem::relative(file.path(), kDocs);
+        if (name.extension() != ".md") continue;
+        if (!ManualPage(name.replace_extension().string()).empty()) pages.push_back(name.string());
+    }
+    return pages;
+}
+
+std::vector<std::string> LinksOf(const std::string& text) {
+    static const std::regex link(R"((^|[^!])\[[^\]]*\]\(([^)\s]+)\))");
+    std::vector<std::string> links;
+    for (std::sregex_iterator it(text.begin(), text.end(), link), end; it != end; ++it) links.push_back((*it)[2]);
+    return links;
+}
+
+// In the files every link leads to something that is there; in the window to a page or to an example that opens.
 TEST_F(ManualOnScreen, EveryLinkLeadsSomewhere) {
-    const std::regex link(R"(\]\(([^)\s]+)\))");
-    int links = 0;
-    for (const char* folder : {"manual/en", "manual/de", "manual/ar"})
-        for (const auto& file : std::filesystem::directory_iterator(kDocs / folder)) {
-            const std::string name = std::string(folder) + "/" + file.path().stem().string();
-            const std::string text = ManualPage(name);
-            ASSERT_FALSE(text.empty()) << name;
-            for (std::sregex_iterator it(text.begin(), text.end(), link), end; it != end; ++it, ++links) {
-                const std::string target = (*it)[1];
-                if (!PageOfLink(name, target).empty()) continue;
-                EXPECT_TRUE(std::filesystem::exists(file.path().parent_path() / target)) << name << ": " << target;
-            }
+    int links = 0, examples = 0;
+    EXPECT_GT(Pages().size(), 40u);
+    for (const std::string& page : Pages()) {
+        for (const std::string& link : LinksOf(ManualPage(page))) {
+            if (!PageOfLink(page, link).empty() || link.starts_with("http")) continue;
+            const std::string file = link.substr(0, link.find('#'));
+            EXPECT_TRUE(std::filesystem::exists((kDocs / page).parent_path() / file)) << page << ": " << link;
         }
-    EXPECT_GT(links, 100);
+        for (const std::string& link : LinksOf(ShownPage(page))) {
+            const std::string example = ExampleOfLink(page, link);
+            EXPECT_TRUE(!example.empty() || !PageOfLink(page, link).empty()) << page << ": " << link;
+            ++links;
+            examples += example.empty() ? 0 : 1;
+        }
+    }
+    EXPECT_GT(links, 200);
+    EXPECT_GT(examples, 20);
     EXPECT_EQ(PageOfLink("manual/en/problem-4", "problem-3.md#sketch"), "manual/en/problem-3#sketch");
     EXPECT_EQ(PageOfLink("manual/en/problem-4", "../../notices.md"), "notices");
     EXPECT_EQ(PageOfLink("notices", "#raft-tension"), "notices#raft-tension");
+    EXPECT_EQ(ExampleOfLink("manual/en/problem-4", "../../../examples/ClayUnderTank"), "ClayUnderTank");
+    EXPECT_EQ(ExampleOfLink("manual/en/problem-4", "../../../examples/README.md"), "");
+    EXPECT_EQ(ExampleOfLink("manual/en/problem-4", "../examples/ClayUnderTank"), "");
+}
+
+TEST_F(ManualOnScreen, WordsOfALinkThatLeadsOutStay) {
+    EXPECT_THAT(ManualPage("verification/stress-point"), HasSubstr("[PointLoadStresses](../../tests/"));
+    const std::string shown = ShownPage("verification/stress-point");
+    EXPECT_THAT(shown, HasSubstr("PointLoadStresses"));
+    EXPECT_THAT(shown, Not(HasSubstr("(../../tests/")));
+    EXPECT_THAT(ShownPage("manual/de/problem-1"), StartsWith("# Aufgabe 1"));
+}
+
+void ClickOnLink(QWidget& manual, const QString& link) {
+    auto& browser = Child<QTextBrowser>(manual, "manualPage");
+    for (QTextBlock block = browser.document()->begin(); block.isValid(); block = block.next())
+        for (auto piece = block.begin(); !piece.atEnd(); ++piece) {
+            if (piece.fragment().charFormat().anchorHref() != link) continue;
+            QTextCursor cursor(browser.document());
+            cursor.setPosition(piece.fragment().position() + 2);
+            browser.setTextCursor(cursor);
+            browser.ensureCursorVisible();
+            QTest::mouseClick(browser.viewport(), Qt::LeftButton, {}, browser.cursorRect(cursor).center());
+            return;
+        }
+    ADD_FAILURE() << "no link " << link.toStdString();
+}
+
+class ExamplesOfTheManual : public ManualOnScreen {
+  protected:
+    ExamplesOfTheManual() {
+        std::filesystem::create_directory(settings_ / "data");
+        WriteBytes(settings_ / "STEU", settings_ / "data/" + "\r\n0\r\n");
+    }
+    std::string Copy(const std::string& name) const { return settings_ / ("data/Lithmark/" + name); }
+    static constexpr const char* kLink = "../../../examples/PointLoad";
+};
+
+TEST_F(ExamplesOfTheManual, ALinkOpensACopy) {
+    ScreenRun run(settings_.Dir());
+    run.Start();
+    for (const std::string folder : {"PointLoad", "PointLoad-2"}) {
+        run.In("manualWindow", [](QWidget& manual) { ClickOnLink(manual, kLink); });
+        SharedServices().ShowHelpTopic("problem-1");
+        EXPECT_EQ(run.Window().windowTitle(), "Lithmark - [PointLoad]");
+        EXPECT_EQ(Session.DataDir, Copy(folder + "/"));
+        for (const char* file : {"PointLoad.PO3", "PointLoad.AUF", "PointLoad.SSD"})
+            EXPECT_EQ(ReadBytes(Copy(folder + "/" + file)), ReadBytes(SourceDir() / "examples/PointLoad" / file));
+    }
+}
+
+// What a dialog works on stays until it is closed.
+TEST_F(ExamplesOfTheManual, NoneIsOpenedUnderADialog) {
+    ScreenRun run(settings_.Dir());
+    run.Start();
+    Session.ProblemType = 1;
+    run.In("frmstress", [&](QWidget& dialog) {
+        run.In("manualWindow", [&](QWidget& manual) {
+            run.In("messageBox", [](QWidget& box) {
+                EXPECT_TRUE(dynamic_cast<QMessageBox&>(box).text().startsWith(QStringLiteral("The example PointLoad")));
+                box.close();
+            });
+            ClickOnLink(manual, kLink);
+            EXPECT_TRUE(manual.isVisible());
+            ClickOn(manual, "cmdok");
+        });
+        QTest::keyClick(&dialog, Qt::Key_F1);
+        dialog.close();
+    });
+    frmstress form;
+    CurrentHost().ShowForm(form);
+    EXPECT_FALSE(run.Frame().ProjectOpen());
+    EXPECT_FALSE(std::filesystem::exists(settings_ / "data/Lithmark"));
 }
 
 }  // namespace

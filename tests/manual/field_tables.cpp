@@ -6,8 +6,8 @@
 #include <string>
 
 #include "AllForms.h"
+#include "ChangedField.h"
 #include "FormTest.h"
-#include "core/SessionFields.h"
 #include "core/Units.h"
 
 using namespace lithmark;
@@ -17,28 +17,6 @@ using nlohmann::ordered_json;
 namespace {
 
 constexpr int kProblems = 10;
-
-// Every field and element of Session as text, "hLayer(2)" for an element.
-std::map<std::string, std::string> AllValues() {
-    std::map<std::string, std::string> values;
-    for (const SessionField& field : SessionFields()) {
-        const std::string name(field.Name);
-        if (SessionValue(name)) values[name] = SessionValue(name)->Text;
-        for (int i = 1; i <= 2; ++i)
-            if (const auto element = SessionValue(name + "(" + std::to_string(i) + ")"))
-                values[name + "(" + std::to_string(i) + ")"] = element->Text;
-    }
-    return values;
-}
-
-// The field that an action changes; empty when it changes none.
-std::string FieldChangedBy(const std::function<void()>& act) {
-    const auto before = AllValues();
-    act();
-    for (const auto& [name, value] : AllValues())
-        if (before.at(name) != value) return name;
-    return {};
-}
 
 ordered_json LimitOf(const FieldForm& form, const Limit& limit, double factor) {
     const auto number = [&] { return limit.Shown(factor, kNoLimit); };
@@ -82,10 +60,7 @@ class Tables : public FormTest {
         ordered_json boxes = ordered_json::array(), choices = ordered_json::array();
         for (const FieldRow& row : form.Fields()) {
             if (!row.Field.Exists()) continue;
-            const double kept = row.Field.Get(Session);
-            StoredField field = row.Field;
-            const std::string name = FieldChangedBy([&] { field.Set(Session, 7654); });
-            field.Set(Session, kept);
+            const std::string name = NameOf(row.Field);
             const double factor = FactorOf(row.In.In);
             boxes.push_back({{"field", name},
                              {"symbol", row.Symbol.Says.Text()},
@@ -99,13 +74,11 @@ class Tables : public FormTest {
         for (const ChoiceRow& row : form.Choices()) {
             if (!row.Field.Exists()) continue;
             const int kept = row.Field.PositionIn(Session);
-            std::string name;
+            const std::string name = NameOf(row.Field);
             ordered_json positions = ordered_json::array();
             const int count = row.Captions.size() > 1 ? static_cast<int>(row.Captions.size()) : 2;
             for (int position = 0; position < count; ++position) {
-                row.Field.Store(Session, position == 0 ? 1 : 0);
-                const std::string changed = FieldChangedBy([&] { row.Field.Store(Session, position); });
-                if (name.empty()) name = changed;
+                row.Field.Store(Session, position);
                 const std::size_t caption = row.Captions.size() > 1 ? static_cast<std::size_t>(position) : 0;
                 positions.push_back({{"value", AllValues().at(name)}, {"caption", row.Captions[caption].Text()}});
             }

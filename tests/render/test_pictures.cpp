@@ -71,6 +71,24 @@ testing::AssertionResult MatchesPicture(const std::string& name, const std::stri
 class Pictures : public RenderTest {};
 class PictureGolden : public RenderTest {};
 
+// A viewer takes a run of text to be from left to right unless it is told: blanks and colons of Arabic words would
+// stand at their wrong ends.
+TEST_F(PictureGolden, ArabicRunsOfAnSvgHaveTheirDirection) {
+    RunExample("TwoClayLayers", Language::Arabic);
+    QXmlStreamReader xml(QByteArray::fromStdString(ChartSvg(BuildChart())));
+    int arabic = 0;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement || xml.name() != QLatin1String("text")) continue;
+        const QString run = xml.readElementText();
+        const bool letters =
+            std::any_of(run.begin(), run.end(), [](QChar c) { return c.script() == QChar::Script_Arabic; });
+        EXPECT_EQ(run.startsWith(QChar(0x200F)) && run.endsWith(QChar(0x200F)), letters) << run.toStdString();
+        arabic += letters ? 1 : 0;
+    }
+    EXPECT_FALSE(xml.hasError());
+    EXPECT_GT(arabic, 4);
+}
+
 TEST_F(PictureGolden, ChartsAndContoursLookAsTheyDid) {
     RunExample("OfficeBuilding", Language::German);
     EXPECT_TRUE(MatchesPicture("chart_tab4_de.png", ChartPng(Chart("Tab4"))));

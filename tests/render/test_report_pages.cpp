@@ -144,6 +144,10 @@ TEST_F(ReportPages, NumbersAndUnitsAreKeptWholeBetweenIsolates) {
     EXPECT_EQ(RightToLeft("   12   34"), "   \u206612\u2069   \u206634\u2069") << "cells stay apart";
     EXPECT_EQ(RightToLeft("1 2"), "\u20661\u2069 \u20662\u2069") << "cells one blank apart too";
     EXPECT_EQ(RightToLeft("21 November 2026"), "\u206621 November 2026\u2069") << "a phrase reads as one";
+    EXPECT_EQ(RightToLeft("q-impossible: q = 7.5 kN/m² أكبر"),
+              "\u2066q-impossible:\u2069 \u2066q = 7.5 kN/m²\u2069 أكبر")
+        << "so does a formula, behind the name of its notice";
+    EXPECT_EQ(RightToLeft("t - 1 الزمن"), "\u2066t - 1\u2069 الزمن");
     EXPECT_EQ(DisplayTexts({"a  1"}, false).front(), "a  1") << "other languages need nothing";
 }
 

@@ -109,7 +109,8 @@ TEST_F(NoticesTest, MeasuredValuesHaveFourDigitsAndTheUnitInForce) {
 
 TEST_F(NoticesTest, ArabicKeepsAValueAndItsUnitTogether) {
     LanguageTexts().SetCurrent(Language::Arabic);
-    EXPECT_EQ(MeasuredLength(12), "\u206612 m\u2069");
+    EXPECT_EQ(MeasuredLength(12), "\u206812 m\u2069");
+    EXPECT_EQ(MeasuredIn(7, Text(10002_text)), "\u20687 أسبوع\u2069");
 }
 
 }  // namespace

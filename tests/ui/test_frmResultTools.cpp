@@ -173,11 +173,30 @@ TEST_F(ViewerOfNotices, StandInDocumentsUnlessTheyAreLeftOut) {
         Click(viewer, "cmdPrinter");
         Click(viewer, "cmdClipboard");
         viewer.chkNotices.Value = false;
+        viewer.chkNotices_Click();
         Click(viewer, "cmdWord");
     });
     EXPECT_EQ(host.Printed.at(0).Text, kReport + NoticeBox());
     EXPECT_EQ(host.WordTexts.at(0).Text, kReport);
     EXPECT_THAT(host.ClipboardTexts, ElementsAre(kReport));
+}
+
+// Whoever prints looks at PartsChosen; a preview may choose anew, and the viewer shows it then.
+TEST_F(Viewer, TheFiguresOfDocumentsAreChosenForProblemsThatHaveSome) {
+    OnViewer(1, [](frmResultTools& viewer) { EXPECT_FALSE(viewer.chkFigures.Visible); });
+    OnViewer(5, [](frmResultTools& viewer) {
+        EXPECT_TRUE(viewer.chkFigures.Visible);
+        EXPECT_FALSE(viewer.chkFigures.Value || PartsChosen().Figures);
+        viewer.chkFigures.Value = true;
+        viewer.chkFigures_Click();
+        EXPECT_TRUE(PartsChosen().Figures);
+        PartsChosen() = {.Notices = false};
+        Click(viewer, "cmdPrinter");
+        EXPECT_FALSE(viewer.chkFigures.Value || viewer.chkNotices.Value);
+    });
+    OnViewer(5, [](frmResultTools& viewer) {
+        EXPECT_TRUE(viewer.chkNotices.Value && PartsChosen().Notices) << "a new viewer begins anew";
+    });
 }
 
 TEST_F(Viewer, WithoutANoticeNothingOfThemIsShown) {

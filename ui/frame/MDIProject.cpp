@@ -6,6 +6,7 @@
 #include "core/Catalogue.h"
 #include "core/Session.h"
 #include "files/CommonStep.h"
+#include "files/ExampleProjects.h"
 #include "files/GloableVariable.h"
 #include "files/ProjectCopy.h"
 #include "files/ProjectFiles.h"
@@ -207,6 +208,13 @@ void MDITools::ChangeProject(const std::string& file) {
     FileDialogs().SplitProjectPath(file, Session.DataDir, Session.ProjectName);
     OpenProject();
     if (ProjectOpen()) AddToRecentFiles(OpenProjectPath() + ".PO3");
+}
+
+void MDITools::OpenExample(const std::string& name) {
+    UnderCommonStep([&] {
+        if (MayLeaveProject()) ChangeProject(CopyExample(name));
+    });
+    Refresh();
 }
 
 void MDITools::mnuSaveProjectAs_Click() {

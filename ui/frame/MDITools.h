@@ -105,6 +105,8 @@ class MDITools : public Form {
     void ProjectCheck(int ask, bool& ok);
     void mnuNewProject_Click();
     void mnuOpenProject_Click();
+    // Leaves the open project for a copy of an example.
+    void OpenExample(const std::string& name);
     void mnuSaveProjectAs_Click();
     void mnuFileList_Click();
     void MnuRecentFile_Click(int index);

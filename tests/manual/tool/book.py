@@ -37,9 +37,9 @@ class Book:
         return self.sizes[project, run, quantity]
 
     def message(self, numbers, language):
-        """A text with dots where the program puts in what it is about; A+B is one behind the other, A>B is B in A."""
+        """A text with dots where the program puts in what it is about; A+B has that between A and B, A>B is B in A."""
         outer, _, cause = numbers.partition(">")
-        words = " ".join(self.texts[int(number)][language] for number in outer.split("+"))
+        words = "…".join(self.texts[int(number)][language] for number in outer.split("+"))
         if cause:
             words = words.replace("|3", self.texts[int(cause)][language])
         return re.sub(r"\|\d", "…", words)

@@ -32,4 +32,9 @@ def example_lines(project, name):
     return (EXAMPLES / project / "settings" / name).read_text(encoding="utf-8").replace("\r", "").split("\n")
 
 
-NAMES = {"formats_of": formats_of, "units_of": units_of, "preference": preference, "example_lines": example_lines}
+def code(text):
+    """As it stands in the file; nothing for no text."""
+    return f"`{text}`" if text else ""
+
+
+NAMES = {"code": code, "formats_of": formats_of, "units_of": units_of, "preference": preference, "example_lines": example_lines}

@@ -57,7 +57,9 @@ class Page:
                 self._line(line)
             except Exception as error:
                 raise Failed(f"{self.path.name}:{number} ({self.language}): {type(error).__name__}: {error}") from error
-        return re.sub(r"\n{3,}", "\n\n", "\n".join(self.out)).strip() + "\n"
+        text = re.sub(r"\n{3,}", "\n\n", "\n".join(self.out)).strip() + "\n"
+        self.wrong += foreign_signs(text, self.language, self.path.name)
+        return text
 
     def _line(self, line):
         if not line.startswith("%given"):
@@ -71,6 +73,8 @@ class Page:
         self._put(INLINE.sub(self._inline, line))
 
     def _put(self, line):
+        if line.startswith("> ") and self.out and self.out[-1].startswith("> "):
+            self.out.append(">")  # a formula of its own, on a line of its own
         if self.listed and line and not re.match(r"\d+\. ", line):
             self.out.append("")  # a list ends with an empty line
         self.listed = bool(re.match(r"\d+\. ", line))
@@ -118,8 +122,6 @@ class Page:
 
     def _do_f(self, rest):
         """A formula, on a line of its own."""
-        if self.out and self.out[-1].startswith(">"):
-            self.out.append(">")
         self._put("> " + INLINE.sub(self._inline, rest))
 
     def _do_note(self, rest):
@@ -184,7 +186,7 @@ class Page:
             self.wrong.append(f"{self.path.name}: fields that the table lacks: {', '.join(sorted(missing))}")
 
     def _do_message(self, rest):
-        """A row of the table of messages: NUMBER ; English ; German. Numbers may be A+B, one behind the other, or A>B, B in A."""
+        """A row of the table of messages: NUMBER ; English ; German. Numbers may be A+B, what the program puts in between, or A>B, B in A."""
         number, *means = _parts(rest)
         if not self.out[-1].startswith("|"):
             self._head({"en": ("message", "means, and what to do"), "de": ("Meldung", "Bedeutung und Abhilfe")})
@@ -206,9 +208,18 @@ class Page:
         self.out.append(f"![{words.strip()}](../pictures/{name}.svg)")
 
 
+def foreign_signs(text, language, name):
+    """Numbers with a point in a German page. What stands as `code` is as files and scripts have it."""
+    if language != "de":
+        return []
+    prose = re.sub(r"`[^`]*`|\]\([^)]*\)", "", re.sub(r"(?ms)^```.*?^```", "", text))
+    return [f"{name} (de): a number with a point: {line.strip()}" for line in prose.split("\n") if re.search(r"\d\.\d", line)]
+
+
 def lowered(line):
-    """σ_z with its index lowered, outside of `code` and links."""
+    """σ_z with its index lowered, u_(i+1) with a longer one, outside of `code` and links."""
     parts = re.split(r"(`[^`]*`|\]\([^)]*\))", line)
     for i in range(0, len(parts), 2):
-        parts[i] = re.sub(r"(?<![A-Za-z0-9_])(Δ?[A-Za-zα-ωΣ]|log)_([A-Za-z0-9]+)", r"\1<sub>\2</sub>", parts[i])
+        parts[i] = re.sub(r"(?<![A-Za-z0-9_])(Δ?[A-Za-zα-ωΣ]|log)_(?:([A-Za-z0-9]+)|\(([^()]+)\))",
+                          lambda m: f"{m[1]}<sub>{m[2] or m[3]}</sub>", parts[i])
     return "".join(parts)

@@ -1,0 +1,230 @@
+// What documents have besides the report is chosen once, in the viewer, in the preview or where a document is saved;
+// the company's logo.
+#include <gmock/gmock.h>
+
+#include <QCheckBox>
+#include <QFileDialog>
+#include <QImage>
+#include <QMessageBox>
+#include <QPrintPreviewWidget>
+#include <QToolBar>
+
+#include "ScreenRun.h"
+#include "render/ReportPaper.h"
+#include "report/Notices.h"
+#include "support/Places.h"
+
+namespace lithmark::tests {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::Not;
+
+void ChooseFile(QWidget& dialog, const std::string& path) {
+    auto& name = Child<QLineEdit>(dialog, "fileNameEdit");
+    name.setText(QString::fromStdString(path));
+    QTest::keyClick(&name, Qt::Key_Return);
+}
+
+int Count(const std::string& text, const std::string& part) {
+    int count = 0;
+    for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + part.size())) ++count;
+    return count;
+}
+
+// Pictures of an RTF document.
+int FiguresIn(const std::string& file) {
+    return Count(ReadBytes(file), "\\pngblip");
+}
+
+class DocumentsOfARaft : public ::testing::Test {
+  protected:
+    DocumentsOfARaft() {
+        std::filesystem::create_directory(folder_ / "settings");
+        std::filesystem::copy(SourceDir() / "examples/SquareRaft", folder_ / "data");
+    }
+    // The result window of the example, after its calculation.
+    void InViewer(const std::function<void(ScreenRun&, QWidget&)>& step) {
+        ScreenRun run(folder_ / "settings/", folder_ / "data/SquareRaft.PO3");
+        run.Start();
+        run.In("frmRigidDisplacement", [](QWidget& form) {
+            ClickOn(form, "cmdResult");
+            ClickOn(form, "CmdOK");
+        });
+        run.In("frmResultTools", [&](QWidget& viewer) {
+            // A notice, so that there is something to choose about them.
+            Notices().Raise(NoticeId::RaftTension, 907003_text, {"-121 kN/m²", "12.5 %", "314 kN/m²"});
+            step(run, viewer);
+            ClickOn(viewer, "cmdok");
+        });
+        run.Menu("mnuProblem(9)");
+        Notices().Clear();
+    }
+    // The drawing stands in every document; two curves and two contour plots come by choice.
+    static constexpr int kDrawing = 1, kAll = 5;
+
+    TestFolder folder_;
+};
+
+TEST_F(DocumentsOfARaft, ThePreviewShowsWhatIsChosenAndSavesIt) {
+    InViewer([&](ScreenRun& run, QWidget& viewer) {
+        run.In("printPreview", [&](QWidget& preview) {
+            auto& pages = *preview.findChild<QPrintPreviewWidget*>();
+            const int before = pages.pageCount();
+            EXPECT_GE(before, 2);
+            EXPECT_FALSE(Child<QCheckBox>(preview, "chkFigures").isChecked());
+            ClickOn(preview, "chkFigures");
+            EXPECT_GT(pages.pageCount(), before);
+            const auto save = [&](const std::string& name, const std::function<void(QWidget&)>& choose) {
+                run.In("QFileDialog", [=, this](QWidget& dialog) {
+                    choose(dialog);
+                    ChooseFile(dialog, folder_ / name);
+                });
+                BackTo(preview);
+                QAction* action = preview.findChild<QAction*>(QStringLiteral("cmdSaveReport"));
+                ASSERT_NE(action, nullptr);
+                EXPECT_TRUE(action->isVisible());
+                QWidget* button = preview.findChild<QToolBar*>()->widgetForAction(action);
+                ASSERT_NE(button, nullptr);
+                EXPECT_TRUE(button->isVisible());
+                QTest::mouseClick(button, Qt::LeftButton);
+            };
+            save("all.rtf", [](QWidget& dialog) {
+                EXPECT_TRUE(Child<QCheckBox>(dialog, "chkFigures").isChecked());
+                EXPECT_TRUE(Child<QCheckBox>(dialog, "chkNotices").isChecked());
+            });
+            save("less.rtf", [](QWidget& dialog) {
+                ClickOn(dialog, "chkFigures");
+                ClickOn(dialog, "chkNotices");
+            });
+            // The preview follows what was chosen for the last document.
+            EXPECT_FALSE(Child<QCheckBox>(preview, "chkFigures").isChecked());
+            EXPECT_FALSE(Child<QCheckBox>(preview, "chkNotices").isChecked());
+            EXPECT_LE(pages.pageCount(), before);
+            BackTo(preview);
+            ClickOn(preview, "chkFigures");
+            preview.close();
+        });
+        ClickOn(viewer, "cmdPrinter");
+        EXPECT_TRUE(Child<QCheckBox>(viewer, "chkFigures").isChecked()) << "and so does the viewer";
+        EXPECT_FALSE(Child<QCheckBox>(viewer, "chkNotices").isChecked());
+    });
+    EXPECT_EQ(FiguresIn(folder_ / "all.rtf"), kAll);
+    EXPECT_THAT(ReadBytes(folder_ / "all.rtf"), HasSubstr("raft-tension"));
+    EXPECT_EQ(FiguresIn(folder_ / "less.rtf"), kDrawing);
+    EXPECT_THAT(ReadBytes(folder_ / "less.rtf"), Not(HasSubstr("raft-tension")));
+}
+
+TEST_F(DocumentsOfARaft, TheViewersSaveDialogHasTheSameChoices) {
+    InViewer([&](ScreenRun& run, QWidget& viewer) {
+        run.In("QFileDialog", [&](QWidget& dialog) {
+            EXPECT_FALSE(Child<QCheckBox>(dialog, "chkFigures").isChecked());
+            ClickOn(dialog, "chkFigures");
+            ChooseFile(dialog, folder_ / "saved.rtf");
+        });
+        ClickOn(viewer, "cmdSaveAs");
+        EXPECT_TRUE(Child<QCheckBox>(viewer, "chkFigures").isChecked());
+    });
+    EXPECT_EQ(FiguresIn(folder_ / "saved.rtf"), kAll);
+}
+
+// In the place of the desktop's opener stands one that keeps the document.
+TEST_F(DocumentsOfARaft, TheWordProcessorGetsTheFiguresOfTheViewer) {
+    const std::string kept = folder_ / "kept.rtf";
+    std::filesystem::create_directory(folder_ / "bin");
+    WriteBytes(folder_ / "bin/xdg-open",
+               "#!/bin/sh\ncp \"$1\" '" + kept + ".part' && mv '" + kept + ".part' '" + kept + "'\n");
+    std::filesystem::permissions(folder_ / "bin/xdg-open", std::filesystem::perms::owner_all);
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", QByteArray::fromStdString(folder_ / "bin:") + path);
+    InViewer([&](ScreenRun&, QWidget& viewer) {
+        ClickOn(viewer, "chkFigures");
+        ClickOn(viewer, "cmdWord");
+    });
+    qputenv("PATH", path);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(kept); }, 20000));
+    EXPECT_EQ(FiguresIn(kept), kAll);
+}
+
+class CompanyLogo : public ::testing::Test {
+  protected:
+    CompanyLogo() {
+        std::filesystem::create_directory(folder_ / "settings");
+        QImage picture(40, 20, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        for (const char* name : {"first.png", "second.jpg"}) picture.save(QString::fromStdString(folder_ / name));
+        WriteBytes(folder_ / "letter.png", "no picture");
+    }
+    std::string Stored() const { return std::filesystem::path(LogoFileIn(folder_ / "settings")).filename().string(); }
+
+    // The dialog of the company's lines, and what the user does in it.
+    void InDialog(ScreenRun& run, const std::function<void(QWidget&)>& step) {
+        run.In("companyLines", step);
+        run.Menu("mnuFirmaData");
+    }
+    void Choose(ScreenRun& run, QWidget& dialog, const std::string& name) {
+        run.In("QFileDialog", [=, this](QWidget& files) { ChooseFile(files, folder_ / name); });
+        BackTo(dialog);
+        ClickOn(dialog, "cmdChooseLogo");
+    }
+    static QString Shown(QWidget& dialog) { return Child<QLineEdit>(dialog, "txtLogo").text(); }
+
+    TestFolder folder_;
+};
+
+TEST_F(CompanyLogo, IsChosenReplacedAndRemoved) {
+    ScreenRun run(folder_ / "settings/");
+    run.Start();
+    InDialog(run, [&](QWidget& dialog) {
+        EXPECT_EQ(Shown(dialog), "");
+        TypeInto(dialog, "txtFirma1", "Gruber");
+        Choose(run, dialog, "first.png");
+        EXPECT_EQ(Shown(dialog), "first.png");
+        ClickOn(dialog, "cmdok");
+    });
+    EXPECT_EQ(Stored(), "Logo.png");
+    EXPECT_EQ(ReadBytes(folder_ / "settings/Logo.png"), ReadBytes(folder_ / "first.png"));
+    EXPECT_EQ(PaperInForce().Company, std::vector<std::string>{"Gruber"});
+    EXPECT_EQ(LogoSize(PaperInForce().Logo), QSize(40, 20));
+
+    InDialog(run, [&](QWidget& dialog) {
+        EXPECT_EQ(Shown(dialog), "Logo.png");
+        Choose(run, dialog, "second.jpg");
+        ClickOn(dialog, "cmdok");
+    });
+    EXPECT_EQ(Stored(), "Logo.jpg");
+    EXPECT_FALSE(std::filesystem::exists(folder_ / "settings/Logo.png")) << "one logo, not two";
+
+    InDialog(run, [&](QWidget& dialog) {
+        ClickOn(dialog, "cmdRemoveLogo");
+        EXPECT_EQ(Shown(dialog), "");
+        dialog.close();
+    });
+    EXPECT_EQ(Stored(), "Logo.jpg") << "cancelled";
+    InDialog(run, [&](QWidget& dialog) {
+        ClickOn(dialog, "cmdRemoveLogo");
+        ClickOn(dialog, "cmdok");
+    });
+    EXPECT_THAT(Stored(), IsEmpty());
+}
+
+TEST_F(CompanyLogo, AFileThatIsNoPictureIsNotTaken) {
+    ScreenRun run(folder_ / "settings/");
+    run.Start();
+    InDialog(run, [&](QWidget& dialog) {
+        run.In("QFileDialog", [this](QWidget& files) { ChooseFile(files, folder_ / "letter.png"); });
+        run.In("messageBox", [](QWidget& box) {
+            EXPECT_TRUE(
+                dynamic_cast<QMessageBox&>(box).text().endsWith(QStringLiteral("is no picture that can be drawn.")));
+            box.close();
+        });
+        ClickOn(dialog, "cmdChooseLogo");
+        EXPECT_EQ(Shown(dialog), "");
+        ClickOn(dialog, "cmdok");
+    });
+    EXPECT_THAT(Stored(), IsEmpty());
+}
+
+}  // namespace
+}  // namespace lithmark::tests
