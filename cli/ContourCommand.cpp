@@ -111,6 +111,7 @@ std::string FieldIn(const std::string& format, const BasContour& plot, const Con
 std::string ContourIn(const std::string& format, BasContour& plot, int size) {
     if (format == "json") return ContourJson(plot, size);
     if (!Documents()) FailFormat(format);
+    plot.LabelClasses(BasContour::Labels::Fine);  // on paper, in the unit of the title
     return Documents()->Contour(format, plot, size);
 }
 

@@ -12,6 +12,8 @@ namespace lithmark {
 
 namespace {
 
+constexpr int kMostDecimals = 4;
+
 void WriteCell(Workbook& workbook, lxw_worksheet* sheet, lxw_row_t row, lxw_col_t col, const std::string& cell,
                char decimalSign, lxw_format* format) {
     if (const auto number = ParseNumber(cell, decimalSign))
@@ -65,7 +67,7 @@ void AddScatterChart(Workbook& workbook, lxw_worksheet* sheet, const std::string
 std::string ChartXlsx(const ChartArguments& chart) {
     Workbook workbook;
     const std::string sheetName = "Lithmark";
-    lxw_worksheet* sheet = workbook.AddSheet(sheetName);
+    lxw_worksheet* sheet = workbook.AddSheet(sheetName, Workbook::Printed::OnOnePage);
     lxw_row_t row = 0;
     const auto text = [&](const std::string& line, lxw_format* format) {
         if (!line.empty()) workbook.WriteText(sheet, row++, 0, line, format);
@@ -79,7 +81,9 @@ std::string ChartXlsx(const ChartArguments& chart) {
     const lxw_row_t firstRow = row + 1;
     for (int c = 1; c <= chart.LastColumn; ++c) {
         const std::vector<std::string> numbers = NumbersOf(chart, c);
-        lxw_format* const format = workbook.Decimals(DecimalsOf(numbers, SharedServices().DecimalSign));
+        // A number that the table has with all its digits is shown with as many as one reads.
+        const int decimals = std::min(kMostDecimals, DecimalsOf(numbers, SharedServices().DecimalSign));
+        lxw_format* const format = workbook.Decimals(decimals);
         widest.push_back(0);
         for (int r = 1; r <= chart.LastRow; ++r) {
             widest.back() = std::max(widest.back(), CharacterCount(chart.Cells(r, c)));

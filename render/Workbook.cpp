@@ -35,16 +35,23 @@ std::string FirstOfMargin(const std::string& text) {
     return FirstCharacters(text, kMost);
 }
 
-void SetPage(lxw_worksheet* sheet) {
+// A part of a head or foot in the direction of the language, which those have none of.
+std::string Directed(const std::string& text) {
+    return LanguageTexts().RightToLeft() ? "\u202B" + text + "\u202C" : text;
+}
+
+void SetPage(lxw_worksheet* sheet, Workbook::Printed printed) {
     worksheet_set_landscape(sheet);
     worksheet_set_paper(sheet, kA4);
-    worksheet_fit_to_pages(sheet, 1, 0);
+    worksheet_fit_to_pages(sheet, 1, printed == Workbook::Printed::OnOnePage ? 1 : 0);
     const ReportPaper paper = PaperInForce();
-    std::string head = "&L";
-    for (const std::string& line : paper.HeadLines()) head += (head.size() > 2 ? "   " : "") + MarginText(line);
+    std::string lines;
+    for (const std::string& line : paper.HeadLines()) lines += (lines.empty() ? "" : "   ") + MarginText(line);
+    std::string head = "&L" + Directed(lines);
     if (!paper.Company.empty()) head += "&R" + MarginText(paper.Company.front());
     worksheet_set_header(sheet, FirstOfMargin(head).c_str());
-    const std::string page = "&C" + ReportPaper::PageText("&P", "&N") + "&R" + MarginText(ReportPaper::Maker());
+    const std::string page =
+        "&C" + Directed(ReportPaper::PageText("&P", "&N")) + "&R" + MarginText(ReportPaper::Maker());
     worksheet_set_footer(sheet, FirstOfMargin(page).c_str());
 }
 
@@ -80,14 +87,15 @@ Workbook::Workbook() {
     options.tmpdir = folder_.data();
     book_ = workbook_new_opt(path_.c_str(), &options);
     if (!book_) FailInFile(FailureKind::OutOfMemory, path_);
-    Bold = workbook_add_format(book_);
+    text_ = AddTextFormat();
+    Bold = AddTextFormat();
     format_set_bold(Bold);
-    Head = workbook_add_format(book_);
+    Head = AddTextFormat();
     format_set_bold(Head);
     format_set_text_wrap(Head);
     format_set_bottom(Head, LXW_BORDER_THIN);
     format_set_align(Head, LXW_ALIGN_VERTICAL_TOP);
-    words_ = workbook_add_format(book_);
+    words_ = AddTextFormat();
     format_set_num_format(words_, "@");
     const ReportPaper paper = PaperInForce();
     lxw_doc_properties properties = {};
@@ -110,7 +118,14 @@ Workbook::~Workbook() {
     std::filesystem::remove(path_, ignored);
 }
 
-lxw_worksheet* Workbook::AddSheet(const std::string& name) {
+lxw_format* Workbook::AddTextFormat() {
+    constexpr std::uint8_t kRightToLeft = 2;
+    lxw_format* format = workbook_add_format(book_);
+    if (LanguageTexts().RightToLeft()) format_set_reading_order(format, kRightToLeft);
+    return format;
+}
+
+lxw_worksheet* Workbook::AddSheet(const std::string& name, Printed printed) {
     // A sheet's name has at most 31 characters and none of []:*?/\ .
     std::string clean;
     for (const char c : FirstCharacters(PrintableText(name), 31))
@@ -118,7 +133,7 @@ lxw_worksheet* Workbook::AddSheet(const std::string& name) {
     lxw_worksheet* sheet = workbook_add_worksheet(book_, clean.empty() ? nullptr : clean.c_str());
     if (!sheet) FailInFile(FailureKind::WriteError, path_);
     if (LanguageTexts().RightToLeft()) worksheet_right_to_left(sheet);
-    SetPage(sheet);
+    SetPage(sheet, printed);
     return sheet;
 }
 
@@ -137,8 +152,8 @@ lxw_format* Workbook::Decimals(int decimals, bool bold) {
 void Workbook::WriteText(lxw_worksheet* sheet, lxw_row_t row, lxw_col_t column, const std::string& text,
                          lxw_format* format) {
     const bool likeFormula = !text.empty() && std::string_view("=+-@").find(text.front()) != std::string_view::npos;
-    worksheet_write_string(sheet, row, column, PrintableText(text).c_str(),
-                           format == nullptr && likeFormula ? words_ : format);
+    if (format == nullptr) format = likeFormula ? words_ : text_;
+    worksheet_write_string(sheet, row, column, PrintableText(text).c_str(), format);
 }
 
 void Workbook::WriteHead(lxw_worksheet* sheet, lxw_row_t row, const std::vector<std::string>& heads,

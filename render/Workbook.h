@@ -22,7 +22,9 @@ class Workbook {
     Workbook& operator=(const Workbook&) = delete;
 
     lxw_workbook* Book() { return book_; }
-    lxw_worksheet* AddSheet(const std::string& name);
+    // Printed across, as wide as a page and as long as it takes; or all of it on one page.
+    enum class Printed { OnPages, OnOnePage };
+    lxw_worksheet* AddSheet(const std::string& name, Printed printed = Printed::OnPages);
     // The format of numbers with so many decimals; -1: with an exponent.
     lxw_format* Decimals(int decimals, bool bold = false);
 
@@ -41,12 +43,14 @@ class Workbook {
 
   private:
     lxw_error Close() noexcept;
+    // A format of texts, which run in the direction of the language.
+    lxw_format* AddTextFormat();
 
     lxw_workbook* book_ = nullptr;
     std::string folder_, path_;
     std::optional<RemovedOnEnd> registered_;
     std::map<std::pair<int, bool>, lxw_format*> decimals_;
-    lxw_format* words_ = nullptr;
+    lxw_format *text_ = nullptr, *words_ = nullptr;
 };
 
 // How the numbers of a column are shown: with as many decimals as the texts have; -1: with an exponent.

@@ -1,4 +1,8 @@
 // The data of a project for scripts.
+#include <algorithm>
+#include <regex>
+#include <set>
+
 #include "cli/CliCase.h"
 
 namespace lithmark::tests {
@@ -83,6 +87,41 @@ TEST_F(CliShow, ShownFieldsAreThoseThatCanBeSet) {
             words.insert(words.end(), {"--set", field["name"].get<std::string>() + "=" + value});
         }
         EXPECT_EQ(Run(words).Out, Run({"show", project}).Out) << problem;
+    }
+}
+
+// The symbols of a problem's fields stand in its reports: whatever kind of load, soil or layers it takes to print them.
+TEST_F(CliShow, TheSymbolsAreThoseThatReportsPrint) {
+    struct Family {
+        std::vector<std::string> Examples;
+        std::vector<std::vector<std::string>> Sets;
+    };
+    const std::vector<std::string> plain, point = {"LoadType=1"}, index = {"SoilPropertyType=2"}, even = {"Pressure=1"};
+    const std::vector<Family> all = {
+        {{"PointLoad", "RectangularFooting", "BridgePier"}, {plain}},
+        {{"ClayUnderFooting", "ClayUnderTank"}, {plain, point, index}},
+        {{"OneClayLayer", "TwoClayLayers"}, {plain, point, even}},
+        {{"OfficeBuilding", "GrainStore", "WaterTower"}, {plain}},
+        {{"EccentricRaft", "RaftOnClayEs", "RaftOnThinClay"}, {plain}},
+    };
+    const std::regex line(R"(\s(\S+)\s+\S+\s+= )");
+    for (const Family& family : all) {
+        std::set<std::string> told, printed;
+        for (const std::string& name : family.Examples) {
+            const std::string project = Example(name);
+            const Json shown = Shown(project);
+            for (const Json& field : shown["fields"])
+                if (field["symbol"] != "") told.insert(field["symbol"]);
+            for (const auto& sets : family.Sets) {
+                std::vector<std::string> words = {"report", project, "--lang", "en"};
+                for (const std::string& set : sets) words.insert(words.end(), {"--set", set});
+                const std::string report = Run(words).Out;
+                for (std::sregex_iterator it(report.begin(), report.end(), line), end; it != end; ++it)
+                    printed.insert((*it)[1]);
+            }
+        }
+        EXPECT_GE(told.size(), 8u);
+        EXPECT_TRUE(std::ranges::includes(printed, told)) << Json(told).dump() << " and " << Json(printed).dump();
     }
 }
 

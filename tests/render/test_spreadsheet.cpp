@@ -11,6 +11,7 @@ namespace lithmark::tests {
 namespace {
 
 using testing::HasSubstr;
+using testing::Not;
 
 // The parts of a workbook by name, read with the archive library's own checks.
 std::map<std::string, std::string> PartsOf(const std::string& bytes) {
@@ -78,7 +79,9 @@ TEST_F(Spreadsheet, AChartHasItsTableAndANativeChartOverIt) {
     const std::string sheet = parts.at("xl/worksheets/sheet1.xml");
     EXPECT_THAT(sheet, HasSubstr("topLeftCell=\"A9\"")) << "the head stays in sight";
     EXPECT_THAT(sheet, HasSubstr("orientation=\"landscape\""));
-    EXPECT_THAT(sheet, HasSubstr("fitToHeight=\"0\"")) << "one page wide";
+    EXPECT_THAT(sheet, HasSubstr("<pageSetup")) << "and on one page: fitToWidth and fitToHeight are 1 unless told";
+    EXPECT_THAT(sheet, HasSubstr("<pageSetUpPr fitToPage=\"1\"/>"));
+    EXPECT_THAT(sheet, Not(HasSubstr("fitToHeight")));
     EXPECT_THAT(parts.at("xl/workbook.xml"), HasSubstr("_xlnm.Print_Titles"));
     EXPECT_THAT(parts.at("xl/styles.xml"), HasSubstr("formatCode=\"0.00\"")) << "settlements have two decimals";
     EXPECT_THAT(parts.at("xl/drawings/drawing1.xml"), HasSubstr("<xdr:row>8</xdr:row>"))
@@ -99,7 +102,7 @@ TEST_F(Spreadsheet, AChartHasItsTableAndANativeChartOverIt) {
     EXPECT_THAT(xml, HasSubstr(chart.Legends(1)));
     EXPECT_THAT(xml, HasSubstr(chart.Legends(2)));
     EXPECT_THAT(xml, HasSubstr(chart.XTitle));
-    EXPECT_THAT(xml, testing::Not(HasSubstr("<c:orientation val=\"maxMin\"/>")));
+    EXPECT_THAT(xml, Not(HasSubstr("<c:orientation val=\"maxMin\"/>")));
     ChartArguments turned = chart;
     turned.SettlementsDown = true;
     EXPECT_THAT(PartsOf(ChartXlsx(turned)).at("xl/charts/chart1.xml"), HasSubstr("<c:orientation val=\"maxMin\"/>"))
@@ -116,15 +119,19 @@ TEST_F(Spreadsheet, LineStylesAreThoseOfTheCurves) {
     EXPECT_THAT(series[0], HasSubstr("<a:noFill/>"));               // points alone
     EXPECT_THAT(series[1], HasSubstr("<c:symbol val=\"none\"/>"));  // a line alone
     EXPECT_THAT(series[2], HasSubstr("<c:symbol val=\"circle\"/>"));
-    EXPECT_THAT(series[2], testing::Not(HasSubstr("<a:noFill/>")));
+    EXPECT_THAT(series[2], Not(HasSubstr("<a:noFill/>")));
 }
 
 TEST_F(Spreadsheet, AnArabicSheetRunsFromRightToLeft) {
     RunExample("SquareRaft", Language::Arabic);
-    EXPECT_THAT(PartsOf(ChartXlsx(Chart("Tab5"))).at("xl/worksheets/sheet1.xml"), HasSubstr("rightToLeft=\"1\""));
+    const auto parts = PartsOf(ChartXlsx(Chart("Tab5")));
+    EXPECT_THAT(parts.at("xl/worksheets/sheet1.xml"), HasSubstr("rightToLeft=\"1\""));
+    EXPECT_THAT(parts.at("xl/styles.xml"), HasSubstr("readingOrder=\"2\"")) << "and so do the words in its cells";
+    EXPECT_THAT(parts.at("xl/worksheets/sheet1.xml"), HasSubstr("&amp;C\u202Bصفحة &amp;P من &amp;N\u202C"));
     RunExample("SquareRaft", Language::German);
-    EXPECT_THAT(PartsOf(ChartXlsx(Chart("Tab5"))).at("xl/worksheets/sheet1.xml"),
-                testing::Not(HasSubstr("rightToLeft")));
+    const auto german = PartsOf(ChartXlsx(Chart("Tab5")));
+    EXPECT_THAT(german.at("xl/worksheets/sheet1.xml"), Not(HasSubstr("rightToLeft")));
+    EXPECT_THAT(german.at("xl/styles.xml"), Not(HasSubstr("readingOrder")));
 }
 
 TEST_F(Spreadsheet, ATableHasItsHeadInTheFirstRow) {
@@ -148,7 +155,7 @@ TEST_F(Spreadsheet, WhatLooksLikeAFormulaStaysText) {
     EXPECT_EQ(cells.at("A3"), "-x");
     EXPECT_EQ(cells.at("B3"), "@x");
     EXPECT_EQ(cells.at("A4"), "=-1.5") << "a number";
-    EXPECT_THAT(parts.at("xl/worksheets/sheet1.xml"), testing::Not(HasSubstr("<f>")));
+    EXPECT_THAT(parts.at("xl/worksheets/sheet1.xml"), Not(HasSubstr("<f>")));
     EXPECT_THAT(parts.at("xl/styles.xml"), HasSubstr("formatCode=\"@\"")) << "text for whoever edits the cell";
 }
 
