@@ -14,9 +14,7 @@ QString FilterOf(const FileKind& kind) {
     return kind.Name + QStringLiteral(" (*.") + kind.Ending + QLatin1Char(')');
 }
 
-// Only the toolkit's own dialog has room for more.
 void ShowUnderFiles(QFileDialog& dialog, QWidget& choices) {
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
     if (auto* rows = qobject_cast<QGridLayout*>(dialog.layout()))
         rows->addWidget(&choices, rows->rowCount(), 0, 1, rows->columnCount());
 }
@@ -26,6 +24,8 @@ void ShowUnderFiles(QFileDialog& dialog, QWidget& choices) {
 std::optional<ChosenFile> AskForFile(QWidget* parent, const QString& title, const std::vector<FileKind>& kinds,
                                      QWidget* choices) {
     QFileDialog dialog(parent, title, Q(Session.WorkDir));
+    // Only the toolkit's own dialog has room for more.
+    if (choices != nullptr) dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     QStringList filters;

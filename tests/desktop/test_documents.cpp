@@ -10,6 +10,7 @@
 #include <QToolBar>
 
 #include "ScreenRun.h"
+#include "core/Catalogue.h"
 #include "render/ReportPaper.h"
 #include "report/Notices.h"
 #include "support/Places.h"
@@ -58,7 +59,7 @@ class DocumentsOfARaft : public ::testing::Test {
             step(run, viewer);
             ClickOn(viewer, "cmdok");
         });
-        run.Menu("mnuProblem(9)");
+        run.Menu("mnuProblem(" + std::to_string(ProblemInForce().MenuEntry) + ")");
         Notices().Clear();
     }
     // The drawing stands in every document; two curves and two contour plots come by choice.
