@@ -4,6 +4,7 @@
 #include <set>
 
 #include "cli/CliCase.h"
+#include "support/Places.h"
 
 namespace lithmark::tests {
 namespace {
@@ -108,12 +109,12 @@ TEST_F(CliShow, TheSymbolsAreThoseThatReportsPrint) {
     for (const Family& family : all) {
         std::set<std::string> told, printed;
         for (const std::string& name : family.Examples) {
-            const std::string project = Example(name);
+            const std::string project = (SourceDir() / "examples" / name / (name + ".PO3")).string();
             const Json shown = Shown(project);
             for (const Json& field : shown["fields"])
                 if (field["symbol"] != "") told.insert(field["symbol"]);
             for (const auto& sets : family.Sets) {
-                std::vector<std::string> words = {"report", project, "--lang", "en"};
+                std::vector<std::string> words = {"report", project, "--no-export", "--lang", "en"};
                 for (const std::string& set : sets) words.insert(words.end(), {"--set", set});
                 const std::string report = Run(words).Out;
                 for (std::sregex_iterator it(report.begin(), report.end(), line), end; it != end; ++it)
