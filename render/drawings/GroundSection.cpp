@@ -9,6 +9,7 @@ namespace {
 
 constexpr int kMostSublayers = 40;
 constexpr double kLeftMargin = 14;
+constexpr double kFarthest = 1.5;  // of half the load or the depth: a place farther out is cut
 
 }  // namespace
 
@@ -20,18 +21,22 @@ GroundSection::GroundSection(Sketch& sketch, const QRectF& room, std::vector<Cla
     point_ = sketch.Form.Has("txt_Q");
     placed_ = sketch.Form.Has("txt_x");
     const bool spread = rectangular_ || circular_;
-    const std::vector<DrawnLength> lengths = Proportions(
-        {spread ? double(r.A) : 0, rectangular_ ? double(r.B) : 0, placed_ ? double(r.x) : 0, placed_ ? double(r.y) : 0,
-         double(r.z), clay_.front().Thickness, clay_.size() > 1 ? clay_[1].Thickness : 0});
+    const double a = spread ? double(r.A) : 0, b = rectangular_ ? double(r.B) : 0;
+    const std::vector<DrawnLength> lengths =
+        Proportions({a, b, double(r.z), clay_.front().Thickness, clay_.size() > 1 ? clay_[1].Thickness : 0});
     a_ = lengths[0];
     b_ = lengths[1];
-    x_ = lengths[2];
-    y_ = lengths[3];
-    z_ = lengths[4];
-    thick_.assign(lengths.begin() + 5, lengths.begin() + 5 + static_cast<std::ptrdiff_t>(clay_.size()));
+    z_ = lengths[2];
+    thick_.assign(lengths.begin() + 3, lengths.begin() + 3 + static_cast<std::ptrdiff_t>(clay_.size()));
+    const double longest = Longest(lengths), share = circular_ ? 1 : 0.5;
+    const double halfA = share * a_.Length, halfB = circular_ ? halfA : b_.Length / 2;
+    if (placed_) {
+        x_ = Coordinate(double(r.x), share * a, halfA, kFarthest * std::max(halfA, longest / 2));
+        y_ = Coordinate(double(r.y), circular_ ? a : b / 2, halfB, kFarthest * std::max(halfB, longest / 2));
+    }
     double depth = std::max(0.0, z_.Length);
     for (const DrawnLength& thick : thick_) depth += std::max(0.0, thick.Length);
-    const double half = 1.1 * std::max((circular_ ? 1 : 0.5) * a_.Length, std::abs(x_.Length));
+    const double half = 1.1 * std::max(halfA, std::abs(x_.Length));
     const double high = depth > 0 ? room.height() / depth : 1;
     scale_ = sketch.Steady(half > 0 ? std::min(high, room.width() / 2 / half) : high);
 }
@@ -133,6 +138,8 @@ void GroundSection::DrawPlan(const QRectF& room) const {
     const QPointF foot = middle + QPointF(x_.Length * scale, 0), point = foot - QPointF(0, y_.Length * scale);
     s.Line(middle, foot, s.PenOf("txt_x", s.Pen(Ink::Point, 1, Qt::DashLine)));
     s.Line(foot, point, s.PenOf("txt_y", s.Pen(Ink::Point, 1, Qt::DashLine)));
+    if (x_.Broken) s.Break(middle, foot, Ink::Window);
+    if (y_.Broken) s.Break(foot, point, Ink::Window);
     s.Dot(point, 3.5, Ink::Point);
     s.Number("txt_y", (foot + point) / 2, x_.Length < 0 ? Side::Left : Side::Right, Ink::Point, "y");
 }

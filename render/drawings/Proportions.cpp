@@ -34,4 +34,19 @@ std::vector<DrawnLength> Proportions(std::initializer_list<double> values) {
     return lengths;
 }
 
+double Longest(const std::vector<DrawnLength>& lengths) {
+    double longest = 0;
+    for (const DrawnLength& length : lengths) longest = std::max(longest, std::abs(length.Length));
+    return longest;
+}
+
+DrawnLength Coordinate(double value, double half, double drawnHalf, double most) {
+    const double size = std::abs(Usable(value));
+    if (size == 0) return {};
+    const double inside = std::min(size, std::max(0.0, Usable(half)));
+    const double share = inside > 0 ? drawnHalf / half : 1;
+    const double drawn = inside * share + (size - inside);
+    return {std::copysign(std::min(drawn, most), value), drawn > most || share != 1};
+}
+
 }  // namespace lithmark

@@ -1,5 +1,5 @@
 // Proportions: lengths of a view to scale up to one to eight; a longer one is cut to eight times the shortest and has a
-// break.
+// break. Where a point lies beside a load or a raft goes by these lengths, and does not change them.
 #pragma once
 
 #include <initializer_list>
@@ -14,5 +14,11 @@ struct DrawnLength {
 
 // What is no number counts as 0, and takes no part in what is the shortest.
 std::vector<DrawnLength> Proportions(std::initializer_list<double> values);
+// The greatest of lengths as drawn.
+double Longest(const std::vector<DrawnLength>& lengths);
+
+// A coordinate from the middle of something that is `half` as long on each side and drawn `drawnHalf` long: inside what
+// is drawn when it is inside, to scale beyond it, cut with a break beyond `most`.
+DrawnLength Coordinate(double value, double half, double drawnHalf, double most);
 
 }  // namespace lithmark

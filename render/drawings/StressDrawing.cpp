@@ -12,6 +12,9 @@ namespace lithmark {
 
 namespace {
 
+// Of half the block that load and depth call for: a place farther out is cut.
+constexpr double kFarthest = 1.5;
+
 struct View {
     Sketch& S;
     const Perspective& P;
@@ -100,15 +103,20 @@ void StressDrawing(Sketch& s) {
     const SessionRecord& r = s.Record;
     const bool rectangular = s.Form.Has("txt_B"), circular = s.Form.Has("txt_A") && !rectangular;
     const double a = rectangular || circular ? double(r.A) : 0, b = rectangular ? double(r.B) : 0;
-    const std::vector<DrawnLength> lengths = Proportions({a, b, double(r.x), double(r.y), double(r.z)});
-    double longest = 0;
-    for (const DrawnLength& length : lengths) longest = std::max(longest, std::abs(length.Length));
+    const std::vector<DrawnLength> lengths = Proportions({a, b, double(r.z)});
+    double longest = Longest(lengths);
+    // A point load at the surface: the place alone gives the scale.
+    if (longest == 0) longest = Longest(Proportions({double(r.x), double(r.y)}));
     if (longest == 0) longest = 1;
-    const double half = circular ? 1 : 0.5;
+    const double half = circular ? 1 : 0.5, halfA = half * lengths[0].Length;
     const double halfB = circular ? lengths[0].Length : lengths[1].Length / 2;
-    Block block{std::max({0.45 * longest, 1.4 * half * lengths[0].Length, 1.2 * std::abs(lengths[2].Length)}),
-                std::max({0.6 * longest, 1.4 * halfB, 1.2 * std::abs(lengths[3].Length)}),
-                {std::max(0.5 * longest, 1.25 * lengths[4].Length)}};
+    Block block{std::max(0.45 * longest, 1.4 * halfA),
+                std::max(0.6 * longest, 1.4 * halfB),
+                {std::max(0.5 * longest, 1.25 * lengths[2].Length)}};
+    const DrawnLength x = Coordinate(double(r.x), half * a, halfA, kFarthest * block.X);
+    const DrawnLength y = Coordinate(double(r.y), circular ? a : b / 2, halfB, kFarthest * block.Y);
+    block.X = std::max(block.X, 1.1 * std::abs(x.Length));
+    block.Y = std::max(block.Y, 1.1 * std::abs(y.Length));
     const double top = 0.3 * std::max(block.X, block.Y);
     const double margin = s.LineHeight() * 1.5;
     const QRectF room = s.Area.adjusted(margin, margin * 2, -margin, -margin);
@@ -117,7 +125,7 @@ void StressDrawing(Sketch& s) {
     const Perspective p(s, room, block, top * 2);
     p.Surface();
     p.Layer(0, block.Depths.back(), Ink::SoilSide);
-    const View view{s, p, lengths[0], lengths[1], lengths[2], lengths[3], lengths[4], top, rectangular, circular};
+    const View view{s, p, lengths[0], lengths[1], x, y, lengths[2], top, rectangular, circular};
     DrawAxes(view, block);
     if (rectangular || circular) DrawUniformLoad(view);
     if (s.Form.Has("txt_Q")) DrawPointLoad(view);

@@ -250,6 +250,52 @@ TEST(Proportions, AreToScaleUpToOneToEight) {
     EXPECT_EQ(cut[3].Length, 0);
 }
 
+// A place beside a load: to scale, inside a load that is cut when it is inside, cut where it is too far.
+TEST(Proportions, LeadAPlaceBesideALoad) {
+    const DrawnLength inside = Coordinate(-1.5, 2, 2, 9);
+    EXPECT_EQ(inside.Length, -1.5);
+    EXPECT_FALSE(inside.Broken);
+    const DrawnLength beside = Coordinate(5, 2, 2, 9);
+    EXPECT_EQ(beside.Length, 5);
+    EXPECT_FALSE(beside.Broken);
+    const DrawnLength far = Coordinate(50, 2, 2, 9);
+    EXPECT_EQ(far.Length, 9);
+    EXPECT_TRUE(far.Broken);
+    // The load is drawn half as long as it is: its quarter lies in the middle between its centre and its edge.
+    const DrawnLength shrunk = Coordinate(1, 2, 1, 9);
+    EXPECT_EQ(shrunk.Length, 0.5);
+    EXPECT_TRUE(shrunk.Broken);
+    EXPECT_EQ(Coordinate(0, 2, 2, 9).Length, 0);
+    EXPECT_EQ(Coordinate(INFINITY, 2, 2, 9).Length, 0);
+}
+
+// Beyond one and a half times half the block a place is cut: the figure stays, the number is true. A small coordinate
+// leaves the load as it is.
+TEST_F(DrawingTest, AFarPlaceIsCutAndANearOneShrinksNothing) {
+    frmstress form;
+    form.Load();
+    const auto figure = [&](const char* x) {
+        form.txt_x.Text = x;
+        const DrawnForm drawn(form.PctInvertedT);
+        QImage image(kSize, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        double scale = 0;
+        Sketch sketch(painter, QRectF(QPointF(), kSize), drawn, Theme::Light, scale);
+        FindDrawing("stress")(sketch);
+        return image;  // the numbers are written by Finish alone
+    };
+    EXPECT_EQ(figure("100"), figure("1000"));
+    EXPECT_NE(figure("100"), figure("-100"));
+    EXPECT_NE(figure("2"), figure("3"));
+    EXPECT_NE(figure("3"), figure("100"));
+    form.txt_x.Text = "0.01";
+    form.txt_A.Text = "5";
+    const QImage longer = figure("0.01");
+    form.txt_A.Text = "4";
+    EXPECT_NE(figure("0.01"), longer) << "both sides would be cut to eight times a hundredth of a metre";
+}
+
 TEST(Symbols, StandInPrint) {
     EXPECT_EQ(SymbolWords("Nue_s").toStdString(), "ν_s");
     EXPECT_EQ(SymbolWords("Cc").toStdString(), "C_c");
