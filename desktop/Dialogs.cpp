@@ -20,6 +20,7 @@
 #include "desktop/FindBar.h"
 #include "desktop/ManualTopics.h"
 #include "desktop/ManualWindow.h"
+#include "desktop/PaneKeys.h"
 #include "desktop/ReportView.h"
 #include "files/CommonStep.h"
 #include "render/QtText.h"
@@ -43,6 +44,8 @@ class PlainDialog : public QDialog {
         setLayoutDirection(LanguageTexts().RightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
         auto* column = new QVBoxLayout(this);
         column->addLayout(Content, 1);
+        BindHelpKey(*this, TopicOfProblem);
+        new PaneKeys(*this);
     }
     QVBoxLayout* const Content;
 

@@ -5,9 +5,12 @@
 #include <QPainter>
 #include <QPixmap>
 
+#include "desktop/GraphicWords.h"
 #include "desktop/Sizes.h"
+#include "render/QtText.h"
 #include "render/drawings/Drawings.h"
 #include "render/drawings/Symbols.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 
@@ -37,6 +40,7 @@ PictureView::PictureView(const Control& control, QWidget* parent)
     setMinimumSize(sizes::kPictureWidth, sizes::kPictureHeight);
     setLayoutDirection(Qt::LeftToRight);
     setMouseTracking(true);
+    MakeGraphic(*this, Q(Text(913603_text)));
     // The dimension of the box with the focus is marked.
     connect(qApp, &QApplication::focusChanged, this, [this] { update(); });
 }
@@ -47,7 +51,7 @@ void PictureView::Follow() {
         variant_ = control_.Variant;
         scale_ = 0;
     }
-    setAccessibleDescription(InWords(drawn_));
+    TellGraphic(*this, InWords(drawn_));
     update();
 }
 

@@ -38,6 +38,7 @@ constexpr LanguageRow kRows[] = {
 #include "texts/tables/own_study.inc"
 #include "texts/tables/own_render.inc"
 #include "texts/tables/own_desktop.inc"
+#include "texts/tables/own_desk.inc"
 #include "texts/tables/own_ui.inc"
 #include "texts/tables/own_kernels.inc"
 #include "texts/tables/own_notices.inc"
