@@ -1,6 +1,5 @@
 #include "desktop/ChartWindow.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QBoxLayout>
 #include <QCheckBox>
@@ -13,8 +12,13 @@
 
 #include "contour/ChartTable.h"
 #include "desktop/ChartView.h"
+#include "desktop/GraphicWords.h"
+#include "desktop/ManualTopics.h"
+#include "desktop/PaneKeys.h"
 #include "desktop/Printing.h"
 #include "desktop/SaveDialog.h"
+#include "desktop/ScreenRoom.h"
+#include "desktop/ScrollColumn.h"
 #include "desktop/Sizes.h"
 #include "files/CommonStep.h"
 #include "render/QtText.h"
@@ -54,24 +58,70 @@ QLabel* ReadingLabel(QWidget* parent, const char* name) {
 ChartWindow::ChartWindow(const ChartArguments& chart, QWidget* parent)
     : QDialog(parent),
       chart_(chart),
+      small_(OnSmallScreen(*this)),
       plot_(new ChartView(chart, this)),
       values_(ReadingLabel(this, "lblValues")),
       marks_(ReadingLabel(this, "lblMarks")) {
     setObjectName(QStringLiteral("chartWindow"));
     setWindowTitle(Q(chart.ChartTitle));
     setLayoutDirection(LanguageTexts().RightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(sizes::kEdge, sizes::kEdge, sizes::kEdge, sizes::kEdge);
-    column->setSpacing(sizes::kRowGap);
-    column->addLayout(LegendRow());
-    column->addWidget(plot_, 1);
-    column->addLayout(ReadingRows());
-    column->addLayout(Buttons());
-    plot_->setAccessibleName(Q(chart.ChartTitle));
+    auto* window = new QHBoxLayout(this);
+    window->setContentsMargins(sizes::kEdge, sizes::kEdge, sizes::kEdge, sizes::kEdge);
+    window->setSpacing(sizes::kEdge);
+    Arrange(*window);
+    // From the boxes the Tab key goes down to the plot.
+    if (auto* last = findChild<QCheckBox*>(QStringLiteral("chkCurve(%1)").arg(int(chart.Curves))))
+        setTabOrder(last, plot_);
+    MakeGraphic(*plot_, Q(chart.ChartTitle));
     plot_->OnReading = [this] { ShowReading(); };
     ShowReading();
+    new PaneKeys(*this);
+    PaneKeys::MakePane(*plot_);
+    BindHelpKey(*this, TopicOfProblem);
     plot_->setFocus();
-    resize(880, 640);
+    resize(960, 640);
+}
+
+void ChartWindow::Arrange(QBoxLayout& window) {
+    auto* column = new QVBoxLayout;
+    column->setSpacing(sizes::kRowGap);
+    window.addLayout(column, 1);
+    column->addLayout(LegendRow());
+    auto* drawn = new QHBoxLayout;
+    drawn->setSpacing(sizes::kEdge);
+    drawn->addWidget(plot_, 1);
+    column->addLayout(drawn, 1);
+    column->addWidget(values_);
+    if (small_) {
+        column->addWidget(marks_);
+        auto* ways = new QWidget;
+        auto* buttons = new QVBoxLayout(ways);
+        buttons->setContentsMargins(0, 0, 0, 0);
+        buttons->setSpacing(sizes::kRowGap);
+        AddWays(*buttons);
+        auto* side = new QVBoxLayout;
+        side->addWidget(new ScrollColumn(ways, this), 1);
+        side->addWidget(OkButton());
+        window.addLayout(side);
+        return;
+    }
+    marks_->setFixedWidth(MarksWidth());
+    marks_->setAlignment(Qt::AlignTop | (marks_->alignment() & Qt::AlignHorizontal_Mask));
+    drawn->addWidget(marks_);
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(sizes::kColumnGap);
+    AddWays(*buttons);
+    buttons->addWidget(OkButton());
+    column->addLayout(buttons);
+}
+
+int ChartWindow::MarksWidth() const {
+    const ChartReading& reading = plot_->Reading();
+    int width = 0;
+    for (int row = 1; row <= reading.Rows(); ++row)
+        for (int curve = 1; curve <= reading.Curves(); ++curve)
+            width = std::max(width, fontMetrics().horizontalAdvance(Q(reading.MarkText({row, curve}))));
+    return width + fontMetrics().horizontalAdvance(QStringLiteral("B - A: -  "));
 }
 
 QBoxLayout* ChartWindow::LegendRow() {
@@ -92,13 +142,6 @@ QBoxLayout* ChartWindow::LegendRow() {
     }
     row->addStretch(1);
     return row;
-}
-
-QBoxLayout* ChartWindow::ReadingRows() {
-    auto* column = new QVBoxLayout;
-    column->setSpacing(2);
-    for (QLabel* label : {values_, marks_}) column->addWidget(label);
-    return column;
 }
 
 void ChartWindow::AddTurn(QBoxLayout& row) {
@@ -122,32 +165,35 @@ QPushButton* ChartWindow::AddButton(QBoxLayout& row, const std::string& caption,
                                     void (ChartWindow::*slot)()) {
     auto* button = new QPushButton(Q(caption), this);
     button->setObjectName(QString::fromLatin1(name));
-    button->setAutoDefault(false);
     if (slot != nullptr) connect(button, &QPushButton::clicked, this, slot);
     row.addWidget(button);
     return button;
 }
 
-QBoxLayout* ChartWindow::Buttons() {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(sizes::kColumnGap);
-    AddButton(*row, Text(26_text, Styles::Button), "cmdOriginal", &ChartWindow::Original);
-    if (chart_.ShowContours) AddButton(*row, Text(140017_text), "cmdContours", &ChartWindow::Contours);
-    AddTurn(*row);
-    row->addStretch(1);
-    QPushButton* copy = AddButton(*row, Text(906521_text, Styles::Button), "cmdCopy", nullptr);
+void ChartWindow::AddWays(QBoxLayout& row) {
+    AddButton(row, Text(26_text, Styles::Button), "cmdOriginal", &ChartWindow::Original);
+    if (chart_.ShowContours) AddButton(row, Text(140017_text), "cmdContours", &ChartWindow::Contours);
+    AddTurn(row);
+    row.addStretch(1);
+    QPushButton* copy = AddButton(row, Text(906521_text, Styles::Button), "cmdCopy", nullptr);
     auto* menu = new QMenu(copy);
     menu->addAction(Q(Text(910001_text)), QKeySequence::Copy, this, &ChartWindow::CopyPicture)
         ->setObjectName(QStringLiteral("mnuCopyPicture"));
     menu->addAction(Q(Text(910002_text)), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C), this, &ChartWindow::CopyTable)
         ->setObjectName(QStringLiteral("mnuCopyTable"));
     copy->setMenu(menu);
-    AddButton(*row, Text(910003_text, Styles::Button), "cmdPrint", &ChartWindow::Print);
-    AddButton(*row, Text(9_text, Styles::DialogButton), "cmdExport", &ChartWindow::Save);
-    auto* ok = AddButton(*row, Text(6_text, Styles::Button), "cmdok", nullptr);
+    AddButton(row, Text(910003_text, Styles::Button), "cmdPrint", &ChartWindow::Print)
+        ->setToolTip(QKeySequence(QKeySequence::Print).toString(QKeySequence::NativeText));
+    AddButton(row, Text(9_text, Styles::DialogButton), "cmdExport", &ChartWindow::Save)
+        ->setToolTip(QKeySequence(QKeySequence::Save).toString(QKeySequence::NativeText));
+}
+
+QPushButton* ChartWindow::OkButton() {
+    auto* ok = new QPushButton(Q(Text(6_text, Styles::Button)), this);
+    ok->setObjectName(QStringLiteral("cmdok"));
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
     ok->setDefault(true);
-    return row;
+    return ok;
 }
 
 void ChartWindow::keyPressEvent(QKeyEvent* event) {
@@ -165,19 +211,22 @@ void ChartWindow::ShowReading() {
     // The mark in front gives the line the direction of the language, whatever it begins with.
     const QString direction = LanguageTexts().RightToLeft() ? QString(QChar(0x200F)) : QString();
     values_->setText(direction + Q(plot_->Row() ? reading.ValuesAt(*plot_->Row()) : Text(910009_text)));
-    std::string marks;
-    const auto add = [&](const std::string& name, const std::string& text) {
-        marks += (marks.empty() ? "" : "     ") + name + ": " + text;
+    QString marks;
+    const auto add = [&](const char* name, const std::string& text) {
+        const QString parting = small_ ? QStringLiteral("     ") : QLatin1Char('\n') + direction;
+        marks += (marks.isEmpty() ? direction : parting) + QString::fromLatin1(name) + QStringLiteral(": ") + Q(text);
     };
     const auto &a = plot_->A(), &b = plot_->B();
-    if (a) add("A", reading.MarkText(*a));
-    if (b) add("B", reading.MarkText(*b));
-    if (a && b) add("B - A", reading.DifferenceText(*a, *b));
-    marks_->setText(marks.empty() ? QString() : direction + Q(marks));
+    // Beside the plot the lines keep their places.
+    const auto line = [&](const char* name, bool there, const std::string& text) {
+        if (there || !small_) add(name, there ? text : "–");
+    };
+    line("A", a.has_value(), a ? reading.MarkText(*a) : "");
+    line("B", b.has_value(), b ? reading.MarkText(*b) : "");
+    line("B - A", a && b, a && b ? reading.DifferenceText(*a, *b) : "");
+    marks_->setText(marks);
     // What is walked to is spoken.
-    plot_->setAccessibleDescription(Q(plot_->Row() ? reading.ValuesAt(*plot_->Row()) : reading.Summary()));
-    QAccessibleEvent changed(plot_, QAccessible::DescriptionChanged);
-    QAccessible::updateAccessibility(&changed);
+    TellGraphic(*plot_, Q(plot_->Row() ? reading.ValuesAt(*plot_->Row()) : reading.Summary()));
 }
 
 void ChartWindow::CopyPicture() {

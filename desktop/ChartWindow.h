@@ -22,10 +22,14 @@ class ChartWindow : public QDialog {
 
   private:
     QBoxLayout* LegendRow();
-    QBoxLayout* ReadingRows();
-    QBoxLayout* Buttons();
+    // Boxes, plot, what can be read off it, and buttons: under each other, on a small screen the buttons at the side.
+    void Arrange(QBoxLayout& window);
+    void AddWays(QBoxLayout& row);
     void AddTurn(QBoxLayout& row);
+    // As wide as the longest mark, so that the plot keeps its width.
+    int MarksWidth() const;
     QPushButton* AddButton(QBoxLayout& row, const std::string& caption, const char* name, void (ChartWindow::*slot)());
+    QPushButton* OkButton();
     void ShowReading();
 
     void CopyPicture();
@@ -37,6 +41,7 @@ class ChartWindow : public QDialog {
     void Contours();
 
     const ChartArguments chart_;
+    const bool small_;
     ChartView* plot_;
     QLabel *values_, *marks_;
 };

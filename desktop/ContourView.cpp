@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "desktop/GraphicWords.h"
 #include "render/ContourDocument.h"
 #include "render/FieldDocument.h"
 #include "render/QtText.h"
@@ -30,6 +31,7 @@ ContourView::ContourView(frmContour& form, Shows shows, QWidget* parent) : QWidg
     setMinimumSize(shows == Shows::Plot ? kLeast : kLegendWidth, kLeast);
     setObjectName(shows == Shows::Plot ? QStringLiteral("plot") : QStringLiteral("legend"));
     if (shows == Shows::Legend) setMaximumHeight(kLegendHeight);
+    MakeGraphic(*this, shows == Shows::Legend ? Q(Text(913604_text)) : QString());
 }
 
 QSize ContourView::sizeHint() const {
@@ -52,6 +54,25 @@ void ContourView::FitLegend() {
     // The place of the picture too, which would take a share of the window.
     for (QWidget* widget : {static_cast<QWidget*>(this), parentWidget()})
         widget->setFixedWidth(std::max(width, kLegendWidth));
+}
+
+void ContourView::Tell() {
+    QString caption = Q(form_.fraResult.Caption);
+    while (caption.endsWith(QLatin1Char(':'))) caption.chop(1);
+    if (shows_ == Shows::Plot) setAccessibleName(caption);
+    if (!form_.Ready()) return TellGraphic(*this, QString());
+    const FieldPlot& field = form_.Field();
+    if (shows_ == Shows::Plot)
+        return TellGraphic(*this, Q(Text(913602_text, {{"|1", caption.toStdString()},
+                                                       {"|2", field.ValueText(field.Least())},
+                                                       {"|3", field.ValueText(field.Greatest())},
+                                                       {"|4", frmContour::UnitShown()}})));
+    QStringList labels;
+    if (form_.ShowsField())
+        for (const double limit : field.Limits()) labels.append(Q(field.LimitText(limit)));
+    else
+        for (const std::string& label : form_.Plot.ClassLabel) labels.append(Q(label));
+    TellGraphic(*this, labels.join(QStringLiteral("; ")));
 }
 
 QRect ContourView::Area() const {

@@ -24,6 +24,8 @@ class ContourView : public QWidget {
     std::function<void()> SectionLaid;
     // The legend as wide as its texts call for.
     void FitLegend();
+    // What is shown, for those who hear it.
+    void Tell();
 
   protected:
     void paintEvent(QPaintEvent* event) override;

@@ -15,6 +15,10 @@ QSize ScreenRoom(const QWidget& window) {
     return {share.width(), std::min(share.height(), free.height() - sizes::kTitleBar)};
 }
 
+bool OnSmallScreen(const QWidget& window) {
+    return window.screen()->availableGeometry().height() < sizes::kSmallScreen;
+}
+
 bool KeepsOnScreen::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Show && watched->isWidgetType()) {
         auto& window = static_cast<QWidget&>(*watched);

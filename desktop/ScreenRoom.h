@@ -9,6 +9,8 @@ class QWidget;
 namespace lithmark {
 
 QSize ScreenRoom(const QWidget& window);
+// So little that what stands under each other elsewhere stands beside each other, or behind tabs.
+bool OnSmallScreen(const QWidget& window);
 
 // Watches the application: no window is shown larger than its screen has room for.
 class KeepsOnScreen : public QObject {

@@ -8,13 +8,17 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QTableWidget>
 #include <algorithm>
 
 #include "base/Utf8.h"
 #include "desktop/ManualTopics.h"
 #include "desktop/PageTools.h"
+#include "desktop/PaneKeys.h"
 #include "desktop/RowsChart.h"
+#include "desktop/ScreenRoom.h"
 #include "desktop/Sizes.h"
 #include "render/QtText.h"
 #include "render/drawings/Inks.h"
@@ -33,6 +37,16 @@ QString AxisTitle(const std::string& head) {
     return Q(first == std::string::npos ? head : head.substr(0, first) + " " + head.substr(last + 1));
 }
 
+// The unit, the last line of a head.
+QString UnitOf(const std::string& head) {
+    return Q(head.substr(head.rfind('\n') + 1));
+}
+
+// A load history goes up in stairs: a load counts from the begin of its time step.
+RowsChart::Kind KindOf(const TableEdit& table) {
+    return table.Title == Text(400125_text) ? RowsChart::Kind::Stairs : RowsChart::Kind::Line;
+}
+
 }  // namespace
 
 TableEditorDialog::TableEditorDialog(TableEdit& table, QWidget* parent)
@@ -40,7 +54,7 @@ TableEditorDialog::TableEditorDialog(TableEdit& table, QWidget* parent)
       table_(table),
       rows_(table),
       grid_(new QTableWidget(this)),
-      chart_(new RowsChart(this)),
+      chart_(new RowsChart(KindOf(table), this)),
       note_(new QLabel(this)) {
     setObjectName(QStringLiteral("tableEditor"));
     setWindowTitle(PlainCaption(table.Title));
@@ -59,16 +73,9 @@ TableEditorDialog::TableEditorDialog(TableEdit& table, QWidget* parent)
     note_->setWordWrap(true);
     note_->setMinimumHeight(2 * note_->fontMetrics().height());
 
-    auto* columns = new QHBoxLayout;
-    columns->setSpacing(sizes::kGroupGap);
-    columns->addWidget(grid_, 3);
-    if (rows_.Columns() > 1)
-        columns->addWidget(chart_, 2);
-    else
-        chart_->hide();
     auto* window = new QVBoxLayout(this);
     window->setContentsMargins(sizes::kEdge, sizes::kEdge, sizes::kEdge, sizes::kEdge);
-    window->addLayout(columns, 1);
+    window->addWidget(RowsAndChart(), 1);
     window->addWidget(note_);
     window->addWidget(Buttons());
     BindKeys();
@@ -84,6 +91,28 @@ TableEditorDialog::TableEditorDialog(TableEdit& table, QWidget* parent)
     resize(820, 520);
 }
 
+QWidget* TableEditorDialog::RowsAndChart() {
+    if (rows_.Columns() < 2) {
+        chart_->hide();
+        return grid_;
+    }
+    if (OnSmallScreen(*this)) {
+        auto* tabs = new QTabWidget(this);
+        tabs->setObjectName(QStringLiteral("tabs"));
+        tabs->tabBar()->setAccessibleName(windowTitle());
+        tabs->addTab(grid_, Q(Text(913600_text)));
+        tabs->addTab(chart_, Q(Text(913601_text)));
+        return tabs;
+    }
+    auto* both = new QWidget(this);
+    auto* columns = new QHBoxLayout(both);
+    columns->setContentsMargins(0, 0, 0, 0);
+    columns->setSpacing(sizes::kGroupGap);
+    columns->addWidget(grid_, 3);
+    columns->addWidget(chart_, 2);
+    return both;
+}
+
 QWidget* TableEditorDialog::Buttons() {
     auto* line = new QWidget(this);
     auto* buttons = new QHBoxLayout(line);
@@ -91,7 +120,6 @@ QWidget* TableEditorDialog::Buttons() {
     const auto add = [&](const std::string& caption, const char* name, auto&& slot) {
         auto* button = new QPushButton(Q(caption), this);
         button->setObjectName(QString::fromLatin1(name));
-        button->setAutoDefault(false);
         connect(button, &QPushButton::clicked, this, slot);
         buttons->addWidget(button);
         return button;
@@ -136,6 +164,7 @@ void TableEditorDialog::BindKeys() {
     bind(QKeySequence(Qt::ALT | Qt::Key_Up), [this] { up_->click(); });
     bind(QKeySequence(Qt::ALT | Qt::Key_Down), [this] { down_->click(); });
     BindHelpKey(*this, TopicOfProblem);
+    new PaneKeys(*this);
 }
 
 TableEditorDialog::Selection TableEditorDialog::Selected() const {
@@ -176,9 +205,22 @@ void TableEditorDialog::MarkCell(int row, int column) {
     font.setBold(fault.has_value());
     item.setFont(font);
     item.setTextAlignment(Qt::AlignRight | Qt::AlignVCenter | Qt::AlignAbsolute);
+    item.setData(Qt::AccessibleTextRole, InWords(row, column));
     item.setToolTip(Q(fault   ? *fault
                       : hides ? Text(906539_text, {{"|1", rows_.AllDigits(row, column)}})
                               : std::string()));
+}
+
+// "Row 3, Time, days, 4.5", and what is wrong with it.
+QString TableEditorDialog::InWords(int row, int column) const {
+    const std::string place = Text(906538_text, {{"|1", std::to_string(row + 1)}, {"|2", rows_.Title(column)}});
+    QStringList words{Q(place)};
+    if (const QString unit = UnitOf(table_.Columns[static_cast<std::size_t>(column)].Head);
+        unit != QLatin1String("[-]"))
+        words.append(QString(unit).remove(QLatin1Char('[')).remove(QLatin1Char(']')));
+    words.append(Q(rows_.Cell(row, column)));
+    if (const auto fault = rows_.Fault(row, column)) words.append(Q(*fault));
+    return words.join(QStringLiteral(", "));
 }
 
 void TableEditorDialog::ShowState() {

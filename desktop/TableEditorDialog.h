@@ -34,11 +34,14 @@ class TableEditorDialog : public QDialog {
     Selection Selected() const;
 
     QWidget* Buttons();
+    // The chart beside the rows, on a small screen behind a tab.
+    QWidget* RowsAndChart();
     void BindKeys();
     // The grid as the rows are, and what follows from them: marks, reason, chart, buttons.
     void ShowRows();
     void ShowState();
     void MarkCell(int row, int column);
+    QString InWords(int row, int column) const;
     void Typed(int row, int column);
     // Runs a command on the rows, shows them, and selects a cell.
     template <typename Command>

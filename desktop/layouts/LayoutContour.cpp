@@ -14,9 +14,11 @@
 #include "core/Units.h"
 #include "desktop/ContourView.h"
 #include "desktop/FormView.h"
+#include "desktop/GraphicWords.h"
 #include "desktop/PictureView.h"
 #include "desktop/Printing.h"
 #include "desktop/SaveDialog.h"
+#include "desktop/ScreenRoom.h"
 #include "desktop/Sizes.h"
 #include "desktop/layouts/LayoutTools.h"
 #include "desktop/layouts/Layouts.h"
@@ -32,6 +34,8 @@
 namespace lithmark {
 
 namespace {
+
+constexpr int kCurve = 170, kSmallCurve = 120;  // the height of the section's curve
 
 // Puts a drawing into the place of a picture.
 ContourView* PutInto(FormView& view, frmContour& form, PictureBox& picture, ContourView::Shows shows) {
@@ -110,8 +114,46 @@ void ShowCurve(QCustomPlot& curve, const frmContour& form) {
     ChartLook look;
     look.Legend = false;
     curve.legend->setVisible(false);
-    FillPlot(curve, SectionChart(form.Field(), *section), look);
+    const ChartArguments chart = SectionChart(form.Field(), *section);
+    FillPlot(curve, chart, look);
+    // A low plot has no room for the words of its upright axis.
+    if (const AxisWords words = WordsOf(chart.YTitle); curve.height() < kCurve && !words.Symbol.empty())
+        curve.yAxis->setLabel(Q(words.Symbol + " [" + words.Unit + "]"));
+    TellGraphic(curve, Q(ChartReading(chart).Summary()));
     curve.replot(QCustomPlot::rpQueuedReplot);
+}
+
+// Zoom to the corners, back, and out again. Left is left in the plot, so it is beside it too.
+QWidget* Zooms(FormView& view, frmContour& form, bool redraw) {
+    auto* corners = new QWidget(&view);
+    corners->setLayoutDirection(Qt::LeftToRight);
+    auto* zooms = new QGridLayout(corners);
+    zooms->setContentsMargins(0, 0, 0, 0);
+    zooms->setSpacing(sizes::kRowGap);
+    zooms->addWidget(view.Place(form.cmdULeft), 0, 0);
+    zooms->addWidget(view.Place(form.cmdURight), 0, 1);
+    zooms->addWidget(view.Place(form.cmdLLeft), 1, 0);
+    zooms->addWidget(view.Place(form.cmdLRight), 1, 1);
+    zooms->addWidget(view.Place(form.cmdPrevious), 2, 0);
+    zooms->addWidget(view.Place(form.cmdOriginal), 2, 1);
+    if (redraw) zooms->addWidget(view.Place(form.cmdRedraw), 3, 0, 1, 2);
+    return corners;
+}
+
+// The views and the boxes, with the button that makes them count where `redraw` says so.
+QBoxLayout* Choices(FormView& view, frmContour& form, bool redraw) {
+    auto* choices = new QVBoxLayout;
+    choices->setSpacing(sizes::kRowGap);
+    auto* views = new QHBoxLayout;
+    views->setSpacing(sizes::kGroupGap);
+    for (OptionButton& option : form.optView) views->addWidget(view.Place(option));
+    views->addStretch(1);
+    choices->addLayout(views);
+    for (Control* box : ControlList{form.chkColorContours, form.chkDisplaylines, form.chkDrawGrid,
+                                    form.chkchkDisplayValues, form.chkFineLabels, form.chkSection})
+        choices->addWidget(view.Place(*box));
+    if (redraw) choices->addWidget(view.Place(form.cmdRedraw));
+    return choices;
 }
 
 QPushButton* OwnButton(FormView& view, const std::string& caption, const char* name) {
@@ -133,7 +175,8 @@ const LayoutOf<frmContour> kLayout([](FormView& view, frmContour& form) {
     auto* curve = new QCustomPlot(&view);
     curve->setObjectName(QStringLiteral("sectionCurve"));
     curve->setLayoutDirection(Qt::LeftToRight);
-    curve->setFixedHeight(170);
+    curve->setFixedHeight(kCurve);
+    MakeGraphic(*curve, Q(Text(910022_text)));
     curve->setToolTip(Q(Text(910027_text)));
     plot->SectionLaid = [&form, curve] { ShowCurve(*curve, form); };
     auto* drawn = new QVBoxLayout(view.Place(form.fraResult));
@@ -141,39 +184,28 @@ const LayoutOf<frmContour> kLayout([](FormView& view, frmContour& form) {
     drawn->addWidget(under);
     drawn->addWidget(curve);
 
-    // Left is left in the plot, so it is beside it too.
-    auto* corners = new QWidget(&view);
-    corners->setLayoutDirection(Qt::LeftToRight);
-    auto* zooms = new QGridLayout(corners);
-    zooms->setContentsMargins(0, 0, 0, 0);
-    zooms->setSpacing(sizes::kRowGap);
-    zooms->addWidget(view.Place(form.cmdULeft), 0, 0);
-    zooms->addWidget(view.Place(form.cmdURight), 0, 1);
-    zooms->addWidget(view.Place(form.cmdLLeft), 1, 0);
-    zooms->addWidget(view.Place(form.cmdLRight), 1, 1);
-    zooms->addWidget(view.Place(form.cmdPrevious), 2, 0);
-    zooms->addWidget(view.Place(form.cmdOriginal), 2, 1);
-
-    auto* views = new QHBoxLayout;
-    views->setSpacing(sizes::kGroupGap);
-    for (OptionButton& option : form.optView) views->addWidget(view.Place(option));
-    views->addStretch(1);
-    auto* choices = new QVBoxLayout;
-    choices->setSpacing(sizes::kRowGap);
-    choices->addLayout(views);
-    for (Control* box : ControlList{form.chkColorContours, form.chkDisplaylines, form.chkDrawGrid,
-                                    form.chkchkDisplayValues, form.chkFineLabels, form.chkSection})
-        choices->addWidget(view.Place(*box));
-    choices->addWidget(view.Place(form.cmdRedraw));
-    choices->addSpacing(sizes::kGroupGap);
-    choices->addWidget(corners);
-    choices->addStretch(1);
-
     auto* columns = new QHBoxLayout;
     columns->setSpacing(sizes::kEdge);
     columns->addWidget(view.Place(form.fraResult), 1);
-    columns->addWidget(view.Place(form.picBox2), 0, Qt::AlignTop);
-    columns->addLayout(choices);
+    auto* side = new QVBoxLayout;
+    side->setSpacing(sizes::kGroupGap);
+    if (OnSmallScreen(view)) {
+        // Legend and buttons beside each other: all of the height is the plot's.
+        columns->addWidget(view.Place(form.picBox2), 0, Qt::AlignTop);
+        side->addLayout(Choices(view, form, true));
+        side->addWidget(Zooms(view, form, false));
+        side->addStretch(1);
+        curve->setFixedHeight(kSmallCurve);
+    } else {
+        auto* top = new QHBoxLayout;
+        top->setSpacing(sizes::kEdge);
+        top->addWidget(view.Place(form.picBox2));
+        top->addWidget(Zooms(view, form, true), 0, Qt::AlignTop);
+        top->addStretch(1);
+        side->addLayout(top, 1);
+        side->addLayout(Choices(view, form, false));
+    }
+    columns->addLayout(side);
     QVBoxLayout* window = WindowColumn(view);
     window->addLayout(columns, 1);
 
@@ -194,9 +226,6 @@ const LayoutOf<frmContour> kLayout([](FormView& view, frmContour& form) {
         auto& widget = dynamic_cast<QPushButton&>(*view.WidgetOf(*button));
         QObject::connect(new QShortcut(key, &view), &QShortcut::activated, &widget, &QPushButton::click);
     }
-    for (const auto& [keys, button] :
-         {std::pair(QKeySequence::Copy, copy), {QKeySequence::Print, print}, {QKeySequence::Save, save}})
-        QObject::connect(new QShortcut(keys, &view), &QShortcut::activated, button, &QPushButton::click);
 
     // A plot that differs from what its boxes ask for says so at the button that draws it.
     auto& redraw = dynamic_cast<QPushButton&>(*view.WidgetOf(form.cmdRedraw));
@@ -207,8 +236,10 @@ const LayoutOf<frmContour> kLayout([](FormView& view, frmContour& form) {
         redraw.setText(Q(form.cmdRedraw.Caption + (form.WantsAnother() ? " *" : "")));
         legend->FitLegend();
         ShowCurve(*curve, form);
-        plot->update();
-        legend->update();
+        for (ContourView* drawing : {plot, legend}) {
+            drawing->Tell();
+            drawing->update();
+        }
     };
     view.resize(960, 640);
 });

@@ -9,6 +9,10 @@
 
 #include "../ui/AllForms.h"
 #include "../ui/FormTest.h"
+#include "contour/CurveSets.h"
+#include "core/Catalogue.h"
+#include "core/CurveRequest.h"
+#include "desktop/ChartWindow.h"
 #include "desktop/Dialogs.h"
 #include "desktop/FormView.h"
 #include "desktop/MainWindow.h"
@@ -16,8 +20,10 @@
 #include "desktop/ManualWindow.h"
 #include "desktop/QtHost.h"
 #include "desktop/TableEditorDialog.h"
+#include "kernels/RunKernel.h"
 #include "report/Notices.h"
 #include "ui/frame/MDITools.h"
+#include "ui/frmContour.h"
 
 namespace lithmark::tests {
 
@@ -52,6 +58,7 @@ class EveryWindow : public FormTest {
         for (const Language language : kLanguages) {
             StartIn(language);
             LookAtOwnWindows(look, In(language));
+            LookAtCurves(look, In(language));
             LookAtFrame(look, language);
         }
     }
@@ -93,6 +100,46 @@ class EveryWindow : public FormTest {
         LookAt(editor, look, "table" + in);
         ManualWindow manual(nullptr, PageOfTopic("problem-5"));
         LookAt(manual, look, "manual" + in);
+    }
+
+    // Curves and contours of the default projects.
+    void LookAtCurves(const Look& look, const std::string& in) {
+        const auto run = [](int problem) {
+            Session.ProblemType = problem;
+            SetProblemDefaults();
+            Session.AnalysisType = Analysis::Numerical;
+            EXPECT_TRUE(RunProblemKernel());
+        };
+        const auto chart = [&](CurveSet set, const char* name) {
+            RequestCurve({set});
+            ChartArguments curves = BuildChart();
+            if (ProblemInForce().HasContours()) curves.ShowContours = [] {};
+            ChartWindow window(curves, nullptr);
+            LookAt(window, look, name + in);
+        };
+        run(Problem::TimeTheory);
+        chart(CurveSet::Corrected, "curves of a building");
+        run(Problem::ConsolidationRate);
+        chart(CurveSet::Load, "pore pressures");
+        Session.WorkDir = DataDir();
+        Session.WorkName = Session.ProjectName;
+        run(Problem::RaftDisplacement);
+        chart(CurveSet::RaftSettlement, "curves of a raft");
+        RequestContours(CurveSet::ContactPressure);
+        frmContour form;
+        form.Load();
+        FormView contours(form, nullptr);
+        contours.show();
+        form.Activate();
+        contours.Refresh();
+        LookAt(contours, look, "contours" + in);
+        form.SelectOption(form.optView[1]);
+        form.chkSection.Value = true;
+        form.optView_Click();
+        contours.Refresh();
+        LookAt(contours, look, "field with a section" + in);
+        Notices().Clear();
+        for (const std::string& file : DataFiles()) std::filesystem::remove(DataFile(file));
     }
     static void LookAt(QWidget& window, const Look& look, const std::string& name) {
         window.show();

@@ -24,8 +24,12 @@ using ::testing::StartsWith;
 
 class ChartWindowTest : public ::testing::Test {
   protected:
-    ChartWindowTest() { SharedServices().UseSettingsDirectory(folder_.Dir()); }
+    ChartWindowTest() {
+        SharedServices().UseSettingsDirectory(folder_.Dir());
+        SetCurrentHost(&host_);
+    }
     ~ChartWindowTest() override {
+        SetCurrentHost(nullptr);
         SharedServices().UseSettingsDirectory("");
         LanguageTexts().SetCurrent(Language::English);
         ResetSession();
@@ -108,6 +112,29 @@ TEST_F(ChartWindowTest, KeysZoomWalkAndMark) {
     QTest::keyClick(&plot, Qt::Key_Left);
     EXPECT_EQ(plot.Row(), 3);
     EXPECT_EQ(plot.accessibleDescription().toStdString(), plot.Reading().ValuesAt(3));
+}
+
+// On a button it clicks it; anywhere else it closes.
+TEST_F(ChartWindowTest, EnterClicksTheButtonWithTheFocusAndF1OpensTheManual) {
+    ChartWindow window(Chart(8, "Tab3"), nullptr);
+    ChartView& plot = Shown(window);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    const QCPRange whole = plot.xAxis->range();
+    plot.Zoom(2);
+    auto& original = Child<QPushButton>(window, "cmdOriginal");
+    original.setFocus();
+    QTest::keyClick(&original, Qt::Key_Return);
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(plot.xAxis->range(), whole);
+    QTimer::singleShot(0, &window, [] {
+        ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }));
+        EXPECT_EQ(QApplication::activeModalWidget()->objectName(), "manualWindow");
+        QApplication::activeModalWidget()->close();
+    });
+    QTest::keyClick(&window, Qt::Key_F1);
+    plot.setFocus();
+    QTest::keyClick(&plot, Qt::Key_Return);
+    EXPECT_FALSE(window.isVisible());
 }
 
 TEST_F(ChartWindowTest, ABoxHidesItsCurveOnTheScreenAndOnPaper) {

@@ -69,7 +69,8 @@ TEST_F(LongRuns, TellHowFarTheyAreAndEndAtOnce) {
             if (progress == nullptr || cancelled > 0) return;
             told.push_back(progress->findChild<QProgressBar*>()->value());
             dialog.update();
-            if (told.size() < kLooks) return;
+            // The run has gone on meanwhile, however slow the machine is.
+            if (told.size() < kLooks || told.back() == told.front()) return;
             cancelled = std::clock();
             QTest::mouseClick(progress->findChild<QPushButton*>(), Qt::LeftButton);
         });
@@ -91,7 +92,7 @@ TEST_F(LongRuns, TellHowFarTheyAreAndEndAtOnce) {
     ASSERT_GT(heard, cancelled);
     // 0.2 s, and what a window takes to come.
     EXPECT_LT(heard - cancelled, CLOCKS_PER_SEC * 2 / 5);
-    ASSERT_EQ(told.size(), kLooks);
+    ASSERT_GE(told.size(), kLooks);
     EXPECT_TRUE(std::is_sorted(told.begin(), told.end())) << ::testing::PrintToString(told);
     EXPECT_LT(told.front(), told.back()) << ::testing::PrintToString(told);
 }

@@ -5,7 +5,9 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QPlainTextEdit>
+#include <QPrintPreviewWidget>
 #include <QProcess>
+#include <map>
 
 #include "ScreenRun.h"
 #include "core/Catalogue.h"
@@ -15,6 +17,7 @@ namespace lithmark::tests {
 namespace {
 
 using ::testing::HasSubstr;
+using ::testing::StartsWith;
 
 struct Story {
     int Problem, Row;  // its row in the list of the project's problem
@@ -40,12 +43,12 @@ class ProblemStory : public ::testing::TestWithParam<Story> {
     std::string Data(const std::string& name) const { return folder_ / ("data/" + name); }
 
     // What the command line says of the project.
-    std::string CommandLineReport() const {
+    std::string CommandLine(const QStringList& command) const {
         QProcess process;
         process.start(
             QString::fromStdString(CommandLineTool().string()),
-            {QStringLiteral("report"), QStringLiteral("--lang"), QStringLiteral("en"), QStringLiteral("--settings"),
-             QString::fromStdString(Settings()), QString::fromStdString(Data("Site.PO3"))});
+            command + QStringList{QStringLiteral("--lang"), QStringLiteral("en"), QStringLiteral("--settings"),
+                                  QString::fromStdString(Settings()), QString::fromStdString(Data("Site.PO3"))});
         EXPECT_TRUE(process.waitForFinished(60000));
         EXPECT_EQ(process.exitCode(), 0);
         return process.readAllStandardOutput().toStdString();
@@ -73,19 +76,61 @@ class ProblemStory : public ::testing::TestWithParam<Story> {
         run.Menu("mnuProblem(" + std::to_string(ProblemInForce().MenuEntry) + ")");
     }
 
-    static void LookAtCurves(ScreenRun& run, QWidget& viewer) {
+    // Saves what a window shows; the ending of the name chooses the kind.
+    void Save(ScreenRun& run, QWidget& window, const char* button, const std::string& name, const char* ending) {
+        const std::string path = Data(name + "." + ending);
+        run.In("QFileDialog", [path](QWidget& dialog) {
+            auto& box = Child<QLineEdit>(dialog, "fileNameEdit");
+            box.setText(QString::fromStdString(path));
+            QTest::keyClick(&box, Qt::Key_Return);
+        });
+        BackTo(window);
+        ClickOn(window, button);
+        saved_[name + "." + ending] = std::filesystem::exists(path) ? ReadBytes(path) : std::string();
+    }
+    // What would be printed: one page, with something on it.
+    static void Print(ScreenRun& run, QWidget& window) {
+        run.In("printPreview", [](QWidget& preview) {
+            auto* pages = preview.findChild<QPrintPreviewWidget*>();
+            ASSERT_NE(pages, nullptr);
+            EXPECT_EQ(pages->pageCount(), 1);
+            const QImage page = pages->grab().toImage();
+            int coloured = 0;  // of a curve or a plot; the paper and its frame are grey
+            for (int y = 0; y < page.height(); ++y)
+                for (int x = 0; x < page.width(); ++x) coloured += page.pixelColor(x, y).hsvSaturation() > 100 ? 1 : 0;
+            EXPECT_GT(coloured, 100);
+            QTest::keyClick(&preview, Qt::Key_Escape);
+        });
+        BackTo(window);
+        QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier);
+    }
+
+    void LookAtCurves(ScreenRun& run, QWidget& viewer) {
         const Story& story = GetParam();
         if (story.Method >= 0 || story.Contour) run.In("frmOptionDraw", [](QWidget& form) { ClickOn(form, "cmdok"); });
         run.In("chartWindow", [&](QWidget& chart) {
             const QImage picture = chart.grab().toImage();
             EXPECT_GT(picture.width(), 300);
+            const bool first = saved_.empty();
+            if (first) {
+                for (const char* ending : {"pdf", "png", "svg", "csv", "xlsx"})
+                    Save(run, chart, "cmdExport", "curves", ending);
+                Print(run, chart);
+            }
             if (story.Contour) {
-                run.In("frmContour", [](QWidget& contour) {
+                run.In("frmContour", [&, first](QWidget& contour) {
+                    if (first) {
+                        for (const char* ending : {"pdf", "png", "svg"})
+                            Save(run, contour, "cmdSaveAs", "plot", ending);
+                        Print(run, contour);
+                    }
+                    BackTo(contour);
                     ClickOn(contour, "cmdULeft");
                     EXPECT_TRUE(Child<QPushButton>(contour, "cmdOriginal").isEnabled());
                     ClickOn(contour, "cmdOriginal");
                     QTest::keyClick(&contour, Qt::Key_Escape);
                 });
+                BackTo(chart);
                 ClickOn(chart, "cmdContours");
             }
             QTest::keyClick(&chart, Qt::Key_Escape);
@@ -93,7 +138,32 @@ class ProblemStory : public ::testing::TestWithParam<Story> {
         ClickOn(viewer, "CmdExcel");
     }
 
+    // Each kind is what it says, and the table is the command line's.
+    void CheckSaved() const {
+        const Story& story = GetParam();
+        if (!story.Chart) return;
+        for (const auto& [name, bytes] : saved_) {
+            EXPECT_GT(bytes.size(), 100u) << name;
+            if (name.ends_with(".pdf")) {
+                EXPECT_THAT(bytes, StartsWith("%PDF-")) << name;
+            }
+            if (name.ends_with(".svg")) {
+                EXPECT_THAT(bytes, HasSubstr("</svg>")) << name;
+            }
+            if (name.ends_with(".xlsx")) {
+                EXPECT_THAT(bytes, HasSubstr("xl/charts/chart1.xml")) << name;
+            }
+            if (!name.ends_with(".png")) continue;
+            const QImage picture = QImage::fromData(QByteArray::fromStdString(bytes), "PNG");
+            EXPECT_GE(picture.width(), 800) << name;
+        }
+        EXPECT_EQ(saved_.size(), story.Contour ? 8u : 5u);
+        EXPECT_EQ(saved_.at("curves.csv"),
+                  CommandLine({QStringLiteral("chart"), QStringLiteral("--format"), QStringLiteral("csv")}));
+    }
+
     TestFolder folder_;
+    std::map<std::string, std::string> saved_;
 };
 
 TEST_P(ProblemStory, FromTheMenuToTheReportAndTheSameAgain) {
@@ -131,7 +201,8 @@ TEST_P(ProblemStory, FromTheMenuToTheReportAndTheSameAgain) {
         run.In("questionBox", [](QWidget& box) { ClickOn(box, "cmdYes"); });
         run.Menu("mnuFileExit");
     }
-    EXPECT_EQ(CommandLineReport(), report);
+    EXPECT_EQ(CommandLine({QStringLiteral("report")}), report);
+    CheckSaved();
     ScreenRun run(Settings(), Data("Site.PO3"));
     run.Start();
     ASSERT_TRUE(run.Frame().ProjectOpen());

@@ -15,6 +15,7 @@
 #include <QTableWidget>
 
 #include "EveryWindow.h"
+#include "desktop/ContourView.h"
 #include "desktop/Palettes.h"
 #include "desktop/ScreenRoom.h"
 #include "desktop/Sizes.h"
@@ -108,6 +109,42 @@ TEST_F(RoomTest, FieldsScrollWhereTheyDoNotFit) {
         EXPECT_GT(scrolling, 0);
     else
         EXPECT_EQ(scrolling, 0);
+}
+
+TEST_F(RoomTest, TheChartOfATableIsBesideItsRowsOrBehindATab) {
+    const bool small = QApplication::primaryScreen()->availableGeometry().height() < 600;
+    TableEdit table;
+    table.Columns = {{"t\n[1]\n[-]"}, {"p\n[2]\n[%]"}};
+    table.Rows = {{"1", "2"}};
+    TableEditorDialog editor(table, nullptr);
+    editor.show();
+    QCoreApplication::processEvents();
+    const auto* chart = editor.findChild<QWidget*>(QStringLiteral("rowsChart"));
+    EXPECT_EQ(chart->isVisible(), !small);
+    auto* tabs = editor.findChild<QTabBar*>();
+    ASSERT_EQ(tabs != nullptr, small);
+    if (!small) return;
+    tabs->setCurrentIndex(1);
+    EXPECT_TRUE(chart->isVisible());
+}
+
+// All of the height is the plot's, with legend and buttons in two columns at its side.
+TEST_F(RoomTest, AContourPlotIsAsLargeAsItsWindowIsHigh) {
+    ForAllWindows([](QWidget& window, const std::string& name) {
+        if (!name.starts_with("contours")) return;
+        auto& plot = dynamic_cast<ContourView&>(*window.findChild<QWidget*>(QStringLiteral("plot")));
+        auto& legend = dynamic_cast<ContourView&>(*window.findChild<QWidget*>(QStringLiteral("legend")));
+        EXPECT_GE(plot.height(), window.height() - 150) << name;
+        EXPECT_GE(plot.width(), plot.height()) << name << ": a square has the height for its side";
+        EXPECT_GE(std::min(plot.width(), plot.height()), 360) << name;
+        const QRect ofPlot(plot.mapTo(&window, QPoint()), plot.size());
+        for (const QWidget* beside :
+             {static_cast<const QWidget*>(&legend), window.findChild<const QWidget*>("cmdULeft"),
+              window.findChild<const QWidget*>("cmdRedraw")}) {
+            const QRect place(beside->mapTo(&window, QPoint()), beside->size());
+            EXPECT_FALSE(place.left() <= ofPlot.right() && ofPlot.left() <= place.right()) << name;
+        }
+    });
 }
 
 TEST_F(RoomTest, ADarkPaletteIsWhole) {

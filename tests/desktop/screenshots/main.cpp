@@ -30,6 +30,7 @@
 #include "ui/frmAbout.h"
 #include "ui/frmContour.h"
 #include "ui/frmDataDir.h"
+#include "ui/frmMethodtype.h"
 #include "ui/frmOptionDraw.h"
 #include "ui/frmPreferences.h"
 #include "ui/frmProblemType.h"
@@ -229,8 +230,12 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
     frmAbout about;
     gallery.Take(about, QStringLiteral("frmAbout"));
     frmOptionDraw draw;
+    Session.ProblemType = 9;
+    gallery.Take(draw, QStringLiteral("frmOptionDraw-raft"));
     Session.ProblemType = 8;
     gallery.Take(draw, QStringLiteral("frmOptionDraw"));
+    frmMethodtype method;
+    gallery.Take(method, QStringLiteral("frmMethodtype"));
     Session.ProblemType = 1;
 
     gallery.TakeModal(QStringLiteral("message"), [&] {
@@ -250,7 +255,7 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
     RunProblemKernel();
     Session.CurveLoadUnit = Session.Force1Label;
     Session.CurveSettlementUnit = Session.Len2Label;
-    for (const char* curve : {"Tab1", "Tab3"}) {
+    for (const char* curve : {"Tab1", "Tab2", "Tab3", "Tab4"}) {
         Session.CurveChoice = curve;
         gallery.TakeModal(
             QStringLiteral("chart-") + QLatin1String(curve), [&] { host.ShowChart(BuildChart()); }, MarkAndTurn);
@@ -268,8 +273,18 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
     gallery.Take(results, QStringLiteral("frmResultTools-raft"));
     ManualWindow manual(nullptr, PageOfTopic("notices#raft-tension"));
     gallery.Take(manual, QStringLiteral("manual"));
-    Session.CurveChoice = Session.ContourResult = "Tab5";
+    for (const char* curve : {"Tab5", "Tab6"}) {
+        Session.CurveChoice = curve;
+        gallery.TakeModal(QStringLiteral("chart-") + QLatin1String(curve), [&] {
+            ChartArguments chart = BuildChart();
+            chart.ShowContours = [] {};
+            host.ShowChart(chart);
+        });
+    }
+    Session.CurveChoice = Session.ContourResult = "Tab6";
     frmContour contour;
+    gallery.Take(contour, QStringLiteral("frmContour-settlement"), [&] { contour.Activate(); });
+    Session.CurveChoice = Session.ContourResult = "Tab5";
     gallery.Take(contour, QStringLiteral("frmContour"), [&] { contour.Activate(); });
     gallery.Take(contour, QStringLiteral("frmContour-field"), [&] {
         contour.Activate();
@@ -287,6 +302,12 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
     table.Columns = {{"t\n[1]\n[-]", TableEdit::Kind::Whole}, {"p\n[2]\n[%]", TableEdit::Kind::Real, 100, 0}};
     table.Rows = {{"1", "19"}, {"2", "42"}, {"4.5", "83"}};
     gallery.TakeModal(QStringLiteral("table"), [&] { host.EditTable(table); });
+    Session.ProblemType = 7;
+    frmTimeSettlement2 oedometer;
+    oedometer.Reopen();
+    oedometer.Load();
+    gallery.TakeModal(QStringLiteral("table-loads"), [&] { oedometer.cmdTimeLoad_Click(); });
+    gallery.TakeModal(QStringLiteral("table-oedometer"), [&] { oedometer.CmdOdomterSettlement_Click(); });
 
     frame.SetWindow(nullptr);
     SetCurrentHost(nullptr);
