@@ -11,22 +11,20 @@ namespace lithmark {
 namespace {
 
 using enum CurveFamily;
-using enum ProblemIcon;
 
 // The three methods of the time-settlement curve share one menu entry and one data file.
 constexpr std::array kProblems = {
-    ProblemRow{Problem::SoilStress, 1, 140185_text, 140185_text, "SSD", LoadOnSoil, None, true, false},
-    ProblemRow{Problem::SoilStrain, 2, 300100_text, 300100_text, "SSD", LoadOnSoil, None, true, false},
-    ProblemRow{Problem::SoilDisplacement, 3, 300001_text, 300001_text, "SSD", LoadOnSoil, None, true, false},
-    ProblemRow{Problem::Consolidation, 4, 140186_text, 140186_text, "CON", Curve, None, true, false},
-    ProblemRow{Problem::ConsolidationRate, 5, 140187_text, 140187_text, "RAT", Curve, Isochrones, true, false},
-    ProblemRow{Problem::TimeDirect, 6, 140188_text, 300047_text, "TST", Curve, TimeSettlement, true, false},
-    ProblemRow{Problem::TimeOedometer, 6, 140188_text, 300048_text, "TST", Curve, TimeSettlement, true, false},
-    ProblemRow{Problem::TimeTheory, 6, 140188_text, 300033_text, "TST", Curve, TimeSettlement, true, false},
-    ProblemRow{Problem::RaftDisplacement, 7, 140189_text, 140189_text, "RDE", Raft, MiddleRow, true, true, 90046_text},
-    ProblemRow{Problem::RaftConsolidation, 8, 140190_text, 140190_text, "RCO", Raft, MiddleRow, true, true,
-               140186_text},
-    ProblemRow{Problem::LayerTable, 9, 400190_text, 400190_text, "SC1", LoadOnSoil, TimeSettlement, false, true},
+    ProblemRow{Problem::SoilStress, 1, 140185_text, 140185_text, "SSD", None, true, false},
+    ProblemRow{Problem::SoilStrain, 2, 300100_text, 300100_text, "SSD", None, true, false},
+    ProblemRow{Problem::SoilDisplacement, 3, 300001_text, 300001_text, "SSD", None, true, false},
+    ProblemRow{Problem::Consolidation, 4, 140186_text, 140186_text, "CON", None, true, false},
+    ProblemRow{Problem::ConsolidationRate, 5, 140187_text, 140187_text, "RAT", Isochrones, true, false},
+    ProblemRow{Problem::TimeDirect, 6, 140188_text, 300047_text, "TST", TimeSettlement, true, false},
+    ProblemRow{Problem::TimeOedometer, 6, 140188_text, 300048_text, "TST", TimeSettlement, true, false},
+    ProblemRow{Problem::TimeTheory, 6, 140188_text, 300033_text, "TST", TimeSettlement, true, false},
+    ProblemRow{Problem::RaftDisplacement, 7, 140189_text, 140189_text, "RDE", MiddleRow, true, true, 90046_text},
+    ProblemRow{Problem::RaftConsolidation, 8, 140190_text, 140190_text, "RCO", MiddleRow, true, true, 140186_text},
+    ProblemRow{Problem::LayerTable, 9, 400190_text, 400190_text, "SC1", TimeSettlement, false, true},
 };
 
 void SetSoilStressDefaults() {

@@ -16,16 +16,12 @@ enum class CurveFamily {
     MiddleRow        // of a raft: contact pressures and settlements
 };
 
-// What the problem's icon shows.
-enum class ProblemIcon { LoadOnSoil, Curve, Raft };
-
 struct ProblemRow {
     int ProblemType;
     int MenuEntry;          // index of mnuProblem; problems of one entry share the data file
     TextId MenuText;        // of the entry, of its row in the list of problems, of the caption of the problem's dialog
     TextId Subject;         // the caption of the results: the entry's text, or the method where an entry has several
     const char* Extension;  // of the data file, upper case
-    ProblemIcon Icon;
     CurveFamily Curves;
     bool Calculated;             // it has a kernel, and stands in the list of problems
     bool HandsOver;              // its results can go to the raft analysis program

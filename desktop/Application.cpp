@@ -4,6 +4,7 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QStatusBar>
+#include <QTimer>
 #include <QTranslator>
 
 #include "desktop/Icons.h"
@@ -11,6 +12,7 @@
 #include "desktop/Palettes.h"
 #include "desktop/QtHost.h"
 #include "desktop/ScreenRoom.h"
+#include "desktop/ThemeKeeper.h"
 #include "desktop/WindowStyle.h"
 #include "services/SharedServices.h"
 #include "services/texts/LanguageTexts.h"
@@ -47,7 +49,7 @@ void PrepareApplication(QApplication& application) {
     QFont font = QApplication::font();
     if (font.pointSizeF() < kLeastPointSize) font.setPointSizeF(kLeastPointSize);
     QApplication::setFont(font);
-    QApplication::setPalette(PaletteOf(ThemeOf(QApplication::palette())));
+    QApplication::setPalette(PaletteOf(Theme::Light));
     application.installEventFilter(new KeepsOnScreen(&application));
     QApplication::setWindowIcon(ProgramIcon());
     SharedServices().DecimalSign = QLocale::system().decimalPoint() == QLatin1String(",") ? ',' : '.';
@@ -73,7 +75,12 @@ int RunDesktop(int argc, char** argv) {
     {
         MDITools frame;
         MainWindow window(frame);
+        ThemeKeeper theme(SessionBus());
         window.OnEnd = [] { QApplication::exit(0); };
+        window.OnTheme = [&theme](ThemeChoice choice) { theme.Choose(choice); };
+        host.OpenProject = [&window, &frame](const std::string& path) {
+            QTimer::singleShot(0, &window, [&frame, path] { frame.OpenListed(path); });
+        };
         frame.SetWindow(&window);
         host.SetFrame(&window);
         host.StatusNotice = [&window](const QString& notice) { window.ShowNotice(notice); };
@@ -86,6 +93,7 @@ int RunDesktop(int argc, char** argv) {
         if (!frame.Ended) code = QApplication::exec();
         host.StatusNotice = nullptr;
         host.OpenExample = nullptr;
+        host.OpenProject = nullptr;
         frame.SetWindow(nullptr);
     }
     SetCurrentHost(nullptr);

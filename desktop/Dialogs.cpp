@@ -1,6 +1,5 @@
 #include "desktop/Dialogs.h"
 
-#include <QDateTime>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QDir>
@@ -18,11 +17,13 @@
 
 #include "core/Session.h"
 #include "desktop/FindBar.h"
+#include "desktop/Icons.h"
 #include "desktop/ManualTopics.h"
 #include "desktop/ManualWindow.h"
 #include "desktop/PaneKeys.h"
 #include "desktop/ReportView.h"
 #include "files/CommonStep.h"
+#include "files/ProjectGlance.h"
 #include "render/QtText.h"
 #include "render/ReportPaper.h"
 #include "services/SharedServices.h"
@@ -30,6 +31,7 @@
 #include "services/storage/UserFolders.h"
 #include "services/storage/WrittenFile.h"
 #include "services/texts/LanguageTexts.h"
+#include "ui/frame/StartPage.h"
 
 namespace lithmark {
 
@@ -38,8 +40,8 @@ namespace {
 // A dialog with a column for its content and buttons under it.
 class PlainDialog : public QDialog {
   public:
-    PlainDialog(QWidget* parent, const QString& title, bool cancel)
-        : QDialog(parent), Content(new QVBoxLayout), cancel_(cancel) {
+    PlainDialog(QWidget* parent, const QString& title, bool cancel, TextId ok = 6_text)
+        : QDialog(parent), Content(new QVBoxLayout), cancel_(cancel), ok_(ok) {
         setWindowTitle(title);
         setLayoutDirection(LanguageTexts().RightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
         auto* column = new QVBoxLayout(this);
@@ -52,7 +54,7 @@ class PlainDialog : public QDialog {
     // The buttons are made behind the content, as the Tab key goes.
     bool Run() {
         auto* buttons = new QDialogButtonBox(this);
-        QPushButton* ok = buttons->addButton(Q(Text(6_text, Styles::Button)), QDialogButtonBox::AcceptRole);
+        QPushButton* ok = buttons->addButton(Q(Text(ok_, Styles::Button)), QDialogButtonBox::AcceptRole);
         ok->setDefault(true);
         ok->setObjectName(QStringLiteral("cmdok"));
         connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
@@ -66,6 +68,7 @@ class PlainDialog : public QDialog {
 
   private:
     const bool cancel_;
+    const TextId ok_;
 };
 
 // The line of the company's logo: the file that is in force or chosen, and buttons to choose and to remove it.
@@ -159,6 +162,8 @@ std::optional<CompanyLines> AskCompanyLines(QWidget* parent, const CompanyLines&
     line1->setMinimumWidth(360);
     form->addRow(Q(Text(903007_text)), line1);
     form->addRow(Q(Text(903008_text)), line2);
+    line1->setFocus();
+    line1->selectAll();
     auto* logo = new LogoRow(&dialog);
     form->addRow(Q(Text(911005_text)), logo);
     dialog.Content->addLayout(form);
@@ -180,6 +185,7 @@ std::optional<Language> AskLanguage(QWidget* parent, Language current) {
         option->setChecked(language == current);
         options.push_back(option);
         dialog.Content->addWidget(option);
+        if (language == current) option->setFocus();
     }
     auto* note = new QLabel(Q(Text(903009_text)), &dialog);
     note->setWordWrap(true);
@@ -192,30 +198,40 @@ std::optional<Language> AskLanguage(QWidget* parent, Language current) {
     return std::nullopt;
 }
 
-void ShowFilesOfFolder(QWidget* parent, const QString& folder, const QString& extension) {
-    PlainDialog dialog(parent, folder, false);
+QString ShowFilesOfFolder(QWidget* parent, const QString& folder, const QString& extension) {
+    PlainDialog dialog(parent, folder, true, 913507_text);
+    dialog.setObjectName(QStringLiteral("fileListWindow"));
     const QFileInfoList files =
         QDir(folder).entryInfoList({QStringLiteral("*.") + extension}, QDir::Files, QDir::Name | QDir::IgnoreCase);
-    auto* table = new QTableWidget(static_cast<int>(files.size()), 3, &dialog);
+    auto* table = new QTableWidget(static_cast<int>(files.size()), 4, &dialog);
     table->setObjectName(QStringLiteral("fileList"));
     table->setAccessibleName(folder);
-    table->setHorizontalHeaderLabels({Q(Text(903010_text)), Q(Text(903011_text)), Q(Text(903012_text))});
+    table->setHorizontalHeaderLabels(
+        {Q(Text(903010_text)), Q(Text(913506_text)), Q(Text(11_text)), Q(Text(903012_text))});
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setSelectionMode(QAbstractItemView::SingleSelection);
+    table->setTabKeyNavigation(false);
     table->verticalHeader()->hide();
     for (int row = 0; row < table->rowCount(); ++row) {
         const QFileInfo& file = files[row];
-        table->setItem(row, 0, new QTableWidgetItem(file.fileName()));
-        auto* size = new QTableWidgetItem(QString::number(file.size()));
-        size->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        table->setItem(row, 1, size);
-        table->setItem(row, 2, new QTableWidgetItem(file.lastModified().toString(QStringLiteral("yyyy-MM-dd HH:mm"))));
+        const ProjectGlance glance = GlanceAt(file.filePath().toStdString());
+        auto* name = new QTableWidgetItem(IconOfProblem(glance.ProblemType), file.fileName());
+        name->setToolTip(QString::number(file.size()) + QLatin1Char(' ') + Q(Text(903011_text)));
+        table->setItem(row, 0, name);
+        table->setItem(row, 1, new QTableWidgetItem(Q(ProblemInShort(glance.ProblemType))));
+        table->setItem(row, 2, new QTableWidgetItem(Q(glance.Order)));
+        table->setItem(row, 3, new QTableWidgetItem(Q(glance.Changed)));
     }
     table->resizeColumnsToContents();
-    table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
-    table->setMinimumSize(560, 320);
+    table->horizontalHeader()->setStretchLastSection(true);
+    table->setMinimumSize(640, 320);
     dialog.Content->addWidget(table);
-    dialog.Run();
+    QObject::connect(table, &QTableWidget::cellDoubleClicked, &dialog, &QDialog::accept);
+    table->setCurrentCell(0, 0);
+    table->setFocus();
+    if (!dialog.Run() || table->currentRow() < 0) return {};
+    return files[table->currentRow()].filePath();
 }
 
 void ShowReportWindow(QWidget* parent, const std::string& report) {

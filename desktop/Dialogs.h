@@ -17,7 +17,9 @@ void ShowTextWindow(QWidget* parent, const QString& title, const QString& text);
 std::string ShowManual(QWidget* parent, const QString& topic, bool opensExamples);
 std::optional<CompanyLines> AskCompanyLines(QWidget* parent, const CompanyLines& lines);
 std::optional<Language> AskLanguage(QWidget* parent, Language current);
-void ShowFilesOfFolder(QWidget* parent, const QString& folder, const QString& extension);
+// The projects of a folder with what they are about; the path of the one that the user opens, by a double click or the
+// button, and an empty one when the list is only looked at.
+QString ShowFilesOfFolder(QWidget* parent, const QString& folder, const QString& extension);
 // A report in a window of its own, with find.
 void ShowReportWindow(QWidget* parent, const std::string& report);
 

@@ -52,8 +52,7 @@ QString RangeOf(const FieldRow& row) {
 
 QString DescriptionOf(const FieldRow& row) {
     QStringList words;
-    if (row.Symbol.On != nullptr && !row.Symbol.On->Caption.empty())
-        words.append(SymbolWords(row.Symbol.On->Caption).replace(QLatin1Char('_'), QLatin1Char(' ')));
+    if (row.Symbol.On != nullptr && !row.Symbol.On->Caption.empty()) words.append(SpokenSymbol(row.Symbol.On->Caption));
     QString unit = row.In.On != nullptr ? Q(row.In.On->Caption) : QString();
     unit.remove(QLatin1Char('[')).remove(QLatin1Char(']'));
     if (unit.isEmpty() || unit == QLatin1String("-")) unit = Q(Text(910200_text));

@@ -22,7 +22,10 @@ FindBar::FindBar(QWidget* window) : QWidget(window), box_(new QLineEdit(this)), 
     box_->setPlaceholderText(Q(Text(903000_text)));
     box_->setAccessibleName(box_->placeholderText());
     box_->setClearButtonEnabled(true);
-    connect(box_, &QLineEdit::textChanged, this, [this] { ShowPlace(); });
+    connect(box_, &QLineEdit::textChanged, this, [this](const QString& words) {
+        if (report_ != nullptr) report_->FindHere(words);
+        ShowPlace();
+    });
     connect(box_, &QLineEdit::returnPressed, this, [this] { Go(false); });
     row->addWidget(box_, 1);
     place_->setObjectName(QStringLiteral("lblFound"));

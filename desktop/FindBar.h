@@ -1,5 +1,5 @@
 // FindBar: looks for words in a report: a box, how many places there are and which one is shown, and buttons to the
-// next and the former one. Ctrl+F goes to it, F3 and Shift+F3 go on.
+// next and the former one. What is typed is found at once. Ctrl+F goes to it, F3 and Shift+F3 go on.
 #pragma once
 
 #include <QWidget>

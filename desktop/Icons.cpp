@@ -8,6 +8,7 @@
 #include <map>
 
 #include "core/Catalogue.h"
+#include "desktop/ProblemIcons.h"
 #include "render/drawings/Inks.h"
 #include "render/drawings/Logo.h"
 #include "services/ListTools.h"
@@ -16,8 +17,8 @@ namespace lithmark {
 
 namespace {
 
-const QColor kInk(0x2B, 0x3A, 0x4A), kBlue(0x1F, 0x77, 0xC4), kSand(0xE3, 0xC5, 0x8F), kClay(0xB9, 0x7A, 0x4F),
-    kGreen(0x2E, 0x8B, 0x57), kPaper(0xFF, 0xFF, 0xFF);
+using namespace iconcolours;
+const QColor kInk(0x2B, 0x3A, 0x4A), kGreen(0x2E, 0x8B, 0x57), kPaper(0xFF, 0xFF, 0xFF);
 
 // Lines that are seen on the windows' ground.
 QColor Outline() {
@@ -65,47 +66,30 @@ void SaveIcon(QPainter& p) {
     p.drawRect(QRectF(8, 4, 7, 5));
 }
 
-void LoadOnSoil(QPainter& p) {
-    p.setPen(Qt::NoPen);
-    p.setBrush(kSand);
-    p.drawRect(QRectF(2, 12, 20, 5));
-    p.setBrush(kClay);
-    p.drawRect(QRectF(2, 17, 20, 5));
-    p.setPen(QPen(kBlue, 1.8));
-    p.setBrush(kBlue);
-    for (const double x : {7.0, 12.0, 17.0}) {
-        p.drawLine(QPointF(x, 2), QPointF(x, 10));
-        p.drawPolygon(QPolygonF({{x, 11.5}, {x - 2, 8}, {x + 2, 8}}));
-    }
-}
-
-// A settlement curve that runs out.
-void CurveIcon(QPainter& p) {
-    p.setPen(QPen(Outline(), 1.4));
-    p.drawPolyline(QPolygonF({{21.5, 4}, {4, 4}, {4, 21.5}}));
-    QPainterPath curve(QPointF(4, 4));
-    curve.cubicTo(QPointF(6, 15), QPointF(12, 18), QPointF(21, 18.5));
-    p.setPen(QPen(kBlue, 2.2));
-    p.setBrush(Qt::NoBrush);
-    p.drawPath(curve);
-}
-
-void RaftIcon(QPainter& p) {
-    p.setPen(Qt::NoPen);
-    p.setBrush(kSand);
-    p.drawRect(QRectF(2, 13, 20, 9));
-    p.setBrush(Outline());
-    p.drawRect(QRectF(4, 9.5, 16, 3.5));
-    p.drawRect(QRectF(10, 3, 4, 7));
-    p.setPen(QPen(kBlue, 1.4));
-    for (const double x : {5.5, 9.5, 14.5, 18.5}) p.drawLine(QPointF(x, 14.5), QPointF(x, 19));
-}
-
 void ExitIcon(QPainter& p) {
     p.setPen(QPen(kClay.darker(115), 2.4, Qt::SolidLine, Qt::RoundCap));
     p.setBrush(Qt::NoBrush);
     p.drawArc(QRectF(4.5, 5.5, 15, 15), 125 * 16, 290 * 16);
     p.drawLine(QPointF(12, 3), QPointF(12, 12));
+}
+
+// A folder that is put away.
+void CloseIcon(QPainter& p) {
+    FolderIcon(p);
+    p.setPen(QPen(kClay.darker(115), 2.2, Qt::SolidLine, Qt::RoundCap));
+    p.drawLine(QPointF(14, 11.5), QPointF(20, 17.5));
+    p.drawLine(QPointF(20, 11.5), QPointF(14, 17.5));
+}
+
+void FormatsIcon(QPainter& p) {
+    p.setPen(Outline());
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(11);
+    font.setBold(true);
+    p.setFont(font);
+    p.drawText(QRectF(0, 3, 24, 14), Qt::AlignCenter, QStringLiteral("0.0"));
+    p.setPen(QPen(kBlue, 1.6));
+    p.drawLine(QPointF(4, 19), QPointF(20, 19));
 }
 
 void ListIcon(QPainter& p) {
@@ -192,6 +176,8 @@ const std::map<std::string, Drawing>& Drawings() {
         {"mnuSaveProjectAs", SaveIcon},
         {"mnuFileList", ListIcon},
         {"mnuFileExit", ExitIcon},
+        {"mnuCloseProject", CloseIcon},
+        {"mnuNumberFormats", FormatsIcon},
         {"mnuProblem(0)", ListIcon},
         {"mnuFirmaData", CompanyIcon},
         {"mnuDirOfData", FolderIcon},
@@ -217,15 +203,12 @@ QIcon IconOf(const std::string& key) {
     if (found != Drawings().end()) return Draw(found->second);
     if (!key.starts_with("mnuProblem(")) return {};
     const ProblemRow* problem = FirstProblemOf(ListTools().KeyIndex(key));
-    switch (problem == nullptr ? ProblemIcon::LoadOnSoil : problem->Icon) {
-        case ProblemIcon::Curve:
-            return Draw(CurveIcon);
-        case ProblemIcon::Raft:
-            return Draw(RaftIcon);
-        case ProblemIcon::LoadOnSoil:
-            break;
-    }
-    return Draw(LoadOnSoil);
+    return problem == nullptr ? QIcon() : IconOfProblem(problem->ProblemType);
+}
+
+QIcon IconOfProblem(int problemType) {
+    if (FindProblem(problemType) == nullptr) return Draw(Paper);
+    return Draw([problemType](QPainter& painter) { DrawProblemIcon(painter, problemType, Outline()); });
 }
 
 }  // namespace lithmark

@@ -9,5 +9,7 @@ namespace lithmark {
 QIcon ProgramIcon();
 // The icon of a menu entry by its key; a null icon where it has none.
 QIcon IconOf(const std::string& key);
+// Each problem has one of its own; any other number has a sheet of paper.
+QIcon IconOfProblem(int problemType);
 
 }  // namespace lithmark

@@ -15,6 +15,7 @@
 #include "desktop/Icons.h"
 #include "desktop/ManualTopics.h"
 #include "desktop/ProjectView.h"
+#include "desktop/ScreenRoom.h"
 #include "desktop/ScrollColumn.h"
 #include "desktop/StartView.h"
 #include "render/QtText.h"
@@ -26,14 +27,16 @@ namespace {
 constexpr int kRightButton = 2;
 constexpr int kLongestPath = 64;
 constexpr int kStartPage = 0, kProjectPage = 1;
+// What the status bar tells at all times, in this order.
+constexpr const char* kStatusParts[] = {"statusSaved", "statusProblem", "statusUnits", "statusDecimalSign"};
 
 bool IsRecentFile(const std::string& key) {
     return key.starts_with("MnuRecentFile");
 }
 
-// Entries that carry a state of their own: a bar or a part of the window that is shown or not.
+// Entries that carry a state of their own: a bar or a part of the window that is shown or not, the colours.
 bool IsSwitch(const std::string& key) {
-    return key.starts_with("MnuVeiwToolBar") || key == "MnuStatusBar";
+    return key.starts_with("MnuVeiwToolBar") || key.starts_with("mnuTheme") || key == "MnuStatusBar";
 }
 
 // A path is no caption: its "&" marks nothing. A long one keeps its name and the begin of its folder.
@@ -45,15 +48,19 @@ QString PathCaption(const std::string& path) {
 
 }  // namespace
 
-MainWindow::MainWindow(MDITools& frame)
-    : frame_(frame), pages_(new QStackedWidget(this)), notice_(new QLabel(this)), place_(new QLabel(this)) {
+MainWindow::MainWindow(MDITools& frame) : frame_(frame), pages_(new QStackedWidget(this)), notice_(new QLabel(this)) {
     setObjectName(QStringLiteral("MDITools"));
     setCentralWidget(pages_);
     statusBar()->addWidget(notice_, 1);
-    statusBar()->addPermanentWidget(place_);
+    for (const char* name : kStatusParts) {
+        auto* part = new QLabel(this);
+        part->setObjectName(QString::fromLatin1(name));
+        part->setTextInteractionFlags(Qt::NoTextInteraction);
+        statusBar()->addPermanentWidget(part);
+        status_.push_back(part);
+    }
     notice_->setObjectName(QStringLiteral("notice"));
-    place_->setTextInteractionFlags(Qt::NoTextInteraction);
-    resize(1000, 700);
+    resize(QSize(1280, 820).boundedTo(ScreenRoom(*this)));
     BindHelpKey(*this, [] { return std::string("Titel"); });
 }
 
@@ -71,10 +78,16 @@ void MainWindow::Build() {
     }
     BuildBars();
     start_ = new StartView(frame_, pages_);
-    start_->OnCommand = [this](const std::string& key) { RunLater(key); };
+    start_->OnCommand = [this](StartView::Command command) {
+        QTimer::singleShot(0, this, [this, command = std::move(command)] {
+            statusBar()->clearMessage();
+            command(frame_);
+            Refresh();
+        });
+    };
     project_ = new ProjectView(pages_);
     project_->OnCommand = [this](const std::string& key) { RunLater(key); };
-    pages_->insertWidget(kStartPage, new ScrollColumn(start_, pages_));
+    pages_->insertWidget(kStartPage, start_);
     pages_->insertWidget(kProjectPage, new ScrollColumn(project_, pages_));
 }
 
@@ -131,6 +144,7 @@ void MainWindow::Refresh() {
         for (int i = 0; i < Toolbars::kCount; ++i)
             bars_[static_cast<std::size_t>(i)]->setVisible(frame_.Bars[i].Visible);
         ShowPage();
+        ShowStatus();
     }
     statusBar()->setVisible(frame_.StatusBarVisible);
     if (frame_.Shown && !isVisible()) show();
@@ -155,6 +169,8 @@ void MainWindow::ShowEntry(const Entry& entry) {
     // A tick that says "the data exist" needs no empty box where they do not.
     entry.Action->setCheckable(IsSwitch(entry.Key) || item.Checked());
     entry.Action->setChecked(item.Checked());
+    // An icon would take the place of the tick.
+    entry.Action->setIconVisibleInMenu(!item.Checked());
 }
 
 void MainWindow::ShowPage() {
@@ -162,11 +178,9 @@ void MainWindow::ShowPage() {
         const ProjectSummary summary = frame_.Summary();
         project_->Show(summary);
         pages_->setCurrentIndex(kProjectPage);
-        place_->setText(Q(summary.Directory));
     } else {
         start_->Show(frame_.RecentProjects());
         pages_->setCurrentIndex(kStartPage);
-        place_->clear();
     }
 }
 
@@ -174,6 +188,29 @@ void MainWindow::ShowNotice(const QString& notice) {
     statusBar()->clearMessage();
     notice_->setText(notice);
     statusBar()->repaint();
+}
+
+void MainWindow::ShowStatus() {
+    const StatusLine line = frame_.Status();
+    const std::string* const parts[] = {&line.Saved, &line.Problem, &line.Units, &line.DecimalSign};
+    for (std::size_t i = 0; i < status_.size(); ++i) {
+        status_[i]->setText(Q(*parts[i]));
+        status_[i]->setVisible(!parts[i]->empty());
+    }
+}
+
+void MainWindow::ShowTheme(ThemeChoice choice) {
+    if (OnTheme) OnTheme(choice);
+}
+
+// Icons are drawn in colours that are seen on the window's ground.
+void MainWindow::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange && built_) {
+        for (const Entry& entry : entries_)
+            if (!entry.Action->isSeparator()) entry.Action->setIcon(IconOf(entry.Key));
+        Refresh();
+    }
+    QMainWindow::changeEvent(event);
 }
 
 QAction* MainWindow::MenuAction(const std::string& key) const {

@@ -30,9 +30,12 @@ class MainWindow : public QMainWindow, public FrameWindow {
     std::string DockLayout() const override;
     void SetDockLayout(const std::string& layout) override;
     void EndProcess() override;
+    void ShowTheme(ThemeChoice choice) override;
 
     // Ends the process once the program is ended; whoever runs it sets it.
     std::function<void()> OnEnd;
+    // The user wants light or dark windows, or those of the desktop.
+    std::function<void(ThemeChoice)> OnTheme;
     // What is being done, in the status bar; nothing for an empty text.
     void ShowNotice(const QString& notice);
     // The action of a menu entry; null for a heading.
@@ -44,6 +47,7 @@ class MainWindow : public QMainWindow, public FrameWindow {
   protected:
     void closeEvent(QCloseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
     struct Entry {
@@ -57,6 +61,7 @@ class MainWindow : public QMainWindow, public FrameWindow {
     void BuildBars();
     void ShowEntry(const Entry& entry);
     void ShowPage();
+    void ShowStatus();
     // Runs a command when the event that asked for it is over, so that it may change the widget that it came from.
     void RunLater(const std::string& key);
     void Run(const std::string& key);
@@ -70,7 +75,7 @@ class MainWindow : public QMainWindow, public FrameWindow {
     StartView* start_ = nullptr;
     ProjectView* project_ = nullptr;
     QLabel* notice_;
-    QLabel* place_;
+    std::vector<QLabel*> status_;
 };
 
 }  // namespace lithmark

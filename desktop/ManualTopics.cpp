@@ -9,10 +9,10 @@
 #include <vector>
 
 #include "core/Session.h"
-#include "files/ExampleProjects.h"
 #include "services/SharedServices.h"
 #include "services/host/Form.h"
 #include "services/texts/LanguageTexts.h"
+#include "ui/frame/StartPage.h"
 
 namespace lithmark {
 
@@ -25,9 +25,13 @@ struct Key {
 constexpr std::array kKeys = {Key{"Titel", "index"}, Key{"2", "which-problem"}, Key{"7_7", "settings-files"},
                               Key{"7_2", "project-files"}, Key{"verda_new", "changes"}};
 // Forms of no problem.
-constexpr std::array kForms = {Key{"frmUnits", "settings-files"},      Key{"frmPreferences", "settings-files"},
-                               Key{"frmDataDir", "project-files"},     Key{"frmProblemType", "which-problem"},
-                               Key{"frmMethodtype", "which-problem"},  Key{"frmAbout", "index"},
+constexpr std::array kForms = {Key{"frmUnits", "settings-files"},
+                               Key{"frmNumberFormats", "settings-files"},
+                               Key{"frmPreferences", "settings-files"},
+                               Key{"frmDataDir", "project-files"},
+                               Key{"frmProblemType", "which-problem"},
+                               Key{"frmMethodtype", "which-problem"},
+                               Key{"frmAbout", "index"},
                                Key{"frmProjectCheck", "project-files"}};
 constexpr std::string_view kProblemPage = "problem-";
 
@@ -94,8 +98,7 @@ std::string ExampleOfLink(const std::string& page, const std::string& link) {
     const std::string place = PlaceOf(page, link);
     if (!place.starts_with(kExamples)) return {};
     const std::string name = place.substr(kExamples.size());
-    const std::vector<std::string> known = ExampleNames();
-    return std::ranges::find(known, name) == known.end() ? std::string() : name;
+    return FindExample(name) ? name : std::string();
 }
 
 std::string ShownPage(const std::string& name) {

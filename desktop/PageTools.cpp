@@ -51,7 +51,7 @@ PageButton::PageButton(QWidget* parent, int height, bool centred)
 }
 
 void PageButton::Show(const QIcon& icon, const QString& caption, const QString& detail) {
-    picture_->setPixmap(icon.pixmap(size_));
+    SetIcon(icon);
     caption_->setText(caption);
     detail_->setText(detail);
     detail_->setVisible(!detail.isEmpty());
@@ -59,16 +59,17 @@ void PageButton::Show(const QIcon& icon, const QString& caption, const QString& 
     setAccessibleDescription(detail);
 }
 
+void PageButton::SetIcon(const QIcon& icon) {
+    picture_->setPixmap(icon.pixmap(size_));
+}
+
 QSize PageButton::sizeHint() const {
     return layout()->sizeHint().expandedTo(minimumSize());
 }
 
+// By its role, so that it follows the palette.
 void MakeQuiet(QLabel& label) {
-    QPalette palette = label.palette();
-    QColor color = palette.color(QPalette::WindowText);
-    color.setAlphaF(0.7F);
-    palette.setColor(QPalette::WindowText, color);
-    label.setPalette(palette);
+    label.setForegroundRole(QPalette::PlaceholderText);
 }
 
 QString PlainCaption(const std::string& caption) {

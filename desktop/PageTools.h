@@ -19,6 +19,7 @@ class PageButton : public QPushButton {
   public:
     PageButton(QWidget* parent, int height, bool centred);
     void Show(const QIcon& icon, const QString& caption, const QString& detail = {});
+    void SetIcon(const QIcon& icon);
     QSize sizeHint() const override;
 
   private:

@@ -28,7 +28,7 @@ QString InWords(const DrawnForm& form) {
     QStringList words;
     for (const DrawnBox& box : form.Boxes())
         if (!box.Symbol.empty())
-            words.append(SymbolWords(box.Symbol) + QStringLiteral(" = ") +
+            words.append(SpokenSymbol(box.Symbol) + QStringLiteral(" = ") +
                          (box.Faulty ? QStringLiteral("?") : (box.Text + QLatin1Char(' ') + box.Unit).trimmed()));
     return words.join(QStringLiteral("; "));
 }

@@ -138,7 +138,7 @@ void ProjectView::Show(const ProjectSummary& summary) {
     state_->setText(Q(missing ? Text(903018_text) : Text(903019_text)));
     stateIcon_->setPixmap(
         style()->standardIcon(missing ? QStyle::SP_MessageBoxWarning : QStyle::SP_DialogApplyButton).pixmap(20));
-    const QIcon icon = IconOf(ProblemKey(entry_));
+    const QIcon icon = IconOfProblem(summary.ProblemType);
     problemIcon_->setPixmap(icon.pixmap(40));
     calculate_->Show(icon, calculateCaption_);
     calculate_->setEnabled(MDITools::DialogExists(entry_));

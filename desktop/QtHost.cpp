@@ -57,6 +57,20 @@ std::string HandOverFile(const std::string& name) {
     return folder.filePath(Q(name)).toStdString();
 }
 
+// Whether the desktop has a program for the document. One that cannot be asked is taken to have one.
+bool HasWordProcessor() {
+    constexpr int kPatience = 3000;  // milliseconds
+    const QString asks = QStandardPaths::findExecutable(QStringLiteral("xdg-mime"));
+    if (asks.isEmpty()) return true;
+    for (const char* type : {"application/rtf", "text/rtf"}) {
+        QProcess question;
+        question.start(asks, {QStringLiteral("query"), QStringLiteral("default"), QString::fromLatin1(type)});
+        if (!question.waitForFinished(kPatience)) return true;
+        if (!question.readAllStandardOutput().trimmed().isEmpty()) return true;
+    }
+    return false;
+}
+
 }  // namespace
 
 QtHost::QtHost() = default;
@@ -232,7 +246,8 @@ bool QtHost::EditTable(TableEdit& table) {
 }
 
 void QtHost::ShowFileList(const std::string& dir, const std::string& extension) {
-    ShowFilesOfFolder(Parent(), Q(dir), Q(extension));
+    const QString picked = ShowFilesOfFolder(Parent(), Q(dir), Q(extension));
+    if (!picked.isEmpty() && OpenProject) OpenProject(picked.toStdString());
 }
 
 void QtHost::ShowTextEditor(const std::string& text) {
@@ -251,12 +266,17 @@ void QtHost::PrintText(const std::string& text, const std::string& fontName, int
 
 // The document is the word processor's from then on: what the user writes into it must not go with this program.
 void QtHost::OpenWordProcessor(const std::string& text, const std::string&, int, bool) {
-    const std::string path = HandOverFile(Text(160030_text) + ".rtf");
-    WriteWholeFile(path, ReportRtf(text, PaperChosen()));
-    const QString opener = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
-    const bool opened = opener.isEmpty() ? QDesktopServices::openUrl(QUrl::fromLocalFile(Q(path)))
-                                         : QProcess::startDetached(opener, {Q(path)});
-    if (!opened) SaveReport(Parent());
+    if (HasWordProcessor()) {
+        const std::string path = HandOverFile(Text(160030_text) + ".rtf");
+        WriteWholeFile(path, ReportRtf(text, PaperChosen()));
+        const QString opener = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
+        const bool opened = opener.isEmpty() ? QDesktopServices::openUrl(QUrl::fromLocalFile(Q(path)))
+                                             : QProcess::startDetached(opener, {Q(path)});
+        if (opened) return;
+    }
+    const PlainPointer plain;
+    if (QWidget* window = Parent()) ShowToast(*window, Q(Text(913505_text)));
+    SaveReport(Parent());
 }
 
 void QtHost::SetClipboardText(const std::string& text) {

@@ -27,6 +27,9 @@ class QtHost : public Host {
     // Opens a copy of an example, which the user has asked for in the manual.
     std::function<void(const std::string&)> OpenExample;
 
+    // The user picked a project in the list of files; the list is gone by then.
+    std::function<void(const std::string& path)> OpenProject;
+
     void ShowMessage(const std::string& title, const std::string& text, MessageIcon icon) override;
     void SetPointer(PointerShape shape) override;
     void ShowFileStatus(FileStatus status) override;

@@ -65,4 +65,11 @@ bool ReportView::FindNext(const QString& text, bool backwards) {
     return false;
 }
 
+bool ReportView::FindHere(const QString& text) {
+    QTextCursor here = textCursor();
+    here.setPosition(here.selectionStart());
+    setTextCursor(here);
+    return !text.isEmpty() && FindNext(text);
+}
+
 }  // namespace lithmark

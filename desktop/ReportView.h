@@ -16,6 +16,9 @@ class ReportView : public QPlainTextEdit {
     std::pair<int, int> PlaceOf(const QString& text) const;
     // Selects the next place of a text, from the begin again after the last one. False when there is none.
     bool FindNext(const QString& text, bool backwards = false);
+    // The place that is selected, or the next one: as a text grows letter by letter, its place stays. An empty text
+    // selects nothing.
+    bool FindHere(const QString& text);
 
   private:
     std::string shown_;

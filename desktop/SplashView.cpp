@@ -1,6 +1,7 @@
 #include "desktop/SplashView.h"
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QEvent>
 #include <QPainter>
 #include <QScreen>
 
@@ -15,6 +16,11 @@ SplashView::SplashView(Form& form)
     setFocusPolicy(Qt::StrongFocus);
     if (const QScreen* screen = QGuiApplication::primaryScreen())
         move(screen->availableGeometry().center() - rect().center());
+    qApp->installEventFilter(this);
+}
+
+SplashView::~SplashView() {
+    qApp->removeEventFilter(this);
 }
 
 void SplashView::paintEvent(QPaintEvent*) {
@@ -59,8 +65,10 @@ void SplashView::mousePressEvent(QMouseEvent*) {
     Dismiss();
 }
 
-void SplashView::keyPressEvent(QKeyEvent*) {
+bool SplashView::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress || !isVisible()) return QWidget::eventFilter(watched, event);
     Dismiss();
+    return true;
 }
 
 }  // namespace lithmark

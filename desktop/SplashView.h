@@ -1,4 +1,5 @@
-// SplashView: the program's name and version while it starts. A key or a click sends it away.
+// SplashView: the program's name and version while it starts. A key sends it away, whichever window of the program has
+// the focus, and so does a click on it.
 #pragma once
 
 #include <QWidget>
@@ -10,11 +11,12 @@ namespace lithmark {
 class SplashView : public QWidget {
   public:
     explicit SplashView(Form& form);
+    ~SplashView() override;
 
   protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void Dismiss();

@@ -64,6 +64,12 @@ void LoadNumberFormats() {
     DeriveNumberFormats();
 }
 
+bool WriteNumberFormats() {
+    return WriteSettings("NOFORMAT", [] {
+        for (const NumberFormatRow& row : NumberFormats()) WriteRawLine(kFile, Session.*row.Field);
+    });
+}
+
 void LoadPreferences() {
     SetDefaultPreferences();
     ReadOptionalSettings("Preferen.tol", [] {

@@ -16,6 +16,8 @@ bool WriteUnits();
 // The eighteen number formats of "NOFORMAT", a raw line each, and the two derived ones. A file that is missing or
 // cannot be opened gives the defaults without a word; so do, behind a message, the lines that a short file lacks.
 void LoadNumberFormats();
+// Writes Session's eighteen formats; false after a failure, which went through FileError.
+bool WriteNumberFormats();
 
 // The six preferences of "Preferen.tol", in the same way.
 void LoadPreferences();

@@ -7,6 +7,7 @@
 #include "base/Utf8.h"
 #include "services/host/Host.h"
 #include "services/storage/FileNames.h"
+#include "services/storage/UserFolders.h"
 #include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
@@ -25,12 +26,19 @@ std::string Title(const std::string& pattern, TextId forProject, TextId forData)
     return Text(HasExtension("." + pattern, kProjectExtension) ? forProject : forData);
 }
 
+// The folder of projects is made with the first of them; until then one looks where it is going to be.
+std::string FolderThatIs(const std::string& dir) {
+    std::error_code error;
+    const bool later = dir == UserProjectsDir() && !std::filesystem::is_directory(dir, error);
+    return later ? UserDocumentsDir() : dir;
+}
+
 }  // namespace
 
 bool FileDialogsService::OpenFileDialog(std::string& file, const std::string& startDir, std::string& outDir,
                                         std::string& outName, const std::string& pattern, const std::string& title) {
-    const auto chosen =
-        CurrentHost().ChooseFileToOpen(title.empty() ? Title(pattern, 124_text, 10016_text) : title, startDir, pattern);
+    const auto chosen = CurrentHost().ChooseFileToOpen(title.empty() ? Title(pattern, 124_text, 10016_text) : title,
+                                                       FolderThatIs(startDir), pattern);
     if (!chosen) return false;
     file = MappedFileName(*chosen);
     SplitProjectPath(file, outDir, outName);
@@ -39,6 +47,7 @@ bool FileDialogsService::OpenFileDialog(std::string& file, const std::string& st
 
 bool FileDialogsService::SaveFileDialog(std::string& file, const std::string& startDir, std::string& outDir,
                                         std::string& outName, const std::string& extension, const std::string& title) {
+    MakeProjectsDir(startDir);
     const auto chosen = CurrentHost().ChooseFileToSave(title.empty() ? Title(extension, 10339_text, 9_text) : title,
                                                        startDir, outName, extension);
     if (!chosen) return false;

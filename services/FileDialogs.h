@@ -12,7 +12,8 @@ class FileDialogsService {
     // tells a project from the data of a problem.
     bool OpenFileDialog(std::string& file, const std::string& startDir, std::string& outDir, std::string& outName,
                         const std::string& pattern, const std::string& title = {});
-    // Asks for a file to save, proposing `outName`. `extension` is such as "PO3" and is put behind a name without it.
+    // Asks for a file to save, proposing `outName`; the program's own folder for projects is made for it. `extension`
+    // is such as "PO3" and is put behind a name without it.
     bool SaveFileDialog(std::string& file, const std::string& startDir, std::string& outDir, std::string& outName,
                         const std::string& extension, const std::string& title = {});
 

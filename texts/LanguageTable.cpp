@@ -46,6 +46,7 @@ constexpr LanguageRow kRows[] = {
 #include "texts/tables/own_dialogs.inc"
 #include "texts/tables/own_storage.inc"
 #include "texts/tables/own_windows.inc"
+#include "texts/tables/own_habits.inc"
     // clang-format on
 };
 

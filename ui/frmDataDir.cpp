@@ -8,6 +8,7 @@
 #include "files/SettingsFiles.h"
 #include "services/SharedServices.h"
 #include "services/storage/FileNames.h"
+#include "services/storage/UserFolders.h"
 
 namespace lithmark {
 
@@ -62,6 +63,7 @@ void frmDataDir::cmdSave_Click() {
 
 void frmDataDir::StoreDataDir() {
     const std::string& path = txtDataDir.Text;
+    MakeProjectsDir(path);
     if (!DirectoryExists(path)) {
         SharedServices().ShowMessageBox(Text(160030_text), Text(190008_text, {{"|1", path}}), MessageIcon::Information);
         CurrentHost().SetFocus(*this, txtDataDir);

@@ -34,7 +34,8 @@ void ClearHeading() {
 
 }  // namespace
 
-frmProblemType::frmProblemType(std::function<void()> saved) : KeptForm("frmProblemType"), tellSaved_(std::move(saved)) {
+frmProblemType::frmProblemType(std::function<void()> saved, int proposed)
+    : KeptForm("frmProblemType"), tellSaved_(std::move(saved)), proposed_(proposed) {
     DTPicker1.OnChange = [this] { DTPicker1_Change(); };
     cmdSave.OnClick = [this] { cmdSave_Click(); };
     cmdSaveAs.OnClick = [this] { cmdSaveAs_Click(); };
@@ -81,7 +82,7 @@ void frmProblemType::Load() {
         Session.DialogOk = false;
         const bool projectOpen = !Session.ProjectName.empty();
         // The number of an open project stays, whatever its files have lost.
-        if (!projectOpen) Session.ProblemType = Problem::SoilStress;
+        if (!projectOpen) Session.ProblemType = proposed_;
         ClearHeading();
         Session.WorkDir = Session.DataDir;
         Session.WorkName = Session.ProjectName;

@@ -10,8 +10,9 @@ namespace lithmark {
 
 class frmProblemType : public KeptForm {
   public:
-    // `saved` runs when the data of the open project have been saved: its name and its problem may be new.
-    explicit frmProblemType(std::function<void()> saved = {});
+    // `saved` runs when the data of the open project have been saved: its name and its problem may be new. A project
+    // without a name is proposed with a problem.
+    explicit frmProblemType(std::function<void()> saved = {}, int proposed = Problem::SoilStress);
 
     FrameBox Frame3D1{*this, "Frame3D1"};
     TextLabel lblAuftrag{*this, "lblAuftrag"};
@@ -53,6 +54,7 @@ class frmProblemType : public KeptForm {
     std::string SaveUnderNewName();
 
     const std::function<void()> tellSaved_;
+    const int proposed_;
     ProjectData before_;
     bool saved_ = false;
 };

@@ -2,12 +2,14 @@
 
 #include <algorithm>
 #include <span>
+#include <string_view>
 
 #include "core/Session.h"
 #include "core/Units.h"
 #include "files/CommonStep.h"
 #include "files/SettingsFiles.h"
 #include "services/SharedServices.h"
+#include "ui/model/FormatCheck.h"
 
 namespace lithmark {
 
@@ -34,9 +36,28 @@ void Take(const UnitRow& unit, std::string& label, double& factor) {
     factor = unit.Factor;
 }
 
+// The rows of the lists that make a preset, by the units' forms in files.
+struct Preset {
+    TextId Name;
+    const char *Length1, *Length2, *Force1, *Force2, *Temperature;
+};
+constexpr Preset kPresets[] = {
+    {913451_text, "[m]", "[cm]", "[kN]", "[MN]", "[°C]"},
+    {913452_text, "[ft]", "[in]", "[kip]", "[kip]", "[°F]"},
+    {913453_text, "[m]", "[cm]", "[kgf]", "[kgf]", "[°C]"},
+};
+
+int RowOf(const char* unit, std::span<const UnitRow> units) {
+    const auto row = std::ranges::find(units, std::string_view(unit), [](const UnitRow& u) { return u.InFiles; });
+    return static_cast<int>(row - units.begin());
+}
+
 }  // namespace
 
 frmUnits::frmUnits() : Form("frmUnits") {
+    CboPreset.OnChange = [this] { CboPreset_Click(); };
+    for (ComboBox* list : {&CboLength[0], &CboLength[1], &CboForce[0], &CboForce[1], &CboTemperature})
+        list->OnChange = [this] { ShowChosen(); };
     cmdSave.OnClick = [this] { cmdSave_Click(); };
     CmdCancel.OnClick = [this] { CmdCancel_Click(); };
     cmdHelp.OnClick = [this] { cmdHelp_Click(); };
@@ -51,6 +72,7 @@ void frmUnits::Load() {
                  {LblForce[0], 10143_text},
                  {LblForce[1], 10144_text},
                  {Lbltemperature, 62_text},
+                 {lblPreset, 913450_text},
                  {cmdSave, 111_text, Styles::Button},
                  {CmdCancel, 7_text, Styles::Button},
                  {cmdHelp, 8_text, Styles::Button}});
@@ -59,17 +81,51 @@ void frmUnits::Load() {
     Fill(CboForce[0], ForceUnits(), Session.Force1Label);
     Fill(CboForce[1], ForceUnits(), Session.Force2Label);
     Fill(CboTemperature, TemperatureUnits(), Session.TempLabel);
+    CboPreset.Items = {Text(913454_text)};
+    for (const Preset& preset : kPresets) CboPreset.Items.push_back(Text(preset.Name));
+    ShowChosen();
+}
+
+void frmUnits::CboPreset_Click() {
+    if (CboPreset.ListIndex >= 1) {
+        const Preset& preset = kPresets[CboPreset.ListIndex - 1];
+        SelectRow(CboLength[0], RowOf(preset.Length1, LengthUnits()));
+        SelectRow(CboLength[1], RowOf(preset.Length2, LengthUnits()));
+        SelectRow(CboForce[0], RowOf(preset.Force1, ForceUnits()));
+        SelectRow(CboForce[1], RowOf(preset.Force2, ForceUnits()));
+        SelectRow(CboTemperature, RowOf(preset.Temperature, TemperatureUnits()));
+    }
+    ShowChosen();
+}
+
+UnitSettings frmUnits::Chosen() const {
+    UnitSettings units;
+    Take(Selected(CboLength[0], LengthUnits()), units.Len1Label, units.Len1Factor);
+    Take(Selected(CboLength[1], LengthUnits()), units.Len2Label, units.Len2Factor);
+    units.Len2Factor /= 100;  // to the centimetre
+    Take(Selected(CboForce[0], ForceUnits()), units.Force1Label, units.Force1Factor);
+    Take(Selected(CboForce[1], ForceUnits()), units.Force2Label, units.Force2Factor);
+    units.Force2Factor *= 1000;  // to the meganewton
+    units.TempLabel = Text(Selected(CboTemperature, TemperatureUnits()).UnitLabel);
+    return units;
+}
+
+void frmUnits::ShowChosen() {
+    const auto shows = [this](const Preset& preset) {
+        return CboLength[0].ListIndex == RowOf(preset.Length1, LengthUnits()) &&
+               CboLength[1].ListIndex == RowOf(preset.Length2, LengthUnits()) &&
+               CboForce[0].ListIndex == RowOf(preset.Force1, ForceUnits()) &&
+               CboForce[1].ListIndex == RowOf(preset.Force2, ForceUnits()) &&
+               CboTemperature.ListIndex == RowOf(preset.Temperature, TemperatureUnits());
+    };
+    const auto preset = std::ranges::find_if(kPresets, shows);
+    SelectRow(CboPreset, preset == std::end(kPresets) ? 0 : 1 + static_cast<int>(preset - kPresets));
+    UnderCommonStep([&] { lblPreview.Caption = UnitsInUse(Chosen()); });
 }
 
 void frmUnits::cmdSave_Click() {
     UnderCommonStep([&] {
-        Take(Selected(CboLength[0], LengthUnits()), Session.Len1Label, Session.Len1Factor);
-        Take(Selected(CboLength[1], LengthUnits()), Session.Len2Label, Session.Len2Factor);
-        Session.Len2Factor /= 100;  // to the centimetre
-        Take(Selected(CboForce[0], ForceUnits()), Session.Force1Label, Session.Force1Factor);
-        Take(Selected(CboForce[1], ForceUnits()), Session.Force2Label, Session.Force2Factor);
-        Session.Force2Factor *= 1000;  // to the meganewton
-        Session.TempLabel = Text(Selected(CboTemperature, TemperatureUnits()).UnitLabel);
+        SetUnits(Chosen());
         if (!WriteUnits()) return;
         Session.DialogOk = true;
         Unload();

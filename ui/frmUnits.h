@@ -2,6 +2,7 @@
 // are shown already keep theirs.
 #pragma once
 
+#include "services/storage/UnitsFile.h"
 #include "ui/model/Controls.h"
 
 namespace lithmark {
@@ -17,12 +18,23 @@ class frmUnits : public Form {
     ControlArray<ComboBox, 2> CboForce{*this, "CboForce"};
     TextLabel Lbltemperature{*this, "Lbltemperature"};
     ComboBox CboTemperature{*this, "CboTemperature"};
+    // A set of units by one choice; the first row stands for any other.
+    TextLabel lblPreset{*this, "lblPreset"};
+    ComboBox CboPreset{*this, "CboPreset"};
+    // How a few quantities read in the chosen units.
+    TextLabel lblPreview{*this, "lblPreview"};
     Button cmdSave{*this, "cmdSave"}, CmdCancel{*this, "CmdCancel"}, cmdHelp{*this, "cmdHelp"};
 
     void Load() override;
     void cmdSave_Click();
     void CmdCancel_Click() { Unload(); }
     void cmdHelp_Click();
+    void CboPreset_Click();
+
+  private:
+    // The units that the lists say.
+    UnitSettings Chosen() const;
+    void ShowChosen();
 };
 
 }  // namespace lithmark

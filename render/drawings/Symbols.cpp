@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "render/QtText.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 
@@ -12,6 +13,14 @@ namespace {
 const std::pair<const char*, const char*> kGreek[] = {
     {"Varepsilon", "ε"}, {"Gamma", "γ"}, {"Sigma", "σ"}, {"Tau", "τ"}, {"Nue", "ν"},
 };
+
+// How a Greek letter is spoken.
+struct SpokenLetter {
+    const char* InPrint;
+    TextId As;
+};
+constexpr SpokenLetter kSpoken[] = {{"ε", 913510_text}, {"γ", 913511_text}, {"σ", 913512_text},
+                                    {"τ", 913513_text}, {"ν", 913514_text}, {"α", 913515_text}};
 
 }  // namespace
 
@@ -47,6 +56,13 @@ QString SymbolMarkup(const std::string& plain) {
 QString SymbolWords(const std::string& plain) {
     const auto [letter, index] = SymbolInPrint(plain);
     return index.isEmpty() ? letter : letter + QLatin1Char('_') + index;
+}
+
+QString SpokenSymbol(const std::string& plain) {
+    auto [words, index] = SymbolInPrint(plain);
+    for (const SpokenLetter& letter : kSpoken) words.replace(QString::fromUtf8(letter.InPrint), Q(Text(letter.As)));
+    words.replace(QString::fromUtf8("·"), QStringLiteral(" "));
+    return index.isEmpty() ? words : words + QLatin1Char(' ') + index;
 }
 
 }  // namespace lithmark

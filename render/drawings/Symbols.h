@@ -14,7 +14,9 @@ struct PrintSymbol {
 PrintSymbol SymbolInPrint(const std::string& plain);
 // As rich text for a label.
 QString SymbolMarkup(const std::string& plain);
-// As words, for a screen reader: "ν_s".
+// Where no markup can stand: "ν_s".
 QString SymbolWords(const std::string& plain);
+// As it is spoken in the language in force: "nu s".
+QString SpokenSymbol(const std::string& plain);
 
 }  // namespace lithmark

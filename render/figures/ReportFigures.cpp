@@ -10,53 +10,12 @@
 #include "core/Session.h"
 #include "render/ChartDocument.h"
 #include "render/ContourDocument.h"
-#include "render/drawings/Drawings.h"
-#include "render/drawings/Sketch.h"
+#include "render/figures/ProblemPicture.h"
 #include "services/texts/LanguageTexts.h"
-#include "ui/ProblemForms.h"
 
 namespace lithmark {
 
 namespace {
-
-// What is drawn may ask Session for something else than what the user has chosen; the record is put back.
-class KeptSession {
-  public:
-    KeptSession() : kept_(Session) {}
-    ~KeptSession() { Session = std::move(kept_); }
-    KeptSession(const KeptSession&) = delete;
-    KeptSession& operator=(const KeptSession&) = delete;
-
-  private:
-    SessionRecord kept_;
-};
-
-// A form that nobody sees, and its drawing.
-struct DrawnProblem {
-    explicit DrawnProblem(std::unique_ptr<ProblemForm> form) : Form(std::move(form)) {
-        Form->ShowInForce();
-        for (const Control* control : Form->Controls())
-            if (control->Kind == ControlKind::Picture && control->Shows != nullptr) Picture = control;
-        if (Picture == nullptr) return;
-        Function = FindDrawing(Picture->Drawing);
-        Drawn = std::make_unique<DrawnForm>(*Picture);
-    }
-    void Paint(QPainter& painter, const QSize& size) const {
-        QFont font(QStringLiteral("DejaVu Sans"));
-        font.setPixelSize(13);
-        painter.setFont(font);
-        painter.setLayoutDirection(Qt::LeftToRight);
-        double scale = 0;
-        Sketch sketch(painter, QRectF(QPointF(0, 0), QSizeF(size)), *Drawn, Theme::Light, scale);
-        Function(sketch);
-        sketch.Finish();
-    }
-
-    std::unique_ptr<ProblemForm> Form;
-    const Control* Picture = nullptr;
-    DrawingFunction Function = nullptr;
-    std::unique_ptr<DrawnForm> Drawn;
-};
 
 std::vector<CurveSet> CurveSetsOf(const ProblemRow& problem) {
     switch (problem.Curves) {
@@ -93,12 +52,15 @@ ReportFigure ContourFigure(CurveSet result) {
 
 std::vector<ReportFigure> DrawingFigures() {
     const KeptSession kept;
-    auto form = MakeProblemForm(Session.ProblemType);
-    if (form == nullptr) return {};
-    const auto problem = std::make_shared<const DrawnProblem>(std::move(form));
-    if (problem->Function == nullptr) return {};
+    const auto problem = std::make_shared<const ProblemPicture>();
+    if (!problem->Exists()) return {};
     static constexpr QSize kSize(600, 400);
-    return {{Text(911001_text), kSize, [problem](QCPPainter& painter) { problem->Paint(painter, kSize); }}};
+    return {{Text(911001_text), kSize, [problem](QCPPainter& painter) {
+                 QFont font(QStringLiteral("DejaVu Sans"));
+                 font.setPixelSize(13);
+                 painter.setFont(font);
+                 problem->Paint(painter, kSize, Theme::Light);
+             }}};
 }
 
 std::vector<ReportFigure> ResultFigures() {

@@ -42,10 +42,23 @@ std::string UserDocumentsDir() {
     return IsFolder(documents) ? documents : platform::HomeFolder();
 }
 
-std::string DataDirUnset(const std::string& programDir) {
-    if (programDir.empty() || programDir != UserSettingsDir()) return programDir;
+std::string UserProjectsDir() {
     const std::string documents = UserDocumentsDir();
-    return documents.empty() ? programDir : documents;
+    return documents.empty() ? "" : documents + "Lithmark/";
+}
+
+void MakeProjectsDir(const std::string& dir) {
+    std::error_code error;
+    if (!dir.empty() && WithSeparator(dir) == UserProjectsDir()) fs::create_directories(dir, error);
+}
+
+std::string DataDirUnset(const std::string& programDir) {
+    const std::string user = UserSettingsDir();
+    if (user.empty()) {
+        std::error_code error;
+        return WithSeparator(fs::current_path(error).string());
+    }
+    return programDir == user ? UserProjectsDir() : programDir;
 }
 
 }  // namespace lithmark

@@ -19,8 +19,14 @@ void MakeSettingsDir(const std::string& programDir);
 // a folder.
 std::string UserDocumentsDir();
 
+// Where this program's projects lie in the documents: the folder "Lithmark". It is told, not made.
+std::string UserProjectsDir();
+
+// Makes that folder, when `dir` is it, ahead of the first project in it. One that cannot be made shows in the writing.
+void MakeProjectsDir(const std::string& dir);
+
 // Where projects lie while no data directory is set: the program directory. Only the user's own settings directory is
-// no place for them; then it is the documents.
+// no place for them; then it is UserProjectsDir. A user without a home has the folder that the program was started in.
 std::string DataDirUnset(const std::string& programDir);
 
 }  // namespace lithmark

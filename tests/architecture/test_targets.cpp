@@ -37,6 +37,7 @@ const std::map<std::string, std::string> kLibraries = {
     {"Qt6::Widgets", "Q[A-Z]\\w*"},
     {"Qt6::PrintSupport", "QPrint\\w*|qcustomplot\\.h"},
     {"Qt6::Svg", "QSvg\\w*"},
+    {"Qt6::DBus", "QDBus\\w*"},
     {"QCustomPlotQt6::QCustomPlotQt6", "qcustomplot\\.h"},
     {"PkgConfig::XLSXWRITER", "xlsxwriter\\.h"},
 };

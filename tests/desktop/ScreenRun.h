@@ -82,6 +82,9 @@ class ScreenRun {
         QCoreApplication::processEvents();
     }
 
+    // All steps were taken, and their windows are gone.
+    bool Done() const { return steps_.empty() && QApplication::activeModalWidget() == nullptr; }
+
     MainWindow& Window() { return window_; }
     MDITools& Frame() { return frame_; }
 

@@ -12,6 +12,8 @@
 
 #include "../ui/AllForms.h"
 #include "../ui/FormTest.h"
+#include "core/Catalogue.h"
+#include "core/FieldMeanings.h"
 #include "desktop/FormView.h"
 #include "desktop/PictureView.h"
 #include "render/drawings/Drawings.h"
@@ -305,6 +307,28 @@ TEST(Symbols, StandInPrint) {
     EXPECT_EQ(SymbolWords("Sigma_z").toStdString(), "σ_z");
     EXPECT_EQ(SymbolWords("Q").toStdString(), "Q");
     EXPECT_EQ(SymbolMarkup("Gamma_c").toStdString(), "<i>γ</i><sub style=\"font-style:normal\">c</sub>");
+}
+
+// Whatever symbol a report prints for a field: a letter, and an index without the signs of the plain form.
+TEST(Symbols, OfAllFieldsHaveOneLetterAndAnIndex) {
+    for (const ProblemRow& problem : ProblemCatalogue())
+        for (const FieldMeaning& field : MeaningsOf(problem.ProblemType)) {
+            if (field.Symbol.empty()) continue;
+            const auto [letter, index] = SymbolInPrint(std::string(field.Symbol));
+            EXPECT_EQ(letter.size(), letter.contains(QString::fromUtf8("·")) ? 3 : 1) << field.Symbol;
+            EXPECT_FALSE(index.contains(QLatin1Char('_')) || index.contains(QLatin1Char('*'))) << field.Symbol;
+            EXPECT_LE(index.size(), 2) << field.Symbol;
+        }
+}
+
+TEST(Symbols, AreSpokenInTheLanguageInForce) {
+    EXPECT_EQ(SpokenSymbol("Nue_s").toStdString(), "nu s");
+    EXPECT_EQ(SpokenSymbol("Cv1").toStdString(), "C v1");
+    EXPECT_EQ(SpokenSymbol("Gamma*z").toStdString(), "gamma z");
+    EXPECT_EQ(SpokenSymbol("Q").toStdString(), "Q");
+    LanguageTexts().SetCurrent(Language::German);
+    EXPECT_EQ(SpokenSymbol("Nue_s").toStdString(), "Ny s");
+    LanguageTexts().SetCurrent(Language::English);
 }
 
 // --- colours ---

@@ -103,12 +103,12 @@ TEST_F(ReachTest, ABoxIsDescribedByItsSymbolItsUnitAndItsRange) {
             ->text(QAccessible::Description)
             .toStdString();
     };
-    EXPECT_EQ(described("txt_Nue"), "ν s, no unit, 0 to 0.5");
+    EXPECT_EQ(described("txt_Nue"), "nu s, no unit, 0 to 0.5");
     EXPECT_EQ(described("txt_A"), "a, m, 0 or more");
     EXPECT_EQ(described("txt_x"), "m");
     form.txt_Nue.Text = "0.6";
     view.Refresh();
-    EXPECT_THAT(described("txt_Nue"), ::testing::StartsWith("ν s, no unit, 0 to 0.5; error: "));
+    EXPECT_THAT(described("txt_Nue"), ::testing::StartsWith("nu s, no unit, 0 to 0.5; error: "));
 }
 
 // --- the Tab key ---

@@ -1,35 +1,18 @@
 // Where a user's own files lie, and that nothing lies beside the program.
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
-#include <optional>
 #include <string>
 
+#include "services/FileDialogs.h"
 #include "services/SharedServices.h"
 #include "services/storage/UserFolders.h"
 #include "support/Files.h"
 #include "support/ScriptedHost.h"
+#include "support/Variable.h"
 
 namespace lithmark::tests {
 namespace {
-
-// A variable of the environment that has its old value again in the end.
-class Variable {
-  public:
-    explicit Variable(const char* name) : name_(name) {
-        if (const char* value = std::getenv(name)) before_ = value;
-    }
-    ~Variable() { before_ ? Set(*before_) : Unset(); }
-    Variable(const Variable&) = delete;
-    Variable& operator=(const Variable&) = delete;
-    void Set(const std::string& value) const { ::setenv(name_, value.c_str(), 1); }
-    void Unset() const { ::unsetenv(name_); }
-
-  private:
-    const char* name_;
-    std::optional<std::string> before_;
-};
 
 class UserFolders : public ::testing::Test {
   protected:
@@ -89,13 +72,32 @@ TEST_F(UserFolders, OnlyTheUsersOwnDirectoryIsMade) {
 }
 
 TEST_F(UserFolders, ProjectsLieInTheDocumentsWhileNoDirectoryIsSet) {
-    EXPECT_EQ(SharedServices().GetDirectories().DataDir, Home(""));
+    EXPECT_EQ(SharedServices().GetDirectories().DataDir, Home("Lithmark/"));
     std::filesystem::create_directories(Home("Documents"));
-    EXPECT_EQ(SharedServices().GetDirectories().DataDir, Home("Documents/"));
+    EXPECT_EQ(SharedServices().GetDirectories().DataDir, Home("Documents/Lithmark/"));
     EXPECT_EQ(DataDirUnset(folder.Dir()), folder.Dir());
     MakeSettingsDir(UserSettingsDir());
     WriteBytes(UserSettingsDir() + "STEU", "/data/projects\r\n7\r\n");
     EXPECT_EQ(SharedServices().GetDirectories().DataDir, "/data/projects/");
+}
+
+TEST_F(UserFolders, TheFolderOfProjectsIsMadeForTheFirstOfThem) {
+    MakeProjectsDir(Home("elsewhere/"));
+    EXPECT_TRUE(std::filesystem::is_empty(folder / "home"));
+    MakeProjectsDir(Home("Lithmark"));
+    EXPECT_TRUE(std::filesystem::is_directory(Home("Lithmark")));
+}
+
+TEST_F(UserFolders, TheDialogsOfFilesBeginWhereProjectsLie) {
+    std::string file, dir, name;
+    host.AnswerFileToOpen(std::nullopt);
+    FileDialogs().OpenFileDialog(file, Home("Lithmark/"), dir, name, "*.PO3");
+    EXPECT_EQ(host.OpenQuestions.back().StartDir, Home(""));  // the next folder that is there
+    EXPECT_TRUE(std::filesystem::is_empty(folder / "home"));
+    host.AnswerFileToSave(std::nullopt);
+    FileDialogs().SaveFileDialog(file, Home("Lithmark/"), dir, name, "PO3");
+    EXPECT_EQ(host.SaveQuestions.back().StartDir, Home("Lithmark/"));
+    EXPECT_TRUE(std::filesystem::is_directory(Home("Lithmark")));
 }
 
 TEST_F(UserFolders, TheDesktopsNameOfTheDocumentsIsTaken) {

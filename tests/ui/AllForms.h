@@ -10,6 +10,7 @@
 #include "ui/frmConsolidationRate.h"
 #include "ui/frmDataDir.h"
 #include "ui/frmMethodtype.h"
+#include "ui/frmNumberFormats.h"
 #include "ui/frmOptionDraw.h"
 #include "ui/frmPreferences.h"
 #include "ui/frmProblemType.h"
@@ -66,6 +67,7 @@ inline const std::vector<FormRow>& AllForms() {
         {1, "CmdCancel", MakeProjectCheck},
         {1, "CmdCancel", MakeForm<frmDataDir>, HelpBy::Page},
         {1, "CmdCancel", MakeForm<frmUnits>, HelpBy::Page},
+        {1, "CmdCancel", MakeForm<frmNumberFormats>},
         {1, "CmdCancel", MakeForm<frmPreferences>},
         {1, "cmdok", MakeForm<frmAbout>, HelpBy::Nothing},
     };

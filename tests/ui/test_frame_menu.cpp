@@ -6,6 +6,7 @@
 #include "FrameTest.h"
 #include "ui/frmAbout.h"
 #include "ui/frmDataDir.h"
+#include "ui/frmNumberFormats.h"
 #include "ui/frmPreferences.h"
 #include "ui/frmUnits.h"
 #include "ui/frmstress.h"
@@ -38,14 +39,16 @@ TEST_F(FrameMenu, TheBarHoldsFiveMenus) {
 }
 
 TEST_F(FrameMenu, TheMenusHoldTheirEntriesInOrder) {
-    EXPECT_THAT(Keys("mnuFile"), ElementsAre("mnuNewProject", "mnuOpenProject", "mnuSaveProjectAs", "mnuFileList",
-                                             "MnuRecentFile(0)", "MnuRecentFile(1)", "MnuRecentFile(2)",
-                                             "MnuRecentFile(3)", "MnuRecentFile(4)", "mnuFileDash2", "mnuFileExit"));
-    EXPECT_THAT(Keys("MnuVeiw"), ElementsAre("MnuStatusBar", "MnuVeiwDash1", "mnu_Toolbar"));
+    EXPECT_THAT(Keys("mnuFile"),
+                ElementsAre("mnuNewProject", "mnuOpenProject", "mnuSaveProjectAs", "mnuFileList", "mnuCloseProject",
+                            "MnuRecentFile(0)", "MnuRecentFile(1)", "MnuRecentFile(2)", "MnuRecentFile(3)",
+                            "MnuRecentFile(4)", "mnuFileDash2", "mnuFileExit"));
+    EXPECT_THAT(Keys("MnuVeiw"), ElementsAre("MnuStatusBar", "MnuVeiwDash1", "mnu_Toolbar", "mnuTheme"));
+    EXPECT_THAT(Keys("mnuTheme"), ElementsAre("mnuThemeSystem", "mnuThemeLight", "mnuThemeDark"));
     EXPECT_THAT(Keys("mnu_Toolbar"), ElementsAre("MnuVeiwToolBar(0)", "MnuVeiwToolBar(1)", "MnuVeiwToolBar(2)",
                                                  "MnuVeiwToolBar(3)", "MnuVeiwDashRestToolBar", "mnuResetToolbar"));
-    EXPECT_THAT(Keys("mnuMainData"),
-                ElementsAre("mnuFirmaData", "mnuDirOfData", "mnuPreferences", "MnuLanguage", "mnuUnits"));
+    EXPECT_THAT(Keys("mnuMainData"), ElementsAre("mnuFirmaData", "mnuDirOfData", "mnuPreferences", "MnuLanguage",
+                                                 "mnuUnits", "mnuNumberFormats"));
     EXPECT_THAT(Keys("mnuHelp"),
                 ElementsAre("mnuHelpContents", "mnuShortDescription", "mnuNewVersion", "mnuHelpDash", "mnuAbout"));
     const auto problems = Keys("mnuMainProblem");
@@ -62,6 +65,7 @@ TEST_F(FrameMenu, TheEntriesHaveTheirTexts) {
                                                          {"mnuOpenProject", "T<124>"},
                                                          {"mnuSaveProjectAs", "T<10339>"},
                                                          {"mnuFileList", "T<70025>"},
+                                                         {"mnuCloseProject", "T<913400>"},
                                                          {"MnuRecentFile(0)", "-"},
                                                          {"mnuFileDash2", "-"},
                                                          {"mnuFileExit", "T<110>"},
@@ -75,6 +79,10 @@ TEST_F(FrameMenu, TheEntriesHaveTheirTexts) {
                                                          {"MnuVeiwToolBar(3)", "T<8>"},
                                                          {"MnuVeiwDashRestToolBar", "-"},
                                                          {"mnuResetToolbar", "T<69>"},
+                                                         {"mnuTheme", "T<913401>"},
+                                                         {"mnuThemeSystem", "T<913402>"},
+                                                         {"mnuThemeLight", "T<913403>"},
+                                                         {"mnuThemeDark", "T<913404>"},
                                                          {"mnuMainProblem", "T<400010>"},
                                                          {"mnuProblem(0)", "T<400009>"},
                                                          {"mnuProblem(1)", "T<140185>"},
@@ -93,6 +101,7 @@ TEST_F(FrameMenu, TheEntriesHaveTheirTexts) {
                                                          {"mnuPreferences", "T<92>"},
                                                          {"MnuLanguage", "T<83>"},
                                                          {"mnuUnits", "T<17>"},
+                                                         {"mnuNumberFormats", "T<913405>"},
                                                          {"mnuHelp", "T<8>"},
                                                          {"mnuHelpContents", "T<80>"},
                                                          {"mnuShortDescription", "T<82>"},
@@ -195,11 +204,13 @@ TEST_F(FrameMenu, TheSettingsEntriesShowTheirDialogs) {
     frame.m_cMenu_Click("mnuPreferences");
     host.OnForm<frmAbout>([](frmAbout&) {});
     frame.m_cMenu_Click("mnuAbout");
-    EXPECT_THAT(host.FormsShown, ElementsAre("frmDataDir", "frmPreferences", "frmAbout"));
+    host.OnForm<frmNumberFormats>([](frmNumberFormats&) {});
+    frame.m_cMenu_Click("mnuNumberFormats");
+    EXPECT_THAT(host.FormsShown, ElementsAre("frmDataDir", "frmPreferences", "frmAbout", "frmNumberFormats"));
 }
 
 TEST_F(FrameMenu, HeadingsSeparatorsAndStatesHaveNoCommand) {
-    for (const char* key : {"mnuFile", "MnuVeiw", "mnuMainProblem", "mnuMainData", "mnuHelp", "mnu_Toolbar",
+    for (const char* key : {"mnuFile", "MnuVeiw", "mnuMainProblem", "mnuMainData", "mnuHelp", "mnu_Toolbar", "mnuTheme",
                             "MnuStatusBar", "mnuFileDash2", "MnuRecentFile(0)", "no such key"})
         frame.m_cMenu_Click(key);
     EXPECT_THAT(host.FormsShown, IsEmpty());

@@ -180,5 +180,51 @@ TEST_F(UnitsDialog, CancelChangesNothingAndHelpIsAPage) {
     EXPECT_THAT(host.HelpTopics, ElementsAre("7_7"));
 }
 
+// --- sets of units ---
+
+TEST_F(UnitsDialog, ASetPicksTheUnitsAndASaveTakesThem) {
+    OnShown<frmUnits>([](frmUnits& form) {
+        EXPECT_EQ(form.CboPreset.ListIndex, 1);  // m, cm, kN, MN
+        Select(form, "CboPreset", 2);
+        EXPECT_EQ(form.CboLength[0].Text, "Foot, [ft]");
+        EXPECT_EQ(form.CboLength[1].Text, "Inch, [in]");
+        EXPECT_EQ(form.CboForce[0].Text, "Kip, [kip]");
+        EXPECT_EQ(form.CboForce[1].Text, "Kip, [kip]");
+        EXPECT_EQ(form.CboTemperature.Text, "Degree Fahrenheit, [°F]");
+        EXPECT_EQ(Session.Len1Label, "[m]");  // nothing is stored before the save
+        Click(form, "cmdSave");
+    });
+    EXPECT_EQ(Session.Len1Label, "[ft]");
+    EXPECT_EQ(Session.Force2Label, "[kip]");
+    OnShown<frmUnits>([](frmUnits& form) { EXPECT_EQ(form.CboPreset.ListIndex, 2); });
+}
+
+TEST_F(UnitsDialog, AnotherUnitOfASetIsAnOwnChoice) {
+    OnShown<frmUnits>([](frmUnits& form) {
+        Select(form, "CboLength(1)", 4);
+        EXPECT_EQ(form.CboPreset.ListIndex, 0);
+        Select(form, "CboPreset", 0);  // leaves the choice as it is
+        EXPECT_EQ(form.CboLength[1].ListIndex, 4);
+        Select(form, "CboPreset", 3);
+        EXPECT_EQ(form.CboForce[0].Text, "Kilogram-force, [kgf]");
+    });
+}
+
+// By hand: 2 m are 6.56 ft, 1.5 cm 0.59 in, 1000 kN 224.8 kip, 150 kN/m2 3.13 kip/ft2 and 18 kN/m3 0.11 kip/ft3.
+TEST_F(UnitsDialog, TheLineBelowTellsHowQuantitiesRead) {
+    OnShown<frmUnits>([](frmUnits& form) {
+        EXPECT_EQ(form.lblPreview.Caption,
+                  "The same values read: depth \u20662.00 m\u2069, settlement \u20661.50 cm\u2069, load \u20661000.0 "
+                  "kN\u2069, "
+                  "pressure \u2066150.0 kN/m²\u2069, unit weight \u206618.0 kN/m³\u2069");
+        Select(form, "CboPreset", 2);
+        EXPECT_EQ(form.lblPreview.Caption,
+                  "The same values read: depth \u20666.56 ft\u2069, settlement \u20660.59 in\u2069, load \u2066224.8 "
+                  "kip\u2069, "
+                  "pressure \u20663.1 kip/ft²\u2069, unit weight \u20660.1 kip/ft³\u2069");
+        EXPECT_EQ(Session.Len1Label, "[m]");
+    });
+}
+
 }  // namespace
 }  // namespace lithmark::tests

@@ -1,4 +1,6 @@
 // The frame's project commands.
+#include <unistd.h>
+
 #include <algorithm>
 #include <utility>
 
@@ -6,7 +8,6 @@
 #include "core/Catalogue.h"
 #include "core/Session.h"
 #include "files/CommonStep.h"
-#include "files/ExampleProjects.h"
 #include "files/GloableVariable.h"
 #include "files/ProjectCopy.h"
 #include "files/ProjectFiles.h"
@@ -16,7 +17,9 @@
 #include "services/SharedServices.h"
 #include "services/TextTools.h"
 #include "services/host/Host.h"
+#include "services/storage/FileNames.h"
 #include "ui/frame/MDITools.h"
+#include "ui/frame/StartPage.h"
 #include "ui/frmProblemType.h"
 #include "ui/frmProjectCheck.h"
 #include "ui/model/ProjectFlags.h"
@@ -62,6 +65,14 @@ void ClearHeading() {
     Session.Proj.clear();
 }
 
+// Settings, what the program brings along, and folders that only the system writes.
+bool IsNoPlaceForProjects(const std::string& dir) {
+    SharedServicesService& services = SharedServices();
+    const bool own = dir == services.ExecutableDir() || dir.starts_with(services.ResourceDir());
+    const bool settings = dir == Session.ProgramDir && dir != services.GetDirectories().DataDir;
+    return own || settings || (PathExists(dir) && ::access(dir.c_str(), W_OK) != 0);
+}
+
 void EndHourglass() {
     SharedServices().SetPointer(PointerShape::Default);
 }
@@ -90,6 +101,7 @@ void MDITools::NewProjectState() {
     for (int entry = 0; entry < kProblemEntries; ++entry) SetProblemSaved(entry, false);
     Menu["mnuMainProblem"].Enabled = false;
     Menu["mnuSaveProjectAs"].Enabled = false;
+    Menu["mnuCloseProject"].Enabled = false;
     ProjectStore().LeaveProject();
     ShowTitle(Text(93_text));
 }
@@ -135,6 +147,7 @@ void MDITools::ShowProject() {
     const ProblemRow* problem = FindProblem(Session.ProblemType);
     if (problem != nullptr && !ProjectHasFile(problem->Extension)) SetProblemSaved(problem->MenuEntry, false);
     Menu["mnuSaveProjectAs"].Enabled = true;
+    Menu["mnuCloseProject"].Enabled = true;
     ShowTitle(Session.ProjectName);
 }
 
@@ -179,14 +192,28 @@ bool MDITools::MayLeaveProject() {
     return ok;
 }
 
-// Deliberate: packs nothing; the project that is left by a new one stays plain.
 void MDITools::mnuNewProject_Click() {
+    BeginProject(Problem::SoilStress);
+}
+
+// Deliberate: packs nothing; the project that is left by a new one stays plain.
+void MDITools::BeginProject(int problemType) {
     UnderCommonStep([&] {
         if (!MayLeaveProject()) return;
         NewProjectState();
-        frmProblemType form([this] { ShowProject(); });
+        if (IsNoPlaceForProjects(Session.DataDir)) Session.DataDir = SharedServices().GetDirectories().DataDir;
+        frmProblemType form([this] { ShowProject(); }, problemType);
         CurrentHost().ShowForm(form);
         if (Session.DialogOk) AddToRecentFiles(OpenProjectPath() + kStandsForProject);
+    });
+    Refresh();
+}
+
+void MDITools::mnuCloseProject_Click() {
+    UnderCommonStep([&] {
+        if (!ProjectOpen() || !MayLeaveProject()) return;
+        PackLeftProject("");
+        NewProjectState();
     });
     Refresh();
 }
@@ -211,10 +238,7 @@ void MDITools::ChangeProject(const std::string& file) {
 }
 
 void MDITools::OpenExample(const std::string& name) {
-    UnderCommonStep([&] {
-        if (MayLeaveProject()) ChangeProject(CopyExample(name));
-    });
-    Refresh();
+    if (const auto example = FindExample(name)) OpenExample(*example);
 }
 
 void MDITools::mnuSaveProjectAs_Click() {
@@ -281,18 +305,11 @@ void MDITools::SyncRecentToMenu() {
     Refresh();
 }
 
-StartPage MDITools::RecentProjects() const {
-    StartPage page;
-    for (int i = 1; i < static_cast<int>(RecentFiles.size()); ++i)
-        if (const RecentFile& row = RecentFiles[static_cast<std::size_t>(i)]; row.Visible)
-            page.RecentProjects.push_back({i, row.Caption});
-    return page;
-}
-
 ProjectSummary MDITools::Summary() {
     ProjectSummary summary;
     summary.Name = Session.ProjectName;
     summary.Directory = Session.DataDir;
+    summary.ProblemType = Session.ProblemType;
     if (const ProblemRow* problem = FindProblem(Session.ProblemType)) {
         summary.Problem = Text(problem->MenuText);
         summary.ProblemEntry = problem->MenuEntry;

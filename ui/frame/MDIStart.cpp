@@ -58,6 +58,7 @@ void MDITools::Start(const std::string& commandLine, Language otherwise) {
     }
 
     // From here on nothing keeps the program from starting.
+    PassingOverErrors([&] { LoadTheme(); });
     PassingOverErrors([&] { Load(); });
     PassingOverErrors([&] { ShowTitle(Text(93_text)); });
     PassingOverErrors([] { LoadUnits(); });

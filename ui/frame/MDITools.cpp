@@ -8,6 +8,7 @@
 #include "ui/frame/ProblemDialogs.h"
 #include "ui/frmAbout.h"
 #include "ui/frmDataDir.h"
+#include "ui/frmNumberFormats.h"
 #include "ui/frmPreferences.h"
 #include "ui/frmProblemType.h"
 #include "ui/frmResultTools.h"
@@ -29,11 +30,22 @@ struct CommandRow {
     const char* Key;
     void (MDITools::*Command)();
 };
+struct ThemeRow {
+    const char* Key;
+    ThemeChoice Choice;
+    const char* Word;  // in the settings store
+};
+constexpr ThemeRow kThemes[] = {{"mnuThemeSystem", ThemeChoice::System, "system"},
+                                {"mnuThemeLight", ThemeChoice::Light, "light"},
+                                {"mnuThemeDark", ThemeChoice::Dark, "dark"}};
+const std::string kTheme = "Theme";
+
 constexpr CommandRow kCommands[] = {
     {"mnuNewProject", &MDITools::mnuNewProject_Click},
     {"mnuOpenProject", &MDITools::mnuOpenProject_Click},
     {"mnuSaveProjectAs", &MDITools::mnuSaveProjectAs_Click},
     {"mnuFileList", &MDITools::mnuFileList_Click},
+    {"mnuCloseProject", &MDITools::mnuCloseProject_Click},
     {"mnuFileExit", &MDITools::mnuFileExit_Click},
     {"mnuResetToolbar", &MDITools::mnuResetToolbar_Click},
     {"mnuFirmaData", &MDITools::mnuFirmaData_Click},
@@ -41,6 +53,7 @@ constexpr CommandRow kCommands[] = {
     {"mnuPreferences", &MDITools::mnuPreferences_Click},
     {"MnuLanguage", &MDITools::MnuLanguage_Click},
     {"mnuUnits", &MDITools::mnuUnits_Click},
+    {"mnuNumberFormats", &MDITools::mnuNumberFormats_Click},
     {"mnuHelpContents", &MDITools::mnuHelpContents_Click},
     {"mnuShortDescription", &MDITools::mnuShortDescription_Click},
     {"mnuNewVersion", &MDITools::mnuNewVersion_Click},
@@ -81,7 +94,8 @@ void MDITools::Load() {
     SharedServices().PrepareForm(*this);
     Menu.SetCaptions();
     Bars.Build(Menu);
-    for (const char* key : {"mnuMainProblem", "mnuHelpContents", "mnuShortDescription", "mnuNewVersion"})
+    for (const char* key :
+         {"mnuMainProblem", "mnuCloseProject", "mnuHelpContents", "mnuShortDescription", "mnuNewVersion"})
         Menu[key].Enabled = false;
     // The last entry has no dialog, and its command says so.
     for (int entry = 0; entry < kLastProblemEntry; ++entry) Menu.At(kProblemArray, entry).Enabled = DialogExists(entry);
@@ -103,9 +117,12 @@ void MDITools::m_cMenu_Click(std::string_view keyOfEntry) {
         MnuRecentFile_Click(ListTools().KeyIndex(key));
     else if (key.starts_with(kProblemArray))
         mnuProblem_Click(ListTools().KeyIndex(key));
-    else
+    else {
         for (const CommandRow& row : kCommands)
             if (key == row.Key) (this->*row.Command)();
+        for (const ThemeRow& row : kThemes)
+            if (key == row.Key) ChooseTheme(row.Choice);
+    }
 }
 
 void MDITools::mnuProblem_Click(int index) {
@@ -155,6 +172,33 @@ void MDITools::MnuLanguage_Click() {
 
 void MDITools::mnuUnits_Click() {
     ShowModally<frmUnits>();
+}
+
+void MDITools::mnuNumberFormats_Click() {
+    ShowModally<frmNumberFormats>();
+}
+
+// --- theme ---
+
+void MDITools::LoadTheme() {
+    const std::string word = SharedServices().GetSetting(kApplicationTitle, kSettings, kTheme, kThemes[0].Word);
+    ThemeChoice choice = ThemeChoice::System;
+    for (const ThemeRow& row : kThemes)
+        if (word == row.Word) choice = row.Choice;
+    TickTheme(choice);
+}
+
+void MDITools::ChooseTheme(ThemeChoice choice) {
+    for (const ThemeRow& row : kThemes)
+        if (row.Choice == choice)
+            SharedServices().SaveSetting(kApplicationTitle, kSettings, kTheme, std::string(row.Word));
+    TickTheme(choice);
+    Refresh();
+}
+
+void MDITools::TickTheme(ThemeChoice choice) {
+    for (const ThemeRow& row : kThemes) Menu[row.Key].SetChecked(row.Choice == choice);
+    if (window_ != nullptr) window_->ShowTheme(choice);
 }
 
 void MDITools::mnuHelpContents_Click() {

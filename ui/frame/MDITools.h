@@ -16,6 +16,9 @@
 #include "services/host/Form.h"
 #include "texts/LanguageTable.h"
 #include "ui/frame/MenuTree.h"
+#include "ui/frame/StartPage.h"
+#include "ui/frame/StatusLine.h"
+#include "ui/frame/Theme.h"
 #include "ui/frame/Toolbars.h"
 
 namespace lithmark {
@@ -30,6 +33,8 @@ class FrameWindow {
     virtual void Refresh() {}
     virtual std::optional<FormPosition> Position() const { return std::nullopt; }
     virtual void SetPosition(const FormPosition&) {}
+    // Light or dark windows, or what the desktop asks for.
+    virtual void ShowTheme(ThemeChoice) {}
     // How the bars are docked, as a text of the window's own.
     virtual std::string DockLayout() const { return {}; }
     // Docks the bars as a layout says; the default order for an empty one.
@@ -37,18 +42,10 @@ class FrameWindow {
     virtual void EndProcess() {}
 };
 
-// What the frame shows while no project is open. New and open are the entries mnuNewProject and mnuOpenProject.
-struct StartPage {
-    struct RecentProject {
-        int Index;  // of MnuRecentFile
-        std::string Path;
-    };
-    std::vector<RecentProject> RecentProjects;  // the newest first
-};
-
 // What the frame shows of the open project.
 struct ProjectSummary {
     std::string Name, Directory;
+    int ProblemType = 0;
     std::string Problem;    // the text of its menu entry; empty for a number that the catalogue does not have
     int ProblemEntry = -1;  // index of mnuProblem
     std::string Order, Date, Project;
@@ -108,6 +105,8 @@ class MDITools : public Form {
     // Leaves the open project for a copy of an example.
     void OpenExample(const std::string& name);
     void mnuSaveProjectAs_Click();
+    // Back to the page without a project; the project is packed as at the end of the program.
+    void mnuCloseProject_Click();
     void mnuFileList_Click();
     void MnuRecentFile_Click(int index);
     // "Lithmark - [name]".
@@ -115,9 +114,20 @@ class MDITools : public Form {
     static std::string Title(const std::string& name);
 
     bool ProjectOpen() const;
-    StartPage RecentProjects() const;
     // Of the open project.
     ProjectSummary Summary();
+    StatusLine Status();
+
+    // --- page without a project ---
+
+    StartPage RecentProjects() const;
+    // A new project that is proposed with a problem.
+    void BeginProject(int problemType);
+    // A project of a list. One that is gone is told, and is pinned no more.
+    void OpenListed(const std::string& path);
+    // A copy of an example in the program's folder of the user's documents.
+    void OpenExample(const ExampleProject& example);
+    void PinProject(const std::string& path, bool pinned);
 
     // --- menu ---
 
@@ -135,6 +145,8 @@ class MDITools : public Form {
     void mnuPreferences_Click();
     void MnuLanguage_Click();
     void mnuUnits_Click();
+    void mnuNumberFormats_Click();
+    void ChooseTheme(ThemeChoice choice);
     void mnuHelpContents_Click();
     void mnuShortDescription_Click();
     void mnuNewVersion_Click();
@@ -159,6 +171,8 @@ class MDITools : public Form {
     void TakeSplashAway();
     void ResetToolbars();
     bool MayLeaveProject();
+    void LoadTheme();
+    void TickTheme(ThemeChoice choice);
     void ChangeProject(const std::string& file);
     std::vector<std::string> MissingData();
     void AddToRecentFiles(const std::string& path);

@@ -61,6 +61,7 @@ MenuTree::MenuTree() {
     add("mnuOpenProject", "mnuFile", 124_text, Styles::DialogButton, "Ctrl+O");
     add("mnuSaveProjectAs", "mnuFile", 10339_text, Styles::DialogButton);
     add("mnuFileList", "mnuFile", 70025_text);
+    add("mnuCloseProject", "mnuFile", 913400_text);
     separator("MnuRecentFile(0)", "mnuFile");
     for (int i = 1; i <= 4; ++i) items_.emplace_back(KeyOf("MnuRecentFile", i), "mnuFile");
     separator("mnuFileDash2", "mnuFile");
@@ -76,6 +77,10 @@ MenuTree::MenuTree() {
     add("MnuVeiwToolBar(3)", "mnu_Toolbar", 8_text);
     separator("MnuVeiwDashRestToolBar", "mnu_Toolbar");
     add("mnuResetToolbar", "mnu_Toolbar", 69_text);
+    add("mnuTheme", "MnuVeiw", 913401_text);
+    add("mnuThemeSystem", "mnuTheme", 913402_text);
+    add("mnuThemeLight", "mnuTheme", 913403_text);
+    add("mnuThemeDark", "mnuTheme", 913404_text);
 
     add("mnuMainProblem", "", 400010_text);
     for (int i = 0; i < kProblemEntries; ++i) {
@@ -89,6 +94,7 @@ MenuTree::MenuTree() {
     add("mnuPreferences", "mnuMainData", 92_text);
     add("MnuLanguage", "mnuMainData", 83_text);
     add("mnuUnits", "mnuMainData", 17_text);
+    add("mnuNumberFormats", "mnuMainData", 913405_text);
 
     add("mnuHelp", "", 8_text);
     add("mnuHelpContents", "mnuHelp", 80_text);

@@ -22,6 +22,7 @@
 #include "desktop/Palettes.h"
 #include "desktop/QtHost.h"
 #include "desktop/SplashView.h"
+#include "desktop/StartView.h"
 #include "kernels/RunKernel.h"
 #include "render/QtText.h"
 #include "services/SharedServices.h"
@@ -31,6 +32,7 @@
 #include "ui/frmContour.h"
 #include "ui/frmDataDir.h"
 #include "ui/frmMethodtype.h"
+#include "ui/frmNumberFormats.h"
 #include "ui/frmOptionDraw.h"
 #include "ui/frmPreferences.h"
 #include "ui/frmProblemType.h"
@@ -188,14 +190,20 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
     frame.SetWindow(&window);
     host.SetFrame(&window);
     frame.Start("", language);
-    window.resize(1000, 660);
+    window.resize(1280, 800);
+    auto* start = dynamic_cast<StartView*>(window.findChild<QWidget*>(QStringLiteral("startPage")));
+    if (start == nullptr) return false;
+    while (!start->Painted()) QApplication::processEvents(QEventLoop::WaitForMoreEvents);
     gallery.Take(window, QStringLiteral("start"));
     frame.OpenFromCommandLine(settings + "Crane.PO3");
     gallery.Take(window, QStringLiteral("project"));
     window.hide();
-    frame.NewProjectState();
-    window.Refresh();
+    frame.mnuCloseProject_Click();
+    frame.PinProject(settings + "Empty.PO3", true);
     gallery.Take(window, QStringLiteral("start-recent"));
+    window.resize(1090, 545);
+    gallery.Take(window, QStringLiteral("start-small"));
+    window.resize(1280, 800);
     frame.OpenFromCommandLine(settings + "Crane.PO3");
     window.hide();
 
@@ -224,6 +232,12 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
     gallery.Take(dataDir, QStringLiteral("frmDataDir"));
     frmUnits units;
     gallery.Take(units, QStringLiteral("frmUnits"));
+    frmNumberFormats formats;
+    gallery.Take(formats, QStringLiteral("frmNumberFormats"));
+    gallery.Take(formats, QStringLiteral("frmNumberFormats-fault"), [&] {
+        formats.txtFormat[5].Text = "1.00";
+        formats.txtFormat[5].OnChange();
+    });
     frmPreferences preferences;
     gallery.Take(preferences, QStringLiteral("frmPreferences-0"));
     gallery.Take(preferences, QStringLiteral("frmPreferences-1"), [&] { SelectRow(preferences.sstMainData, 1); });

@@ -1,0 +1,58 @@
+#include "desktop/SystemTheme.h"
+
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QFileInfo>
+
+namespace lithmark {
+
+namespace {
+
+const QString kService = QStringLiteral("org.freedesktop.portal.Desktop"),
+              kPath = QStringLiteral("/org/freedesktop/portal/desktop"),
+              kInterface = QStringLiteral("org.freedesktop.portal.Settings"),
+              kGroup = QStringLiteral("org.freedesktop.appearance"), kKey = QStringLiteral("color-scheme");
+constexpr uint kPrefersDark = 1;
+
+// The portal wraps a value twice.
+QVariant Unwrapped(QVariant value) {
+    while (value.userType() == qMetaTypeId<QDBusVariant>()) value = value.value<QDBusVariant>().variant();
+    return value;
+}
+
+}  // namespace
+
+SystemTheme::SystemTheme(const QDBusConnection& bus) {
+    if (!bus.isConnected()) return;
+    QDBusConnection(bus).connect(kService, kPath, kInterface, QStringLiteral("SettingChanged"), this,
+                                 SLOT(SettingChanged(QString, QString, QDBusVariant)));
+    QDBusMessage question = QDBusMessage::createMethodCall(kService, kPath, kInterface, QStringLiteral("Read"));
+    question.setArguments({kGroup, kKey});
+    auto* answer = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+        answer->deleteLater();
+        const QDBusPendingReply<QVariant> reply = *answer;
+        if (!reply.isError()) Take(reply.value());
+    });
+}
+
+void SystemTheme::SettingChanged(const QString& group, const QString& key, const QDBusVariant& value) {
+    if (group == kGroup && key == kKey) Take(value.variant());
+}
+
+void SystemTheme::Take(const QVariant& scheme) {
+    const Theme theme = Unwrapped(scheme).toUInt() == kPrefersDark ? Theme::Dark : Theme::Light;
+    if (theme == now_) return;
+    now_ = theme;
+    if (OnChange) OnChange();
+}
+
+QDBusConnection SessionBus() {
+    const bool named = !qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS");
+    const QString socket = qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus");
+    if (named || QFileInfo::exists(socket)) return QDBusConnection::sessionBus();
+    return QDBusConnection(QStringLiteral("none"));
+}
+
+}  // namespace lithmark
