@@ -23,7 +23,8 @@ namespace {
 constexpr std::uint64_t kMostAtAGlance = std::uint64_t{4} << 20;
 
 std::string LineOf(const std::vector<std::string>& lines, std::size_t index) {
-    return index < lines.size() ? Trim(lines[index]) : std::string();
+    if (index >= lines.size()) return {};
+    return Trim(lines[index].substr(0, lines[index].find('\r')));
 }
 
 std::vector<std::string> LinesOf(const std::string& bytes) {
