@@ -9,6 +9,7 @@
 #include "base/NumberText.h"
 #include "base/Utf8.h"
 #include "core/Catalogue.h"
+#include "services/platform/Process.h"
 #include "services/storage/FileEncoding.h"
 #include "services/storage/FileNames.h"
 #include "services/storage/ProjectArchive.h"
@@ -46,9 +47,7 @@ void TakeHeading(ProjectGlance& glance, const std::string& orderFile) {
 }
 
 std::string DayOf(std::int64_t seconds) {
-    const auto time = static_cast<std::time_t>(seconds);
-    std::tm local{};
-    if (::localtime_r(&time, &local) == nullptr) return {};
+    const std::tm local = platform::LocalTime(static_cast<std::time_t>(seconds));
     char day[16];
     return std::string(day, std::strftime(day, sizeof day, "%Y-%m-%d", &local));
 }

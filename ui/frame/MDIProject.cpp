@@ -1,6 +1,4 @@
 // The frame's project commands.
-#include <unistd.h>
-
 #include <algorithm>
 #include <utility>
 
@@ -17,6 +15,7 @@
 #include "services/SharedServices.h"
 #include "services/TextTools.h"
 #include "services/host/Host.h"
+#include "services/platform/Files.h"
 #include "services/storage/FileNames.h"
 #include "ui/frame/MDITools.h"
 #include "ui/frame/StartPage.h"
@@ -70,7 +69,7 @@ bool IsNoPlaceForProjects(const std::string& dir) {
     SharedServicesService& services = SharedServices();
     const bool own = dir == services.ExecutableDir() || dir.starts_with(services.ResourceDir());
     const bool settings = dir == Session.ProgramDir && dir != services.GetDirectories().DataDir;
-    return own || settings || (PathExists(dir) && ::access(dir.c_str(), W_OK) != 0);
+    return own || settings || (PathExists(dir) && !platform::MayWrite(dir));
 }
 
 void EndHourglass() {
