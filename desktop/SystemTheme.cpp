@@ -25,7 +25,8 @@ QVariant Unwrapped(QVariant value) {
 
 SystemTheme::SystemTheme(const QDBusConnection& bus) {
     if (!bus.isConnected()) return;
-    QDBusConnection(bus).connect(kService, kPath, kInterface, QStringLiteral("SettingChanged"), this,
+    // From whoever it comes: the portal may be started later, or anew, and be another one on the bus then.
+    QDBusConnection(bus).connect(QString(), kPath, kInterface, QStringLiteral("SettingChanged"), this,
                                  SLOT(SettingChanged(QString, QString, QDBusVariant)));
     QDBusMessage question = QDBusMessage::createMethodCall(kService, kPath, kInterface, QStringLiteral("Read"));
     question.setArguments({kGroup, kKey});
