@@ -127,8 +127,9 @@ QLabel* StartView::AddHead(Panel& panel, const QString& words) {
 void StartView::Show(const StartPage& page) {
     if (page == shown_) return;
     shown_ = page;
+    // They go with the next events; until then nobody finds them by their names.
+    for (QWidget* stop : projects_.Stops) stop->setObjectName({});
     for (QWidget* thing : projects_.Things) {
-        thing->setObjectName({});
         thing->hide();
         thing->deleteLater();
     }
