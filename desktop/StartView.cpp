@@ -26,8 +26,8 @@ namespace {
 
 using namespace sizes;
 
-constexpr int kProjectWidth = 280, kCardWidth = 164, kExampleWidth = 300;
-constexpr QSize kProjectPicture(32, 32), kCardPicture(148, 96), kExamplePicture(84, 60);
+constexpr int kProjectWidth = 280, kCardWidth = 184, kExampleWidth = 300;
+constexpr QSize kProjectPicture(32, 32), kCardPicture(160, 104), kExamplePicture(84, 60);
 constexpr int kLogo = 48, kHeadButton = 48, kMostCards = 5, kLeastCards = 3;
 
 int WidthOf(int columns, int width) {
