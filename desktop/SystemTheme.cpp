@@ -1,8 +1,8 @@
 #include "desktop/SystemTheme.h"
 
-#include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDBusVariant>
 #include <QFileInfo>
 
 namespace lithmark {
@@ -27,7 +27,7 @@ SystemTheme::SystemTheme(const QDBusConnection& bus) {
     if (!bus.isConnected()) return;
     // From whoever it comes: the portal may be started later, or anew, and be another one on the bus then.
     QDBusConnection(bus).connect(QString(), kPath, kInterface, QStringLiteral("SettingChanged"), this,
-                                 SLOT(SettingChanged(QString, QString, QDBusVariant)));
+                                 SLOT(SettingChanged(QDBusMessage)));
     QDBusMessage question = QDBusMessage::createMethodCall(kService, kPath, kInterface, QStringLiteral("Read"));
     question.setArguments({kGroup, kKey});
     auto* answer = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
@@ -38,8 +38,9 @@ SystemTheme::SystemTheme(const QDBusConnection& bus) {
     });
 }
 
-void SystemTheme::SettingChanged(const QString& group, const QString& key, const QDBusVariant& value) {
-    if (group == kGroup && key == kKey) Take(value.variant());
+void SystemTheme::SettingChanged(const QDBusMessage& signal) {
+    const QVariantList told = signal.arguments();
+    if (told.size() == 3 && told[0].toString() == kGroup && told[1].toString() == kKey) Take(told[2]);
 }
 
 void SystemTheme::Take(const QVariant& scheme) {

@@ -3,7 +3,7 @@
 #pragma once
 
 #include <QDBusConnection>
-#include <QDBusVariant>
+#include <QDBusMessage>
 #include <QObject>
 #include <functional>
 
@@ -23,7 +23,8 @@ class SystemTheme : public QObject {
     std::function<void()> OnChange;
 
   private slots:
-    void SettingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+    // Group, key, value.
+    void SettingChanged(const QDBusMessage& signal);
 
   private:
     void Take(const QVariant& scheme);

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "base/Utf8.h"
 #include "core/Session.h"
 #include "files/CommonStep.h"
 #include "files/SettingsFiles.h"
@@ -65,7 +66,8 @@ void frmDataDir::StoreDataDir() {
     const std::string& path = txtDataDir.Text;
     MakeProjectsDir(path);
     if (!DirectoryExists(path)) {
-        SharedServices().ShowMessageBox(Text(160030_text), Text(190008_text, {{"|1", path}}), MessageIcon::Information);
+        SharedServices().ShowMessageBox(Text(160030_text), Text(190008_text, {{"|1", Excerpt(path)}}),
+                                        MessageIcon::Information);
         CurrentHost().SetFocus(*this, txtDataDir);
         return;
     }

@@ -34,7 +34,12 @@ static const LayoutOf<frmNumberFormats> kLayout([](FormView& view, frmNumberForm
         preview.setMinimumWidth(kPreviewWidth);
         grid->addWidget(&preview, grid->rowCount() - 1, 2);
     }
-    window->addWidget(new ScrollColumn(frame, &view), 1);
+    auto* fields = new QWidget;
+    auto* column = new QVBoxLayout(fields);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(frame);
+    column->addStretch();
+    window->addWidget(new ScrollColumn(fields, &view), 1);
     auto& fault = view.Place<QLabel>(form.lblFault);
     fault.setWordWrap(true);
     window->addWidget(&fault);

@@ -136,7 +136,9 @@ TEST_F(DocumentsOfARaft, TheWordProcessorGetsTheFiguresOfTheViewer) {
     std::filesystem::create_directory(folder_ / "bin");
     WriteBytes(folder_ / "bin/xdg-open",
                "#!/bin/sh\ncp \"$1\" '" + kept + ".part' && mv '" + kept + ".part' '" + kept + "'\n");
-    std::filesystem::permissions(folder_ / "bin/xdg-open", std::filesystem::perms::owner_all);
+    WriteBytes(folder_ / "bin/xdg-mime", "#!/bin/sh\necho writer.desktop\n");
+    for (const char* program : {"bin/xdg-open", "bin/xdg-mime"})
+        std::filesystem::permissions(folder_ / program, std::filesystem::perms::owner_all);
     const QByteArray path = qgetenv("PATH");
     qputenv("PATH", QByteArray::fromStdString(folder_ / "bin:") + path);
     InViewer([&](ScreenRun&, QWidget& viewer) {

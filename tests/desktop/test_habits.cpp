@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <QDBusMessage>
+#include <QDBusVariant>
 #include <QDBusVirtualObject>
 #include <QFileDialog>
 #include <QProcess>

@@ -12,6 +12,7 @@
 #include "desktop/ManualTopics.h"
 #include "desktop/ManualWindow.h"
 #include "support/Places.h"
+#include "support/Variable.h"
 #include "ui/frmConsolidation.h"
 #include "ui/frmUnits.h"
 #include "ui/frmstress.h"
@@ -192,23 +193,26 @@ void ClickOnLink(QWidget& manual, const QString& link) {
 class ExamplesOfTheManual : public ManualOnScreen {
   protected:
     ExamplesOfTheManual() {
-        std::filesystem::create_directory(settings_ / "data");
-        WriteBytes(settings_ / "STEU", settings_ / "data/" + "\r\n0\r\n");
+        std::filesystem::create_directories(settings_ / "home/Documents");
+        home_.Set(settings_ / "home");
     }
-    std::string Copy(const std::string& name) const { return settings_ / ("data/Lithmark/" + name); }
+    std::string Copy(const std::string& name) const { return settings_ / ("home/Documents/Lithmark/" + name); }
+    Variable home_{"HOME"}, config_{"XDG_CONFIG_HOME"};
     static constexpr const char* kLink = "../../../examples/PointLoad";
 };
 
 TEST_F(ExamplesOfTheManual, ALinkOpensACopy) {
     ScreenRun run(settings_.Dir());
     run.Start();
-    for (const std::string folder : {"PointLoad", "PointLoad-2"}) {
+    config_.Unset();
+    for (const std::string name : {"PointLoad", "PointLoad 2"}) {
         run.In("manualWindow", [](QWidget& manual) { ClickOnLink(manual, kLink); });
         SharedServices().ShowHelpTopic("problem-1");
-        EXPECT_EQ(run.Window().windowTitle(), "Lithmark - [PointLoad]");
-        EXPECT_EQ(Session.DataDir, Copy(folder + "/"));
-        for (const char* file : {"PointLoad.PO3", "PointLoad.AUF", "PointLoad.SSD"})
-            EXPECT_EQ(ReadBytes(Copy(folder + "/" + file)), ReadBytes(SourceDir() / "examples/PointLoad" / file));
+        EXPECT_EQ(run.Window().windowTitle().toStdString(), "Lithmark - [" + name + "]");
+        EXPECT_EQ(Session.DataDir, Copy(""));
+        for (const char* ending : {".PO3", ".AUF", ".SSD"})
+            EXPECT_EQ(ReadBytes(Copy(name + ending)),
+                      ReadBytes(SourceDir() / "examples/PointLoad" / (std::string("PointLoad") + ending)));
     }
 }
 
@@ -233,7 +237,7 @@ TEST_F(ExamplesOfTheManual, NoneIsOpenedUnderADialog) {
     frmstress form;
     CurrentHost().ShowForm(form);
     EXPECT_FALSE(run.Frame().ProjectOpen());
-    EXPECT_FALSE(std::filesystem::exists(settings_ / "data/Lithmark"));
+    EXPECT_FALSE(std::filesystem::exists(settings_ / "home/Documents/Lithmark"));
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // The frame's page without a project.
 #include <algorithm>
 
+#include "base/Utf8.h"
 #include "core/Session.h"
 #include "files/CommonStep.h"
 #include "files/ProjectGlance.h"
@@ -33,7 +34,8 @@ void MDITools::OpenListed(const std::string& path) {
     UnderCommonStep([&] {
         if (!MayLeaveProject()) return;
         if (!SharedServices().FileMissing(path, false)) return ChangeProject(path);
-        SharedServices().ShowMessageBox(Text(160030_text), Text(901007_text, {{"|1", path}}), MessageIcon::Information);
+        SharedServices().ShowMessageBox(Text(160030_text), Text(901007_text, {{"|1", Excerpt(path)}}),
+                                        MessageIcon::Information);
         PinPath(path, false);
     });
     Refresh();
