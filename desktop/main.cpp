@@ -1,5 +1,5 @@
-#include "services/platform/RemovedOnEnd.h"
 #include "desktop/Application.h"
+#include "services/platform/RemovedOnEnd.h"
 
 int main(int argc, char** argv) {
     lithmark::EndCleanlyOnSignals();

@@ -16,7 +16,8 @@ namespace lithmark {
 // where `cause` knows one.
 Failure WithCause(Failure failure, const std::string& cause);
 
-// Tells a failed run: what went wrong, and behind it the notices, since no result is shown that they could stand beside.
+// Tells a failed run: what went wrong, and behind it the notices, since no result is shown that they could stand
+// beside.
 void TellFailedRun(const Failure& failure);
 
 // Runs the body of a kernel, with an empty board of notices and no tables of steps. Any run-time failure ends it: the
