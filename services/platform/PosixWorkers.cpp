@@ -9,23 +9,12 @@
 #include <cerrno>
 #include <csignal>
 #include <new>
-#include <set>
 #include <utility>
 #include <vector>
 
 #include "services/platform/Workers.h"
 
 namespace lithmark::platform {
-
-namespace {
-
-// The streams of all workers that run: a copy of the process closes them, so that a worker sees the end of its own.
-std::set<int>& OpenStreams() {
-    static std::set<int> streams;
-    return streams;
-}
-
-}  // namespace
 
 SharedNumbers::SharedNumbers(std::size_t count) : count_(count) {
     void* memory =
@@ -84,13 +73,15 @@ bool WorkerProcess::Start(const WorkerMain& work, SharedNumbers& numbers, std::s
     if (process == 0) {
         // The program alone decides when its workers end: a Ctrl+C goes to them all.
         for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGPIPE}) std::signal(signal, SIG_IGN);
-        ::close(ends[0]);
-        for (const int other : OpenStreams()) ::close(other);
+        // Nothing of the program's files stays open: neither the streams of other workers, which would never end, nor
+        // what a lock is on, which would outlast a program that is killed.
+        constexpr int kFirst = 3;
+        if (ends[1] > kFirst) ::close_range(kFirst, static_cast<unsigned>(ends[1] - 1), 0);
+        ::close_range(static_cast<unsigned>(ends[1] + 1), ~0U, 0);
         work(ends[1], numbers[index]);
         ::_exit(0);
     }
     ::close(ends[1]);
-    OpenStreams().insert(ends[0]);
     process_ = process;
     socket_ = ends[0];
     return true;
@@ -109,7 +100,6 @@ int WorkerProcess::End() noexcept {
     do reaped = ::waitpid(process, &status, 0);
     while (reaped < 0 && errno == EINTR);
     const int stream = static_cast<int>(std::exchange(socket_, kNoSocket));
-    OpenStreams().erase(stream);
     ::close(stream);
     return WIFSIGNALED(status) ? WTERMSIG(status) : 0;
 }

@@ -101,7 +101,7 @@ class Faults : public testing::TestWithParam<Fault> {
         const std::string common = " --lang en --settings " + folder.Dir() + " -o " + folder.Dir();
         const std::string tool = CommandLineTool().string() + " " + GetParam().Kind + " " + (folder / "Raft1.PO3");
         return tool + (GetParam().Kind == "report" ? " --no-export" + common + "report.txt"
-                                                   : " --vary Q=100,200 --take Q" + common + "rows.csv");
+                                                   : " --vary Q=100,200" + common + "rows.csv");
     }
     Files Content() const {
         Files files;
