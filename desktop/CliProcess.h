@@ -32,6 +32,8 @@ class CliProcess : public QObject {
     void Start(const std::vector<std::string>& words);
     // Asks the run to end, and ends it half a second later. It tells no line any more, and its end.
     void Cancel();
+    // Ends a run at once, without telling.
+    void EndNow();
     bool Running() const noexcept { return running_; }
 
     // Beside the running program.
@@ -40,7 +42,6 @@ class CliProcess : public QObject {
   private:
     void Take(QProcess::ProcessChannel channel, QByteArray& rest, const std::function<void(const std::string&)>& tell);
     void End(CliEnd end);
-    void EndNow();
 
     QProcess process_;
     QTimer patience_;

@@ -16,6 +16,7 @@
 #include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QTabBar>
+#include <utility>
 
 #include "desktop/BoxMark.h"
 #include "desktop/FieldNames.h"
@@ -61,7 +62,10 @@ FormView::FormView(Form& form, QWidget* parent) : QDialog(parent), form_(form) {
     setModal(true);
     keep_.setSingleShot(true);
     keep_.setInterval(kKeepAfter);
-    connect(&keep_, &QTimer::timeout, this, [this] { form_.KeepInput(); });
+    connect(&keep_, &QTimer::timeout, this, [this] {
+        form_.KeepInput();
+        EndTyping();
+    });
     setLayoutDirection(form.RightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     BuildLayout(*this);
@@ -232,7 +236,17 @@ QWidget* FormView::Make(Control& control) {
 
 void FormView::Edited(Control& control, const QString& text) {
     control.Text = text.toStdString();
-    Act(control.OnChange);
+    Act(control.OnChange, &control);
+}
+
+void FormView::EndTyping() {
+    if (std::exchange(typed_, nullptr) != nullptr && !form_.Unloaded()) Refresh();
+}
+
+std::string FormView::ShownMark(const Control& box) const {
+    const auto* marks = dynamic_cast<const BoxMarks*>(&form_);
+    if (marks == nullptr || (typed_ == &box && !marks->Refused(box) && IsUnfinished(box.Text))) return {};
+    return marks->MarkOf(box);
 }
 
 // Up and Down step the digit left of the cursor by one, the page keys by ten.
@@ -248,10 +262,12 @@ bool FormView::StepsNumber(Control& control, QLineEdit& box, int key) {
     return true;
 }
 
-void FormView::Act(const std::function<void()>& event) {
+void FormView::Act(const std::function<void()>& event, const Control* typed) {
+    typed_ = typed;
     if (event) event();
     keep_.start();
     Refresh();
+    if (AfterEvent && !form_.Unloaded()) AfterEvent(typed);
 }
 
 void FormView::Refresh() {
@@ -273,7 +289,10 @@ void FormView::Refresh() {
 
 void FormView::RefreshAll() {
     for (const auto& [form, view] : OpenViews())
-        if (!form->Unloaded()) view->Refresh();
+        if (!form->Unloaded()) {
+            view->Refresh();
+            if (view->AfterEvent) view->AfterEvent(nullptr);
+        }
 }
 
 void FormView::FitContent() {
@@ -289,8 +308,12 @@ void FormView::FitContent() {
     const bool grown = wanted.height() > heightWanted_;
     heightWanted_ = wanted.height();
     if (first) return;
-    if (pictures) resize(wanted.width(), height());
+    if (pictures) FitWidth();
     if (grown && wanted.height() > height()) resize(width(), wanted.height());
+}
+
+void FormView::FitWidth() {
+    resize(sizeHint().boundedTo(ScreenRoom(*this)).width(), height());
 }
 
 void FormView::showEvent(QShowEvent* event) {
@@ -311,7 +334,7 @@ void FormView::Show(Control& control, QWidget& widget) {
             auto& box = static_cast<QLineEdit&>(widget);
             if (box.text() != Q(control.Text)) box.setText(Q(control.Text));
             box.setReadOnly(control.ReadOnly);
-            if (const auto* marks = dynamic_cast<const BoxMarks*>(&form_)) ShowMark(box, marks->MarkOf(control));
+            ShowMark(box, ShownMark(control));
             break;
         }
         case ControlKind::Option:
@@ -386,6 +409,9 @@ void FormView::FocusOn(const Control& control) {
 bool FormView::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::FocusIn) {
         if (Control* control = form_.Find(watched->objectName().toStdString())) form_.Focus = control;
+    } else if (event->type() == QEvent::FocusOut) {
+        EndTyping();
+        if (AfterBox && !form_.Unloaded()) AfterBox();
     } else if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         const bool steps = key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown;

@@ -40,6 +40,15 @@ class FormView : public QDialog {
 
     // What a layout does with its widgets after each refresh; may be empty.
     std::function<void()> AfterRefresh;
+    // What a layout does after an event of the user, or a refresh from outside: a key in a box, or with null anything
+    // else. And as the focus leaves a box. May be empty.
+    std::function<void(const Control* typed)> AfterEvent;
+    std::function<void()> AfterBox;
+
+    // Why a box is shown as wrong; empty for one that is not, and for one in which the user has not ended a number.
+    std::string ShownMark(const Control& box) const;
+    // As wide as what it shows wants, as far as the screen goes.
+    void FitWidth();
 
     // The view of a form that is shown, or null.
     static FormView* Of(const Form& form);
@@ -61,15 +70,18 @@ class FormView : public QDialog {
     // The window grows and shrinks with its pictures, and grows with the fields that an event brings into sight, as far
     // as the screen goes.
     void FitContent();
-    // Runs an event of the model, then refreshes.
-    void Act(const std::function<void()>& event);
+    // What was typed counts as ended.
+    void EndTyping();
+    // Runs an event of the model, then refreshes. `typed`: the box of a key.
+    void Act(const std::function<void()>& event, const Control* typed = nullptr);
 
     Form& form_;
     std::unordered_map<const Control*, QWidget*> widgets_;
     std::unordered_map<const Control*, int> placed_;
     OptionGroups options_{*this};
     bool refreshing_ = false;
-    QTimer keep_;  // runs from an event of the user until the form keeps its input
+    QTimer keep_;                     // runs from an event of the user until the form keeps its input
+    const Control* typed_ = nullptr;  // the box of the last key, as long as the number in it may be unfinished
     int picturesShown_ = -1, heightWanted_ = 0;
 };
 

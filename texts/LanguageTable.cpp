@@ -47,6 +47,7 @@ constexpr LanguageRow kRows[] = {
 #include "texts/tables/own_storage.inc"
 #include "texts/tables/own_windows.inc"
 #include "texts/tables/own_habits.inc"
+#include "texts/tables/own_answer.inc"
     // clang-format on
 };
 

@@ -47,18 +47,11 @@ void CvRow(const ConsolidationRateInput& in, int i) {
                  in.CvLayer(i) * FactorOf(Unit::AreaPerTime), Session.FmtCv);
 }
 
-// The time factor is that of layer 1 alone, Tv = Cv t/H^2 with H the drainage length.
 void SoilRows(const ConsolidationRateInput& in, Single c) {
     AddSection(140162_text);
-    Single H = 0;
-    if (in.DrainageCondition == Drainage::BottomDrained) {
-        AddParameter(300011_text);
-        H = in.hLayer(1) / 2;
-    } else if (in.DrainageCondition == Drainage::BottomImpermeable) {
-        AddParameter(300010_text);
-        H = in.hLayer(1);
-    }
-    const Single Tv = Quotient(in.CvLayer(1) * in.T * c, Square(H));
+    if (in.DrainageCondition == Drainage::BottomDrained) AddParameter(300011_text);
+    if (in.DrainageCondition == Drainage::BottomImpermeable) AddParameter(300010_text);
+    const Single Tv = TimeFactorOfLayer1(in.DrainageCondition, in.hLayer(1), in.CvLayer(1), in.T, c);
     AddParameter(300007_text, "Tc", in.TimeUnit, in.T, Session.FmtTime);
     AddParameter(400126_text, "Tv", "[-]", Tv, Session.FmtRatio);
     CvRow(in, 1);
@@ -86,6 +79,13 @@ void IsochroneTable() {
 }
 
 }  // namespace
+
+Single TimeFactorOfLayer1(Integer drainageCondition, Single hLayer, Single CvLayer, Single T, Single c) {
+    Single H = 0;
+    if (drainageCondition == Drainage::BottomDrained) H = hLayer / 2;
+    if (drainageCondition == Drainage::BottomImpermeable) H = hLayer;
+    return Quotient(CvLayer * T * c, Square(H));
+}
 
 void WriteConsolidationRateReport(const ConsolidationRateInput& in, Single c) {
     ReportHeading();

@@ -21,6 +21,10 @@ struct ConsolidationRateInput {
     std::string TimeUnit;
 };
 
+// The time factor of layer 1 alone, Tv = Cv t/H^2 with H [m] the drainage length: half the layer where its bottom is
+// drained, the layer where it is impermeable. `c`: seconds per time unit. DivisionByZero for any other drainage.
+Single TimeFactorOfLayer1(Integer drainageCondition, Single hLayer, Single CvLayer, Single T, Single c);
+
 // Starts a new Session.ResultText with the input, Uc and the table of the isochrones. c: seconds per time unit. Throws
 // Failure; a drainage condition that is neither 1 nor 2 has no drainage length and so divides by zero.
 void WriteConsolidationRateReport(const ConsolidationRateInput& in, Single c);

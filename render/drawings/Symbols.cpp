@@ -11,8 +11,10 @@ namespace {
 
 // Longer names before those that they begin with.
 const std::pair<const char*, const char*> kGreek[] = {
-    {"Varepsilon", "ε"}, {"Gamma", "γ"}, {"Sigma", "σ"}, {"Tau", "τ"}, {"Nue", "ν"},
+    {"Varepsilon", "ε"}, {"Epsilon", "ε"}, {"Alpha", "α"}, {"Gamma", "γ"}, {"Sigma", "σ"}, {"Tau", "τ"}, {"Nue", "ν"},
 };
+// What a report writes ahead of a symbol stands in its index.
+const char* const kAhead[] = {"max_", "min_"};
 
 // How a Greek letter is spoken.
 struct SpokenLetter {
@@ -25,6 +27,12 @@ constexpr SpokenLetter kSpoken[] = {{"ε", 913510_text}, {"γ", 913511_text}, {"
 }  // namespace
 
 PrintSymbol SymbolInPrint(const std::string& plain) {
+    for (const char* const ahead : kAhead)
+        if (plain.starts_with(ahead)) {
+            PrintSymbol symbol = SymbolInPrint(plain.substr(std::string(ahead).size()));
+            symbol.Index += Q(std::string(ahead, std::string(ahead).size() - 1));
+            return symbol;
+        }
     QString letter, rest = Q(plain);
     for (const auto& [name, greek] : kGreek)
         if (rest.startsWith(QLatin1String(name))) {

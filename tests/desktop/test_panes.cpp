@@ -26,13 +26,14 @@ class PaneTest : public FormTest {
     }
 };
 
-TEST_F(PaneTest, OfADialogAreItsFieldsAndItsButtons) {
+TEST_F(PaneTest, OfADialogAreItsFieldsItsAnswerAndItsButtons) {
     Session.ProblemType = 1;
     frmstress form;
     form.Load();
     FormView view(form, nullptr);
     Open(view);
     Child<QWidget>(view, "txt_A").setFocus();
+    EXPECT_EQ(After(), "answerHide");
     EXPECT_EQ(After(), "cmdSave");
     Child<QWidget>(view, "cmdHelp").setFocus();
     EXPECT_EQ(After(), "txt_A") << "where the focus was";
@@ -40,6 +41,7 @@ TEST_F(PaneTest, OfADialogAreItsFieldsAndItsButtons) {
     EXPECT_EQ(After(Qt::ShiftModifier), "cmdHelp");
     // A box that is gone does not get the focus back.
     EXPECT_EQ(After(), "txt_A");
+    EXPECT_EQ(After(), "answerHide");
     EXPECT_EQ(After(), "cmdHelp");
     form.SelectOption(form.optLoadType[0]);
     form.optLoadType_Click();

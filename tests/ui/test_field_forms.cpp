@@ -55,12 +55,14 @@ class FieldForms : public FormTest {
     }
 };
 
-TEST_F(FieldForms, WhatACommandRefusesIsMarkedUntilItIsRight) {
+TEST_F(FieldForms, ABoxIsMarkedUntilItIsRight) {
     DemoForm form;
     Type(form, "txtTimePeriod", "71");
     Type(form, "txt_A", "ab");
-    EXPECT_EQ(form.MarkOf(form.txtTimePeriod), "");  // while one types
+    EXPECT_THAT(form.MarkOf(form.txtTimePeriod), HasSubstr("70"));
+    EXPECT_FALSE(form.Refused(form.txtTimePeriod));
     Click(form, "cmdSave");
+    EXPECT_TRUE(form.Refused(form.txtTimePeriod));
     EXPECT_THAT(form.MarkOf(form.txtTimePeriod), HasSubstr("70"));
     EXPECT_THAT(form.MarkOf(form.txt_A), HasSubstr("ab"));
     EXPECT_EQ(form.MarkOf(form.txt_h), "");

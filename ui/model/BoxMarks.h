@@ -10,8 +10,13 @@ namespace lithmark {
 class BoxMarks {
   public:
     virtual ~BoxMarks() = default;
-    // Why a box that a command has refused is still not right; empty for all others.
+    // Why a box cannot be stored as it stands; empty for one that can.
     virtual std::string MarkOf(const Control& box) const = 0;
+    // A command has refused the box.
+    virtual bool Refused(const Control& box) const = 0;
 };
+
+// A text that is not a number yet: nothing, a sign, a decimal sign alone, "1e-".
+bool IsUnfinished(const std::string& text);
 
 }  // namespace lithmark

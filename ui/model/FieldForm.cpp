@@ -103,7 +103,6 @@ void FieldForm::Refuse(const std::vector<BoxFault>& faults) {
 }
 
 std::string FieldForm::MarkOf(const Control& box) const {
-    if (!refused_.contains(&box)) return {};
     const FieldRow* row = RowOf(box);
     return row != nullptr && row->Field.Exists() ? row->Fault().value_or("") : "";
 }

@@ -28,6 +28,7 @@ class FieldForm : public Form, public BoxMarks {
     virtual std::vector<std::string> Inputs() const;
 
     std::string MarkOf(const Control& box) const override;
+    bool Refused(const Control& box) const override { return refused_.contains(&box); }
 
   protected:
     using Form::Form;

@@ -6,7 +6,7 @@ namespace lithmark {
 
 namespace {
 
-const std::string kStateKey = "More State";
+const std::string kStateKey = "More State", kAnswerKey = "Answer State";
 
 }  // namespace
 
@@ -21,11 +21,13 @@ void PictureForm::Load() {
     ProblemForm::Load();
     ShowProgramPicture(PctInvertedT, picture_.File);
     more_ = SharedServices().GetSetting(kApplicationTitle, picture_.Section, kStateKey, true);
+    answer_ = SharedServices().GetSetting(kApplicationTitle, picture_.Section, kAnswerKey, true);
     ShowState();
 }
 
 void PictureForm::Unloading() {
     SharedServices().SaveSetting(kApplicationTitle, picture_.Section, kStateKey, more_);
+    SharedServices().SaveSetting(kApplicationTitle, picture_.Section, kAnswerKey, answer_);
 }
 
 void PictureForm::CmdMoreLess_Click() {

@@ -1,5 +1,5 @@
-// PictureForm: a problem's dialog with a picture of the problem beside its fields, shown and hidden by CmdMoreLess. The
-// state is kept from one use to the next.
+// PictureForm: a problem's dialog with a picture of the problem beside its fields, shown and hidden by CmdMoreLess, and
+// the answer. What is shown of them is kept from one use to the next.
 #pragma once
 
 #include <string>
@@ -26,6 +26,9 @@ class PictureForm : public ProblemForm {
     void CmdMoreLess_Click();
     // The picture is shown.
     bool More() const noexcept { return more_; }
+    // The answer is shown beside it.
+    bool AnswerShown() const noexcept { return answer_; }
+    void ShowAnswer(bool shown) noexcept { answer_ = shown; }
 
   protected:
     PictureForm(std::string name, PictureOf picture, std::string okButton = "cmdok");
@@ -35,7 +38,7 @@ class PictureForm : public ProblemForm {
 
     const PictureOf picture_;
     const Figure figure_{*this};
-    bool more_ = true;
+    bool more_ = true, answer_ = true;
 };
 
 }  // namespace lithmark

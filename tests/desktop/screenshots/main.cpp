@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTextStream>
 #include <QTimer>
 #include <set>
@@ -23,6 +24,7 @@
 #include "desktop/QtHost.h"
 #include "desktop/SplashView.h"
 #include "desktop/StartView.h"
+#include "desktop/answer/AnswerView.h"
 #include "kernels/RunKernel.h"
 #include "render/QtText.h"
 #include "services/SharedServices.h"
@@ -62,8 +64,9 @@ class Gallery {
         view.show();
         if (change) {
             change();
-            view.Refresh();
+            FormView::RefreshAll();
         }
+        AwaitAnswer(view);
         Take(view, name);
     }
     // A window that waits for its answer: the picture is taken as soon as it is there, and Escape answers it.
@@ -84,6 +87,16 @@ class Gallery {
     bool Failed() const { return failed_; }
 
   private:
+    // The answer beside a problem's fields comes from another process.
+    void AwaitAnswer(FormView& view) {
+        auto* answer = dynamic_cast<AnswerView*>(view.findChild<QWidget*>(QStringLiteral("answer")));
+        if (answer == nullptr || !answer->isVisibleTo(&view)) return;
+        constexpr int kPatience = 30000;
+        failed_ =
+            !QTest::qWaitFor([answer] { return !answer->Model().NextDue() && answer->Model().Settled(); }, kPatience) ||
+            failed_;
+    }
+
     const QString folder_, language_;
     bool failed_ = false;
 };
