@@ -65,6 +65,8 @@ class LinePainter : public QStyledItemDelegate {
         painter->setFont(option.font);
         PaintCells(*painter, option.rect, list_.Columns(), option.direction, [&](Role role, const QRect& place) {
             painter->setPen(role == kKept || role == kUnit ? quiet : ink);
+            // A number runs from left to right in every language: its sign stands before it.
+            painter->setLayoutDirection(role == kUnit ? option.direction : Qt::LeftToRight);
             const QString text = index.data(role).toString();
             if (role == kSymbol)
                 PaintSymbol(*painter, place, text.toStdString(),
