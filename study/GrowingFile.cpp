@@ -18,18 +18,11 @@ namespace {
 
 constexpr std::size_t kBufferSize = std::size_t{1} << 18;
 
-std::string TargetOf(const std::string& path) {
-    std::error_code error;
-    if (!std::filesystem::is_symlink(path, error)) return path;
-    const auto real = std::filesystem::weakly_canonical(path, error);
-    return error ? path : real.generic_string();
-}
-
 }  // namespace
 
 GrowingFile::GrowingFile(const std::string& path) : path_(path), descriptor_(platform::kStandardOutput) {
     if (path.empty()) return;
-    target_ = TargetOf(path);
+    target_ = RealTarget(path);
     platform::FileState state;
     const bool exists = platform::StateOf(target_, state);
     if (exists && !platform::MayWrite(target_)) FailHere(errno);

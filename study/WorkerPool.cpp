@@ -112,7 +112,6 @@ void WorkerPool::TakeAnswers(Worker& worker, std::vector<Answer>& answers) {
             rowSeconds_ = rowSeconds_ < 0 ? seconds : rowSeconds_ + kWeight * (seconds - rowSeconds_);
             answers.push_back({row, reader.Outcome()});
             worker.Held.pop_front();
-            worker.Answered = true;
             --unanswered_;
             deathsWithoutRow_ = 0;
         }
@@ -143,7 +142,6 @@ void WorkerPool::Bury(std::size_t index, std::vector<Answer>& answers) {
 std::deque<WorkerPool::PendingRow> WorkerPool::Empty(Worker& worker) {
     worker.Unsent.clear();
     worker.Received = {};
-    worker.Answered = false;
     return std::exchange(worker.Held, {});
 }
 

@@ -66,7 +66,6 @@ class WorkerPool {
         std::deque<PendingRow> Held;  // handed out and not answered, in order
         std::string Unsent;
         FrameBuffer Received;
-        bool Answered = false;  // since it was started
     };
 
     bool Start(std::size_t worker);

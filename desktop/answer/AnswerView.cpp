@@ -238,10 +238,6 @@ void AnswerView::FollowState() {
             words = Q(Text(913002_text));
             break;
         case AnswerState::Stopped:
-            mark = StateMark::Exclamation;
-            ink = Ink::Error;
-            words = Q(live_.Reason());
-            break;
         case AnswerState::Failed:
             mark = StateMark::Exclamation;
             ink = Ink::Error;

@@ -28,14 +28,6 @@ int WriteAll(int descriptor, std::string_view bytes, std::int64_t offset) {
     return 0;
 }
 
-// The file that a path stands for, behind symbolic links.
-std::string RealTarget(const std::string& path) {
-    std::error_code error;
-    if (!std::filesystem::is_symlink(path, error)) return path;
-    const auto real = std::filesystem::weakly_canonical(path, error);
-    return error ? path : real.generic_string();
-}
-
 // The folder that a path lies in, with its slash at the end; empty for the current one.
 std::string FolderOf(const std::string& path) {
     const auto slash = path.rfind('/');
@@ -43,6 +35,13 @@ std::string FolderOf(const std::string& path) {
 }
 
 }  // namespace
+
+std::string RealTarget(const std::string& path) {
+    std::error_code error;
+    if (!std::filesystem::is_symlink(path, error)) return path;
+    const auto real = std::filesystem::weakly_canonical(path, error);
+    return error ? path : real.generic_string();
+}
 
 WrittenFile::WrittenFile(const std::string& path, Target kind) : path_(path), target_(RealTarget(path)) {
     using Kind = platform::FileState::Kind;

@@ -66,6 +66,9 @@ class WrittenFile {
 void WriteWholeFile(const std::string& path, std::string_view content,
                     WrittenFile::Target kind = WrittenFile::Target::File);
 
+// The file that a path stands for, behind symbolic links.
+std::string RealTarget(const std::string& path);
+
 // Makes what was done to a folder's entries lasting, as far as the file system can.
 void SyncFolderOf(const std::string& path) noexcept;
 

@@ -51,6 +51,14 @@ std::string NameOfCard(const ProblemRow& problem) {
     }
 }
 
+// Nothing where the files of the example are not there.
+std::optional<ExampleProject> ExampleIn(const std::string& folder, const ExampleRow& row) {
+    const std::string own = WithSeparator(folder) + row.Name + "/";
+    const ProjectGlance glance = GlanceAt(own + row.Name + ".PO3");
+    if (glance.ProblemType == 0) return std::nullopt;
+    return ExampleProject{row.Name, glance.ProblemType, Text(row.Line), own};
+}
+
 // A stem that no file of a project has yet.
 std::string FreeStem(const std::string& dir, const std::string& name) {
     const auto taken = [&](const std::string& stem) {
@@ -83,18 +91,14 @@ std::string ExamplesDir() {
 
 std::vector<ExampleProject> ExampleProjects(const std::string& folder) {
     std::vector<ExampleProject> examples;
-    for (const ExampleRow& row : kExamples) {
-        const std::string own = WithSeparator(folder) + row.Name + "/";
-        const ProjectGlance glance = GlanceAt(own + row.Name + ".PO3");
-        if (glance.ProblemType != 0) examples.push_back({row.Name, glance.ProblemType, Text(row.Line), own});
-    }
+    for (const ExampleRow& row : kExamples)
+        if (auto example = ExampleIn(folder, row)) examples.push_back(*std::move(example));
     return examples;
 }
 
 std::optional<ExampleProject> FindExample(const std::string& name) {
-    for (ExampleProject& example : ExampleProjects(ExamplesDir()))
-        if (example.Name == name) return std::move(example);
-    return std::nullopt;
+    const auto* row = std::ranges::find(kExamples, name, &ExampleRow::Name);
+    return row == std::end(kExamples) ? std::nullopt : ExampleIn(ExamplesDir(), *row);
 }
 
 std::string CopyExample(const ExampleProject& example, const std::string& dir) {
