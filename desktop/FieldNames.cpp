@@ -63,6 +63,11 @@ QString DescriptionOf(const FieldRow& row) {
     return all;
 }
 
+// A screen reader hears of a change, and of nothing else.
+void TellDescription(QWidget& widget, const QString& words) {
+    if (widget.accessibleDescription() != words) widget.setAccessibleDescription(words);
+}
+
 }  // namespace
 
 void NameFields(FormView& view) {
@@ -76,8 +81,9 @@ void NameFields(FormView& view) {
         QWidget& widget = *view.WidgetOf(*control);
         const FieldRow* row = FindField(form, *control);
         const bool labelled = row != nullptr && row->Label.On != nullptr && !row->Label.On->Caption.empty();
-        widget.setAccessibleName(labelled ? NameOf(row->Label.On->Caption) : before);
-        if (row != nullptr && row->Field.Exists()) widget.setAccessibleDescription(DescriptionOf(*row));
+        const QString name = labelled ? NameOf(row->Label.On->Caption) : before;
+        if (widget.accessibleName() != name) widget.setAccessibleName(name);
+        if (row != nullptr && row->Field.Exists()) TellDescription(widget, DescriptionOf(*row));
     }
 }
 

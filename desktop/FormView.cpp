@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QDateEdit>
 #include <QEventLoop>
+#include <QFocusEvent>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
@@ -28,6 +29,7 @@
 #include "desktop/ReportView.h"
 #include "desktop/ScreenRoom.h"
 #include "desktop/Sizes.h"
+#include "desktop/SpokenAlert.h"
 #include "desktop/layouts/Layouts.h"
 #include "render/QtText.h"
 #include "render/drawings/Symbols.h"
@@ -249,6 +251,12 @@ std::string FormView::ShownMark(const Control& box) const {
     return marks->MarkOf(box);
 }
 
+void FormView::Left(const Control& box) {
+    if (form_.Unloaded() || box.Kind != ControlKind::TextBox) return;
+    const std::string mark = ShownMark(box);
+    if (!mark.empty()) SpeakAlert(Alert != nullptr ? *Alert : *WidgetOf(box), Q(mark));
+}
+
 // Up and Down step the digit left of the cursor by one, the page keys by ten.
 bool FormView::StepsNumber(Control& control, QLineEdit& box, int key) {
     const FieldRow* row = FindField(form_, control);
@@ -412,6 +420,9 @@ bool FormView::eventFilter(QObject* watched, QEvent* event) {
     } else if (event->type() == QEvent::FocusOut) {
         EndTyping();
         if (AfterBox && !form_.Unloaded()) AfterBox();
+        const Qt::FocusReason why = static_cast<QFocusEvent*>(event)->reason();
+        if (why != Qt::ActiveWindowFocusReason && why != Qt::PopupFocusReason && why != Qt::MenuBarFocusReason)
+            if (const Control* box = form_.Find(watched->objectName().toStdString())) Left(*box);
     } else if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         const bool steps = key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown;

@@ -45,6 +45,9 @@ class FormView : public QDialog {
     std::function<void(const Control* typed)> AfterEvent;
     std::function<void()> AfterBox;
 
+    // What says that a box which is left is wrong (SpokenAlert.h); without one the box itself does.
+    QWidget* Alert = nullptr;
+
     // Why a box is shown as wrong; empty for one that is not, and for one in which the user has not ended a number.
     std::string ShownMark(const Control& box) const;
     // As wide as what it shows wants, as far as the screen goes.
@@ -72,6 +75,8 @@ class FormView : public QDialog {
     void FitContent();
     // What was typed counts as ended.
     void EndTyping();
+    // A box is left for another thing of this window.
+    void Left(const Control& box);
     // Runs an event of the model, then refreshes. `typed`: the box of a key.
     void Act(const std::function<void()>& event, const Control* typed = nullptr);
 

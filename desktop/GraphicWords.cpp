@@ -1,29 +1,13 @@
 #include "desktop/GraphicWords.h"
 
-#include <QAccessible>
-#include <QAccessibleWidget>
 #include <QWidget>
+
+#include "desktop/AccessibleRole.h"
 
 namespace lithmark {
 
-namespace {
-
-constexpr const char* kGraphic = "graphic";
-
-QAccessibleInterface* GraphicOf(const QString&, QObject* object) {
-    auto* widget = qobject_cast<QWidget*>(object);
-    if (widget == nullptr || !widget->property(kGraphic).toBool()) return nullptr;
-    return new QAccessibleWidget(widget, QAccessible::Graphic);
-}
-
-}  // namespace
-
 void MakeGraphic(QWidget& widget, const QString& name) {
-    static const bool known = [] {
-        QAccessible::installFactory(GraphicOf);
-        return true;
-    }();
-    widget.setProperty(kGraphic, known);
+    SetAccessibleRole(widget, QAccessible::Graphic);
     widget.setAccessibleName(name);
 }
 

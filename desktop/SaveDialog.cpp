@@ -5,6 +5,7 @@
 
 #include "core/Session.h"
 #include "render/QtText.h"
+#include "ui/model/ExportFolder.h"
 
 namespace lithmark {
 
@@ -23,7 +24,7 @@ void ShowUnderFiles(QFileDialog& dialog, QWidget& choices) {
 
 std::optional<ChosenFile> AskForFile(QWidget* parent, const QString& title, const std::vector<FileKind>& kinds,
                                      QWidget* choices) {
-    QFileDialog dialog(parent, title, Q(Session.WorkDir));
+    QFileDialog dialog(parent, title, Q(ExportFolder()));
     // Only the toolkit's own dialog has room for more.
     if (choices != nullptr) dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
@@ -45,6 +46,8 @@ std::optional<ChosenFile> AskForFile(QWidget* parent, const QString& title, cons
     if (choices != nullptr) choices->setParent(nullptr);
     if (answer != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     const QString file = dialog.selectedFiles().front();
+    const QFileInfo folder(QFileInfo(file).path());
+    if (folder.isDir() && folder.isWritable()) RememberExportFolder(folder.filePath().toStdString());
     QString ending = chosen().Ending;
     for (const FileKind& kind : kinds)
         if (QFileInfo(file).suffix().compare(kind.Ending, Qt::CaseInsensitive) == 0) ending = kind.Ending;

@@ -20,8 +20,8 @@ struct ChosenFile {
 };
 
 // A name without an ending takes the one of the chosen kind; one with the ending of another kind is of that one. The
-// first kind is proposed, with the open project's name. What else is to be chosen stands under the files; it stays the
-// caller's. Nothing when cancelled.
+// first kind is proposed, with the open project's name in the folder of its last export. What else is to be chosen
+// stands under the files; it stays the caller's. Nothing when cancelled.
 std::optional<ChosenFile> AskForFile(QWidget* parent, const QString& title, const std::vector<FileKind>& kinds,
                                      QWidget* choices = nullptr);
 

@@ -20,6 +20,7 @@
 #include "desktop/RowsChart.h"
 #include "desktop/ScreenRoom.h"
 #include "desktop/Sizes.h"
+#include "desktop/SpokenAlert.h"
 #include "render/QtText.h"
 #include "render/drawings/Inks.h"
 #include "services/SharedServices.h"
@@ -68,6 +69,7 @@ TableEditorDialog::TableEditorDialog(TableEdit& table, QWidget* parent)
     grid_->setSelectionMode(QAbstractItemView::ContiguousSelection);
     grid_->setToolTip(Q(ReplaceAll(table.RowHead, "\n", " ")));
     grid_->installEventFilter(this);
+    MakeAlert(*note_);
     note_->setObjectName(QStringLiteral("lblNote"));
     note_->setTextFormat(Qt::PlainText);
     note_->setWordWrap(true);
@@ -231,7 +233,10 @@ void TableEditorDialog::ShowState() {
             Text(906538_text, {{"|1", std::to_string(fault->Row + 1)}, {"|2", rows_.Title(fault->Column)}});
         note = place + " - " + rows_.Fault(fault->Row, fault->Column).value_or("");
     }
+    // What has become wrong, or is wrong otherwise, is told at once.
+    if (fault && isVisible() && note_->text() != Q(note)) SpeakAlert(*note_, Q(note));
     note_->setText(Q(note));
+    note_->setAccessibleName(Q(note));
     QPalette ink = palette();
     if (fault) ink.setColor(QPalette::WindowText, ColourOf(Ink::Error, ThemeOf(palette())));
     note_->setPalette(ink);

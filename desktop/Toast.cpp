@@ -1,10 +1,10 @@
 #include "desktop/Toast.h"
 
-#include <QAccessible>
 #include <QLabel>
 #include <QTimer>
 
 #include "desktop/Sizes.h"
+#include "desktop/SpokenAlert.h"
 
 namespace lithmark {
 
@@ -15,7 +15,9 @@ void ShowToast(QWidget& window, const QString& words) {
         former->hide();
         former->deleteLater();
     }
-    auto* toast = new QLabel(words, &window);
+    auto* toast = new QLabel(&window);
+    MakeAlert(*toast);
+    toast->setText(words);
     toast->setObjectName(QStringLiteral("toast"));
     toast->setAutoFillBackground(true);
     toast->setBackgroundRole(QPalette::Highlight);
@@ -26,8 +28,7 @@ void ShowToast(QWidget& window, const QString& words) {
     toast->move((window.width() - toast->width()) / 2, window.height() - toast->height() - sizes::kGroupGap);
     toast->show();
     toast->raise();
-    QAccessibleEvent event(toast, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
+    SpeakAlert(*toast, words);
     QTimer::singleShot(kStays, toast, &QObject::deleteLater);
 }
 

@@ -62,38 +62,46 @@ void FillClasses(QPainter& painter, const FieldPlot& field, const Map& map) {
     painter.setBrush(Qt::NoBrush);
 }
 
-// Words on a ground of their own that keep inside the square and clear of each other.
+// Words on a ground of their own that keep inside the square and clear of each other; written over all that was drawn.
 class Words {
   public:
     Words(QPainter& painter, const QRectF& square, double pixels)
         : painter_(painter), square_(square), font_(TextFont(pixels)) {}
 
     // Above the place if there is room, below it otherwise. False where other words stand already.
-    bool At(const QPointF& place, const std::string& text, bool must, double clear = 0) {
+    bool Place(const QPointF& place, const std::string& text, bool must, double clear = 0) {
         const QFontMetricsF metrics(font_, painter_.device());
         const QSizeF size(metrics.horizontalAdvance(Q(text)) + 6, metrics.height() + 2);
         for (const double dy : {-clear - size.height(), clear}) {
             QRectF box(QPointF(place.x() - size.width() / 2, place.y() + (clear > 0 ? dy : -size.height() / 2)), size);
             box.moveLeft(std::clamp(box.left(), square_.left() + 2, square_.right() - size.width() - 2));
             const bool inside = box.top() >= square_.top() && box.bottom() <= square_.bottom();
-            const bool free =
-                std::none_of(taken_.begin(), taken_.end(), [&](const QRectF& other) { return other.intersects(box); });
+            const bool free = std::none_of(placed_.begin(), placed_.end(),
+                                           [&](const auto& other) { return other.At.intersects(box); });
             if (!inside || (!free && !must)) continue;
-            taken_.push_back(box);
-            painter_.fillRect(box, QColor(255, 255, 255, 220));
-            painter_.setFont(font_);
-            painter_.setPen(QColor::fromRgb(kInk));
-            painter_.drawText(box, Qt::AlignCenter, Q(text));
+            placed_.push_back({box, Q(text)});
             return true;
         }
         return false;
     }
+    void Write() const {
+        painter_.setFont(font_);
+        painter_.setPen(QColor::fromRgb(kInk));
+        for (const Placed& words : placed_) {
+            painter_.fillRect(words.At, QColor(255, 255, 255, 220));
+            painter_.drawText(words.At, Qt::AlignCenter, words.Text);
+        }
+    }
 
   private:
+    struct Placed {
+        QRectF At;
+        QString Text;
+    };
     QPainter& painter_;
     const QRectF square_;
     const QFont font_;
-    std::vector<QRectF> taken_;
+    std::vector<Placed> placed_;
 };
 
 void DrawLines(QPainter& painter, const FieldPicture& picture, const Map& map, Words& words) {
@@ -107,7 +115,7 @@ void DrawLines(QPainter& painter, const FieldPicture& picture, const Map& map, W
         if (!picture.Options.DisplayValues || lines.empty()) continue;
         // Deliberate: a third along the pieces of the line, so that the numbers of neighbours do not stand in a row.
         const FieldLine& piece = lines[lines.size() * (1 + i % 3) / 4];
-        words.At(map(piece.From), field.LimitText(field.Limits()[i]), false);
+        words.Place(map(piece.From), field.LimitText(field.Limits()[i]), false);
     }
 }
 
@@ -124,7 +132,7 @@ void DrawExtreme(QPainter& painter, const std::vector<FieldPoint>& places, const
         painter.setBrush(Qt::white);
         painter.drawPolygon(QPolygonF() << at + tip << at + QPointF(-size, -tip.y()) << at + QPointF(size, -tip.y()));
         painter.setBrush(Qt::NoBrush);
-        if (!told) told = words.At(at, text, true, size + 3);
+        if (!told) told = words.Place(at, text, true, size + 3);
     }
 }
 
@@ -165,9 +173,10 @@ void DrawField(QPainter& painter, const QRectF& square, const FieldPicture& pict
     }
     if (field.Even()) {
         const WorldWindow& w = plot.Window;
-        words.At(map({0.5 * (w.XMin + w.XMax), 0.5 * (w.YMin + w.YMax)}),
-                 Text(910026_text, {{"|1", field.ValueText(field.Greatest())}}), true);
+        words.Place(map({0.5 * (w.XMin + w.XMax), 0.5 * (w.YMin + w.YMax)}),
+                    Text(910026_text, {{"|1", field.ValueText(field.Greatest())}}), true);
     }
+    words.Write();
     painter.restore();
     if (picture.Section) DrawSection(painter, square, plot.Window, *picture.Section);
     painter.save();

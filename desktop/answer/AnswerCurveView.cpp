@@ -20,7 +20,7 @@ namespace lithmark {
 
 namespace {
 
-constexpr int kPad = 4, kTick = 3, kPointSize = 4, kFewPixels = 56, kLines = 32;
+constexpr int kPad = 4, kTick = 3, kPointSize = 4, kFewPixels = 56, kLines = 32, kSample = 18;
 constexpr Ink kInks[] = {Ink::Curve1, Ink::Curve2, Ink::Curve3, Ink::Curve4};
 
 struct Range {
@@ -68,7 +68,8 @@ class FigurePainter {
         line_ = metrics.height();
         std::tie(x_, y_) = RangesOf({&curve, kept});
         const double left = WidestTick(metrics) + kTick + 2 * kPad;
-        const double above = 3 * line_ + kPad, below = Legend() ? line_ + kPad : kPad;
+        PlaceLegend(metrics, place.width() - left);
+        const double above = 3 * line_ + kPad, below = legend_.empty() ? kPad : legend_.back().y() + line_ + kPad;
         area_ = place.adjusted(left, above, -2 * metrics.horizontalAdvance(QLatin1Char('0')), -below);
     }
 
@@ -85,7 +86,18 @@ class FigurePainter {
     }
 
   private:
-    bool Legend() const { return curve_.Lines.size() > 1; }
+    // Names of several lines stand beside each other, and under each other where they have no room; from the lower left
+    // of the axes.
+    void PlaceLegend(const QFontMetricsF& metrics, double room) {
+        if (curve_.Lines.size() < 2) return;
+        QPointF at;
+        for (const AnswerCurve::Line& line : curve_.Lines) {
+            const double width = kSample + kPad + metrics.horizontalAdvance(Q(line.Name));
+            if (at.x() > 0 && at.x() + width > room) at = {0, at.y() + line_};
+            legend_.push_back(at);
+            at.rx() += width + 3 * kPad;
+        }
+    }
     QColor Colour(Ink ink) const { return ColourOf(ink, theme_); }
     QPointF At(double x, double y) const {
         return {area_.left() + (x - x_.Least) / (x_.Greatest - x_.Least) * area_.width(),
@@ -155,7 +167,6 @@ class FigurePainter {
         painter_.drawLine(QPointF(At(0, 0).x(), area_.top()), QPointF(At(0, 0).x(), area_.bottom()));
     }
     void Lines(const AnswerCurve& curve, bool kept) {
-        double legend = area_.left();
         for (std::size_t i = 0; i < curve.Lines.size(); ++i) {
             const QColor colour = Colour(!present_ || kept ? Ink::Quiet : kInks[i % std::size(kInks)]);
             QPen pen(colour, kept ? 1.2 : 2);
@@ -168,29 +179,40 @@ class FigurePainter {
             painter_.setPen(pen);
             painter_.setBrush(Qt::NoBrush);
             painter_.drawPath(PathOf(curve.Lines[i]));
-            if (!kept && Legend()) legend = LegendOf(curve.Lines[i], pen, legend);
+            LonePoints(curve.Lines[i], colour);
+            if (!kept && !legend_.empty())
+                LegendOf(curve.Lines[i], pen, legend_[i] + area_.bottomLeft() + QPointF(0, kPad + line_ / 2));
         }
     }
-    double LegendOf(const AnswerCurve::Line& line, const QPen& pen, double x) {
+    void LegendOf(const AnswerCurve::Line& line, const QPen& pen, const QPointF& at) {
+        const double x = at.x(), y = at.y();
         painter_.save();
         painter_.setClipping(false);
-        const double y = area_.bottom() + kPad + line_ / 2;
-        constexpr int kSample = 18;
         painter_.setPen(pen);
         painter_.drawLine(QPointF(x, y), QPointF(x + kSample, y));
         painter_.setPen(Colour(Ink::Quiet));
         const QString name = Q(line.Name);
-        const double width = painter_.fontMetrics().horizontalAdvance(name);
+        const double width = QFontMetricsF(painter_.font()).horizontalAdvance(name);
         painter_.drawText(QRectF(x + kSample + kPad, y - line_ / 2, width + 1, line_), Qt::AlignVCenter | Qt::AlignLeft,
                           name);
         painter_.restore();
-        return x + kSample + width + 4 * kPad;
+    }
+    static bool IsValue(const AnswerCurve::Line& line, std::size_t i) {
+        return i < std::min(line.X.size(), line.Y.size()) && std::isfinite(line.X[i]) && std::isfinite(line.Y[i]);
+    }
+    // A value without a neighbour makes no line.
+    void LonePoints(const AnswerCurve::Line& line, const QColor& colour) {
+        painter_.setPen(Qt::NoPen);
+        painter_.setBrush(colour);
+        for (std::size_t i = 0; i < line.X.size(); ++i)
+            if (IsValue(line, i) && !IsValue(line, i + 1) && (i == 0 || !IsValue(line, i - 1)))
+                painter_.drawEllipse(At(line.X[i], line.Y[i]), kPointSize, kPointSize);
     }
     QPainterPath PathOf(const AnswerCurve::Line& line) const {
         QPainterPath path;
         bool on = false;
-        for (std::size_t i = 0; i < std::min(line.X.size(), line.Y.size()); ++i) {
-            const bool value = std::isfinite(line.X[i]) && std::isfinite(line.Y[i]);
+        for (std::size_t i = 0; i < line.X.size(); ++i) {
+            const bool value = IsValue(line, i);
             if (value && on) path.lineTo(At(line.X[i], line.Y[i]));
             if (value && !on) path.moveTo(At(line.X[i], line.Y[i]));
             on = value;
@@ -212,6 +234,7 @@ class FigurePainter {
     const QRectF place_;
     QRectF area_;
     double line_ = 0;
+    std::vector<QPointF> legend_;
     Range x_, y_;
 };
 

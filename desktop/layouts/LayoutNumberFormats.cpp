@@ -7,8 +7,10 @@
 #include "desktop/FormView.h"
 #include "desktop/ScrollColumn.h"
 #include "desktop/Sizes.h"
+#include "desktop/SpokenAlert.h"
 #include "desktop/layouts/LayoutTools.h"
 #include "desktop/layouts/Layouts.h"
+#include "render/drawings/Inks.h"
 #include "ui/frmNumberFormats.h"
 
 namespace lithmark {
@@ -41,7 +43,12 @@ static const LayoutOf<frmNumberFormats> kLayout([](FormView& view, frmNumberForm
     column->addStretch();
     window->addWidget(new ScrollColumn(fields, &view), 1);
     auto& fault = view.Place<QLabel>(form.lblFault);
+    MakeAlert(fault);
+    view.Alert = &fault;
     fault.setWordWrap(true);
+    QPalette ink = fault.palette();
+    ink.setColor(QPalette::WindowText, ColourOf(Ink::Error, ThemeOf(ink)));
+    fault.setPalette(ink);
     window->addWidget(&fault);
     window->addLayout(ButtonRow(view, {form.cmdDefault, form.cmdHelp}, {form.cmdSave, form.CmdCancel}));
 });

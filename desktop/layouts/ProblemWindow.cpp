@@ -10,6 +10,7 @@
 #include "desktop/ScreenRoom.h"
 #include "desktop/ScrollColumn.h"
 #include "desktop/Sizes.h"
+#include "desktop/SpokenAlert.h"
 #include "desktop/answer/AnswerView.h"
 #include "desktop/answer/SidePanes.h"
 #include "desktop/layouts/LayoutTools.h"
@@ -45,6 +46,8 @@ QWidget* Fields(FormView& view, const PictureForm& form, std::initializer_list<G
 // The first thing that is wrong, or what is wrong with the box that has the focus. Its place is always there.
 QLabel* ReasonLine(FormView& view) {
     auto* line = new QLabel(&view);
+    MakeAlert(*line);
+    view.Alert = line;
     line->setObjectName(QStringLiteral("reason"));
     line->setTextFormat(Qt::PlainText);
     line->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
@@ -64,6 +67,7 @@ void ShowReason(const FormView& view, Form& form, QLabel& line) {
     }
     line.setText(line.fontMetrics().elidedText(Q(reason), Qt::ElideRight, line.width()));
     line.setToolTip(Q(reason));
+    line.setAccessibleName(Q(reason));
 }
 
 // The answer as a part of the window.

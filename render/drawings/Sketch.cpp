@@ -12,6 +12,8 @@ namespace {
 constexpr double kFocusWidth = 2.5, kGap = 5, kPlate = 3, kTick = 5, kIndexSize = 0.7;
 // Below this a drawing has room for symbols only.
 constexpr double kLeastWidth = 260, kLeastHeight = 200;
+// A number goes out of the way of lines as far as this, and gives a pixel of way for so many that it would hide.
+constexpr double kOutOfTheWay = 48, kHiddenForAWay = 0.8;
 
 QPointF Across(const QPointF& from, const QPointF& to) {
     const QPointF way = to - from;
@@ -44,6 +46,7 @@ double Sketch::Steady(double fit) {
 }
 
 void Sketch::Line(const QPointF& from, const QPointF& to, const QPen& pen) {
+    lines_.emplace_back(from, to);
     Painter.setPen(pen);
     Painter.drawLine(from, to);
 }
@@ -54,13 +57,18 @@ void Sketch::Arrow(const QPointF& from, const QPointF& to, const QPen& pen) {
     if (length < 1) return;
     const double size = std::min(length, 5 + 3 * pen.widthF());
     const QPointF along = way / length * size, across = Across(from, to) * size * 0.38;
-    Line(from, to - along * 0.8, pen);
+    lines_.emplace_back(from, to);
+    Painter.setPen(pen);
+    Painter.drawLine(from, to - along * 0.8);
     Painter.setPen(Qt::NoPen);
     Painter.setBrush(pen.color());
     Painter.drawPolygon(QPolygonF({to, to - along + across, to - along - across}));
 }
 
 void Sketch::Polygon(const QPolygonF& polygon, const QPen& pen, const QBrush& brush) {
+    if (pen.style() != Qt::NoPen)
+        for (qsizetype i = 0; i < polygon.size(); ++i)
+            lines_.emplace_back(polygon[i], polygon[(i + 1) % polygon.size()]);
     Painter.setPen(pen);
     Painter.setBrush(brush);
     Painter.drawPolygon(polygon);
@@ -86,7 +94,8 @@ void Sketch::Hatch(const QRectF& rect) {
 void Sketch::Break(const QPointF& from, const QPointF& to, Ink ground) {
     const QPointF middle = (from + to) / 2, across = Across(from, to) * kTick;
     const QPointF along = QPointF(across.y(), -across.x()) * 0.5;
-    Line(middle - along, middle + along, Pen(ground, 4));
+    Painter.setPen(Pen(ground, 4));
+    Painter.drawLine(middle - along, middle + along);
     for (const double side : {-1.0, 1.0}) {
         const QPointF at = middle + along * side;
         Painter.setPen(Pen(Ink::Quiet, 1.2));
@@ -120,8 +129,10 @@ void Sketch::Numbers(std::initializer_list<const char*> boxes, const QPointF& mi
         if (Form.Has(box)) reached.push_back(box);
     const double step = LineHeight() + 1;
     double y = middle.y() - step * (static_cast<double>(reached.size()) - 1) / 2;
+    ++stacks_;
     for (const char* box : reached) {
         Number(box, QPointF(middle.x(), y), Side::On, ink);
+        words_.back().Stack = stacks_;
         y += step;
     }
 }
@@ -195,8 +206,29 @@ QRectF Sketch::PlaceOf(const Words& words, const QSizeF& size) const {
     return {middle.x() - size.width() / 2, middle.y() - size.height() / 2, size.width(), size.height()};
 }
 
-// The free place next to the wanted one, inside the area: at first up and down,
-// then to the sides.
+double Sketch::Hidden(const QRectF& plate) const {
+    double hidden = 0;
+    for (const QLineF& line : lines_) {
+        // Liang and Barsky (1984): the part of the line, 0 to 1, that lies between each pair of sides.
+        double begin = 0, end = 1;
+        const auto cut = [&](double at, double way, double low, double high) {
+            if (std::abs(way) < 1e-9) {
+                if (at <= low || at >= high) end = begin;
+                return;
+            }
+            const double one = (low - at) / way, other = (high - at) / way;
+            begin = std::max(begin, std::min(one, other));
+            end = std::min(end, std::max(one, other));
+        };
+        cut(line.x1(), line.dx(), plate.left(), plate.right());
+        cut(line.y1(), line.dy(), plate.top(), plate.bottom());
+        if (end > begin) hidden += (end - begin) * line.length();
+    }
+    return hidden;
+}
+
+// The free place next to the wanted one, inside the area: at first up and down, then to the sides. Nearby, one that
+// hides less of the lines goes first.
 QRectF Sketch::FreePlace(QRectF wanted) const {
     const auto inside = [&](QRectF rect) {
         rect.moveLeft(std::clamp(rect.left(), Area.left(), std::max(Area.left(), Area.right() - rect.width())));
@@ -213,10 +245,13 @@ QRectF Sketch::FreePlace(QRectF wanted) const {
     for (int column = -8; column <= 8; ++column)
         for (int row = -40; row <= 40; ++row) {
             const QRectF place = inside(wanted.translated(column * stepX, row * stepY));
-            const double way = std::hypot(place.left() - wanted.left(), place.top() - wanted.top());
-            if ((least < 0 || way < least) && free(place)) {
+            double cost = std::hypot(place.left() - wanted.left(), place.top() - wanted.top());
+            if (least >= 0 && cost >= least) continue;
+            if (!free(place)) continue;
+            cost += std::min(kOutOfTheWay, kHiddenForAWay * Hidden(place));
+            if (least < 0 || cost < least) {
                 best = place;
-                least = way;
+                least = cost;
             }
         }
     return best;
@@ -246,11 +281,22 @@ void Sketch::Write(const Words& words, const QRectF& at) {
 
 std::vector<DrawnNumber> Sketch::Finish() {
     std::vector<DrawnNumber> numbers;
-    for (const Words& words : words_) {
-        const QRectF at = FreePlace(PlaceOf(words, SizeOf(words)));
-        taken_.push_back(at);
-        Write(words, at);
-        if (words.Box != nullptr) numbers.push_back({words.Box, at});
+    for (std::size_t first = 0, last = 0; first < words_.size(); first = last) {
+        last = first + 1;
+        while (words_[first].Stack != 0 && last < words_.size() && words_[last].Stack == words_[first].Stack) ++last;
+        std::vector<QRectF> wanted;
+        QRectF whole;
+        for (std::size_t i = first; i < last; ++i) {
+            wanted.push_back(PlaceOf(words_[i], SizeOf(words_[i])));
+            whole |= wanted.back();
+        }
+        const QPointF way = FreePlace(whole).topLeft() - whole.topLeft();
+        for (std::size_t i = first; i < last; ++i) {
+            const QRectF at = wanted[i - first].translated(way);
+            taken_.push_back(at);
+            Write(words_[i], at);
+            if (words_[i].Box != nullptr) numbers.push_back({words_[i].Box, at});
+        }
     }
     words_.clear();
     return numbers;

@@ -1,7 +1,9 @@
 // Sketch: what drawings are made of. Lines, arrows, fills in the colours of the window, dimension lines, and the
-// numbers of the form's boxes, which stay inside the area and keep clear of each other.
+// numbers of the form's boxes, which stay inside the area, keep clear of each other and, near their place, of the
+// lines.
 #pragma once
 
+#include <QLineF>
 #include <QPainter>
 #include <string>
 #include <vector>
@@ -71,10 +73,13 @@ class Sketch {
         Side On;
         Ink In;
         bool Focused, Faulty;
+        int Stack = 0;  // words of one stack stay under each other; 0 stands alone
     };
     QSizeF SizeOf(const Words& words) const;
     QRectF PlaceOf(const Words& words, const QSizeF& size) const;
     QRectF FreePlace(QRectF wanted) const;
+    // How much of the lines a plate would hide.
+    double Hidden(const QRectF& plate) const;
     void Write(const Words& words, const QRectF& at);
     QFont LetterFont() const;
     QFont IndexFont() const;
@@ -82,8 +87,10 @@ class Sketch {
     const Theme theme_;
     double& scale_;
     const bool symbolsOnly_;
+    int stacks_ = 0;
     std::vector<Words> words_;
     std::vector<QRectF> taken_;
+    std::vector<QLineF> lines_;
 };
 
 }  // namespace lithmark

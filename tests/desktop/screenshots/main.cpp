@@ -22,6 +22,7 @@
 #include "desktop/ManualWindow.h"
 #include "desktop/Palettes.h"
 #include "desktop/QtHost.h"
+#include "desktop/SaveReport.h"
 #include "desktop/SplashView.h"
 #include "desktop/StartView.h"
 #include "desktop/answer/AnswerView.h"
@@ -143,7 +144,7 @@ void TakeProblemDialogs(Gallery& gallery) {
 void MarkAndTurn(QWidget& window) {
     auto* plot = dynamic_cast<ChartView*>(window.findChild<QWidget*>(QStringLiteral("plot")));
     if (plot == nullptr) return;
-    if (auto* turn = window.findChild<QAbstractButton*>(QStringLiteral("chkDownward"))) plot->Turn(!turn->isChecked());
+    if (auto* turn = window.findChild<QAbstractButton*>(QStringLiteral("chkDownward"))) turn->click();
     plot->Walk(1);
     plot->Walk(1);
     plot->Mark(true);
@@ -298,6 +299,10 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
     Session.AnalysisType = Analysis::Numerical;
     RunProblemKernel();
     gallery.Take(results, QStringLiteral("frmResultTools-raft"));
+    gallery.TakeModal(QStringLiteral("print-preview"), [&] {
+        host.PrintText(Session.ResultText, "DejaVu Sans Mono", 10, LanguageTexts().RightToLeft());
+    });
+    gallery.TakeModal(QStringLiteral("save-report"), [&] { SaveReport(&window); });
     ManualWindow manual(nullptr, PageOfTopic("notices#raft-tension"));
     gallery.Take(manual, QStringLiteral("manual"));
     for (const char* curve : {"Tab5", "Tab6"}) {
