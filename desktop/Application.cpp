@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <QTranslator>
 
+#include "desktop/EnterKey.h"
 #include "desktop/Icons.h"
 #include "desktop/MainWindow.h"
 #include "desktop/Palettes.h"
@@ -51,6 +52,7 @@ void PrepareApplication(QApplication& application) {
     QApplication::setFont(font);
     QApplication::setPalette(PaletteOf(Theme::Light));
     application.installEventFilter(new KeepsOnScreen(&application));
+    application.installEventFilter(new EnterClicks(&application));
     QApplication::setWindowIcon(ProgramIcon());
     SharedServices().DecimalSign = QLocale::system().decimalPoint() == QLatin1String(",") ? ',' : '.';
 }

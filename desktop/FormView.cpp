@@ -413,7 +413,7 @@ void FormView::FocusOn(const Control& control) {
     if (auto* box = qobject_cast<QLineEdit*>(widget)) box->selectAll();
 }
 
-// Enter in a text box belongs to the model: it moves on or presses a button. On a button it clicks.
+// Enter in a text box belongs to the model: it moves on or presses a button.
 bool FormView::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::FocusIn) {
         if (Control* control = form_.Find(watched->objectName().toStdString())) form_.Focus = control;
@@ -430,10 +430,6 @@ bool FormView::eventFilter(QObject* watched, QEvent* event) {
             if (Control* control = form_.Find(box->objectName().toStdString()))
                 if (StepsNumber(*control, *box, key)) return true;
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            if (auto* button = qobject_cast<QPushButton*>(watched)) {
-                button->click();
-                return true;
-            }
             Control* const from = form_.Find(watched->objectName().toStdString());
             if (from && from->OnEnter) {
                 Act(from->OnEnter);
