@@ -80,7 +80,8 @@ void WholeNumber(CLI::Option& option, std::uint64_t least, std::uint64_t most) {
 std::string TroubleText(const CLI::App& app, const CLI::ParseError& error) {
     const std::vector<std::string> rest = app.remaining(true);
     if (!rest.empty()) return LeftOverText(app, rest);
-    const std::string found = error.what(), kind = error.get_name();
+    std::string found = error.what();
+    const std::string kind = error.get_name();
     // The parser's own words are not for users; the option that they name is.
     const auto dash = found.find('-');
     const std::string named = dash == std::string::npos ? found : found.substr(dash);

@@ -91,7 +91,7 @@ std::unique_ptr<RowWriter> WriterOf(const CommonOptions& options, const std::str
     const std::string format = FormatOf(asked, {"csv", "json", "jsonl", "xlsx"});
     if (format == "xlsx") return SheetWriter(output, head, rows);
     const RowFormat rowFormat = format == "csv"    ? RowFormat::Csv
-                                : format == "json" ? RowFormat::Json
+                                : format == "json" ? RowFormat::JsonList
                                                    : RowFormat::JsonLines;
     return std::make_unique<TextRowWriter>(output, rowFormat, head);
 }
@@ -105,7 +105,7 @@ SummaryFile SummaryFileOf(const CommonOptions& options, const StudyOptions& stud
     CommonOptions asked = options;
     asked.Output = study.Summary == "-" ? std::string() : study.Summary;
     asked.Format.clear();
-    const SummaryFile file{asked.Output, FormatInForce(asked, {"csv", "json", "jsonl", "xlsx"})};
+    SummaryFile file{asked.Output, FormatInForce(asked, {"csv", "json", "jsonl", "xlsx"})};
     std::error_code error;
     const fs::path folder = fs::path(file.Path).parent_path();
     if (!folder.empty() && !fs::is_directory(folder, error))

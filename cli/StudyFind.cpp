@@ -29,9 +29,9 @@ class Watch {
 };
 
 // Rows of which some trials gave nothing.
-std::string StatusText(std::uint64_t tried, std::uint64_t aborted, const std::string& message) {
+std::string RowStatus(std::uint64_t tried, std::uint64_t aborted, const std::string& message) {
     if (aborted == 0) return "ok";
-    const std::string why = message.empty() ? Text(908024_text) : message;
+    std::string why = message.empty() ? Text(908024_text) : message;
     if (aborted == tried) return why;
     const std::string some = Text(908302_text, {{"|1", std::to_string(aborted)}, {"|2", std::to_string(tried)}});
     return "ok: " + some + " " + why;
@@ -80,7 +80,7 @@ void AddCrossings(TextTable& table, const StudyPlan& plan, const SearchRange& ra
                   std::size_t takes) {
     const std::vector<TableCell> key = KeyOf(plan, row.Row, row.Planned, plan.Fields().size());
     const TableCell status = TableCell::OfText(
-        StatusText(static_cast<std::uint64_t>(row.Tried), static_cast<std::uint64_t>(row.Aborted), row.Message));
+        RowStatus(static_cast<std::uint64_t>(row.Tried), static_cast<std::uint64_t>(row.Aborted), row.Message));
     const auto add = [&](TableCell value, const std::vector<float>& numbers, const char* beyond,
                          const std::string& notices) {
         std::vector<TableCell> cells = key;
@@ -143,7 +143,7 @@ StudyTally FindShares(const StudyOptions& study, const StudyPlan& plan, const Se
             cells.push_back(aborted ? TableCell::Empty() : ValueOrNone(range, value));
         for (const double part : {row.Share.Share, row.Share.Error, row.Share.Low, row.Share.High})
             cells.push_back(row.Value && !aborted ? TableCell::OfNumber(part) : TableCell::Empty());
-        cells.push_back(TableCell::OfText(StatusText(row.Tried, row.Aborted, row.Message)));
+        cells.push_back(TableCell::OfText(RowStatus(row.Tried, row.Aborted, row.Message)));
         table.Rows.push_back(std::move(cells));
     });
     tally.Missing = blocks - tally.Rows;

@@ -10,7 +10,6 @@ namespace lithmark {
 
 namespace {
 
-constexpr int kMostDecimals = 12;
 constexpr double kSlack = 1e-9;  // of a step: a place that rounding puts just outside the axis belongs to it
 
 // Powers of ten of either sign, the negative ones as exact quotients.

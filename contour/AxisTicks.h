@@ -6,6 +6,9 @@
 
 namespace lithmark {
 
+// No number of a plot is shown with more decimals.
+inline constexpr int kMostDecimals = 12;
+
 struct AxisTicks {
     std::vector<double> Places;
     double Step = 0;

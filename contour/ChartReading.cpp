@@ -18,7 +18,7 @@ constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
 
 // In a line from right to left a number runs from left to right, with its unit unless that is a word of the language.
 std::string WithUnit(const std::string& value, const std::string& unit) {
-    const std::string sign = unit.empty() ? value : value + " " + unit;
+    std::string sign = unit.empty() ? value : value + " " + unit;
     if (!LanguageTexts().RightToLeft()) return sign;
     const bool word = !unit.empty() && static_cast<unsigned char>(unit.front()) >= 0x80;
     const auto apart = [](const std::string& text) { return "\u2066" + text + "\u2069"; };

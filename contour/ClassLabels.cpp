@@ -1,15 +1,14 @@
 // The texts of the ten classes; a label names the middle of its class.
 #include <cmath>
 
+#include "contour/AxisTicks.h"
 #include "contour/BasContour.h"
-#include "core/Session.h"
+#include "core/CurveRequest.h"
 #include "core/Units.h"
 
 namespace lithmark {
 
 namespace {
-
-constexpr int kMostDecimals = 12;
 
 // A format whose last digit is a tenth of the step at most, so that neighbouring classes differ and their distances
 // show as even.
@@ -23,7 +22,7 @@ std::string FormatFor(double step) {
 
 double BasContour::CaptionFactor() const {
     constexpr double kCentimetres = 100;
-    return Session.ContourResult == "Tab5" ? 1 : kCentimetres;
+    return PressureContoursRequested() ? 1 : kCentimetres;
 }
 
 void BasContour::LabelClasses(Labels labels) {

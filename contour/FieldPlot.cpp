@@ -25,8 +25,10 @@ std::vector<double> RoundLimits(double least, double greatest) {
     while (upper() - lower() > kMostClasses) step = RoundStep(1.5 * step);
     // As multiples of a whole number of tenths, hundredths and so on, so that 0.3 is 0.3.
     const double whole = std::pow(10.0, DecimalsOf(step));
-    std::vector<double> limits;
-    for (double k = lower(); k <= upper(); ++k) limits.push_back(k * std::round(step * whole) / whole);
+    const double first = lower();
+    std::vector<double> limits(static_cast<std::size_t>(std::max(0.0, upper() - first + 1)));
+    for (std::size_t i = 0; i < limits.size(); ++i)
+        limits[i] = (first + static_cast<double>(i)) * std::round(step * whole) / whole;
     return limits;
 }
 

@@ -10,14 +10,15 @@ namespace lithmark {
 
 namespace {
 
-using enum CurveFamily;
+using CurveFamily::Isochrones, CurveFamily::MiddleRow, CurveFamily::TimeSettlement;
+constexpr auto NoCurves = CurveFamily::None;
 
 // The three methods of the time-settlement curve share one menu entry and one data file.
 constexpr std::array kProblems = {
-    ProblemRow{Problem::SoilStress, 1, 140185_text, 140185_text, "SSD", None, true, false},
-    ProblemRow{Problem::SoilStrain, 2, 300100_text, 300100_text, "SSD", None, true, false},
-    ProblemRow{Problem::SoilDisplacement, 3, 300001_text, 300001_text, "SSD", None, true, false},
-    ProblemRow{Problem::Consolidation, 4, 140186_text, 140186_text, "CON", None, true, false},
+    ProblemRow{Problem::SoilStress, 1, 140185_text, 140185_text, "SSD", NoCurves, true, false},
+    ProblemRow{Problem::SoilStrain, 2, 300100_text, 300100_text, "SSD", NoCurves, true, false},
+    ProblemRow{Problem::SoilDisplacement, 3, 300001_text, 300001_text, "SSD", NoCurves, true, false},
+    ProblemRow{Problem::Consolidation, 4, 140186_text, 140186_text, "CON", NoCurves, true, false},
     ProblemRow{Problem::ConsolidationRate, 5, 140187_text, 140187_text, "RAT", Isochrones, true, false},
     ProblemRow{Problem::TimeDirect, 6, 140188_text, 300047_text, "TST", TimeSettlement, true, false},
     ProblemRow{Problem::TimeOedometer, 6, 140188_text, 300048_text, "TST", TimeSettlement, true, false},

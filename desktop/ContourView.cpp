@@ -8,6 +8,7 @@
 #include "render/ContourDocument.h"
 #include "render/FieldDocument.h"
 #include "render/QtText.h"
+#include "render/SansFont.h"
 
 namespace lithmark {
 
@@ -16,12 +17,6 @@ namespace {
 constexpr int kLeast = 240, kUsual = 520, kLegendWidth = 84, kLegendHeight = 400;
 constexpr int kLegendRoom = 70;  // what a legend's boxes and gaps take beside its texts
 constexpr double kTextShare = 0.85;
-
-QFont PlotFont() {
-    QFont font(QStringLiteral("DejaVu Sans"));
-    font.setPixelSize(12);
-    return font;
-}
 
 }  // namespace
 
@@ -40,7 +35,7 @@ QSize ContourView::sizeHint() const {
 
 void ContourView::FitLegend() {
     if (!form_.Ready()) return;
-    const QFontMetrics metrics(PlotFont());
+    const QFontMetrics metrics(SansFont(kPlotTextPixels));
     int width = 0;
     if (form_.ShowsField()) {
         for (const double limit : form_.Field().Limits())
@@ -96,7 +91,7 @@ void ContourView::Draw() {
         else
             DrawFieldLegend(painter, whole.adjusted(6, 4, -2, -4), form_.Field());
     } else {
-        PainterSurface surface(painter, whole, image_.size(), PlotFont());
+        PainterSurface surface(painter, whole, image_.size(), SansFont(kPlotTextPixels));
         if (shows_ == Shows::Plot)
             form_.Plot.Redraw(surface, form_.Drawn());
         else

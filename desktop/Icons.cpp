@@ -9,6 +9,7 @@
 
 #include "core/Catalogue.h"
 #include "desktop/ProblemIcons.h"
+#include "render/SansFont.h"
 #include "render/drawings/Inks.h"
 #include "render/drawings/Logo.h"
 #include "services/ListTools.h"
@@ -83,10 +84,7 @@ void CloseIcon(QPainter& p) {
 
 void FormatsIcon(QPainter& p) {
     p.setPen(Outline());
-    QFont font(QStringLiteral("DejaVu Sans"));
-    font.setPixelSize(11);
-    font.setBold(true);
-    p.setFont(font);
+    p.setFont(SansFont(11, true));
     p.drawText(QRectF(0, 3, 24, 14), Qt::AlignCenter, QStringLiteral("0.0"));
     p.setPen(QPen(kBlue, 1.6));
     p.drawLine(QPointF(4, 19), QPointF(20, 19));
@@ -146,10 +144,7 @@ void HelpIcon(QPainter& p, const QString& sign) {
     p.setPen(QPen(Outline(), 1.4));
     p.setBrush(kBlue);
     p.drawEllipse(QRectF(3, 3, 18, 18));
-    QFont font(QStringLiteral("DejaVu Sans"));
-    font.setPixelSize(13);
-    font.setBold(true);
-    p.setFont(font);
+    p.setFont(SansFont(13, true));
     p.setPen(Qt::white);
     p.drawText(QRectF(3, 3, 18, 18), Qt::AlignCenter, sign);
 }

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/Problems.h"
 #include "core/Session.h"
 #include "services/SharedServices.h"
 #include "services/host/Form.h"
@@ -77,7 +78,9 @@ std::string PageOfTopic(const std::string& topic) {
 
 std::string TopicOfProblem() {
     const int problem = Session.ProblemType;
-    return problem >= 1 && problem <= 10 ? std::string(kProblemPage) + std::to_string(problem) : "index";
+    return problem >= Problem::SoilStress && problem <= Problem::RaftConsolidation
+               ? std::string(kProblemPage) + std::to_string(problem)
+               : "index";
 }
 
 std::string TopicOfForm(const Form& form) {

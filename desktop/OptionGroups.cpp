@@ -29,7 +29,8 @@ void OptionGroups::SettleStops() {
             if (stop == nullptr || button->isChecked()) stop = button;
         }
         for (QAbstractButton* button : group->buttons())
-            button->setFocusPolicy(button == stop ? Qt::StrongFocus : Qt::ClickFocus);
+            if (button != stop) button->setFocusPolicy(Qt::ClickFocus);
+        if (stop != nullptr) stop->setFocusPolicy(Qt::StrongFocus);
     }
 }
 

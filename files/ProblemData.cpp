@@ -16,8 +16,6 @@ namespace lithmark {
 
 namespace {
 
-constexpr int kFile = 1;
-
 // The layout of a data file is a list of rows, and reading and writing walk the same list. Rows point at Session's
 // fields, so that a field that does not exist, or is of the wrong kind, does not compile.
 using S = SessionRecord;
@@ -115,16 +113,16 @@ const FileRows& RowsOf(int problemType) {
 }
 
 void ReadValue(Single& value) {
-    value = ReadSingle(kFile);
+    value = ReadSingle(kDataFile);
 }
 void ReadValue(Integer& value) {
-    value = ReadInteger(kFile);
+    value = ReadInteger(kDataFile);
 }
 void ReadValue(bool& value) {
-    value = ReadFlag(kFile);
+    value = ReadFlag(kDataFile);
 }
 void ReadValue(std::string& value) {
-    value = ReadRawLine(kFile);
+    value = ReadRawLine(kDataFile);
 }
 template <typename T>
 void ReadValue(Array<T>& values) {
@@ -166,10 +164,10 @@ class LineWriter {
 // Takes a table's count and gives its arrays that size; nothing of their old rows stays. A count that no table can have
 // is refused before anything is changed.
 void Read(const Count& row) {
-    const long line = LineToRead(kFile);
+    const long line = LineToRead(kDataFile);
     Integer count;
     try {
-        count = ReadInteger(kFile);
+        count = ReadInteger(kDataFile);
     } catch (const Failure& failure) {
         if (failure.Kind() == FailureKind::Overflow) Fail(FailureKind::BadCount, failure.Detail(), line);
         throw;
@@ -185,7 +183,7 @@ void Read(const Fields& row) {
 }
 
 void Read(const ListText& row) {
-    Session.*row.Item = ReadListItem(kFile);
+    Session.*row.Item = ReadListItem(kDataFile);
 }
 
 void Read(const Table& row) {
@@ -221,12 +219,12 @@ ReadOutcome ReadProblemData() {
     SharedServices().SetPointer(PointerShape::Hourglass);
     ReadOutcome outcome = ReadOutcome::Failed;
     UnderCommonStep([&] {
-        if (OpenDataFile(NameOfDataFile(), FileMode::Input, kFile) != 0) {
+        if (OpenDataFile(NameOfDataFile(), FileMode::Input, kDataFile) != 0) {
             outcome = ReadOutcome::Missing;
             return;
         }
         for (const FileRow& row : RowsOf(Session.ProblemType)) std::visit([](const auto& r) { Read(r); }, row);
-        CloseDataFile(kFile);
+        CloseDataFile(kDataFile);
         Session.TimeUnit = TimeUnitInForce(Session.TimeUnit);
         outcome = ReadOutcome::Read;
     });
@@ -242,9 +240,9 @@ void WriteProblemData() {
         const auto saving = ProjectStore().BeginSave(Session.WorkDir + Session.WorkName);
         NumberedFileSet files;
         if (IsTimeSettlement(problem)) WriteProjectFile(Session.WorkDir, Session.WorkName);
-        OpenDataFile(NameOfDataFile(), FileMode::Output, kFile);
-        for (const std::string& line : ProblemDataLines(Session)) WriteRawLine(kFile, line);
-        CloseDataFile(kFile);
+        OpenDataFile(NameOfDataFile(), FileMode::Output, kDataFile);
+        for (const std::string& line : ProblemDataLines(Session)) WriteRawLine(kDataFile, line);
+        CloseDataFile(kDataFile);
         CommitDataFiles(files);
         Session.FileSaved = true;
     });

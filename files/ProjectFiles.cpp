@@ -10,36 +10,34 @@ namespace lithmark {
 
 namespace {
 
-constexpr int kFile = 1;
-
 // Opens a file, hands it to `read`, closes it. A failure goes through the common step.
 template <typename Read>
 ReadOutcome ReadFile(const std::string& dir, const std::string& name, const std::string& extension, Read&& read) {
     ReadOutcome outcome = ReadOutcome::Failed;
     UnderCommonStep([&] {
-        if (OpenDataFile(DataFileName(dir, name, extension), FileMode::Input, kFile) != 0) {
+        if (OpenDataFile(DataFileName(dir, name, extension), FileMode::Input, kDataFile) != 0) {
             outcome = ReadOutcome::Missing;
             return;
         }
         read();
-        CloseDataFile(kFile);
+        CloseDataFile(kDataFile);
         outcome = ReadOutcome::Read;
     });
     return outcome;
 }
 
 void ReadHeadingData() {
-    Session.Auftr = ReadRawLine(kFile);
-    Session.Datum = ReadRawLine(kFile);
-    Session.Proj = ReadRawLine(kFile);
+    Session.Auftr = ReadRawLine(kDataFile);
+    Session.Datum = ReadRawLine(kDataFile);
+    Session.Proj = ReadRawLine(kDataFile);
 }
 
 }  // namespace
 
 ReadOutcome ReadProjectFile(const std::string& dir, const std::string& name, Integer& problemType) {
     return ReadFile(dir, name, "PO3", [&] {
-        ReadRawLine(kFile);
-        problemType = ReadInteger(kFile);
+        ReadRawLine(kDataFile);
+        problemType = ReadInteger(kDataFile);
     });
 }
 
@@ -67,9 +65,9 @@ std::vector<std::string> OrderFileLines(const SessionRecord& record) {
 }
 
 void WriteProjectFile(const std::string& dir, const std::string& name) {
-    OpenDataFile(DataFileName(dir, name, "PO3"), FileMode::Output, kFile);
-    for (const std::string& line : ProjectFileLines(Session)) WriteRawLine(kFile, line);
-    CloseDataFile(kFile);
+    OpenDataFile(DataFileName(dir, name, "PO3"), FileMode::Output, kDataFile);
+    for (const std::string& line : ProjectFileLines(Session)) WriteRawLine(kDataFile, line);
+    CloseDataFile(kDataFile);
 }
 
 void WriteProjectData() {
@@ -78,9 +76,9 @@ void WriteProjectData() {
     UnderCommonStep([] {
         const auto saving = ProjectStore().BeginSave(Session.WorkDir + Session.WorkName);
         NumberedFileSet files;
-        OpenDataFile(DataFileName(Session.WorkDir, Session.WorkName, "AUF"), FileMode::Output, kFile);
-        for (const std::string& line : OrderFileLines(Session)) WriteRawLine(kFile, line);
-        CloseDataFile(kFile);
+        OpenDataFile(DataFileName(Session.WorkDir, Session.WorkName, "AUF"), FileMode::Output, kDataFile);
+        for (const std::string& line : OrderFileLines(Session)) WriteRawLine(kDataFile, line);
+        CloseDataFile(kDataFile);
         WriteProjectFile(Session.WorkDir, Session.WorkName);
         CommitDataFiles(files);
         Session.FileSaved = true;

@@ -12,8 +12,6 @@ namespace lithmark {
 
 namespace {
 
-constexpr int kFile = 1;
-
 std::string SettingsFileName(const std::string& name) {
     SharedServices().SetFileName(Session.ProgramDir + name);
     return SharedServices().GetFileName();
@@ -24,14 +22,14 @@ std::string SettingsFileName(const std::string& name) {
 template <typename Read>
 void ReadOptionalSettings(const std::string& name, Read&& read) {
     try {
-        if (OpenDataFile(SettingsFileName(name), FileMode::Input, kFile) != 0) return;
+        if (OpenDataFile(SettingsFileName(name), FileMode::Input, kDataFile) != 0) return;
     } catch (const Failure&) {
         SharedServices().ClearFileStatus();
         return;
     }
     UnderCommonStep([&] {
         read();
-        CloseDataFile(kFile);
+        CloseDataFile(kDataFile);
     });
 }
 
@@ -40,9 +38,9 @@ template <typename Write>
 bool WriteSettings(const std::string& name, Write&& write) {
     return UnderCommonStep([&] {
         MakeSettingsDir(Session.ProgramDir);
-        OpenDataFile(SettingsFileName(name), FileMode::Output, kFile);
+        OpenDataFile(SettingsFileName(name), FileMode::Output, kDataFile);
         write();
-        CloseDataFile(kFile);
+        CloseDataFile(kDataFile);
     });
 }
 
@@ -53,13 +51,13 @@ void LoadUnits() {
 }
 
 bool WriteUnits() {
-    return WriteSettings("Units", [] { WriteUnitLines(kFile, UnitsInForce()); });
+    return WriteSettings("Units", [] { WriteUnitLines(kDataFile, UnitsInForce()); });
 }
 
 void LoadNumberFormats() {
     SetDefaultNumberFormats();
     ReadOptionalSettings("NOFORMAT", [] {
-        for (const NumberFormatRow& row : NumberFormats()) Session.*row.Field = ReadRawLine(kFile);
+        for (const NumberFormatRow& row : NumberFormats()) Session.*row.Field = ReadRawLine(kDataFile);
     });
     DeriveNumberFormats();
 }
@@ -73,12 +71,12 @@ bool WriteNumberFormats() {
 void LoadPreferences() {
     SetDefaultPreferences();
     ReadOptionalSettings("Preferen.tol", [] {
-        Session.PrefDx = ReadSingle(kFile);
-        Session.PrefDy = ReadSingle(kFile);
-        Session.PrefDz = ReadSingle(kFile);
-        Session.PrefND = ReadInteger(kFile);
-        Session.PrefTol = ReadSingle(kFile);
-        Session.PrefImax = ReadInteger(kFile);
+        Session.PrefDx = ReadSingle(kDataFile);
+        Session.PrefDy = ReadSingle(kDataFile);
+        Session.PrefDz = ReadSingle(kDataFile);
+        Session.PrefND = ReadInteger(kDataFile);
+        Session.PrefTol = ReadSingle(kDataFile);
+        Session.PrefImax = ReadInteger(kDataFile);
     });
 }
 
@@ -97,7 +95,7 @@ std::vector<std::string> PreferenceLines(const SessionRecord& record) {
 void SavePreferences() {
     Session.FileSaved = false;
     Session.FileSaved = WriteSettings("Preferen.tol", [] {
-        for (const std::string& line : PreferenceLines(Session)) WriteRawLine(kFile, line);
+        for (const std::string& line : PreferenceLines(Session)) WriteRawLine(kDataFile, line);
     });
 }
 
@@ -106,10 +104,10 @@ bool ReadDataDirSettings(std::string& dataDir) {
     Session.CompressFlag = 2;
     bool read = false;
     const bool done = UnderCommonStep([&] {
-        if (OpenDataFile(SettingsFileName("STEU"), FileMode::Input, kFile) != 0) return;
-        dataDir = ReadRawLine(kFile);
-        Session.CompressFlag = ReadLong(kFile);
-        CloseDataFile(kFile);
+        if (OpenDataFile(SettingsFileName("STEU"), FileMode::Input, kDataFile) != 0) return;
+        dataDir = ReadRawLine(kDataFile);
+        Session.CompressFlag = ReadLong(kDataFile);
+        CloseDataFile(kDataFile);
         read = true;
     });
     return done && read;
@@ -118,8 +116,8 @@ bool ReadDataDirSettings(std::string& dataDir) {
 void WriteDataDirSettings(const std::string& dataDir) {
     Session.FileSaved = false;
     Session.FileSaved = WriteSettings("STEU", [&] {
-        WriteRawLine(kFile, dataDir);
-        WriteNumber(kFile, Session.CompressFlag);
+        WriteRawLine(kDataFile, dataDir);
+        WriteNumber(kDataFile, Session.CompressFlag);
     });
 }
 

@@ -8,6 +8,7 @@
 #include "contour/AxisTicks.h"
 #include "render/ChartDocument.h"
 #include "render/QtText.h"
+#include "render/SansFont.h"
 #include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
@@ -22,12 +23,6 @@ constexpr int kMostMarkers = 40;  // of a curve; more would run into each other
 
 std::size_t SlotOf(int curve) {
     return static_cast<std::size_t>(curve - 1) % kDashes.size();
-}
-
-QFont PlotFont() {
-    QFont font(QStringLiteral("DejaVu Sans"));
-    font.setPixelSize(12);
-    return font;
 }
 
 // Round ticks, as many as the axis has room for, in the digits of the language.
@@ -119,8 +114,8 @@ void SetRanges(QCustomPlot& plot, const ChartArguments& chart, const ChartLook& 
 
 void StyleAxis(QCPAxis& axis, const std::string& title, bool whole, const ChartInks& inks) {
     axis.setLabel(AxisLabel(title));
-    axis.setLabelFont(PlotFont());
-    axis.setTickLabelFont(PlotFont());
+    axis.setLabelFont(SansFont(kPlotTextPixels));
+    axis.setTickLabelFont(SansFont(kPlotTextPixels));
     axis.setLabelColor(inks.Text);
     axis.setTickLabelColor(inks.Text);
     axis.setLabelPadding(6);
@@ -135,7 +130,7 @@ void StyleAxis(QCPAxis& axis, const std::string& title, bool whole, const ChartI
 void PlaceLegend(QCustomPlot& plot, const ChartInks& inks) {
     QCPLegend* legend = plot.legend;
     legend->setVisible(true);
-    legend->setFont(PlotFont());
+    legend->setFont(SansFont(kPlotTextPixels));
     legend->setTextColor(inks.Text);
     legend->setBrush(Qt::NoBrush);
     legend->setBorderPen(Qt::NoPen);

@@ -8,30 +8,24 @@
 #include "core/Units.h"
 #include "render/PictureFile.h"
 #include "render/QtText.h"
+#include "render/SansFont.h"
 #include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 
 namespace {
 
-constexpr int kUsualSize = 700, kFigureSide = 460;
+constexpr int kFigureSide = 460;
 
 QRgb ColorOf(int number) {
     return 0xFF000000u | kPalette[static_cast<std::size_t>(number) % kPalette.size()];
 }
 
-QFont TextFont(double pixels, bool bold = false) {
-    QFont font(QStringLiteral("DejaVu Sans"));
-    font.setPixelSize(qRound(pixels));
-    font.setBold(bold);
-    return font;
-}
-
 // Measures of a plot of `side` pixels with its title and legend.
-struct Layout {
+struct ContourLayout {
     // 0 takes the usual side.
-    explicit Layout(int side)
-        : Side(side > 0 ? side : kUsualSize), Margin(Side / 30), Title(Side / 14), Legend(Side / 4) {}
+    explicit ContourLayout(int side)
+        : Side(side > 0 ? side : kUsualSide), Margin(Side / 30), Title(Side / 14), Legend(Side / 4) {}
     QSize Size() const { return {Width(), Height()}; }
     int Width() const { return Side + Legend + 3 * Margin; }
     int Height() const { return Side + Title + 2 * Margin; }
@@ -39,11 +33,11 @@ struct Layout {
 };
 
 // The plot and its legend beside it, from `top` on.
-void DrawPlot(QPainter& painter, BasContour& plot, const Layout& layout, int top) {
+void DrawPlot(QPainter& painter, BasContour& plot, const ContourLayout& layout, int top) {
     const QRectF area(layout.Margin, top, layout.Side, layout.Side);
     painter.save();
     painter.setClipRect(area);
-    PainterSurface surface(painter, area, QSize(layout.Side, layout.Side), TextFont(layout.Side / 55.0));
+    PainterSurface surface(painter, area, QSize(layout.Side, layout.Side), SansFont(layout.Side / 55.0));
     plot.Redraw(surface, {});
     painter.restore();
     painter.setPen(QPen(QColor(0x88, 0x88, 0x88), 1));
@@ -52,14 +46,14 @@ void DrawPlot(QPainter& painter, BasContour& plot, const Layout& layout, int top
 
     const QRectF legend(area.right() + layout.Margin, area.top() + layout.Side * 0.1, layout.Legend * 1.6,
                         layout.Side * 0.8);
-    PainterSurface legendSurface(painter, legend, QSize(layout.Legend, layout.Side), TextFont(layout.Side / 40.0));
+    PainterSurface legendSurface(painter, legend, QSize(layout.Legend, layout.Side), SansFont(layout.Side / 40.0));
     plot.DrawLegend(legendSurface);
 }
 
-void DrawContour(QPainter& painter, BasContour& plot, const Layout& layout) {
+void DrawContour(QPainter& painter, BasContour& plot, const ContourLayout& layout) {
     painter.fillRect(QRect(0, 0, layout.Width(), layout.Height()), Qt::white);
     painter.setPen(Qt::black);
-    painter.setFont(TextFont(layout.Title * 0.42, true));
+    painter.setFont(SansFont(layout.Title * 0.42, true));
     const QRect title(layout.Margin, layout.Margin / 2, layout.Width() - 2 * layout.Margin, layout.Title);
     painter.drawText(title, Qt::AlignCenter, Q(ContourTitle() + "   " + Session.ProjectName));
     DrawPlot(painter, plot, layout, layout.Margin + layout.Title);
@@ -74,12 +68,12 @@ std::string ContourTitle() {
 }
 
 void PaintContour(QPainter& painter, BasContour& plot) {
-    const Layout layout(kFigureSide);
+    const ContourLayout layout(kFigureSide);
     DrawPlot(painter, plot, layout, layout.Margin);
 }
 
 QSize ContourSize() {
-    const Layout layout(kFigureSide);
+    const ContourLayout layout(kFigureSide);
     return {layout.Width(), layout.Side + 2 * layout.Margin};
 }
 
@@ -184,25 +178,25 @@ void PainterSurface::FilledBox(double x1, double y1, double x2, double y2, int c
 }
 
 QSize ContourPageSize(int size) {
-    return Layout(size).Size();
+    return ContourLayout(size).Size();
 }
 
 void DrawContourPage(QPainter& painter, BasContour& plot, int size) {
-    DrawContour(painter, plot, Layout(size));
+    DrawContour(painter, plot, ContourLayout(size));
 }
 
 std::string ContourSvg(BasContour& plot, int size) {
-    const Layout layout(size);
+    const ContourLayout layout(size);
     return SvgOf(layout.Size(), Q(ContourTitle()), [&](QPainter& painter) { DrawContour(painter, plot, layout); });
 }
 
 std::string ContourPng(BasContour& plot, int size) {
-    const Layout layout(size);
+    const ContourLayout layout(size);
     return PngOf(layout.Size(), 1, [&](QPainter& painter) { DrawContour(painter, plot, layout); });
 }
 
 std::string ContourPdf(BasContour& plot, int size) {
-    const Layout layout(size);
+    const ContourLayout layout(size);
     return PdfOf(layout.Size(), Q(ContourTitle()), [&](QPainter& painter) { DrawContour(painter, plot, layout); });
 }
 

@@ -39,7 +39,7 @@ struct Word {
     int End() const { return Start + Characters(Text); }
 };
 
-std::vector<Word> WordsOf(std::string_view line) {
+std::vector<Word> WordsOfLine(std::string_view line) {
     std::vector<Word> words;
     int at = 0;
     for (std::size_t position = 0; position < line.size();) {
@@ -213,7 +213,7 @@ std::vector<DisplayLine> DisplayLines(const std::vector<std::string>& lines, boo
             kinds[i] = i < table.Rows ? LineKind::TableHead : i < table.Sums ? LineKind::TableRow : LineKind::TableSums;
     std::vector<DisplayLine> display;
     for (std::size_t i = 0; i < lines.size(); ++i) {
-        const std::vector<Word> words = WordsOf(lines[i]);
+        const std::vector<Word> words = WordsOfLine(lines[i]);
         display.push_back(rightToLeft ? PlaceRightToLeft(words, kinds[i]) : PlaceLeftToRight(words));
         const int blanks = Characters(lines[i]) - (words.empty() ? 0 : words.back().End());
         const auto& pieces = display.back().Pieces;

@@ -9,21 +9,14 @@
 #include "render/ChartDocument.h"
 #include "render/PictureFile.h"
 #include "render/QtText.h"
+#include "render/SansFont.h"
 #include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 
 namespace {
 
-constexpr int kUsualSize = 700;
 constexpr QRgb kInk = 0xFF1B2530, kMeshInk = 0x60000000, kEdgeInk = 0xFF4E5963, kSectionInk = 0xFF951A54;
-
-QFont TextFont(double pixels, bool bold = false) {
-    QFont font(QStringLiteral("DejaVu Sans"));
-    font.setPixelSize(std::max(7, qRound(pixels)));
-    font.setBold(bold);
-    return font;
-}
 
 // Places of the raft inside a square that shows the plot's window.
 class Map {
@@ -66,7 +59,7 @@ void FillClasses(QPainter& painter, const FieldPlot& field, const Map& map) {
 class Words {
   public:
     Words(QPainter& painter, const QRectF& square, double pixels)
-        : painter_(painter), square_(square), font_(TextFont(pixels)) {}
+        : painter_(painter), square_(square), font_(SansFont(std::max(7.0, pixels))) {}
 
     // Above the place if there is room, below it otherwise. False where other words stand already.
     bool Place(const QPointF& place, const std::string& text, bool must, double clear = 0) {
@@ -200,7 +193,7 @@ void DrawSection(QPainter& painter, const QRectF& square, const WorldWindow& win
 
 void DrawFieldLegend(QPainter& painter, const QRectF& area, const FieldPlot& field) {
     painter.save();
-    const QFont font = TextFont(std::clamp(area.height() / 34, 12.0, 16.0));
+    const QFont font = SansFont(std::clamp(area.height() / 34, 12.0, 16.0));
     const double line = QFontMetricsF(font, painter.device()).height();
     const int classes = field.Classes();
     const double box = std::min((area.height() - line) / classes, 3 * line),
@@ -225,9 +218,9 @@ void DrawFieldLegend(QPainter& painter, const QRectF& area, const FieldPlot& fie
 
 namespace {
 
-struct Layout {
-    Layout(const FieldPicture& picture, int side)
-        : Side(side > 0 ? side : kUsualSize),
+struct FieldLayout {
+    FieldLayout(const FieldPicture& picture, int side)
+        : Side(side > 0 ? side : kUsualSide),
           Margin(Side / 30),
           Title(Side / 14),
           Legend(Side / 5),
@@ -243,14 +236,14 @@ QString TitleOf() {
 }  // namespace
 
 QSize FieldPageSize(const FieldPicture& picture, int size) {
-    return Layout(picture, size).Size();
+    return FieldLayout(picture, size).Size();
 }
 
 void DrawFieldPage(QCPPainter& painter, const FieldPicture& picture, int size) {
-    const Layout layout(picture, size);
+    const FieldLayout layout(picture, size);
     painter.fillRect(QRect(QPoint(0, 0), layout.Size()), Qt::white);
     painter.setPen(QColor::fromRgb(kInk));
-    painter.setFont(TextFont(layout.Title * 0.42, true));
+    painter.setFont(SansFont(layout.Title * 0.42, true));
     painter.drawText(QRect(layout.Margin, layout.Margin / 2, layout.Size().width() - 2 * layout.Margin, layout.Title),
                      Qt::AlignCenter, TitleOf());
     const QRectF square(layout.Margin, layout.Margin + layout.Title, layout.Side, layout.Side);

@@ -11,6 +11,9 @@ class QPaintDevice;
 
 namespace lithmark {
 
+// The side of a square plot in pixels where none is asked for.
+inline constexpr int kUsualSide = 700;
+
 // Draws on a painter whose units are those of the drawing's size.
 using Draw = std::function<void(QCPPainter&)>;
 

@@ -104,9 +104,8 @@ std::vector<HeadingPlace> HeadingsOf(const std::vector<std::string>& lines) {
             const std::string title = plain(lines[table->Head - 1]);
             headings.push_back({i, 1, table->First + 1 == table->Head ? title : plain(lines[i]) + ": " + title});
             i = table->End - 1;
-        } else if (IsUnderlined(lines, i)) {
-            headings.push_back({i, 0, plain(lines[i])});
-        } else if (EndsInColon(lines[i]) && IsRuler(lines[i - 1]) && i + 1 < lines.size() && IsRuler(lines[i + 1])) {
+        } else if (IsUnderlined(lines, i) ||
+                   (EndsInColon(lines[i]) && IsRuler(lines[i - 1]) && i + 1 < lines.size() && IsRuler(lines[i + 1]))) {
             headings.push_back({i, 0, plain(lines[i])});
         } else if (EndsInColon(lines[i]) && lines[i - 1].empty()) {
             headings.push_back({i, 1, plain(lines[i])});

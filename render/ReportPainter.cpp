@@ -11,6 +11,7 @@
 #include "render/QtText.h"
 #include "render/ReportDocument.h"
 #include "render/ReportLines.h"
+#include "render/SansFont.h"
 #include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
@@ -40,8 +41,7 @@ class ReportPainter {
         font_ = QFont(Q(fontName));
         font_.setStyleHint(QFont::Monospace);
         font_.setPixelSize(qRound(pointSize * kUnitsPerPoint));
-        small_ = QFont(QStringLiteral("DejaVu Sans"));
-        small_.setPixelSize(qRound(kMarginPoints * kUnitsPerPoint));
+        small_ = SansFont(kMarginPoints * kUnitsPerPoint);
         // A screen's letters are as wide as the paper's: none is fitted to the dots.
         font_.setHintingPreference(QFont::PreferNoHinting);
         small_.setHintingPreference(QFont::PreferNoHinting);

@@ -1,5 +1,7 @@
 // A report for word processors. Each line is a paragraph whose blanks do not break, so that its columns stand; a table
 // is one of the word processor's own with a cell a line, so that its head stands again on each page.
+#include <qcustomplot.h>
+
 #include <QByteArray>
 #include <QPainter>
 #include <algorithm>
@@ -182,8 +184,8 @@ class RtfReport {
 
     void Margins() {
         const auto all = [](const std::vector<std::string>& texts) {
-            std::vector<std::string> rtf;
-            for (const std::string& text : texts) rtf.push_back(Rtf(text));
+            std::vector<std::string> rtf(texts.size());
+            std::transform(texts.begin(), texts.end(), rtf.begin(), Rtf);
             return rtf;
         };
         std::vector<int> ends = {kWidth * 6 / 10, kWidth};
@@ -223,11 +225,10 @@ class RtfReport {
             const ReportFigure& figure = paper_.Figures[i];
             QSize shown = figure.Size;
             if (shown.width() > kMostWidth) shown = shown.scaled(kMostWidth, shown.height(), Qt::KeepAspectRatio);
-            const std::string direction = rightToLeft_ ? "\\rtlpar" : "\\ltrpar";
-            rtf_ += "\\pard\\plain" + direction + "\\qc\\keepn\\sb240 " +
-                    PngGroup(PngOf(figure.Size, kScale, figure.Paint), figure.Size * kScale, shown * kTwipsPerUnit) +
-                    "\\par\r\n\\pard\\plain" + direction + "\\qc\\sb120" + Letters(1, 17) + Rtf(paper_.CaptionOf(i)) +
-                    "\\par\r\n";
+            const std::string paragraph = rightToLeft_ ? "\\pard\\plain\\rtlpar\\qc" : "\\pard\\plain\\ltrpar\\qc";
+            rtf_ += paragraph + "\\keepn\\sb240 ";
+            rtf_ += PngGroup(PngOf(figure.Size, kScale, figure.Paint), figure.Size * kScale, shown * kTwipsPerUnit);
+            rtf_ += "\\par\r\n" + paragraph + "\\sb120" + Letters(1, 17) + Rtf(paper_.CaptionOf(i)) + "\\par\r\n";
         }
     }
 

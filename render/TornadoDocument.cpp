@@ -6,23 +6,17 @@
 
 #include "render/PictureFile.h"
 #include "render/QtText.h"
+#include "render/SansFont.h"
 
 namespace lithmark {
 
 namespace {
 
 // A4 across without margins, in points of 1/96 inch.
-constexpr int kWidth = 1020, kHeight = 680, kMargin = 24, kTitle = 36;
-constexpr QSize kSize(kWidth, kHeight);
+constexpr QSize kTornadoSize(1020, 680);
+constexpr int kTornadoMargin = 24, kTornadoTitle = 36;
 // The first two of the curves' colours.
 constexpr QRgb kLowColor = 0xFF0072B2, kHighColor = 0xFFD55E00;
-
-QFont TextFont(int pixels, bool bold = false) {
-    QFont font(QStringLiteral("DejaVu Sans"));
-    font.setPixelSize(pixels);
-    font.setBold(bold);
-    return font;
-}
 
 // One colour's bars; the uppermost has the greatest key.
 void AddBars(QCustomPlot& plot, const TornadoPicture& picture, const std::string& legend, QRgb color,
@@ -61,7 +55,7 @@ void FillTornado(QCustomPlot& plot, const TornadoPicture& picture) {
     plot.yAxis->setTicker(names);
     plot.axisRect()->setupFullAxesBox(true);
     for (QCPAxis* axis : {plot.xAxis2, plot.yAxis2}) axis->setTicks(false);
-    const QFont font = TextFont(13);
+    const QFont font = SansFont(13);
     for (QCPAxis* axis : {plot.xAxis, plot.yAxis}) {
         axis->setTickLabelFont(font);
         axis->setLabelFont(font);
@@ -78,31 +72,33 @@ void FillTornado(QCustomPlot& plot, const TornadoPicture& picture) {
 }
 
 void DrawTornado(QCPPainter& painter, const TornadoPicture& picture) {
-    painter.fillRect(QRect(QPoint(0, 0), kSize), Qt::white);
+    painter.fillRect(QRect(QPoint(0, 0), kTornadoSize), Qt::white);
     painter.setPen(Qt::black);
-    painter.setFont(TextFont(18, true));
-    painter.drawText(QRect(kMargin, kMargin, kWidth - 2 * kMargin, kTitle), Qt::AlignCenter, Q(picture.Title));
+    painter.setFont(SansFont(18, true));
+    painter.drawText(QRect(kTornadoMargin, kTornadoMargin, kTornadoSize.width() - 2 * kTornadoMargin, kTornadoTitle),
+                     Qt::AlignCenter, Q(picture.Title));
     QCustomPlot plot;
     FillTornado(plot, picture);
     painter.save();
-    painter.translate(kMargin, kMargin + kTitle);
-    plot.toPainter(&painter, kWidth - 2 * kMargin, kHeight - 2 * kMargin - kTitle);
+    painter.translate(kTornadoMargin, kTornadoMargin + kTornadoTitle);
+    plot.toPainter(&painter, kTornadoSize.width() - 2 * kTornadoMargin,
+                   kTornadoSize.height() - 2 * kTornadoMargin - kTornadoTitle);
     painter.restore();
 }
 
 }  // namespace
 
 std::string TornadoSvg(const TornadoPicture& picture) {
-    return SvgOf(kSize, Q(picture.Title), [&](QCPPainter& painter) { DrawTornado(painter, picture); });
+    return SvgOf(kTornadoSize, Q(picture.Title), [&](QCPPainter& painter) { DrawTornado(painter, picture); });
 }
 
 std::string TornadoPng(const TornadoPicture& picture) {
     constexpr int kScale = 2;
-    return PngOf(kSize, kScale, [&](QCPPainter& painter) { DrawTornado(painter, picture); });
+    return PngOf(kTornadoSize, kScale, [&](QCPPainter& painter) { DrawTornado(painter, picture); });
 }
 
 std::string TornadoPdf(const TornadoPicture& picture) {
-    return PdfOf(kSize, Q(picture.Title), [&](QCPPainter& painter) { DrawTornado(painter, picture); });
+    return PdfOf(kTornadoSize, Q(picture.Title), [&](QCPPainter& painter) { DrawTornado(painter, picture); });
 }
 
 }  // namespace lithmark

@@ -16,8 +16,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kFile = 1;
-
 // The word by which a language is stored, the same as it calls itself: text 140156.
 std::string LanguageWord(Language language) {
     return TextIn(*FindLanguageRow((140156_text).Number), language);
@@ -59,7 +57,7 @@ std::string SharedServicesService::SettingsFile() const {
 }
 
 void SharedServicesService::TellDamage(const std::string& file, const Failure& failure) {
-    DropNumberedFile(kFile);
+    DropNumberedFile(kDataFile);
     SetCurrentFile(file);
     ShowFileError(failure);
 }
@@ -71,10 +69,10 @@ Directories SharedServicesService::GetDirectories() {
     if (FileMissing(file, true)) return defaults;
     try {
         Directories result = defaults;
-        OpenNumberedFile(kFile, file, FileMode::Input);
-        const std::string dataDir = ReadRawLine(kFile);
-        result.CompressFlag = ReadLong(kFile);
-        CloseNumberedFile(kFile);
+        OpenNumberedFile(kDataFile, file, FileMode::Input);
+        const std::string dataDir = ReadRawLine(kDataFile);
+        result.CompressFlag = ReadLong(kDataFile);
+        CloseNumberedFile(kDataFile);
         if (!dataDir.empty()) result.DataDir = WithSeparator(MappedFileName(dataDir));
         return result;
     } catch (const std::exception& error) {
@@ -91,9 +89,9 @@ UnitSettings SharedServicesService::GetUnits(const std::string& programDir) {
     const std::string file = programDir + "Units";
     if (FileMissing(file, true)) return BaseUnits();
     try {
-        OpenNumberedFile(kFile, file, FileMode::Input);
-        const UnitSettings units = ReadUnitLines(kFile);
-        CloseNumberedFile(kFile);
+        OpenNumberedFile(kDataFile, file, FileMode::Input);
+        UnitSettings units = ReadUnitLines(kDataFile);
+        CloseNumberedFile(kDataFile);
         return units;
     } catch (const std::exception& error) {
         TellDamage(file, FailureFrom(error));

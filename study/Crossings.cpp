@@ -8,7 +8,7 @@ namespace lithmark {
 namespace {
 
 // To what part of a value a crossing is told.
-constexpr double kPart = 1e-6;
+constexpr double kCrossingPart = 1e-6;
 // Rows that are searched at the same time, so that all workers are busy.
 constexpr std::uint64_t kTogether = 256;
 
@@ -50,7 +50,7 @@ bool CrossingSearch::RunSome(QuestionRows& rows, std::vector<Search>& searches) 
         for (std::size_t i = 1; i < search.Points.size(); ++i) {
             const auto &low = search.Points[i - 1], &high = search.Points[i];
             if (low && high && low->Beyond() != high->Beyond())
-                search.Brackets.emplace_back(range_, kPart, *low, *high);
+                search.Brackets.emplace_back(range_, kCrossingPart, *low, *high);
         }
     for (;;) {
         struct Open {

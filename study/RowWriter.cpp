@@ -7,7 +7,7 @@ namespace lithmark {
 TextRowWriter::TextRowWriter(const std::string& path, RowFormat format, StudyHead head)
     : format_(format), head_(std::move(head)), file_(path) {
     if (format_ == RowFormat::Csv) file_.Append(CsvRecord(head_.Columns()));
-    if (format_ == RowFormat::Json) file_.Append("[");
+    if (format_ == RowFormat::JsonList) file_.Append("[");
 }
 
 void TextRowWriter::Write(const StudyLine& line) {
@@ -15,7 +15,7 @@ void TextRowWriter::Write(const StudyLine& line) {
         case RowFormat::Csv:
             file_.Append(CsvRecord(CellsOf(head_, line)));
             break;
-        case RowFormat::Json:
+        case RowFormat::JsonList:
             file_.Append((first_ ? "\n" : ",\n") + JsonRecord(head_, line));
             break;
         case RowFormat::JsonLines:
@@ -26,7 +26,7 @@ void TextRowWriter::Write(const StudyLine& line) {
 }
 
 void TextRowWriter::Finish() {
-    if (format_ == RowFormat::Json) file_.Append("\n]\n");
+    if (format_ == RowFormat::JsonList) file_.Append("\n]\n");
     file_.Finish();
 }
 

@@ -20,7 +20,7 @@ class RowWriter {
     virtual void Finish() = 0;
 };
 
-enum class RowFormat { Csv, Json, JsonLines };
+enum class RowFormat { Csv, JsonList, JsonLines };
 
 // Rows as text: a comma-separated table, a list of objects, or an object a line. Each row is one line.
 class TextRowWriter : public RowWriter {

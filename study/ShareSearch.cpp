@@ -11,7 +11,7 @@ namespace lithmark {
 namespace {
 
 // To what part of a value the answer is told; the samples leave more open than that.
-constexpr double kPart = 1e-4;
+constexpr double kAnswerPart = 1e-4;
 
 }  // namespace
 
@@ -52,7 +52,7 @@ std::optional<double> ShareSearch::Smallest(QuestionRows& rows, ShareRow& row, M
     while (i < points.size() && trial(points[i]).Beyond()) ++i;
     if (i == points.size()) return std::nullopt;
     if (i == 0) return points.front();
-    Bracket bracket(range_, kPart, trial(points[i - 1]), trial(points[i]));
+    Bracket bracket(range_, kAnswerPart, trial(points[i - 1]), trial(points[i]));
     while (const auto value = bracket.Next()) {
         if (!shares.contains(*value) && !WorkValues(rows, row, {*value}, shares)) return std::nullopt;
         bracket.Put(trial(*value));

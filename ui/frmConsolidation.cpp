@@ -1,5 +1,7 @@
 #include "ui/frmConsolidation.h"
 
+#include "core/Problems.h"
+
 namespace lithmark {
 
 namespace {
@@ -32,9 +34,9 @@ frmConsolidation::frmConsolidation()
         FieldRow({lblGamma_Na, 10244_text}, {lblGamma_Sy, "Gamma_c"}, txt_Gamma, {lblGammaUnit, Unit::UnitWeight},
                  {&R::Gamma, &R::FmtUnitWeight}, {0.0001}, {GoToIfUsable(txt_P), GoTo(txt_Q)}, shown),
     });
-    SetChoices({ChoiceRow(optLoadType, {400186_text, 300002_text, 400127_text}, {&R::LoadType, {1, 2, 3}},
-                          [this] { optLoadType_Click(); }),
-                ChoiceRow(optSoilPeropertyType, {30003_text, 30005_text}, {&R::SoilPropertyType, {1, 2}},
+    SetChoices({Loads({400186_text, 300002_text, 400127_text}),
+                ChoiceRow(optSoilPeropertyType, {30003_text, 30005_text},
+                          {&R::SoilPropertyType, {SoilDefinition::ByModulus, SoilDefinition::ByCompressionIndex}},
                           [this] { optSoilPeropertyType_Click(); })});
     SetCaptionRows({{frmSelectOption, 300003_text, Styles::Heading},
                     {fraData, 140095_text, Styles::Heading},

@@ -1,5 +1,7 @@
 #include "ui/frmConsolidationRate.h"
 
+#include "core/Problems.h"
+
 namespace lithmark {
 
 namespace {
@@ -49,10 +51,10 @@ frmConsolidationRate::frmConsolidationRate()
     });
     SetChoices(
         {ChoiceRow(chkPressure, {300008_text}, {&R::Pressure, {0, 1}}, [this] { chkPressure_Click(); }),
-         ChoiceRow(optLoadType, {400171_text, 400174_text, 400177_text}, {&R::LoadType, {1, 2, 3}},
-                   [this] { optLoadType_Click(); }),
+         Loads({400171_text, 400174_text, 400177_text}),
          ChoiceRow(chkLayers, {906510_text}, {&R::NumLayers, {1, 2}}, [this] { chkLayers_Click(); }),
-         ChoiceRow(cmbDrainageConditions, {300011_text, 300010_text}, {&R::DrainageCondition, {1, 2}}),
+         ChoiceRow(cmbDrainageConditions, {300011_text, 300010_text},
+                   {&R::DrainageCondition, {Drainage::BottomDrained, Drainage::BottomImpermeable}}),
          ChoiceRow(cmbTimeUnit, {10001_text, 10002_text, 10003_text, 10004_text},
                    {&R::TimeUnit, {10001_text, 10002_text, 10003_text, 10004_text}}, [this] { cmbTimeUnit_Click(); })});
     SetCaptionRows({{frmSelectOption, 300012_text, Styles::Heading},

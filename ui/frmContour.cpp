@@ -4,6 +4,7 @@
 
 #include "contour/FieldSection.h"
 #include "core/Catalogue.h"
+#include "core/CurveRequest.h"
 #include "core/Session.h"
 #include "core/Units.h"
 #include "files/CommonStep.h"
@@ -30,7 +31,7 @@ frmContour::frmContour() : Form("frmContour") {
 void frmContour::Load() {
     SharedServices().PrepareForm(*this);
     Caption = Text(140017_text);
-    const bool pressure = Session.ContourResult == "Tab5";
+    const bool pressure = PressureContoursRequested();
     SetCaptions({{fraResult, pressure ? 90098_text : ProblemInForce().RaftSettlement, Styles::Heading},
                  {chkColorContours, 80093_text},
                  {chkDisplaylines, 80094_text},
@@ -133,7 +134,7 @@ ContourOptions frmContour::Wanted() const {
 }
 
 std::string frmContour::UnitShown() {
-    return Session.ContourResult == "Tab5" ? LabelOf(Unit::Pressure) : Session.Len2Label;
+    return PressureContoursRequested() ? LabelOf(Unit::Pressure) : Session.Len2Label;
 }
 
 std::optional<double> frmContour::ValueShown(double x, double y) const {

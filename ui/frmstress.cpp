@@ -25,8 +25,7 @@ frmstress::frmstress() : LoadForm("frmstress", {"StressStrain.bmp", "Stress Form
         FieldRow({lblE_Modulus, 90003_text}, {Label69, "Es"}, txt_Es, {lblknm1, Unit::Pressure},
                  {&R::Es, &R::FmtDialogModulus}, {0}, {GoTo(txt_Nue)}),
     });
-    SetChoices({ChoiceRow(optLoadType, {400186_text, 300002_text, 400127_text}, {&R::LoadType, {1, 2, 3}},
-                          [this] { optLoadType_Click(); })});
+    SetChoices({Loads({400186_text, 300002_text, 400127_text})});
     SetCaptionRows({{frmSelectOption, 300003_text, Styles::Heading},
                     {fraData, 140095_text, Styles::Heading},
                     {fraPointCoordinates, 400128_text, Styles::Heading},

@@ -9,7 +9,7 @@
 
 namespace lithmark {
 
-static const LayoutOf<frmAbout> kLayout([](FormView& view, frmAbout& form) {
+static const LayoutOf<frmAbout> kLayoutAbout([](FormView& view, frmAbout& form) {
     constexpr int kWordsWidth = 380, kLogoSize = 96;
     QVBoxLayout* window = WindowColumn(view);
     auto* words = new QVBoxLayout;

@@ -3,7 +3,7 @@
 
 namespace lithmark {
 
-static const LayoutOf<frmConsolidation> kLayout([](FormView& view, frmConsolidation& form) {
+static const LayoutOf<frmConsolidation> kLayoutConsolidation([](FormView& view, frmConsolidation& form) {
     LayoutProblem(view, form,
                   {{form.frmSelectOption, form.optLoadType},
                    {form.fraPointCoordinates, {form.txt_x, form.txt_y, form.txt_z, form.txt_h}},

@@ -3,7 +3,7 @@
 
 namespace lithmark {
 
-static const LayoutOf<frmConsolidationRate> kLayout([](FormView& view, frmConsolidationRate& form) {
+static const LayoutOf<frmConsolidationRate> kLayoutConsolidationRate([](FormView& view, frmConsolidationRate& form) {
     LayoutProblem(
         view, form,
         {{form.frmSelectOption, {form.chkPressure, form.txt_U, form.optLoadType}},

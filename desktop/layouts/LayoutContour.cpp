@@ -163,7 +163,7 @@ QPushButton* OwnButton(FormView& view, const std::string& caption, const char* n
     return button;
 }
 
-const LayoutOf<frmContour> kLayout([](FormView& view, frmContour& form) {
+const LayoutOf<frmContour> kLayoutContour([](FormView& view, frmContour& form) {
     auto* plot = PutInto(view, form, form.picBox, ContourView::Shows::Plot);
     auto* legend = PutInto(view, form, form.picBox2, ContourView::Shows::Legend);
     auto* under = new QLabel(&view);

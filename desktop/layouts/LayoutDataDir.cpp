@@ -8,7 +8,7 @@
 
 namespace lithmark {
 
-static const LayoutOf<frmDataDir> kLayout([](FormView& view, frmDataDir& form) {
+static const LayoutOf<frmDataDir> kLayoutDataDir([](FormView& view, frmDataDir& form) {
     constexpr int kPathWidth = 380;
     QVBoxLayout* window = WindowColumn(view);
     QWidget* folder = view.Place(form.Frame3D1);

@@ -7,7 +7,7 @@
 
 namespace lithmark {
 
-static const LayoutOf<frmMethodtype> kLayout([](FormView& view, frmMethodtype& form) {
+static const LayoutOf<frmMethodtype> kLayoutMethodtype([](FormView& view, frmMethodtype& form) {
     QVBoxLayout* window = WindowColumn(view);
     window->addWidget(view.Place(form.fraModelType), 1);
     FillGroup(view, form.fraModelType, form.OptMethodType);

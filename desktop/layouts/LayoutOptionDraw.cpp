@@ -7,7 +7,7 @@
 
 namespace lithmark {
 
-static const LayoutOf<frmOptionDraw> kLayout([](FormView& view, frmOptionDraw& form) {
+static const LayoutOf<frmOptionDraw> kLayoutOptionDraw([](FormView& view, frmOptionDraw& form) {
     QVBoxLayout* window = WindowColumn(view);
     window->addWidget(view.Place(form.fraSelectOption));
     FillGroup(view, form.fraSelectOption, form.optDraw);

@@ -9,7 +9,7 @@
 
 namespace lithmark {
 
-static const LayoutOf<frmPreferences> kLayout([](FormView& view, frmPreferences& form) {
+static const LayoutOf<frmPreferences> kLayoutPreferences([](FormView& view, frmPreferences& form) {
     QVBoxLayout* window = WindowColumn(view);
     auto* tabs = &view.Place<QTabBar>(form.sstMainData);
     tabs->setExpanding(false);

@@ -8,7 +8,7 @@
 
 namespace lithmark {
 
-static const LayoutOf<frmProblemType> kLayout([](FormView& view, frmProblemType& form) {
+static const LayoutOf<frmProblemType> kLayoutProblemType([](FormView& view, frmProblemType& form) {
     constexpr int kWordsWidth = 300;
     QVBoxLayout* window = WindowColumn(view);
     window->addWidget(view.Place(form.Frame3D1));

@@ -7,7 +7,7 @@
 
 namespace lithmark {
 
-static const LayoutOf<frmProjectCheck> kLayout([](FormView& view, frmProjectCheck& form) {
+static const LayoutOf<frmProjectCheck> kLayoutProjectCheck([](FormView& view, frmProjectCheck& form) {
     QVBoxLayout* window = WindowColumn(view);
     window->addWidget(view.Place(form.fraProjectCheck), 1);
     FillGroup(view, form.fraProjectCheck, {form.lblProjectCheck, form.txtProjectCheck});

@@ -16,7 +16,7 @@
 
 namespace lithmark {
 
-static const LayoutOf<frmResultTools> kLayout([](FormView& view, frmResultTools& form) {
+static const LayoutOf<frmResultTools> kLayoutResultTools([](FormView& view, frmResultTools& form) {
     QWidget* result = view.Place(form.fraResult);
     auto* find = new FindBar(&view);
     auto* report = &view.Place<ReportView>(form.txtResult);

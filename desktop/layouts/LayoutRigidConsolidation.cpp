@@ -3,7 +3,7 @@
 
 namespace lithmark {
 
-static const LayoutOf<frmRigidConsolidation> kLayout([](FormView& view, frmRigidConsolidation& form) {
+static const LayoutOf<frmRigidConsolidation> kLayoutRigidConsolidation([](FormView& view, frmRigidConsolidation& form) {
     LayoutProblem(view, form,
                   {{form.frmSelectOption, form.optLoadType},
                    {form.fraAnalysisType, form.optAnalysisType},

@@ -3,7 +3,7 @@
 
 namespace lithmark {
 
-static const LayoutOf<frmRigidDisplacement> kLayout([](FormView& view, frmRigidDisplacement& form) {
+static const LayoutOf<frmRigidDisplacement> kLayoutRigidDisplacement([](FormView& view, frmRigidDisplacement& form) {
     LayoutProblem(view, form,
                   {{form.frmSelectOption, form.optLoadType},
                    {form.fraAnalysisType, form.optAnalysisType},

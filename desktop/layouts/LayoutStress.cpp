@@ -3,7 +3,7 @@
 
 namespace lithmark {
 
-static const LayoutOf<frmstress> kLayout([](FormView& view, frmstress& form) {
+static const LayoutOf<frmstress> kLayoutStress([](FormView& view, frmstress& form) {
     LayoutProblem(view, form,
                   {{form.frmSelectOption, form.optLoadType},
                    {form.fraData, {form.txt_Q, form.txt_P, form.txt_A, form.txt_B}},

@@ -3,7 +3,7 @@
 
 namespace lithmark {
 
-static const LayoutOf<frmTimeSettlement1> kLayout([](FormView& view, frmTimeSettlement1& form) {
+static const LayoutOf<frmTimeSettlement1> kLayoutTimeSettlement1([](FormView& view, frmTimeSettlement1& form) {
     LayoutProblem(view, form,
                   {{form.fraData,
                     {form.txt_Sc, form.txt_Pt, form.txtTimePeriod, form.txt_Date, form.cmdTimeLoad,

@@ -3,7 +3,7 @@
 
 namespace lithmark {
 
-static const LayoutOf<frmTimeSettlement2> kLayout([](FormView& view, frmTimeSettlement2& form) {
+static const LayoutOf<frmTimeSettlement2> kLayoutTimeSettlement2([](FormView& view, frmTimeSettlement2& form) {
     LayoutProblem(view, form,
                   {{form.fraData,
                     {form.txt_Hb, form.chkDrainage, form.txt_Hm, form.txt_Sc, form.txt_Pt, form.txtTimePeriod,

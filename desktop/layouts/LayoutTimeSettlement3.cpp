@@ -3,7 +3,7 @@
 
 namespace lithmark {
 
-static const LayoutOf<frmTimeSettlement3> kLayout([](FormView& view, frmTimeSettlement3& form) {
+static const LayoutOf<frmTimeSettlement3> kLayoutTimeSettlement3([](FormView& view, frmTimeSettlement3& form) {
     LayoutProblem(view, form,
                   {{form.frmSoilProperties,
                     {form.chk_Cv, form.txt_Cv, form.txt_kf, form.txt_Es, form.txt_Ws, form.txt_qv, form.txt_qe}},

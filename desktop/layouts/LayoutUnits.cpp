@@ -10,7 +10,7 @@
 
 namespace lithmark {
 
-static const LayoutOf<frmUnits> kLayout([](FormView& view, frmUnits& form) {
+static const LayoutOf<frmUnits> kLayoutUnits([](FormView& view, frmUnits& form) {
     QVBoxLayout* window = WindowColumn(view);
     auto* grid = new QGridLayout;
     AddLabelled(view, *grid, form.lblPreset, form.CboPreset);

@@ -1,5 +1,5 @@
 // Where the controls of each form stand. A layout places the view's widgets and holds no behaviour. It stands in a file
-// of its own and makes itself known there: `const LayoutOf<frmstress> kLayout(Layout);`.
+// of its own and makes itself known there: `const LayoutOf<frmstress> kLayoutStress(Layout);`.
 #pragma once
 
 #include <functional>

@@ -107,6 +107,7 @@ Array<Single> PunchClaySettlements(const PolarMesh& mesh, RaftInput& input, cons
         return at(MeanStressInfluence(mesh, z1, z2), 1);
     });
     std::vector<MeanStressInfluence> influence;
+    influence.reserve(layers.size());
     for (const StressInterval& layer : layers) influence.emplace_back(mesh, layer.Top, layer.Bottom);
     const int last = LastTarget(mesh, input.Exz_x);
     PolarStressSums stress(mesh, layers, last);

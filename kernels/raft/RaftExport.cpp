@@ -13,7 +13,6 @@ namespace lithmark {
 
 namespace {
 
-constexpr int kFile = 1;
 const std::string kVersion = "Version 9";
 
 bool exportOn = true;
@@ -23,24 +22,24 @@ bool exportOn = true;
 class TextExport {
   public:
     explicit TextExport(const std::string& extension, FileMode mode = FileMode::Output) {
-        if (exportOn) OpenDataFile(DataFileName(Session.WorkDir, Session.WorkName, extension), mode, kFile);
+        if (exportOn) OpenDataFile(DataFileName(Session.WorkDir, Session.WorkName, extension), mode, kDataFile);
     }
     void Close() {
-        if (exportOn) CloseDataFile(kFile);
+        if (exportOn) CloseDataFile(kDataFile);
     }
 
     template <typename Number>
     void Put(Number value) {
-        if (exportOn) WriteNumber(kFile, value);
+        if (exportOn) WriteNumber(kDataFile, value);
     }
     void PutAll(const Array<Single>& values) {
         for (const Single value : values) Put(value);
     }
     void PutList(std::initializer_list<ListItem> items) {
-        if (exportOn) WriteList(kFile, items);
+        if (exportOn) WriteList(kDataFile, items);
     }
     void PutLine(const std::string& text) {
-        if (exportOn) WriteRawLine(kFile, text);
+        if (exportOn) WriteRawLine(kDataFile, text);
     }
 };
 
@@ -53,7 +52,7 @@ class RecordExport : private TextExport {
     template <typename T>
     void Put(const T& value) {
         ++record_;
-        if (exportOn) PutRecord(kFile, record_, value);
+        if (exportOn) PutRecord(kDataFile, record_, value);
     }
     template <typename T>
     void Put(int times, const T& value) {

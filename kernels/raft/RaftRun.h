@@ -8,6 +8,7 @@
 #include "base/Array.h"
 #include "base/Integer.h"
 #include "base/Single.h"
+#include "core/Problems.h"
 #include "kernels/raft/PlotElements.h"
 
 namespace lithmark {
@@ -16,9 +17,9 @@ namespace lithmark {
 // run.
 struct RaftInput {
     Single z, Q, A, B, h, eo, Po, Cc, Es;
-    Integer SoilPropertyType = 1;
+    Integer SoilPropertyType = SoilDefinition::ByModulus;
     Single Exz_x, Exz_y, Gamma;
-    bool AnalysisType = false, SettlementAt = false;
+    bool AnalysisType = Analysis::Numerical, SettlementAt = SettlementPlace::AllNodes;
 };
 
 // What a finished run hands to report and export; the node arrays and the middle row are Session's.

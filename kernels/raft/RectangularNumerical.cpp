@@ -24,7 +24,7 @@ NodeInfluence InfluenceOf(const RectangularMesh& mesh, Single cornerFactor, doub
 }
 
 // Mean stress in the layer z .. z + h under unit forces.
-NodeInfluence MeanStressInfluence(const RectangularMesh& mesh, const RaftInput& input) {
+NodeInfluence MeanStressOfNodes(const RectangularMesh& mesh, const RaftInput& input) {
     const Single z1 = input.z, z2 = z1 + input.h;
     return InfluenceOf(mesh, MeanCornerFactor(mesh.ElemHalfX, mesh.ElemHalfY, z1, z2), 1,
                        [z1, z2](Single dx, Single dy) { return MeanPointFactor(dx, dy, z1, z2); });
@@ -96,7 +96,7 @@ RaftSolver SolveElasticLayer(const RectangularMesh& mesh, const RaftInput& input
 }
 
 RaftSolver SolveUniformClay(const RectangularMesh& mesh, const RaftInput& input) {
-    return SolveWith(mesh, IsLargeAtSurface(mesh, input), MeanStressInfluence(mesh, input), [&](const RaftSoil& soil) {
+    return SolveWith(mesh, IsLargeAtSurface(mesh, input), MeanStressOfNodes(mesh, input), [&](const RaftSoil& soil) {
         RaftPlane plane = SolveLinear(soil, input);
         // So far the plane is one of mean stresses.
         const double compression = Quotient(input.h, input.Es);
@@ -108,7 +108,7 @@ RaftSolver SolveUniformClay(const RectangularMesh& mesh, const RaftInput& input)
 }
 
 RaftSolver SolveThinClay(const RectangularMesh& mesh, const RaftInput& input, const ClayLayer& clay) {
-    return SolveWith(mesh, IsLargeAtSurface(mesh, input), MeanStressInfluence(mesh, input), [&](const RaftSoil& soil) {
+    return SolveWith(mesh, IsLargeAtSurface(mesh, input), MeanStressOfNodes(mesh, input), [&](const RaftSoil& soil) {
         const RaftEquilibrium equilibrium = EquilibriumOn(soil, input);
         const RaftLoad load = LoadOf(input);
         const Single d0 = equilibrium.Solve(load, {}).c0;

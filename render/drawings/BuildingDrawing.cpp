@@ -8,17 +8,14 @@
 #include "core/Problems.h"
 #include "render/drawings/Drawings.h"
 #include "render/drawings/DrawnParts.h"
+#include "render/drawings/Proportions.h"
 
 namespace lithmark {
 
 namespace {
 
-constexpr double kEdge = 8;
+constexpr double kBuildingEdge = 8;
 constexpr double kWide = 1.4;  // from here on building and charts stand beside each other
-
-double Usable(double value) {
-    return std::isfinite(value) ? value : 0;
-}
 
 // --- the building and its ground ---
 
@@ -178,15 +175,15 @@ void DrawSettlements(Sketch& s, const QRectF& room, const TimeAxis& time) {
 }  // namespace
 
 void BuildingDrawing(Sketch& s) {
-    const QRectF all = s.Area.adjusted(kEdge, kEdge, -kEdge, -kEdge);
+    const QRectF all = s.Area.adjusted(kBuildingEdge, kBuildingEdge, -kBuildingEdge, -kBuildingEdge);
     const bool wide = all.width() > kWide * all.height();
     QRectF building = all, charts = all;
     if (wide) {
         building.setWidth(all.width() * 0.56);
-        charts.setLeft(building.right() + 2 * kEdge);
+        charts.setLeft(building.right() + 2 * kBuildingEdge);
     } else {
         building.setHeight(all.height() * 0.54);
-        charts.setTop(building.bottom() + kEdge);
+        charts.setTop(building.bottom() + kBuildingEdge);
     }
     DrawBuilding(s, building);
     const double line = s.LineHeight();

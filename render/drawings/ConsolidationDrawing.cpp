@@ -7,7 +7,7 @@ namespace lithmark {
 
 namespace {
 
-constexpr double kPlanShare = 0.24, kLoadShare = 0.14, kEdge = 6;
+constexpr double kPlanShare = 0.24, kLoadShare = 0.14;
 
 }  // namespace
 

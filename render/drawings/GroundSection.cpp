@@ -13,7 +13,7 @@ constexpr double kFarthest = 1.5;  // of half the load or the depth: a place far
 
 }  // namespace
 
-GroundSection::GroundSection(Sketch& sketch, const QRectF& room, std::vector<ClayLayer> clay, double sublayer)
+GroundSection::GroundSection(Sketch& sketch, const QRectF& room, std::vector<DrawnClay> clay, double sublayer)
     : sketch_(sketch), room_(room), clay_(std::move(clay)), sublayer_(sublayer) {
     const SessionRecord& r = sketch.Record;
     rectangular_ = sketch.Form.Has("txt_B");

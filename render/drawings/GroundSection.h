@@ -10,16 +10,19 @@
 namespace lithmark {
 
 // A clay layer and the box of its thickness.
-struct ClayLayer {
+struct DrawnClay {
     const char* Box;
     double Thickness;
 };
+
+// What a section leaves free around itself.
+inline constexpr double kEdge = 6;
 
 class GroundSection {
   public:
     // Where the layers lie in `room`, whose width shows load and vertical. `sublayer` is the thickness of the parts
     // that the clay is divided into; 0: they are not shown.
-    GroundSection(Sketch& sketch, const QRectF& room, std::vector<ClayLayer> clay, double sublayer);
+    GroundSection(Sketch& sketch, const QRectF& room, std::vector<DrawnClay> clay, double sublayer);
 
     void Draw() const;
     // The load on the surface, in the height above it.
@@ -40,7 +43,7 @@ class GroundSection {
 
     Sketch& sketch_;
     const QRectF room_;
-    const std::vector<ClayLayer> clay_;
+    const std::vector<DrawnClay> clay_;
     const double sublayer_;
     bool rectangular_, circular_, point_, placed_;
     DrawnLength a_, b_, x_, y_, z_;

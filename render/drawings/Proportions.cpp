@@ -9,11 +9,11 @@ namespace {
 
 constexpr double kMostToOne = 8;
 
+}  // namespace
+
 double Usable(double value) {
     return std::isfinite(value) ? value : 0;
 }
-
-}  // namespace
 
 std::vector<DrawnLength> Proportions(std::initializer_list<double> values) {
     double shortest = 0;

@@ -12,6 +12,9 @@ struct DrawnLength {
     bool Broken = false;  // cut: what is drawn is shorter than it is
 };
 
+// 0 for what is no number.
+double Usable(double value);
+
 // What is no number counts as 0, and takes no part in what is the shortest.
 std::vector<DrawnLength> Proportions(std::initializer_list<double> values);
 // The greatest of lengths as drawn.

@@ -12,7 +12,7 @@ namespace lithmark {
 
 namespace {
 
-constexpr double kEdge = 6, kColumnShare = 0.58;
+constexpr double kColumnShare = 0.58;
 
 // The share of the pressure under the middle of the load that a depth has: the
 // load's own for a circle, of a rectangle that of the circle of the same area;
@@ -57,7 +57,7 @@ void RateDrawing(Sketch& s) {
     const bool loaded = s.Form.Has("txt_x");
     const double line = s.LineHeight();
     const double plan = loaded ? 0.2 * s.Area.height() : 0, load = loaded ? 0.12 * s.Area.height() + line : 2 * line;
-    std::vector<ClayLayer> clay{{"txt_h1", double(r.hLayer(1))}};
+    std::vector<DrawnClay> clay{{"txt_h1", double(r.hLayer(1))}};
     if (s.Form.Has("txt_h2")) clay.push_back({"txt_h2", double(r.hLayer(2))});
     const QRectF room(s.Area.left() + kEdge, s.Area.top() + plan + load, s.Area.width() * kColumnShare,
                       s.Area.height() - plan - load - 2.2 * line);

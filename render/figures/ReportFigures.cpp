@@ -10,6 +10,7 @@
 #include "core/Session.h"
 #include "render/ChartDocument.h"
 #include "render/ContourDocument.h"
+#include "render/SansFont.h"
 #include "render/figures/ProblemPicture.h"
 #include "services/texts/LanguageTexts.h"
 
@@ -56,9 +57,7 @@ std::vector<ReportFigure> DrawingFigures() {
     if (!problem->Exists()) return {};
     static constexpr QSize kSize(600, 400);
     return {{Text(911001_text), kSize, [problem](QCPPainter& painter) {
-                 QFont font(QStringLiteral("DejaVu Sans"));
-                 font.setPixelSize(13);
-                 painter.setFont(font);
+                 painter.setFont(SansFont(13));
                  problem->Paint(painter, kSize, Theme::Light);
              }}};
 }

@@ -110,16 +110,16 @@ inline void Small(Complex (&x)[Radix]) {
     }
 }
 
-struct Table {
+struct Planes {
     double *Re, *Im;
 };
 
 // One stage: groups of `stride` transforms that are worked alike.
 template <int Radix, typename Root>
-void Stage(int length, int stride, const Root* roots, Table from, Table to) {
-    const int groups = length / (Radix * stride);
+void Stage(int length, int stride, const Root* roots, Planes from, Planes to) {
+    const std::ptrdiff_t groups = length / (Radix * stride);
     const std::ptrdiff_t width = static_cast<std::ptrdiff_t>(stride) * FourierTransform::kLanes;
-    for (int p = 0; p < groups; ++p) {
+    for (std::ptrdiff_t p = 0; p < groups; ++p) {
         Root w[Radix];
         for (int j = 0; j < Radix; ++j) w[j] = roots[j * p * stride];
         const double *xRe = from.Re + p * width, *xIm = from.Im + p * width;
@@ -161,8 +161,8 @@ FourierTransform::FourierTransform(int length) : length_(length) {
 }
 
 void FourierTransform::Forward(double* re, double* im, double* work) const {
-    const Table given{re, im}, other{work, work + static_cast<std::size_t>(length_) * kLanes};
-    Table from = given, to = other;
+    const Planes given{re, im}, other{work, work + static_cast<std::size_t>(length_) * kLanes};
+    Planes from = given, to = other;
     int stride = 1;
     for (const int radix : radices_) {
         switch (radix) {

@@ -13,8 +13,8 @@ std::size_t UpToLanes(std::size_t length) {
 }
 
 // Columns on their way through a transform.
-struct Lanes {
-    explicit Lanes(const FourierTransform& transform)
+struct Columns {
+    explicit Columns(const FourierTransform& transform)
         : Transform(transform),
           Re(static_cast<std::size_t>(transform.Length()) * kLanes),
           Im(Re.size()),
@@ -41,7 +41,7 @@ GridFourier::GridFourier(int columns, int rows, int columnPeriod, int rowPeriod)
 // take part until the rows are transformed.
 void GridFourier::Forward(const double* re, const double* im, GridSpectrum& spectrum) const {
     for (auto* part : {&spectrum.Re, &spectrum.Im}) part->resize(SpectrumSize());
-    Lanes column(alongColumn_);
+    Columns column(alongColumn_);
     for (std::size_t c = 0; c < columns_; c += kLanes) {
         const std::size_t lanes = std::min(kLanes, columns_ - c);
         std::fill(column.Re.begin(), column.Re.end(), 0);
@@ -57,7 +57,7 @@ void GridFourier::Forward(const double* re, const double* im, GridSpectrum& spec
                 spectrum.Im[(c + lane) * stride_ + j] = column.Im[j * kLanes + lane];
             }
     }
-    Lanes row(alongRow_);
+    Columns row(alongRow_);
     for (std::size_t j = 0; j < rowPeriod_; j += kLanes) {
         std::fill(row.Re.begin(), row.Re.end(), 0);
         std::fill(row.Im.begin(), row.Im.end(), 0);
@@ -74,7 +74,7 @@ void GridFourier::Forward(const double* re, const double* im, GridSpectrum& spec
 }
 
 void GridFourier::Backward(GridSpectrum& spectrum, double* re, double* im) const {
-    Lanes row(alongRow_);
+    Columns row(alongRow_);
     for (std::size_t j = 0; j < rowPeriod_; j += kLanes) {
         for (std::size_t c = 0; c < columnPeriod_; ++c) {
             std::copy_n(spectrum.Re.data() + c * stride_ + j, kLanes, row.Re.data() + c * kLanes);
@@ -86,7 +86,7 @@ void GridFourier::Backward(GridSpectrum& spectrum, double* re, double* im) const
             std::copy_n(row.Im.data() + c * kLanes, kLanes, spectrum.Im.data() + c * stride_ + j);
         }
     }
-    Lanes column(alongColumn_);
+    Columns column(alongColumn_);
     const double count = static_cast<double>(columnPeriod_ * rowPeriod_);
     for (std::size_t c = 0; c < columns_; c += kLanes) {
         const std::size_t lanes = std::min(kLanes, columns_ - c);

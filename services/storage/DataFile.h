@@ -17,6 +17,9 @@ namespace lithmark {
 
 enum class FileMode { Input = 1, Output = 2, RandomInput = 3, RandomOutput = 4 };
 
+// The number of the file that is open.
+inline constexpr int kDataFile = 1;
+
 constexpr int kRecordLength = 128;
 
 // Opening and closing. Closing an output file puts it in place; dropping one throws away what was written.

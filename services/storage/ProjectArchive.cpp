@@ -17,7 +17,7 @@ namespace lithmark {
 namespace {
 
 constexpr std::string_view kArchiveStart = "PK\x03\x04";
-constexpr std::size_t kPiece = 1 << 16;
+constexpr std::size_t kUnpackedAtOnce = 1 << 16;
 
 struct Discard {
     void operator()(zip_t* archive) const { zip_discard(archive); }
@@ -60,7 +60,7 @@ std::string EntryBytes(zip_t* archive, zip_uint64_t index, const zip_stat_t& sta
     const Entry entry(zip_fopen_index(archive, index, 0));
     if (!entry) FailDamaged(name);
     std::string bytes;
-    std::vector<char> piece(kPiece);
+    std::vector<char> piece(kUnpackedAtOnce);
     // The checksum is compared where the entry ends.
     while (const zip_int64_t count = zip_fread(entry.get(), piece.data(), piece.size())) {
         if (count < 0) FailDamaged(name);

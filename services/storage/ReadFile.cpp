@@ -10,7 +10,7 @@ namespace lithmark {
 
 namespace {
 
-constexpr std::size_t kPiece = 1 << 16;
+constexpr std::size_t kReadAtOnce = 1 << 16;
 
 // An open descriptor of a regular file, which closes itself.
 class RegularFile {
@@ -73,7 +73,7 @@ std::string ReadWholeFile(const std::string& path, std::uint64_t mostBytes) {
             if (length < content.size()) break;
             // The file grew while it was read.
             if (length > mostBytes) FailTooLarge(path, mostBytes);
-            content.resize(length + kPiece);
+            content.resize(length + kReadAtOnce);
         }
         content.resize(length);
         return content;

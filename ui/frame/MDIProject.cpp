@@ -27,7 +27,6 @@ namespace lithmark {
 
 namespace {
 
-const std::string kProblemArray = "mnuProblem", kRecentArray = "MnuRecentFile";
 const std::string kStandsForProject = ".po3";
 
 std::string OpenProjectPath() {

@@ -19,7 +19,6 @@ namespace {
 
 constexpr int kProgramNumber = 6;
 constexpr int kProjectFile = 6;
-const std::string kSettings = "Settings";
 const std::string kSplashMayEnd = "Start Prog";
 
 long long MachineMilliseconds() {

@@ -20,10 +20,10 @@ namespace lithmark {
 
 namespace {
 
-const std::string kToolBarArray = "MnuVeiwToolBar", kRecentArray = "MnuRecentFile", kProblemArray = "mnuProblem";
+const std::string kToolBarArray = "MnuVeiwToolBar";
 constexpr int kRightButton = 2;
 
-const std::string kSettings = "Settings", kTransparentBar = "Transparent Bar", kStatusBar = "Status Bar";
+const std::string kTransparentBar = "Transparent Bar", kStatusBar = "Status Bar";
 const std::string kDock = "MDITools";
 
 struct CommandRow {

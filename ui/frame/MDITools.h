@@ -25,6 +25,11 @@ namespace lithmark {
 
 class frmSplash;
 
+// The section of the settings that the window keeps its own state in.
+inline const std::string kSettings = "Settings";
+// Arrays of entries of the menu.
+inline const std::string kProblemArray = "mnuProblem", kRecentArray = "MnuRecentFile";
+
 // Whoever shows the frame.
 class FrameWindow {
   public:

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "core/Problems.h"
+
 namespace lithmark {
 
 namespace {
@@ -52,6 +54,12 @@ FieldRow LoadForm::RowA(std::vector<EnterStep> enter) {
 FieldRow LoadForm::RowB(std::vector<EnterStep> enter) {
     return FieldRow({lblWidth, 101_text}, {lblb, "b"}, txt_B, {lblm5, Unit::Length}, {&R::B, &R::FmtLength}, {0},
                     std::move(enter), CheckedWhen::Shown);
+}
+
+ChoiceRow LoadForm::Loads(std::vector<Words> captions) {
+    return ChoiceRow(optLoadType, std::move(captions),
+                     {&R::LoadType, {LoadShape::Point, LoadShape::Rectangle, LoadShape::Circle}},
+                     [this] { optLoadType_Click(); });
 }
 
 void LoadForm::optLoadType_Click() {

@@ -40,6 +40,8 @@ class LoadForm : public PictureForm {
     FieldRow RowP(std::vector<EnterStep> enter, Words name);
     FieldRow RowA(std::vector<EnterStep> enter);
     FieldRow RowB(std::vector<EnterStep> enter);
+    // The choice of the load; `captions` of the point load, the rectangle and the circle.
+    ChoiceRow Loads(std::vector<Words> captions);
 
     // Whether the load counts at all; its boxes stay away when it does not.
     virtual bool LoadCounts() const { return true; }
