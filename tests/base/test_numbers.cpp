@@ -3,19 +3,10 @@
 #include "base/Integer.h"
 #include "base/NumberText.h"
 #include "base/Utf8.h"
+#include "support/Files.h"
 
 namespace lithmark::tests {
 namespace {
-
-FailureKind KindOf(auto&& action) {
-    try {
-        action();
-    } catch (const Failure& failure) {
-        return failure.Kind();
-    }
-    ADD_FAILURE() << "no failure";
-    return FailureKind::Other;
-}
 
 TEST(Single, RoundsToThe32BitValueWhenAssigned) {
     const Single cc = 0.16;

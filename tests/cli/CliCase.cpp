@@ -62,6 +62,11 @@ void ExpectFailure(const CliResult& result, int status, const std::vector<std::s
     for (const std::string& part : parts) EXPECT_THAT(result.Err, testing::HasSubstr(part));
 }
 
+std::vector<std::string> With(std::vector<std::string> words, const std::vector<std::string>& more) {
+    words.insert(words.end(), more.begin(), more.end());
+    return words;
+}
+
 std::vector<std::string> Keys(const Json& json) {
     std::vector<std::string> keys;
     for (const auto& [key, value] : json.items()) keys.push_back(key);

@@ -45,6 +45,8 @@ class CliTest : public testing::Test {
 // The run ended with the status and one line on standard error that holds all of `parts`; nothing on standard output.
 void ExpectFailure(const CliResult& result, int status, const std::vector<std::string>& parts);
 
+// The words, and some more behind them.
+std::vector<std::string> With(std::vector<std::string> words, const std::vector<std::string>& more);
 std::vector<std::string> Keys(const Json& json);
 std::vector<std::string> LinesOf(const std::string& text);
 

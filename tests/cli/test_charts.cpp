@@ -7,11 +7,6 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-std::vector<std::string> With(std::vector<std::string> words, const std::vector<std::string>& more) {
-    words.insert(words.end(), more.begin(), more.end());
-    return words;
-}
-
 class CliCharts : public CliTest {
   protected:
     Json Chart(const std::string& project, const std::vector<std::string>& more = {}) const {

@@ -49,11 +49,6 @@ const std::vector<std::string> kRaft = {"NodeX",
                                         "z",
                                         "h"};
 
-std::vector<std::string> With(std::vector<std::string> keys, const std::vector<std::string>& more) {
-    keys.insert(keys.end(), more.begin(), more.end());
-    return keys;
-}
-
 class CliResults : public CliTest {
   protected:
     Json Report(const std::string& project, const std::vector<std::string>& more = {}) const {

@@ -6,13 +6,12 @@
 
 #include "kernels/consolidation/BasConsolidation.h"
 #include "kernels/elastic/PolarMesh.h"
+#include "support/Pi.h"
 #include "support/ScriptedHost.h"
 #include "support/TestSession.h"
 
 namespace lithmark::tests {
 namespace {
-
-constexpr double kPi = 3.14159265358979323846;
 
 // Simpson's rule over f on from..to.
 double Integral(const std::function<double(double)>& f, double from, double to, int steps = 400) {

@@ -22,12 +22,11 @@
 #include "desktop/TableEditorDialog.h"
 #include "kernels/RunKernel.h"
 #include "report/Notices.h"
+#include "support/Languages.h"
 #include "ui/frame/MDITools.h"
 #include "ui/frmContour.h"
 
 namespace lithmark::tests {
-
-inline constexpr Language kLanguages[] = {Language::German, Language::English, Language::Arabic};
 
 class EveryWindow : public FormTest {
   protected:

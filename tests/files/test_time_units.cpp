@@ -1,13 +1,13 @@
 // Time units in data files: words of the language that a file was written under.
 #include "ProjectTest.h"
 #include "core/TimeUnits.h"
+#include "support/Languages.h"
 
 namespace lithmark::tests {
 namespace {
 
 class TimeUnitWords : public ProjectTest {};
 
-constexpr Language kLanguages[] = {Language::German, Language::English, Language::Arabic};
 constexpr TextId kUnits[] = {10001_text, 10002_text, 10003_text, 10004_text};
 
 TEST_F(TimeUnitWords, OfAnyLanguageAreReadAsTheSameUnitOfTheOneInForce) {

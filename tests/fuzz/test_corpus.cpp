@@ -10,12 +10,11 @@
 #include "support/Files.h"
 #include "support/Places.h"
 
-namespace lithmark::fuzz {
+namespace lithmark::tests {
 namespace {
 
 namespace fs = std::filesystem;
-using tests::ReadBytes;
-using tests::SourceDir;
+using namespace fuzz;
 
 class Corpus : public testing::TestWithParam<FuzzTarget> {};
 
@@ -58,4 +57,4 @@ INSTANTIATE_TEST_SUITE_P(Targets, Corpus, testing::ValuesIn(Targets().begin(), T
                          [](const auto& target) { return std::string(target.param.Name); });
 
 }  // namespace
-}  // namespace lithmark::fuzz
+}  // namespace lithmark::tests

@@ -7,10 +7,9 @@
 #include "kernels/elastic/PolarMesh.h"
 #include "kernels/raft/CircularRaftRun.h"
 #include "raft/RaftProblem.h"
+#include "support/Pi.h"
 
 namespace lithmark::tests {
-
-inline constexpr double kPi = 3.14159265358979323846;
 
 // A raft of radius 5 m under 7854 kN, a mean pressure of 100 kN/m2, on 5 m of soil from the surface on.
 inline RaftInput RoundRaft() {

@@ -8,11 +8,10 @@
 
 #include "kernels/elastic/PolarMesh.h"
 #include "kernels/raft/PlotElements.h"
+#include "support/Pi.h"
 
-namespace lithmark {
+namespace lithmark::tests {
 namespace {
-
-constexpr double kPi = 3.14159265358979323846;
 
 // By hand for two divisions and R = 1: a disc of half the area, and four sectors of a quarter of the rest each.
 TEST(PolarMesh, TwoDivisionsByHand) {
@@ -187,4 +186,4 @@ TEST(PolarMesh, OddDivisionsRunOrFailButNeverCrash) {
 }
 
 }  // namespace
-}  // namespace lithmark
+}  // namespace lithmark::tests

@@ -119,7 +119,7 @@ TEST(PolarInfluence, OneNodeOnAnotherFails) {
     EXPECT_THROW(LayerInfluence(mesh, 0.3, 7000, 4).Point(2, 3), Failure);
 }
 
-PolarFlexibility FlexibilityOf(const PolarMesh& mesh, const PolarInfluence& influence) {
+PolarFlexibility PolarFlexibilityOf(const PolarMesh& mesh, const PolarInfluence& influence) {
     PolarFlexibility flexibility(mesh);
     flexibility.Add(1, influence, kSilent);
     return flexibility;
@@ -131,7 +131,7 @@ TEST(PolarSystem, RotationFillsTheOtherColumns) {
         const PolarMesh mesh = BuildPolarMesh(nd, 5);
         const LayerInfluence influence(mesh, 0.25, 5000, 5);
         const HalfSpaceInfluence surface(mesh, 0.25, 5000);
-        const PolarFlexibility flexibility = FlexibilityOf(mesh, influence);
+        const PolarFlexibility flexibility = PolarFlexibilityOf(mesh, influence);
         for (int r = 1; r <= mesh.NTotal; ++r)
             for (int c = 1; c <= mesh.NTotal; ++c) {
                 // A layer's term is the difference of two: it is good to the digits of the first.
@@ -149,7 +149,7 @@ TEST(PolarSystem, FoldedMatrixActsAsTheWholeOnSymmetricForces) {
         for (const LoadCase k : {LoadCase::AlongX, LoadCase::Central}) {
             const PolarMesh mesh = BuildPolarMesh(nd, 5);
             const MeanStressInfluence influence(mesh, 0, 4);
-            const PolarFlexibility flexibility = FlexibilityOf(mesh, influence);
+            const PolarFlexibility flexibility = PolarFlexibilityOf(mesh, influence);
             const int m = FoldedSize(mesh, k);
             EXPECT_EQ(m, k == LoadCase::AlongX ? mesh.NHalf : mesh.NQuarter);
             Array<Single> force(1, mesh.NTotal);

@@ -5,22 +5,13 @@
 #include <limits>
 
 #include "kernels/elastic/LayerFactors.h"
+#include "support/Files.h"
+#include "support/Pi.h"
 
 namespace lithmark::tests {
 namespace {
 
-constexpr double kPi = 3.14159265358979323846;
 constexpr double kEpsilon = std::numeric_limits<Single::Storage>::epsilon();
-
-FailureKind KindOf(auto&& action) {
-    try {
-        action();
-    } catch (const Failure& failure) {
-        return failure.Kind();
-    }
-    ADD_FAILURE() << "no failure";
-    return FailureKind::Other;
-}
 
 // Simpson's rule; the cubic substitution puts most points at z1, where stresses near a load change fastest.
 double DepthMean(const std::function<double(double)>& stress, double z1, double z2) {

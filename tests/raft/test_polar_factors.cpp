@@ -8,22 +8,13 @@
 #include "kernels/raft/GridElements.h"
 #include "kernels/raft/PolarSymmetry.h"
 #include "kernels/raft/SectorIntegral.h"
+#include "support/Files.h"
+#include "support/Pi.h"
 
 namespace lithmark::tests {
 namespace {
 
-constexpr double kPi = 3.14159265358979323846;
-constexpr double kEpsilon = std::numeric_limits<Single::Storage>::epsilon();
-
-FailureKind KindOf(auto&& action) {
-    try {
-        action();
-    } catch (const Failure& failure) {
-        return failure.Kind();
-    }
-    ADD_FAILURE() << "no failure";
-    return FailureKind::Other;
-}
+constexpr double kPolarEpsilon = std::numeric_limits<Single::Storage>::epsilon();
 
 double CentroidRadius(double r1, double r2) {
     return 2 * (r2 * r2 * r2 - r1 * r1 * r1) / (3 * (r2 * r2 - r1 * r1));
@@ -59,10 +50,10 @@ const Sector kSectors[] = {{1, 1.3, kPi / 12}, {1, 2, kPi / 6}, {4, 4.4, kPi / 1
 TEST(SectorKernel, HasTheKindsOfItsTable) {
     // By hand: r0 = 2, r = 3, cos theta = 1/2: D = 4 + 9 - 6 = 7; z = 3: D + z^2 = 16.
     const Single theta = kPi / 3;
-    EXPECT_NEAR(SectorKernel(2, 3, theta, 3, 0), 3.0 / 1024, kEpsilon);
-    EXPECT_NEAR(SectorKernel(2, 3, theta, 3, 2), 3 / std::sqrt(7), 4 * kEpsilon);
-    EXPECT_NEAR(SectorKernel(2, 3, theta, 3, 3), 0.75, 4 * kEpsilon);
-    EXPECT_NEAR(SectorKernel(2, 3, theta, 3, 4), 3.0 / 64, kEpsilon);
+    EXPECT_NEAR(SectorKernel(2, 3, theta, 3, 0), 3.0 / 1024, kPolarEpsilon);
+    EXPECT_NEAR(SectorKernel(2, 3, theta, 3, 2), 3 / std::sqrt(7), 4 * kPolarEpsilon);
+    EXPECT_NEAR(SectorKernel(2, 3, theta, 3, 3), 0.75, 4 * kPolarEpsilon);
+    EXPECT_NEAR(SectorKernel(2, 3, theta, 3, 4), 3.0 / 64, kPolarEpsilon);
     EXPECT_EQ(SectorKernel(2, 3, theta, 3, 1), 0.0);
     EXPECT_EQ(SectorKernel(2, 3, theta, 3, 5), 0.0);
     EXPECT_EQ(SectorKernel(2, 3, theta, 3, -1), 0.0);
@@ -98,7 +89,7 @@ TEST(SectorIntegral, HoldsTheAreaInItsMapping) {
     for (const auto& [r1, r2, dTheta] : kSectors) {
         const double z = 1e5;
         EXPECT_NEAR(SectorIntegral(r1, r2, dTheta, z, 3) * z / ((r2 * r2 - r1 * r1) * dTheta / 4), 1,
-                    8 * kEpsilon + 1e-9);
+                    8 * kPolarEpsilon + 1e-9);
     }
     EXPECT_EQ(KindOf([] { SectorIntegral(1, 1, 0.2, 1, 3); }), FailureKind::DivisionByZero);
 }
@@ -170,7 +161,7 @@ TEST(MirrorProfile, GivesTheDiameterFromTheCentreToTheEdge) {
 }
 
 // The mesh adds up its angles ray by ray, so nodes that mirror each other differ by some rounding.
-constexpr double kMirrorTolerance = 500 * kEpsilon;
+constexpr double kMirrorTolerance = 500 * kPolarEpsilon;
 
 TEST(CopyBySymmetry, FillsTheOtherQuartersOfACentralLoad) {
     for (const int nd : {2, 4, 6, 12}) {

@@ -9,7 +9,7 @@
 #include "kernels/raft/PolarStressSums.h"
 #include "support/Files.h"
 
-namespace lithmark {
+namespace lithmark::tests {
 namespace {
 
 Array<Single> Forces(const PolarMesh& mesh) {
@@ -20,13 +20,13 @@ Array<Single> Forces(const PolarMesh& mesh) {
 }
 
 // The sums and what they are made of.
-struct Case {
+struct SumsCase {
     PolarMesh Mesh;
     std::vector<StressInterval> Layers;
     Array<Single> Force = Forces(Mesh);
     std::vector<MeanStressInfluence> Influence = {};
 
-    Case(int divisions, double radius, std::vector<StressInterval> layers)
+    SumsCase(int divisions, double radius, std::vector<StressInterval> layers)
         : Mesh(BuildPolarMesh(divisions, radius)), Layers(std::move(layers)) {
         for (const StressInterval& layer : Layers) Influence.emplace_back(Mesh, layer.Top, layer.Bottom);
     }
@@ -43,7 +43,7 @@ struct Case {
     }
 };
 
-void ExpectTheDigits(const Case& c, int targets, const PolarStressSums::Terms& terms, int threads) {
+void ExpectTheDigits(const SumsCase& c, int targets, const PolarStressSums::Terms& terms, int threads) {
     PolarStressSums sums(c.Mesh, c.Layers, targets);
     sums.Sum(c.Force, terms, threads, [](double) {});
     for (int k = 0; k < static_cast<int>(c.Layers.size()); ++k)
@@ -58,7 +58,7 @@ const std::vector<StressInterval> kLayers = {{0, 2.5},     {2.5, 5},  {5, 7.6}, 
 
 TEST(PolarStressSums, HaveTheDigitsOfOneTermAfterTheOther) {
     for (const int divisions : {2, 4, 12, 20}) {
-        const Case c(divisions, 5.3, kLayers);
+        const SumsCase c(divisions, 5.3, kLayers);
         for (const int targets : {int(c.Mesh.NQuarter), int(c.Mesh.NHalf), int(c.Mesh.NTotal)}) {
             ExpectTheDigits(c, targets, c.ByUnitForces(), 1);
             ExpectTheDigits(c, targets, c.ByPressure(), 1);
@@ -67,21 +67,21 @@ TEST(PolarStressSums, HaveTheDigitsOfOneTermAfterTheOther) {
 }
 
 TEST(PolarStressSums, HaveTheSameDigitsWithAnyNumberOfThreads) {
-    const Case c(20, 12, kLayers);
+    const SumsCase c(20, 12, kLayers);
     for (const int threads : {2, 3, 8}) ExpectTheDigits(c, c.Mesh.NHalf, c.ByUnitForces(), threads);
 }
 
 // Other sizes of raft and depth: factors near the ends of what a Single holds.
 TEST(PolarStressSums, HaveTheDigitsForRaftsOfAnySize) {
     for (const double size : {1e-15, 1e-6, 1.0, 1e6, 1e11}) {
-        const Case c(8, 5 * size, {{0, 2 * size}, {2 * size, 7 * size}});
+        const SumsCase c(8, 5 * size, {{0, 2 * size}, {2 * size, 7 * size}});
         ExpectTheDigits(c, c.Mesh.NTotal, c.ByUnitForces(), 1);
     }
 }
 
 // A second sum forgets the first one.
 TEST(PolarStressSums, AreTakenAnew) {
-    const Case c(6, 5, kLayers);
+    const SumsCase c(6, 5, kLayers);
     PolarStressSums sums(c.Mesh, c.Layers, c.Mesh.NTotal);
     for (int run = 0; run < 2; ++run) {
         sums.Sum(c.Force, c.ByUnitForces(), 1, [](double) {});
@@ -92,7 +92,7 @@ TEST(PolarStressSums, AreTakenAnew) {
 // What one term after the other fails with.
 TEST(PolarStressSums, FailAsOneTermAfterTheOther) {
     const auto kind = [](double radius, StressInterval layer) {
-        const Case c(4, radius, {layer});
+        const SumsCase c(4, radius, {layer});
         // A node's own term would fail first.
         PolarStressSums::Terms terms = c.ByUnitForces();
         terms.Own = [](int, int) { return 0.0; };
@@ -108,7 +108,7 @@ TEST(PolarStressSums, FailAsOneTermAfterTheOther) {
 
 // The progress of a block that this thread worked ends the sum when it throws.
 TEST(PolarStressSums, CanBeEnded) {
-    const Case c(20, 5, kLayers);
+    const SumsCase c(20, 5, kLayers);
     PolarStressSums sums(c.Mesh, c.Layers, c.Mesh.NHalf);
     int told = 0;
     double last = -1;
@@ -124,4 +124,4 @@ TEST(PolarStressSums, CanBeEnded) {
 }
 
 }  // namespace
-}  // namespace lithmark
+}  // namespace lithmark::tests

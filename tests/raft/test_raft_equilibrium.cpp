@@ -10,10 +10,8 @@
 #include "raft/RaftProblem.h"
 #include "support/Files.h"
 
-namespace lithmark {
+namespace lithmark::tests {
 namespace {
-
-using tests::KindOf;
 
 Array<Single> Ones(int n) {
     Array<Single> ones(1, n);
@@ -428,4 +426,4 @@ TEST_F(ThickSprings, SpreadFillsTheOtherNodes) {
 }
 
 }  // namespace
-}  // namespace lithmark
+}  // namespace lithmark::tests

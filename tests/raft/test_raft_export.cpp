@@ -12,13 +12,9 @@
 #include "raft/ExportReader.h"
 #include "raft/RaftRunCase.h"
 
-namespace lithmark {
+namespace lithmark::tests {
 namespace {
 
-using tests::ExportLines;
-using tests::HoldsRecords;
-using tests::LineReader;
-using tests::RecordValue;
 using Records = std::vector<RecordValue>;
 
 constexpr std::int16_t kZero = 0, kOne = 1;
@@ -427,4 +423,4 @@ TEST_F(RaftExport, MissingFolderFails) {
 }
 
 }  // namespace
-}  // namespace lithmark
+}  // namespace lithmark::tests

@@ -8,16 +8,10 @@
 #include "kernels/raft/RectangularAnalytical.h"
 #include "raft/RaftProblem.h"
 #include "support/Files.h"
+#include "support/Pi.h"
 
-namespace lithmark {
+namespace lithmark::tests {
 namespace {
-
-using tests::KindOf;
-using tests::MeshOf;
-using tests::SquareRaft;
-using tests::SumOf;
-
-constexpr double kPi = 3.14159265358979323846;
 
 Array<Single> ForcesOf(const RectangularMesh& mesh, const RaftInput& input) {
     Array<Single> force(1, mesh.Nodes());
@@ -341,4 +335,4 @@ TEST_F(ClayPunch, SublayersReachToTheLimitingDepth) {
 }
 
 }  // namespace
-}  // namespace lithmark
+}  // namespace lithmark::tests

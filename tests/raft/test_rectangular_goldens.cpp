@@ -13,20 +13,19 @@
 #include "support/Golden.h"
 #include "support/Lines.h"
 
-namespace lithmark {
+namespace lithmark::tests {
 namespace {
 
 using testing::HasSubstr;
 using testing::Not;
-using tests::MatchesGolden;
 
-struct Case {
+struct RectangularCase {
     const char* name;
     void (*set)();
 };
 
 // With nodes 1.25 m apart each: the mesh of the tests of whole runs.
-const Case kCases[] = {
+const RectangularCase kCases[] = {
     {"layer",
      [] {
          Session.Exz_x = 0.5;
@@ -64,7 +63,7 @@ const Case kCases[] = {
      }},
 };
 
-class GoldenRaftReports : public tests::RaftRunCase, public testing::WithParamInterface<Case> {};
+class GoldenRaftReports : public tests::RaftRunCase, public testing::WithParamInterface<RectangularCase> {};
 
 TEST_P(GoldenRaftReports, StayAsTheyAre) {
     const std::pair<Language, const char*> languages[] = {
@@ -289,4 +288,4 @@ TEST_F(RaftReport, FollowsTheUnits) {
 }
 
 }  // namespace
-}  // namespace lithmark
+}  // namespace lithmark::tests

@@ -6,10 +6,8 @@
 #include "raft/RaftProblem.h"
 #include "support/Files.h"
 
-namespace lithmark {
+namespace lithmark::tests {
 namespace {
-
-using tests::KindOf;
 
 struct Divided {
     double side, size;
@@ -186,4 +184,4 @@ TEST(GridDistances, OverflowOfASumIsAFailure) {
 }
 
 }  // namespace
-}  // namespace lithmark
+}  // namespace lithmark::tests

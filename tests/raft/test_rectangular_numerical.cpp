@@ -11,18 +11,10 @@
 #include "raft/RaftProblem.h"
 #include "services/numerics/NumericLib.h"
 #include "support/Files.h"
+#include "support/Pi.h"
 
-namespace lithmark {
+namespace lithmark::tests {
 namespace {
-
-using tests::KindOf;
-using tests::MeshOf;
-using tests::MomentOf;
-using tests::RigidPlate;
-using tests::SquareRaft;
-using tests::SumOf;
-
-constexpr double kPi = 3.14159265358979323846;
 
 // Influence of a unit point force on an elastic layer in 64 bits: Boussinesq's surface settlement less that at depth h.
 double LayerPoint(double r, double h, double nu, double es) {
@@ -474,4 +466,4 @@ TEST_F(RectangularNumerical, ThickClayWithoutInitialStressDividesByZero) {
 }
 
 }  // namespace
-}  // namespace lithmark
+}  // namespace lithmark::tests

@@ -9,11 +9,10 @@
 
 #include "raft/RaftProblem.h"
 #include "raft/RaftRunCase.h"
+#include "support/Pi.h"
 
-namespace lithmark {
+namespace lithmark::tests {
 namespace {
-
-constexpr double kPi = 3.14159265358979323846;
 
 class RectangularRun : public tests::RaftRunCase {
   protected:
@@ -305,4 +304,4 @@ TEST_F(RectangularRun, RefinementConverges) {
 }
 
 }  // namespace
-}  // namespace lithmark
+}  // namespace lithmark::tests

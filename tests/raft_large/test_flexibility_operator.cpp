@@ -10,7 +10,7 @@
 #include "raft/RaftProblem.h"
 #include "support/Files.h"
 
-namespace lithmark {
+namespace lithmark::tests {
 namespace {
 
 using Vectors = std::vector<std::vector<double>>;
@@ -178,4 +178,4 @@ TEST(FlexibilityOperator, CoincidingLinesDivideByZero) {
 }
 
 }  // namespace
-}  // namespace lithmark
+}  // namespace lithmark::tests

@@ -29,7 +29,7 @@ class LargeRaftNotices : public RaftRunCase {
     }
 };
 
-TEST_F(LargeRaftNotices, AFallbackToTheInverseIsTold) {
+TEST_F(LargeRaftNotices, AFallbackIsTold) {
     RunWith(4);
     EXPECT_FALSE(Raised(NoticeId::SolverFallback));
     RunWith(4.64);

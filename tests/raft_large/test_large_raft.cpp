@@ -6,12 +6,8 @@
 #include "kernels/raft/RectangularNumerical.h"
 #include "raft_large/LargeRaft.h"
 
-namespace lithmark {
+namespace lithmark::tests {
 namespace {
-
-using tests::LargeRaft;
-using tests::MomentOf;
-using tests::SumOf;
 
 // The inverse of 32 bits is the one that is off. From the least number of nodes that the operator solves to 6561, on
 // grids that are even and on one that is rounded to millimetres.
@@ -99,7 +95,7 @@ TEST_F(LargeRaft, TheInverseSolvesUpTo2500Nodes) {
 }
 
 // About the norm's condition number that the inverse gives, which bounds it.
-TEST_F(LargeRaft, TheConditionIsMeasured) {
+TEST_F(LargeRaft, TheConditionIsMeasuredAboutAsByTheInverse) {
     SolveElasticLayer(mesh_, input_);
     const double found = MeasuresOfRaft().Condition;
     SolveByInverse();
@@ -137,4 +133,4 @@ TEST_F(LargeRaft, TheLargestSquareRaftIsSolved) {
 }
 
 }  // namespace
-}  // namespace lithmark
+}  // namespace lithmark::tests

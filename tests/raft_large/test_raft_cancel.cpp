@@ -11,7 +11,7 @@
 #include "report/StepTables.h"
 #include "support/Slowness.h"
 
-namespace lithmark {
+namespace lithmark::tests {
 namespace {
 
 // Ends a run as soon as it is so far, and measures processor time: of all threads, so that a busy machine does not
@@ -150,7 +150,8 @@ INSTANTIATE_TEST_SUITE_P(Kinds, EndedRaftRuns,
                                          Kind{"CircleOnThinClay", 10, 3, 2, false, 10, 0.5, 0.5, 5},
                                          Kind{"CircleOnThickClay", 10, 3, 2, false, 10, 0.5, 0.5, 40},
                                          Kind{"CircularPunch", 9, 3, 1, true, 10, 0.5, 0.5, 5},
-                                         Kind{"CircularPunchOnClay", 10, 3, 2, true, 10, 0.5, 0.5, 5}));
+                                         Kind{"CircularPunchOnClay", 10, 3, 2, true, 10, 0.5, 0.5, 5}),
+                         [](const auto& kind) { return std::string(kind.param.Name); });
 
 }  // namespace
-}  // namespace lithmark
+}  // namespace lithmark::tests

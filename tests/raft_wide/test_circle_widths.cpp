@@ -9,9 +9,10 @@
 
 #include "raft_wide/CircleValues.h"
 
-using namespace raftwide;
-
+namespace lithmark::tests {
 namespace {
+
+using namespace raftwide;
 
 // Greatest differences, relative to the greatest value of the run.
 struct Deviation {
@@ -84,3 +85,4 @@ TEST(StoredWidthOfTheCircle, NumericalAnalysisMattersMoreForALayerFurtherDown) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -1,8 +1,16 @@
 #include "RenderCase.h"
 
+#include <QXmlStreamReader>
+
 #include "support/RunProject.h"
 
 namespace lithmark::tests {
+
+void ExpectXml(const std::string& bytes) {
+    QXmlStreamReader reader(QByteArray::fromStdString(bytes));
+    while (!reader.atEnd()) reader.readNext();
+    EXPECT_FALSE(reader.hasError()) << reader.errorString().toStdString();
+}
 
 void RenderTest::RunExample(const std::string& name, Language language) {
     namespace fs = std::filesystem;

@@ -21,6 +21,9 @@
 
 namespace lithmark::tests {
 
+// Fails the test on bytes that are no well-formed XML.
+void ExpectXml(const std::string& bytes);
+
 class RenderTest : public testing::Test {
   protected:
     // Runs a copy of an example in a language.

@@ -1,8 +1,6 @@
 // Texts of files that no document can hold as they stand: control characters, bytes that are no text.
 #include <zip.h>
 
-#include <QXmlStreamReader>
-
 #include "base/Utf8.h"
 #include "render/ChartDocument.h"
 #include "render/ContourDocument.h"
@@ -23,12 +21,6 @@ class ControlCharacters : public RenderTest {
         Session.ProjectName = "a\x1B\uFFFE";
     }
 };
-
-void ExpectXml(const std::string& bytes) {
-    QXmlStreamReader reader(QByteArray::fromStdString(bytes));
-    while (!reader.atEnd()) reader.readNext();
-    EXPECT_FALSE(reader.hasError()) << reader.errorString().toStdString();
-}
 
 void ExpectNoControls(const std::string& text) {
     EXPECT_EQ(text, PrintableText(text));

@@ -1,18 +1,16 @@
 // Every example gives its report, its curves and its documents in every language.
-#include <QXmlStreamReader>
 
 #include "render/ChartDocument.h"
 #include "render/ContourDocument.h"
 #include "render/RenderCase.h"
 #include "render/ReportDocument.h"
 #include "services/ProjectStore.h"
+#include "support/Languages.h"
 
 namespace lithmark::tests {
 namespace {
 
 using testing::HasSubstr;
-
-constexpr Language kLanguages[] = {Language::German, Language::English, Language::Arabic};
 
 std::vector<std::string> ExampleNames() {
     std::vector<std::string> names;
@@ -20,12 +18,6 @@ std::vector<std::string> ExampleNames() {
         if (entry.is_directory()) names.push_back(entry.path().filename());
     std::sort(names.begin(), names.end());
     return names;
-}
-
-void ExpectXml(const std::string& bytes) {
-    QXmlStreamReader reader(QByteArray::fromStdString(bytes));
-    while (!reader.atEnd()) reader.readNext();
-    EXPECT_FALSE(reader.hasError()) << reader.errorString().toStdString();
 }
 
 class EveryExample : public RenderTest, public testing::WithParamInterface<std::string> {

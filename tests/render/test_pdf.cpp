@@ -13,13 +13,12 @@
 #include "render/ReportDocument.h"
 #include "render/ReportLines.h"
 #include "render/figures/ReportFigures.h"
+#include "support/Languages.h"
 
 namespace lithmark::tests {
 namespace {
 
 using testing::HasSubstr;
-
-constexpr Language kLanguages[] = {Language::German, Language::English, Language::Arabic};
 
 struct PlacedWord {
     int Page;

@@ -7,13 +7,12 @@
 #include "render/RenderCase.h"
 #include "render/ReportDocument.h"
 #include "render/ReportLines.h"
+#include "support/Languages.h"
 
 namespace lithmark::tests {
 namespace {
 
 using testing::HasSubstr;
-
-constexpr Language kLanguages[] = {Language::German, Language::English, Language::Arabic};
 
 std::string WithoutIsolates(std::string text) {
     return ReplaceAll(ReplaceAll(text, "\u2066", ""), "\u2069", "");

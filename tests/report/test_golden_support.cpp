@@ -8,8 +8,7 @@
 #include "support/Golden.h"
 #include "support/Places.h"
 
-using namespace lithmark::tests;
-
+namespace lithmark::tests {
 namespace {
 
 TEST(LineDifferences, AreEmptyForEqualTexts) {
@@ -45,3 +44,4 @@ TEST(MissingReference, FailsTheTestAndWritesWhatCame) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

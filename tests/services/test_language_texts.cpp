@@ -6,7 +6,7 @@
 #include "base/Utf8.h"
 #include "services/texts/LanguageTexts.h"
 
-namespace lithmark {
+namespace lithmark::tests {
 namespace {
 
 LanguageTextsService In(Language language) {
@@ -158,4 +158,4 @@ TEST(LanguageTextsTest, HeadingOfAReportFitsItsLine) {
 }
 
 }  // namespace
-}  // namespace lithmark
+}  // namespace lithmark::tests

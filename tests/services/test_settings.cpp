@@ -1,9 +1,7 @@
 // Directories, units, company lines, language, and the store behind them.
 #include <gmock/gmock.h>
 
-#include "services/SharedServices.h"
-#include "support/Files.h"
-#include "support/ScriptedHost.h"
+#include "services/ServicesTest.h"
 
 namespace lithmark::tests {
 namespace {
@@ -14,19 +12,7 @@ using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
-class Settings : public ::testing::Test {
-  protected:
-    void SetUp() override {
-        SharedServices().UseSettingsDirectory(folder.Dir());
-        LanguageTexts().SetCurrent(Language::English);
-    }
-    void TearDown() override {
-        SharedServices().UseSettingsDirectory("");
-        LanguageTexts().SetCurrent(Language::English);
-    }
-    TestFolder folder;
-    ScriptedHost host;
-};
+class Settings : public ServicesTest {};
 
 // --- the store -----------------------------------------------------------------------------------------------------
 

@@ -9,7 +9,7 @@
 
 #include "services/numerics/SharedBlocks.h"
 
-namespace lithmark {
+namespace lithmark::tests {
 namespace {
 
 TEST(SharedBlocks, EachPlaceIsWorkedOnce) {
@@ -59,4 +59,4 @@ TEST(SharedBlocks, ProcessorsStayInTheirBounds) {
 }
 
 }  // namespace
-}  // namespace lithmark
+}  // namespace lithmark::tests

@@ -1,9 +1,8 @@
 #include <gmock/gmock.h>
 
-#include "services/SharedServices.h"
+#include "services/ServicesTest.h"
 #include "services/storage/DataFile.h"
-#include "support/Files.h"
-#include "support/ScriptedHost.h"
+#include "support/Languages.h"
 
 namespace lithmark::tests {
 namespace {
@@ -14,23 +13,7 @@ using ::testing::HasSubstr;
 using ::testing::Not;
 using ::testing::SizeIs;
 
-constexpr Language kLanguages[] = {Language::German, Language::English, Language::Arabic};
-
-// Settings in a folder of their own, English, a scripted host.
-class Services : public ::testing::Test {
-  protected:
-    void SetUp() override {
-        SharedServices().UseSettingsDirectory(folder.Dir());
-        LanguageTexts().SetCurrent(Language::English);
-    }
-    void TearDown() override {
-        SharedServices().UseSettingsDirectory("");
-        SharedServices().DecimalSign = '.';
-        LanguageTexts().SetCurrent(Language::English);
-    }
-    TestFolder folder;
-    ScriptedHost host;
-};
+class Services : public ServicesTest {};
 
 // --- failures in words ---------------------------------------------------------------------------------------------
 

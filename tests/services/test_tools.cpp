@@ -5,11 +5,10 @@
 
 #include "services/FileTools.h"
 #include "services/ListTools.h"
-#include "services/SharedServices.h"
+#include "services/ServicesTest.h"
 #include "services/TextTools.h"
 #include "services/host/ConsoleHost.h"
-#include "support/Files.h"
-#include "support/ScriptedHost.h"
+#include "support/Languages.h"
 
 namespace lithmark::tests {
 namespace {
@@ -19,26 +18,14 @@ using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
-constexpr Language kLanguages[] = {Language::German, Language::English, Language::Arabic};
-
-class Tools : public ::testing::Test {
+class Tools : public ServicesTest {
   protected:
-    void SetUp() override {
-        SharedServices().UseSettingsDirectory(folder.Dir());
-        LanguageTexts().SetCurrent(Language::English);
-    }
-    void TearDown() override {
-        SharedServices().UseSettingsDirectory("");
-        LanguageTexts().SetCurrent(Language::English);
-    }
     std::vector<std::string> Visible(const RecentFileTable& table) const {
         std::vector<std::string> captions;
         for (const RecentFile& row : table)
             if (row.Visible) captions.push_back(row.Caption);
         return captions;
     }
-    TestFolder folder;
-    ScriptedHost host;
 };
 
 // --- ListTools -----------------------------------------------------------------------------------------------------

@@ -8,11 +8,11 @@
 #include "kernels/elastic/CircularLoad.h"
 #include "stress/StressCase.h"
 #include "support/Files.h"
+#include "support/Pi.h"
 
 namespace lithmark::tests {
 namespace {
 
-constexpr double kPi = std::numbers::pi;
 constexpr double kRadius = 3;
 constexpr int kFine = 180;  // the finest even mesh
 

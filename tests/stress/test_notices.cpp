@@ -7,6 +7,7 @@
 #include "kernels/elastic/CircleIntegral.h"
 #include "report/Measured.h"
 #include "stress/StressCase.h"
+#include "support/Pi.h"
 #include "support/Raised.h"
 #include "support/ScriptedHost.h"
 #include "support/TestSession.h"
@@ -15,8 +16,6 @@ namespace lithmark::tests {
 namespace {
 
 using testing::HasSubstr;
-
-constexpr double kPi = 3.14159265358979323846;
 
 class StressNotices : public testing::Test {
   protected:

@@ -7,11 +7,11 @@
 
 #include "stress/StressCase.h"
 #include "support/Files.h"
+#include "support/Pi.h"
 
 namespace lithmark::tests {
 namespace {
 
-constexpr double kPi = std::numbers::pi;
 // The stored circle number differs from pi by 3e-8, stored values by 6e-8; a few of each add up.
 constexpr double kRounding = 1e-6;
 

@@ -8,12 +8,12 @@
 #include "kernels/elastic/RectangularLoad.h"
 #include "stress/StressCase.h"
 #include "support/Files.h"
+#include "support/Pi.h"
 
 namespace lithmark::tests {
 namespace {
 
-constexpr double kPi = std::numbers::pi;
-constexpr double kRounding = 2e-6;
+constexpr double kRectangleRounding = 2e-6;
 
 // Published: influence factors I(m, n) under the corner of a rectangle, m = a/z, n = b/z, four digits (Newmark 1935,
 // Fadum 1948).
@@ -40,7 +40,7 @@ TEST(RectangularLoad, HasTheStressesOfTheIntegratedPointLoad) {
                                       {9.0, 7.0, 6.0}}) {
             SCOPED_TRACE(testing::Message() << "nu " << nu << " at " << x << ", " << y << ", " << z);
             ExpectStressesNear(Solve(RectangleAt(x, y, z, a, b, nu)), RectangleTheory(x, y, z, kP, a, b, nu, kEs), kP,
-                               kRounding);
+                               kRectangleRounding);
         }
 }
 
@@ -48,7 +48,7 @@ TEST(RectangularLoad, HasTheStressesOfTheIntegratedPointLoad) {
 TEST(RectangularLoad, HasTheVerticalDisplacementOfTheIntegratedPointLoad) {
     for (const auto& [x, y, z] : {std::tuple{0.5, 0.3, 1.0}, {3.5, 0.4, 1.0}, {2.0, 1.5, 2.0}, {2.0, 0.4, 1.0}}) {
         const double w = 100 * RectangleTheory(x, y, z, kP, 4, 3, kNue, kEs).w;
-        EXPECT_NEAR(Solve(RectangleAt(x, y, z, 4, 3)).w, w, w * kRounding);
+        EXPECT_NEAR(Solve(RectangleAt(x, y, z, 4, 3)).w, w, w * kRectangleRounding);
     }
 }
 
@@ -68,17 +68,17 @@ TEST(RectangularLoad, SettlementAndDisplacementAddUpToTheSurfaceDisplacement) {
         const double surface = Solve(RectangleAt(x, 0.7, 0, 4, 3)).w;
         for (const double z : {0.5, 2.0, 10.0}) {
             const StressResults r = Solve(RectangleAt(x, 0.7, z, 4, 3));
-            EXPECT_NEAR(r.w + r.s, surface, surface * kRounding) << x << ", " << z;
+            EXPECT_NEAR(r.w + r.s, surface, surface * kRectangleRounding) << x << ", " << z;
         }
     }
 }
 
 // By hand: the load itself just under its surface, nothing beside it; half of it on an edge, a quarter at a corner.
 TEST(RectangularLoad, OnTheSurfaceIsThePressureInsideAHalfOnAnEdgeAndAQuarterAtACorner) {
-    EXPECT_NEAR(Solve(RectangleAt(0.5, 0.5, 0, 4, 3)).Sigma_z, kP, kP * kRounding);
-    EXPECT_NEAR(Solve(RectangleAt(2, 0.5, 0, 4, 3)).Sigma_z, kP / 2, kP * kRounding);
-    EXPECT_NEAR(Solve(RectangleAt(2, 1.5, 0, 4, 3)).Sigma_z, kP / 4, kP * kRounding);
-    EXPECT_NEAR(Solve(RectangleAt(5, 0.5, 0, 4, 3)).Sigma_z, 0, kP * kRounding);
+    EXPECT_NEAR(Solve(RectangleAt(0.5, 0.5, 0, 4, 3)).Sigma_z, kP, kP * kRectangleRounding);
+    EXPECT_NEAR(Solve(RectangleAt(2, 0.5, 0, 4, 3)).Sigma_z, kP / 2, kP * kRectangleRounding);
+    EXPECT_NEAR(Solve(RectangleAt(2, 1.5, 0, 4, 3)).Sigma_z, kP / 4, kP * kRectangleRounding);
+    EXPECT_NEAR(Solve(RectangleAt(5, 0.5, 0, 4, 3)).Sigma_z, 0, kP * kRectangleRounding);
 }
 
 TEST(RectangularLoad, OnTheSurfaceIsThatOfTheDepth1e10) {
@@ -91,28 +91,28 @@ TEST(RectangularLoad, IsTheSumOfItsHalves) {
     const double x = 3.1, y = 0.4, z = 1.7;
     const StressResults whole = Solve(RectangleAt(x, y, z, 4, 3)), right = Solve(RectangleAt(x - 1, y, z, 2, 3)),
                         left = Solve(RectangleAt(x + 1, y, z, 2, 3));
-    EXPECT_NEAR(whole.Sigma_z, left.Sigma_z + right.Sigma_z, kP * kRounding);
-    EXPECT_NEAR(whole.Sigma_x, left.Sigma_x + right.Sigma_x, kP * kRounding);
-    EXPECT_NEAR(whole.Sigma_y, left.Sigma_y + right.Sigma_y, kP * kRounding);
-    EXPECT_NEAR(whole.Tau_xy, left.Tau_xy + right.Tau_xy, kP * kRounding);
-    EXPECT_NEAR(whole.Tau_xz, left.Tau_xz + right.Tau_xz, kP * kRounding);
-    EXPECT_NEAR(whole.w, left.w + right.w, whole.w * kRounding);
+    EXPECT_NEAR(whole.Sigma_z, left.Sigma_z + right.Sigma_z, kP * kRectangleRounding);
+    EXPECT_NEAR(whole.Sigma_x, left.Sigma_x + right.Sigma_x, kP * kRectangleRounding);
+    EXPECT_NEAR(whole.Sigma_y, left.Sigma_y + right.Sigma_y, kP * kRectangleRounding);
+    EXPECT_NEAR(whole.Tau_xy, left.Tau_xy + right.Tau_xy, kP * kRectangleRounding);
+    EXPECT_NEAR(whole.Tau_xz, left.Tau_xz + right.Tau_xz, kP * kRectangleRounding);
+    EXPECT_NEAR(whole.w, left.w + right.w, whole.w * kRectangleRounding);
 }
 
 // Law: turning load and point by a right angle exchanges x and y.
 TEST(RectangularLoad, ExchangesXAndYWhenTurned) {
     const StressResults r = Solve(RectangleAt(0.6, 1.9, 1.2, 4, 3)), t = Solve(RectangleAt(1.9, 0.6, 1.2, 3, 4));
-    EXPECT_NEAR(r.Sigma_x, t.Sigma_y, kP * kRounding);
-    EXPECT_NEAR(r.Tau_xz, t.Tau_yz, kP * kRounding);
-    EXPECT_NEAR(r.Tau_xy, t.Tau_xy, kP * kRounding);
-    EXPECT_NEAR(r.u, t.v, r.w * kRounding);
-    EXPECT_NEAR(r.w, t.w, r.w * kRounding);
+    EXPECT_NEAR(r.Sigma_x, t.Sigma_y, kP * kRectangleRounding);
+    EXPECT_NEAR(r.Tau_xz, t.Tau_yz, kP * kRectangleRounding);
+    EXPECT_NEAR(r.Tau_xy, t.Tau_xy, kP * kRectangleRounding);
+    EXPECT_NEAR(r.u, t.v, r.w * kRectangleRounding);
+    EXPECT_NEAR(r.w, t.w, r.w * kRectangleRounding);
 }
 
 // By hand: at the centre the four corners are alike, each with the influence of a/2 by b/2.
 TEST(RectangularLoad, AtTheCentreIsFourEqualCorners) {
     const double corner = Solve(RectangleAt(1, 0.75, 1.5, 2, 1.5)).Sigma_z;
-    EXPECT_NEAR(Solve(RectangleAt(0, 0, 1.5, 4, 3)).Sigma_z, 4 * corner, kP * kRounding);
+    EXPECT_NEAR(Solve(RectangleAt(0, 0, 1.5, 4, 3)).Sigma_z, 4 * corner, kP * kRectangleRounding);
     const SubRectangles corners = SplitRectangle(0, 0, 4, 3);
     const double expected[][2] = {{2, 1.5}, {2, -1.5}, {-2, -1.5}, {-2, 1.5}};
     for (std::size_t i = 0; i < 4; ++i) {
@@ -174,7 +174,7 @@ TEST(RectangularLoad, HasTheoreticalHorizontalDisplacementsInAnIncompressibleSoi
 TEST(RectangularLoad, HasAtACornerTheTauXyOfOneCornerAlone) {
     const double a = 4, b = 3, z = 1.5, R3 = std::sqrt(a * a + b * b + z * z);
     const double expected = kP / (2 * kPi) * (z / R3 + (1 - 2 * kNue) * std::log(z + R3));
-    EXPECT_NEAR(Solve(RectangleAt(a / 2, b / 2, z, a, b)).Tau_xy, expected, kP * kRounding);
+    EXPECT_NEAR(Solve(RectangleAt(a / 2, b / 2, z, a, b)).Tau_xy, expected, kP * kRectangleRounding);
     EXPECT_GT(std::abs(expected - RectangleTheory(a / 2, b / 2, z, kP, a, b, kNue, kEs).Tau_xy), 10);
 }
 
@@ -186,11 +186,11 @@ TEST(RectangularLoad, KeepsTheSignSequenceWhereCornersAreLeftOut) {
         return z / R3 + (1 - 2 * kNue) * std::log(z + R3);
     };
     const double expected = kP / (2 * kPi) * (term(x + a / 2, b) - term(x - a / 2, b));
-    EXPECT_NEAR(Solve(RectangleAt(x, b / 2, z, a, b)).Tau_xy, expected, kP * kRounding);
+    EXPECT_NEAR(Solve(RectangleAt(x, b / 2, z, a, b)).Tau_xy, expected, kP * kRectangleRounding);
     // Where the terms vanish with the side, nothing is lost.
     const Theory theory = RectangleTheory(x, b / 2, z, kP, a, b, kNue, kEs);
-    EXPECT_NEAR(Solve(RectangleAt(x, b / 2, z, a, b)).Sigma_x, theory.Sigma_x, kP * kRounding);
-    EXPECT_NEAR(Solve(RectangleAt(x, b / 2, z, a, b)).w, 100 * theory.w, 100 * theory.w * kRounding);
+    EXPECT_NEAR(Solve(RectangleAt(x, b / 2, z, a, b)).Sigma_x, theory.Sigma_x, kP * kRectangleRounding);
+    EXPECT_NEAR(Solve(RectangleAt(x, b / 2, z, a, b)).w, 100 * theory.w, 100 * theory.w * kRectangleRounding);
 }
 
 TEST(RectangularLoad, LeavesOutSidesOfUpToOneMillimetre) {

@@ -5,14 +5,13 @@
 #include <cmath>
 
 #include "stress/StressCase.h"
+#include "support/Pi.h"
 #include "support/ScriptedHost.h"
 #include "support/StepsOn.h"
 #include "support/TestSession.h"
 
 namespace lithmark::tests {
 namespace {
-
-constexpr double kPi = 3.14159265358979323846;
 
 class CornerTables : public testing::Test {
   protected:

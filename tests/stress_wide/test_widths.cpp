@@ -11,9 +11,10 @@
 
 #include "stress_wide/StressValues.h"
 
-using namespace stresswide;
-
+namespace lithmark::tests {
 namespace {
+
+using namespace stresswide;
 
 // The greatest deviations of a series of runs: stresses and strains relative to the greatest component of the run or,
 // for pressures, to what a full load gives; displacements relative to w of the surface.
@@ -103,3 +104,4 @@ TEST(StoredWidth, OfTheCircleMattersMoreRightUnderItsSurface) {
 }
 
 }  // namespace
+}  // namespace lithmark::tests

@@ -8,14 +8,13 @@
 #include <vector>
 
 #include "base/Utf8.h"
+#include "support/Languages.h"
 #include "texts/LanguageTable.h"
 
-namespace lithmark {
+namespace lithmark::tests {
 namespace {
 
 using ::testing::IsEmpty;
-
-constexpr Language kLanguages[] = {Language::German, Language::English, Language::Arabic};
 
 bool IsArabicLetter(char32_t c) {
     return c >= 0x0620 && c <= 0x064A;
@@ -191,4 +190,4 @@ TEST(LanguageTableTest, OnlyColumnTitlesHoldLineFeedsAndEveryPieceIsUsed) {
 }
 
 }  // namespace
-}  // namespace lithmark
+}  // namespace lithmark::tests

@@ -7,14 +7,13 @@
 #include <vector>
 
 #include "base/Utf8.h"
+#include "support/Languages.h"
 #include "texts/LanguageTable.h"
 
-namespace lithmark {
+namespace lithmark::tests {
 namespace {
 
 using ::testing::IsEmpty;
-
-constexpr Language kLanguages[] = {Language::German, Language::English, Language::Arabic};
 
 std::size_t Marks(std::string_view text) {
     std::size_t count = 0;
@@ -76,4 +75,4 @@ TEST(MnemonicTest, LettersDifferWithinAWindowOrMenu) {
 }
 
 }  // namespace
-}  // namespace lithmark
+}  // namespace lithmark::tests

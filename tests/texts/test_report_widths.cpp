@@ -9,14 +9,14 @@
 #include <vector>
 
 #include "base/Utf8.h"
+#include "support/Languages.h"
 #include "texts/LanguageTable.h"
 
-namespace lithmark {
+namespace lithmark::tests {
 namespace {
 
 using ::testing::IsEmpty;
 
-constexpr Language kLanguages[] = {Language::German, Language::English, Language::Arabic};
 constexpr std::size_t kLine = 60;
 constexpr std::size_t kLongestLabel = 38;
 
@@ -157,4 +157,4 @@ TEST(ReportWidthTest, RowNumbersOfFourDigitsFitTheirColumn) {
 }
 
 }  // namespace
-}  // namespace lithmark
+}  // namespace lithmark::tests

@@ -13,7 +13,7 @@
 #include "support/Places.h"
 #include "texts/LanguageTable.h"
 
-namespace lithmark {
+namespace lithmark::tests {
 namespace {
 
 namespace fs = std::filesystem;
@@ -108,4 +108,4 @@ TEST(TextNumbersInCodeTest, EveryRowIsUsedInTheCode) {
 }
 
 }  // namespace
-}  // namespace lithmark
+}  // namespace lithmark::tests
