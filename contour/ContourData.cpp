@@ -13,24 +13,22 @@ namespace lithmark {
 
 namespace {
 
-constexpr int kFile = 1;
-
 // Opens a file of the open project under number 1, and drops it if reading ends early.
 class ProjectInput {
   public:
     explicit ProjectInput(const std::string& extension) {
         const std::string name = DataFileName(Session.DataDir, Session.ProjectName, extension);
         SharedServices().SetCurrentFile(name);
-        OpenNumberedFile(kFile, name, FileMode::Input);
+        OpenNumberedFile(kDataFile, name, FileMode::Input);
     }
-    ~ProjectInput() { DropNumberedFile(kFile); }
+    ~ProjectInput() { DropNumberedFile(kDataFile); }
     ProjectInput(const ProjectInput&) = delete;
     ProjectInput& operator=(const ProjectInput&) = delete;
 };
 
 Integer ReadCount() {
-    const Integer count = ReadInteger(kFile);
-    if (count < 1) Fail(FailureKind::BadCount, NumberToText(static_cast<int>(count)), LineToRead(kFile) - 1);
+    const Integer count = ReadInteger(kDataFile);
+    if (count < 1) Fail(FailureKind::BadCount, NumberToText(static_cast<int>(count)), LineToRead(kDataFile) - 1);
     return count;
 }
 
@@ -44,8 +42,8 @@ void BasContour::ReadContourData() {
         CtrY.Redim(1, NodeCount);
         CtrZ.Redim(1, NodeCount);
         for (int i = 1; i <= NodeCount; ++i) {
-            CtrX(i) = ReadSingle(kFile);
-            CtrY(i) = ReadSingle(kFile);
+            CtrX(i) = ReadSingle(kDataFile);
+            CtrY(i) = ReadSingle(kDataFile);
         }
         ElementCount = ReadCount();
         ElemNodeCount.Redim(1, ElementCount);
@@ -57,7 +55,7 @@ void BasContour::ReadContourData() {
             // The file's first two corners change places, so that the corners run round the element.
             constexpr int kColumn[] = {0, 2, 1, 3, 4};
             for (int j = 1; j <= ElemNodeCount(e); ++j) {
-                const Integer node = ReadInteger(kFile);
+                const Integer node = ReadInteger(kDataFile);
                 if (node < 1 || node > NodeCount) Fail(FailureKind::SubscriptRange);
                 ElemNode(e, kColumn[j]) = node;
             }
@@ -67,7 +65,7 @@ void BasContour::ReadContourData() {
     const ProjectInput file(pressure ? "PH2" : "PH1");
     ZFormat = pressure ? Session.FmtStress : Session.FmtSettlement;
     const double factor = pressure ? FactorOf(Unit::Pressure) : Session.Len2Factor;
-    for (int i = 1; i <= NodeCount; ++i) CtrZ(i) = ReadSingle(kFile) * factor;
+    for (int i = 1; i <= NodeCount; ++i) CtrZ(i) = ReadSingle(kDataFile) * factor;
 }
 
 // An edge that two elements share is cleared in both, so that what stays is the outer boundary. An element's edge is

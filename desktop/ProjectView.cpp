@@ -16,7 +16,7 @@ namespace lithmark {
 
 namespace {
 
-constexpr int kColumnWidth = 680;
+constexpr int kProjectWidth = 680;
 
 QLabel* ValueLabel(QWidget* parent, const char* name) {
     QLabel* label = PageLabel(parent, {}, 1.05, false);
@@ -35,7 +35,7 @@ std::string ProblemKey(int entry) {
 ProjectView::ProjectView(QWidget* parent) : QWidget(parent) {
     setObjectName(QStringLiteral("projectPage"));
     auto* content = new QWidget(this);
-    content->setMaximumWidth(kColumnWidth);
+    content->setMaximumWidth(kProjectWidth);
     auto* column = new QVBoxLayout(content);
     column->setContentsMargins(sizes::kPagePad, sizes::kPagePad, sizes::kPagePad, sizes::kPagePad);
     column->setSpacing(sizes::kColumnGap);
