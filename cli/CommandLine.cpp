@@ -14,19 +14,19 @@
 #include "cli/Output.h"
 #include "core/Problems.h"
 #include "services/SharedServices.h"
+#include "services/texts/LanguageCodes.h"
 
 namespace lithmark {
 
 namespace {
 
-const std::vector<std::string> kLanguages = {"de", "en", "ar", "ids"};
 // The values of options as the help shows them.
 constexpr char kField[] = "FIELD=VALUE", kFile[] = "FILE", kFolder[] = "DIR", kCount[] = "N";
 
-Language LanguageNamed(const std::string& name) {
-    if (name == "de") return Language::German;
-    if (name == "ar") return Language::Arabic;
-    return name == "ids" ? Language::Ids : Language::English;
+std::vector<std::string> LanguageChoices() {
+    std::vector<std::string> codes;
+    for (const LanguageCodeRow& row : kLanguageCodes) codes.emplace_back(row.Code);
+    return codes;
 }
 
 // The last value that the words give an option; empty where they do not.
@@ -49,8 +49,8 @@ std::string WithDefault(TextId description, const std::string& value) {
 void UseLanguageAsked(int argc, char** argv) {
     const std::vector<std::string> words(argv, argv + argc);
     const std::string language = ValueAsked(words, "--lang"), settings = ValueAsked(words, "--settings");
-    LanguageTexts().SetCurrent(LanguageNamed(language));
-    if (std::ranges::find(kLanguages, language) != kLanguages.end()) return;
+    LanguageTexts().SetCurrent(LanguageOfCode(language));
+    if (std::ranges::any_of(kLanguageCodes, [&](const LanguageCodeRow& row) { return row.Code == language; })) return;
     std::error_code error;
     if (!settings.empty() && !std::filesystem::is_directory(settings, error)) return;
     if (!settings.empty()) SharedServices().UseSettingsDirectory(settings);
@@ -78,7 +78,7 @@ CommandLine::CommandLine() : app_(Text(902016_text), "lithmark-cli") {
 // Known to the program and to every command, before and behind its name.
 void CommandLine::AddCommonOptions() {
     app_.option_defaults()->group(Text(911247_text));
-    OneOf(*app_.add_option("--lang", options_.Lang, Text(902023_text)), kLanguages);
+    OneOf(*app_.add_option("--lang", options_.Lang, Text(902023_text)), LanguageChoices());
     app_.add_option("--settings", options_.Settings, Text(902024_text))->type_name(kFolder);
     app_.add_option("--set", options_.Sets, Text(902025_text))->take_all()->allow_extra_args(false)->type_name(kField);
     app_.set_help_flag("-h,--help", Text(902028_text));

@@ -28,6 +28,7 @@
 #include "services/storage/FileNames.h"
 #include "services/storage/ProjectArchive.h"
 #include "services/storage/ReadFile.h"
+#include "services/texts/LanguageCodes.h"
 
 namespace lithmark {
 
@@ -40,10 +41,7 @@ void SetLanguage(const std::string& lang) {
         SharedServices().LoadLanguage();
         return;
     }
-    LanguageTexts().SetCurrent(lang == "de"    ? Language::German
-                               : lang == "ar"  ? Language::Arabic
-                               : lang == "ids" ? Language::Ids
-                                               : Language::English);
+    LanguageTexts().SetCurrent(LanguageOfCode(lang));
 }
 
 // The project that ReadProject found packed, without its extension; empty when it found none.

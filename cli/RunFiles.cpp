@@ -1,13 +1,9 @@
 #include "cli/RunFiles.h"
 
-#include <cerrno>
-#include <filesystem>
-#include <system_error>
+#include <string_view>
 
-#include "base/Failure.h"
 #include "core/Session.h"
 #include "kernels/raft/RaftRun.h"
-#include "services/platform/Files.h"
 #include "services/storage/FileNames.h"
 
 namespace lithmark {
@@ -15,23 +11,19 @@ namespace lithmark {
 RunFiles::RunFiles(Where where) {
     SetRaftExport(where != Where::Nowhere);
     if (where != Where::Aside) return;
-    folder_ = platform::MakeTemporaryFolder();
-    if (folder_.empty()) FailWithSystemError(errno, FailureKind::WriteError, platform::TemporaryFolder());
-    registered_.emplace_back(folder_);
+    folder_.emplace();
     for (const std::string_view extension : ProjectExtensions())
-        registered_.emplace_back(folder_ + "/" + Session.WorkName + "." + std::string(extension));
+        folder_->Announce(Session.WorkName + "." + std::string(extension));
     dataDir_ = Session.DataDir;
     workDir_ = Session.WorkDir;
-    Session.DataDir = Session.WorkDir = WithSeparator(folder_);
+    Session.DataDir = Session.WorkDir = folder_->Path();
 }
 
 RunFiles::~RunFiles() {
     SetRaftExport(true);
-    if (folder_.empty()) return;
+    if (!folder_) return;
     Session.DataDir = dataDir_;
     Session.WorkDir = workDir_;
-    std::error_code ignored;
-    std::filesystem::remove_all(folder_, ignored);
 }
 
 }  // namespace lithmark

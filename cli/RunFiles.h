@@ -1,10 +1,10 @@
 // Where a raft run leaves its files.
 #pragma once
 
-#include <deque>
+#include <optional>
 #include <string>
 
-#include "services/platform/RemovedOnEnd.h"
+#include "services/storage/TemporaryFolder.h"
 
 namespace lithmark {
 
@@ -24,8 +24,8 @@ class RunFiles {
     RunFiles& operator=(const RunFiles&) = delete;
 
   private:
-    std::string folder_, dataDir_, workDir_;
-    std::deque<RemovedOnEnd> registered_;
+    std::optional<TemporaryFolder> folder_;
+    std::string dataDir_, workDir_;
 };
 
 }  // namespace lithmark

@@ -16,6 +16,7 @@
 #include "desktop/ThemeKeeper.h"
 #include "desktop/WindowStyle.h"
 #include "services/SharedServices.h"
+#include "services/texts/LanguageCodes.h"
 #include "services/texts/LanguageTexts.h"
 #include "ui/frame/MDITools.h"
 
@@ -27,9 +28,7 @@ constexpr double kLeastPointSize = 10;
 
 // The words of Qt's own dialogs (files, printing) in the language of the program, where the system has them.
 void UseQtTexts(QApplication& application, Language language) {
-    const QString code = language == Language::German   ? QStringLiteral("de")
-                         : language == Language::Arabic ? QStringLiteral("ar")
-                                                        : QStringLiteral("en");
+    const QString code = QString::fromLatin1(PublicLanguageCode(language));
     auto* translator = new QTranslator(&application);
     if (translator->load(QStringLiteral("qtbase_") + code, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         application.installTranslator(translator);

@@ -64,7 +64,7 @@ void LoadNumberFormats() {
 
 bool WriteNumberFormats() {
     return WriteSettings("NOFORMAT", [] {
-        for (const NumberFormatRow& row : NumberFormats()) WriteRawLine(kFile, Session.*row.Field);
+        for (const NumberFormatRow& row : NumberFormats()) WriteRawLine(kDataFile, Session.*row.Field);
     });
 }
 

@@ -20,11 +20,6 @@ bool IsMarkOrIsolate(char32_t c) {
     return (c >= 0x064B && c <= 0x065F) || c == 0x0670 || (c >= 0x2066 && c <= 0x2069) || c == 0x200E || c == 0x200F;
 }
 
-bool HasArabic(std::string_view text) {
-    const auto points = CodePoints(text);
-    return std::any_of(points.begin(), points.end(), IsArabic);
-}
-
 int Characters(std::string_view text) {
     return static_cast<int>(CharacterCount(text));
 }
@@ -197,6 +192,11 @@ void AlignNumbers(std::vector<DisplayLine>& lines, const TablePlace& table) {
 }
 
 }  // namespace
+
+bool HasArabic(std::string_view text) {
+    const auto points = CodePoints(text);
+    return std::any_of(points.begin(), points.end(), IsArabic);
+}
 
 int CellsOf(std::string_view text) {
     const auto points = CodePoints(text);

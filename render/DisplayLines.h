@@ -31,6 +31,7 @@ std::string TextOf(const DisplayLine& line);
 // The same for all lines of a report.
 std::vector<std::string> DisplayTexts(const std::vector<std::string>& lines, bool rightToLeft);
 
+bool HasArabic(std::string_view text);
 // The columns that a text takes in a fixed pitch.
 int CellsOf(std::string_view text);
 

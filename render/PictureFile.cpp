@@ -8,16 +8,12 @@
 #include <QSvgGenerator>
 #include <algorithm>
 
-#include "base/Utf8.h"
+#include "render/DisplayLines.h"
 #include "render/RenderApplication.h"
 
 namespace lithmark {
 
 namespace {
-
-bool IsArabic(char32_t c) {
-    return c >= 0x0600 && c <= 0x06FF;
-}
 
 // The generator writes each run of a text by itself and leaves out its direction; viewers take it to be from left to
 // right, and put blanks and colons at the wrong end of Arabic words. Marks at both ends of such a run hold them.
@@ -28,9 +24,7 @@ std::string WithDirections(const std::string& svg) {
     for (std::size_t end = svg.find(kEnd); end != std::string::npos; end = svg.find(kEnd, at)) {
         const std::size_t begin = svg.rfind('>', end - 1) + 1;
         const std::string run = svg.substr(begin, end - begin);
-        const std::vector<char32_t> letters = CodePoints(run);
-        const bool arabic = std::any_of(letters.begin(), letters.end(), IsArabic);
-        marked += svg.substr(at, begin - at) + (arabic ? kMark + run + kMark : run) + kEnd;
+        marked += svg.substr(at, begin - at) + (HasArabic(run) ? kMark + run + kMark : run) + kEnd;
         at = end + kEnd.size();
     }
     return marked + svg.substr(at);

@@ -8,6 +8,7 @@
 #include "render/ReportDocument.h"
 #include "render/ReportLines.h"
 #include "services/storage/ReadFile.h"
+#include "services/texts/LanguageCodes.h"
 #include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
@@ -102,8 +103,8 @@ std::string ReportHtml(const std::string& report, const ReportPaper& paper) {
     const bool rightToLeft = LanguageTexts().RightToLeft();
     const std::vector<std::string> lines = ReportLinesOf(report), texts = DisplayTexts(lines, rightToLeft);
     std::string html =
-        "<!DOCTYPE html>\n<html lang=\"" + ReportPaper::LanguageCode() + "\" dir=\"" + (rightToLeft ? "rtl" : "ltr") +
-        "\">\n<head>\n<meta charset=\"utf-8\">\n<title>" + Escaped(paper.Title) +
+        std::string("<!DOCTYPE html>\n<html lang=\"") + PublicLanguageCode(LanguageTexts().Current()) + "\" dir=\"" +
+        (rightToLeft ? "rtl" : "ltr") + "\">\n<head>\n<meta charset=\"utf-8\">\n<title>" + Escaped(paper.Title) +
         "</title>\n<meta name=\"author\" content=\"" + Escaped(paper.Author) +
         "\">\n<meta name=\"generator\" content=\"" + Escaped(ReportPaper::Maker()) +
         "\">\n<style>\n"

@@ -40,17 +40,6 @@ std::string ReportPaper::Maker() {
     return Text(160030_text) + " " + LanguageTexts().VersionText();
 }
 
-std::string ReportPaper::LanguageCode() {
-    switch (LanguageTexts().Current()) {
-        case Language::German:
-            return "de";
-        case Language::Arabic:
-            return "ar";
-        default:
-            return "en";
-    }
-}
-
 ReportPaper PaperInForce() {
     ReportPaper paper;
     const ProblemRow* problem = FindProblem(Session.ProblemType);

@@ -36,8 +36,6 @@ struct ReportPaper {
     static std::string PageText(const std::string& page, const std::string& pages);
     // Name and version of the program.
     static std::string Maker();
-    // "de", "en" or "ar".
-    static std::string LanguageCode();
 };
 
 // The paper of the project in force, without figures.

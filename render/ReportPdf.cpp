@@ -5,6 +5,7 @@
 #include "render/QtText.h"
 #include "render/RenderApplication.h"
 #include "render/ReportDocument.h"
+#include "services/texts/LanguageCodes.h"
 #include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
@@ -26,7 +27,7 @@ std::string ReportPdf(const std::string& report, const ReportPaper& paper) {
             details.Bookmarks.push_back({heading.Text, heading.Level, heading.Page, height * (1 - heading.Top)});
     }
     details.Author = paper.Author;
-    details.Language = ReportPaper::LanguageCode();
+    details.Language = PublicLanguageCode(LanguageTexts().Current());
     details.RightToLeft = LanguageTexts().RightToLeft();
     return WithDetails(buffer.data().toStdString(), details);
 }

@@ -1,15 +1,10 @@
 #include "study/GrowingFile.h"
 
-#include <cerrno>
-#include <cstdlib>
-#include <filesystem>
 #include <utility>
 
 #include "base/Failure.h"
 #include "services/SharedServices.h"
-#include "services/platform/Files.h"
 #include "services/platform/Process.h"
-#include "services/storage/WrittenFile.h"
 #include "study/StudyFailure.h"
 
 namespace lithmark {
@@ -18,43 +13,20 @@ namespace {
 
 constexpr std::size_t kBufferSize = std::size_t{1} << 18;
 
-}  // namespace
-
-GrowingFile::GrowingFile(const std::string& path) : path_(path), descriptor_(platform::kStandardOutput) {
-    if (path.empty()) return;
-    target_ = RealTarget(path);
-    platform::FileState state;
-    const bool exists = platform::StateOf(target_, state);
-    if (exists && !platform::MayWrite(target_)) FailHere(errno);
-    if (exists && state.What != platform::FileState::Kind::Regular) {
-        device_ = descriptor_ = platform::OpenFile(target_, platform::Open::Write);
-        if (descriptor_ < 0) FailHere(errno);
-        return;
-    }
-    const auto folder = std::filesystem::path(target_).parent_path().generic_string();
-    Told([&] { temporary_.emplace(folder.empty() || folder.ends_with('/') ? folder : folder + '/', path_); });
-    descriptor_ = temporary_->Descriptor();
-    if (exists) platform::SetPermissions(descriptor_, state.Permissions);
-}
-
-GrowingFile::~GrowingFile() {
-    if (device_ >= 0) platform::CloseFile(device_);
-}
-
+// Does a step; its failure becomes the study's.
 template <class Step>
-void GrowingFile::Told(const Step& step) const {
+void Told(const Step& step) {
     try {
         step();
     } catch (const Failure& failure) {
-        SharedServices().SetCurrentFile(path_);
         throw StudyFailure(StudyFailure::Cause::File, SharedServices().FailureText(failure));
     }
 }
 
-void GrowingFile::FailHere(int error) const {
-    if (path_.empty()) FailStudyFile(902001_text, {});
-    Told([&] { FailWithSystemError(error, FailureKind::WriteError); });
-    std::abort();  // never reached
+}  // namespace
+
+GrowingFile::GrowingFile(const std::string& path) {
+    if (!path.empty()) Told([&] { target_.emplace(path, OutputTarget::Takes::FileOrDevice); });
 }
 
 void GrowingFile::Append(std::string_view bytes) {
@@ -64,24 +36,22 @@ void GrowingFile::Append(std::string_view bytes) {
 
 void GrowingFile::Flush() {
     const std::string bytes = std::exchange(buffer_, {});
-    for (std::string_view rest = bytes; !rest.empty();) {
-        const std::int64_t written = platform::WriteTo(descriptor_, rest.data(), rest.size());
-        if (written < 0) FailHere(errno);
-        rest.remove_prefix(static_cast<std::size_t>(written));
-    }
+    if (target_)
+        Told([&] { target_->Write(bytes); });
+    else if (WriteAllTo(platform::kStandardOutput, bytes) != 0)
+        FailStudyFile(902001_text, {});
 }
 
 void GrowingFile::Settle() {
     Flush();
-    if (!temporary_ || temporary_->Name().empty()) return;
-    Told([&] { temporary_->TakePlaceOf(target_, path_); });
+    if (target_) Told([&] { target_->TakePlace(); });
 }
 
 void GrowingFile::Finish() {
     Flush();
-    if (temporary_ && platform::SyncFile(descriptor_) != 0) FailHere(errno);
+    if (target_) Told([&] { target_->Sync(); });
     Settle();
-    if (temporary_) SyncFolderOf(target_);
+    if (target_) target_->SyncFolder();
 }
 
 }  // namespace lithmark

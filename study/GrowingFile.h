@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "services/storage/TemporaryFile.h"
+#include "services/storage/OutputTarget.h"
 
 namespace lithmark {
 
@@ -15,10 +15,6 @@ class GrowingFile {
     // An empty path is standard output. A target that is no regular file is written directly. StudyFailure where the
     // target cannot be written.
     explicit GrowingFile(const std::string& path);
-    // What did not take its target's place is gone.
-    ~GrowingFile();
-    GrowingFile(const GrowingFile&) = delete;
-    GrowingFile& operator=(const GrowingFile&) = delete;
 
     void Append(std::string_view bytes);
     // What was appended so far is given to the system.
@@ -29,15 +25,8 @@ class GrowingFile {
     void Finish();
 
   private:
-    [[noreturn]] void FailHere(int error) const;
-
-    // Does a step; its failure becomes the study's.
-    template <class Step>
-    void Told(const Step& step) const;
-
-    std::string path_, target_, buffer_;
-    std::optional<TemporaryFile> temporary_;  // of a regular file
-    int descriptor_ = -1, device_ = -1;
+    std::string buffer_;
+    std::optional<OutputTarget> target_;  // none for standard output
 };
 
 }  // namespace lithmark

@@ -9,7 +9,6 @@ namespace {
 
 constexpr int kMostSublayers = 40;
 constexpr double kLeftMargin = 14;
-constexpr double kFarthest = 1.5;  // of half the load or the depth: a place farther out is cut
 
 }  // namespace
 

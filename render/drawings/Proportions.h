@@ -20,6 +20,9 @@ std::vector<DrawnLength> Proportions(std::initializer_list<double> values);
 // The greatest of lengths as drawn.
 double Longest(const std::vector<DrawnLength>& lengths);
 
+// Of half the load or the depth: a place farther out is cut.
+inline constexpr double kFarthest = 1.5;
+
 // A coordinate from the middle of something that is `half` as long on each side and drawn `drawnHalf` long: inside what
 // is drawn when it is inside, to scale beyond it, cut with a break beyond `most`.
 DrawnLength Coordinate(double value, double half, double drawnHalf, double most);

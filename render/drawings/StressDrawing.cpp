@@ -12,9 +12,6 @@ namespace lithmark {
 
 namespace {
 
-// Of half the block that load and depth call for: a place farther out is cut.
-constexpr double kFarthest = 1.5;
-
 struct View {
     Sketch& S;
     const Perspective& P;

@@ -1,7 +1,5 @@
 #include "services/storage/WrittenFile.h"
 
-#include <cerrno>
-#include <filesystem>
 #include <set>
 #include <system_error>
 #include <thread>
@@ -16,63 +14,10 @@ namespace {
 
 constexpr std::size_t kBufferSize = 1 << 16;
 
-// Writes all bytes, at an offset or, when it is negative, at the current place. The error's number, 0 for none.
-int WriteAll(int descriptor, std::string_view bytes, std::int64_t offset) {
-    while (!bytes.empty()) {
-        const std::int64_t written = offset < 0 ? platform::WriteTo(descriptor, bytes.data(), bytes.size())
-                                                : platform::WriteToAt(descriptor, bytes.data(), bytes.size(), offset);
-        if (written < 0) return errno;
-        bytes.remove_prefix(static_cast<std::size_t>(written));
-        if (offset >= 0) offset += written;
-    }
-    return 0;
-}
-
-// The folder that a path lies in, with its slash at the end; empty for the current one.
-std::string FolderOf(const std::string& path) {
-    const auto slash = path.rfind('/');
-    return slash == std::string::npos ? "" : path.substr(0, slash + 1);
-}
-
 }  // namespace
 
-std::string RealTarget(const std::string& path) {
-    std::error_code error;
-    if (!std::filesystem::is_symlink(path, error)) return path;
-    const auto real = std::filesystem::weakly_canonical(path, error);
-    return error ? path : real.generic_string();
-}
-
-WrittenFile::WrittenFile(const std::string& path, Target kind) : path_(path), target_(RealTarget(path)) {
-    using Kind = platform::FileState::Kind;
-    platform::FileState state;
-    if (platform::StateOf(target_, state)) {
-        if (state.What == Kind::Regular) {
-            if (!platform::MayWrite(target_)) FailToWrite(errno);
-            permissions_ = state.Permissions;
-        } else {
-            if (kind == Target::File || state.What == Kind::Folder) FailToWrite(EISDIR);
-            device_ = platform::OpenFile(target_, platform::Open::Write);
-            if (device_ < 0) FailToWrite(errno);
-            return;
-        }
-    } else if (errno != ENOENT) {
-        FailToWrite(errno);
-    }
-    temporary_ = std::make_unique<TemporaryFile>(FolderOf(target_), path_);
-    if (permissions_ != 0) platform::SetPermissions(temporary_->Descriptor(), permissions_);
-}
-
-WrittenFile::~WrittenFile() {
-    Drop();
-}
-
-void WrittenFile::FailToWrite(int error) const {
-    FailWithSystemError(error, FailureKind::WriteError, path_);
-}
-
-int WrittenFile::Descriptor() const noexcept {
-    return temporary_ ? temporary_->Descriptor() : device_;
+WrittenFile::WrittenFile(const std::string& path, Target kind) {
+    target_.emplace(path, kind);
 }
 
 void WrittenFile::Append(std::string_view bytes) {
@@ -80,50 +25,25 @@ void WrittenFile::Append(std::string_view bytes) {
     if (buffer_.size() >= kBufferSize) Flush();
 }
 
-void WrittenFile::WriteAt(std::int64_t offset, std::string_view bytes) {
-    if (const int error = WriteAll(Descriptor(), bytes, offset)) FailToWrite(error);
-}
-
 void WrittenFile::Flush() {
-    const std::string bytes = std::exchange(buffer_, {});
-    if (const int error = WriteAll(Descriptor(), bytes, -1)) FailToWrite(error);
+    target_->Write(std::exchange(buffer_, {}));
 }
 
 void WrittenFile::Sync() {
     Flush();
-    if (const int error = SyncError()) FailToWrite(error);
-}
-
-int WrittenFile::SyncError() const noexcept {
-    return !temporary_ || platform::SyncFile(temporary_->Descriptor()) == 0 ? 0 : errno;
-}
-
-void WrittenFile::Close() {
-    if (temporary_)
-        temporary_->Close(path_);
-    else if (platform::CloseFile(std::exchange(device_, -1)) != 0)
-        FailToWrite(errno);
-}
-
-// True when the file was put in place, and not written there directly.
-bool WrittenFile::TakePlace() {
-    if (!temporary_) return false;
-    temporary_->TakePlaceOf(target_, path_);
-    temporary_.reset();
-    return true;
+    target_->Sync();
 }
 
 void WrittenFile::Commit() {
-    bool placed = false;
     try {
         Sync();
-        Close();
-        placed = TakePlace();
+        target_->Close();
+        if (!target_->TakePlace()) return;
     } catch (...) {
         Drop();
         throw;
     }
-    if (placed) SyncFolderOf(target_);
+    target_->SyncFolder();
 }
 
 void WrittenFile::CommitTogether(std::span<const std::unique_ptr<WrittenFile>> files,
@@ -142,7 +62,7 @@ void WrittenFile::CommitTogether(std::span<const std::unique_ptr<WrittenFile>> f
         {
             std::vector<std::jthread> helpers;
             for (std::size_t i = 0; i < files.size(); ++i) {
-                const auto sync = [&, i] { errors[i] = files[i]->SyncError(); };
+                const auto sync = [&, i] { errors[i] = files[i]->target_->SyncError(); };
                 try {
                     helpers.emplace_back(sync);
                 } catch (const std::system_error&) {  // no thread to be had
@@ -151,34 +71,30 @@ void WrittenFile::CommitTogether(std::span<const std::unique_ptr<WrittenFile>> f
             }
         }
         each([&](std::size_t i) {
-            if (errors[i] != 0) files[i]->FailToWrite(errors[i]);
-            files[i]->Close();
+            if (errors[i] != 0) files[i]->target_->FailToWrite(errors[i]);
+            files[i]->target_->Close();
         });
         each([&](std::size_t i) {
-            if (files[i]->TakePlace()) folders.insert(FolderOf(files[i]->target_));
+            OutputTarget& target = *files[i]->target_;
+            if (target.TakePlace()) folders.insert(target.Folder());
         });
     } catch (...) {
         for (const auto& file : files) file->Drop();
-        for (const std::string& folder : folders) SyncFolderOf(folder);
+        for (const std::string& folder : folders) platform::SyncFolder(folder);
         throw;
     }
-    for (const std::string& folder : folders) SyncFolderOf(folder);
+    for (const std::string& folder : folders) platform::SyncFolder(folder);
 }
 
 void WrittenFile::Drop() noexcept {
     buffer_.clear();
-    temporary_.reset();
-    if (device_ >= 0) platform::CloseFile(std::exchange(device_, -1));
+    target_.reset();
 }
 
 void WriteWholeFile(const std::string& path, std::string_view content, WrittenFile::Target kind) {
     WrittenFile file(path, kind);
     file.Append(content);
     file.Commit();
-}
-
-void SyncFolderOf(const std::string& path) noexcept {
-    platform::SyncFolder(FolderOf(path));
 }
 
 }  // namespace lithmark

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "base/Utf8.h"
+#include "services/texts/LanguageCodes.h"
 #include "services/texts/LanguageTexts.h"
 
 namespace lithmark::tests {
@@ -155,6 +156,21 @@ TEST(LanguageTextsTest, HeadingOfAReportFitsItsLine) {
     }
     EXPECT_EQ(In(Language::English).VersionText(), LITHMARK_VERSION);
     EXPECT_FALSE(In(Language::English).AuthorsText().empty());
+}
+
+TEST(LanguageCodesTest, EveryLanguageHasACodeAndIsFoundByIt) {
+    for (const Language language : {Language::German, Language::English, Language::Arabic, Language::Ids})
+        EXPECT_EQ(LanguageOfCode(LanguageCode(language)), language);
+    EXPECT_STREQ(LanguageCode(Language::German), "de");
+    EXPECT_STREQ(LanguageCode(Language::Arabic), "ar");
+    EXPECT_STREQ(LanguageCode(Language::Ids), "ids");
+    EXPECT_EQ(LanguageOfCode("fr"), Language::English);
+    EXPECT_EQ(LanguageOfCode(""), Language::English);
+}
+
+TEST(LanguageCodesTest, NumbersForTextsAreEnglishToOthers) {
+    EXPECT_STREQ(PublicLanguageCode(Language::Ids), "en");
+    EXPECT_STREQ(PublicLanguageCode(Language::Arabic), "ar");
 }
 
 }  // namespace

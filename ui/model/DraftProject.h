@@ -1,28 +1,23 @@
 // DraftProject: what a dialog holds and has not saved, as a project that the command line can work on.
 #pragma once
 
-#include <deque>
 #include <string>
 #include <vector>
 
 #include "core/Session.h"
-#include "services/platform/RemovedOnEnd.h"
+#include "services/storage/TemporaryFolder.h"
 
 namespace lithmark {
 
-// A folder of the user's own in the system's place for temporary files, with a project file, an order file, a data file
-// and the settings in force. It goes with this object, and with a program that is asked to end; the open project is
+// A temporary folder with a project file, an order file, a data file and the settings in force. The open project is
 // neither read nor changed.
 class DraftProject {
   public:
     // Of a form's draft that is valid: ProblemForm::Draft().Record. Throws Failure where nothing can be written.
     explicit DraftProject(const SessionRecord& record);
-    ~DraftProject();
-    DraftProject(const DraftProject&) = delete;
-    DraftProject& operator=(const DraftProject&) = delete;
 
     // With its separator.
-    const std::string& Folder() const noexcept { return folder_; }
+    const std::string& Folder() const noexcept { return folder_.Path(); }
     // "Folder/Crane.PO3"
     const std::string& ProjectFile() const noexcept { return projectFile_; }
     // "--settings", the folder, "--lang", the language in force: what a command needs beside the project to print what
@@ -32,8 +27,8 @@ class DraftProject {
   private:
     void Write(const std::string& name, const std::vector<std::string>& lines);
 
-    std::string folder_, projectFile_;
-    std::deque<RemovedOnEnd> registered_;
+    TemporaryFolder folder_;
+    std::string projectFile_;
 };
 
 }  // namespace lithmark
