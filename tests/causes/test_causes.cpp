@@ -1,6 +1,5 @@
 // A calculation that fails names the input that it fails by: each input of each problem, set to nothing, to less and to
 // too much, one at a time.
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <map>
@@ -16,14 +15,12 @@
 #include "report/Causes.h"
 #include "services/SharedServices.h"
 #include "support/Files.h"
+#include "support/Matchers.h"
 #include "support/ScriptedHost.h"
 #include "support/TestSession.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::HasSubstr;
-using testing::IsEmpty;
 
 // What a report calls the fields.
 const std::map<std::string, std::string>& Names() {
@@ -255,7 +252,7 @@ TEST(CausesInOtherLanguages, AreToldOnceInTheLanguageOfTheReport) {
           {Language::Arabic, "توقف الحساب: قيمة معاير الانضغاط تساوي صفرًا."}}) {
         ScriptedHost host;
         FreshSession(language);
-        Session.ProblemType = 2;
+        Session.ProblemType = Problem::SoilStrain;
         SetProblemDefaults();
         Session.Es = 0;
         RunProblemKernel();

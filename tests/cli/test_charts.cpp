@@ -1,11 +1,9 @@
 // The commands chart and contour.
 #include "cli/CliCase.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::ElementsAre;
-using testing::HasSubstr;
 
 class CliCharts : public CliTest {
   protected:

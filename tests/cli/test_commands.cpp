@@ -2,12 +2,10 @@
 #include "cli/CliCase.h"
 #include "services/ProjectStore.h"
 #include "services/storage/ProjectArchive.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::ElementsAre;
-using testing::HasSubstr;
 
 class CliCommands : public CliTest {};
 

@@ -2,12 +2,11 @@
 #include <cstdlib>
 
 #include "cli/CliCase.h"
+#include "support/Matchers.h"
 #include "support/Places.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::HasSubstr;
 
 class CliFormats : public CliTest {};
 

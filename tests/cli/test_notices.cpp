@@ -2,15 +2,11 @@
 #include <set>
 
 #include "cli/CliCase.h"
+#include "support/Matchers.h"
 #include "support/Places.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::StartsWith;
 
 class CliNotices : public CliTest {};
 

@@ -8,14 +8,13 @@
 #include "files/ProjectFiles.h"
 #include "kernels/RunKernel.h"
 #include "services/SharedServices.h"
+#include "support/Matchers.h"
 #include "support/RunProject.h"
 #include "support/ScriptedHost.h"
 #include "support/TestSession.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::HasSubstr;
 
 const std::vector<std::string> kStress = {"Sigma_x",
                                           "Sigma_y",

@@ -4,12 +4,11 @@
 #include <set>
 
 #include "cli/CliCase.h"
+#include "support/Matchers.h"
 #include "support/Places.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::ElementsAre;
 
 class CliShow : public CliTest {
   protected:

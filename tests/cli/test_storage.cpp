@@ -7,15 +7,11 @@
 #include "cli/CliCase.h"
 #include "services/ProjectStore.h"
 #include "services/storage/ProjectArchive.h"
+#include "support/Matchers.h"
 #include "support/Places.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::Not;
 
 class CliStorage : public CliTest {};
 

@@ -3,15 +3,11 @@
 #include <set>
 
 #include "cli/StudyCliCase.h"
+#include "support/Matchers.h"
 #include "support/Places.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::ElementsAre;
-using testing::EndsWith;
-using testing::HasSubstr;
-using testing::StartsWith;
 
 TEST_F(CliStudy, EachRowIsTheReportOfItsValues) {
     const std::string project = Example("RectangularFooting");

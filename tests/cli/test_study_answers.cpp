@@ -3,13 +3,10 @@
 #include <cmath>
 
 #include "cli/StudyCliCase.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::StartsWith;
 
 class CliAnswers : public CliStudy {
   protected:

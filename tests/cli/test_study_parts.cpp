@@ -2,13 +2,11 @@
 #include <algorithm>
 
 #include "cli/StudyCliCase.h"
+#include "support/Matchers.h"
 #include "support/Places.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::ElementsAre;
-using testing::HasSubstr;
 
 class CliParts : public CliStudy {
   protected:

@@ -1,14 +1,10 @@
 // report --tables: the steps behind the result, behind the report or alone.
 #include "cli/CliCase.h"
+#include "support/Matchers.h"
 #include "support/Places.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::Not;
-using testing::StartsWith;
 
 class CliTables : public CliTest {};
 

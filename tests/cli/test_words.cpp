@@ -3,12 +3,10 @@
 
 #include "base/Utf8.h"
 #include "cli/CliCase.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::HasSubstr;
-using testing::Not;
 
 class CliWords : public CliTest {};
 

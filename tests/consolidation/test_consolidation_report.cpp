@@ -1,5 +1,4 @@
 // The report of the consolidation settlement: its rows, units and factors.
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -8,13 +7,12 @@
 #include "report/ToolLib.h"
 #include "support/Golden.h"
 #include "support/Lines.h"
+#include "support/Matchers.h"
 #include "support/ScriptedHost.h"
 #include "support/TestSession.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
 
 ConsolidationInput Example(int loadType, int soilPropertyType) {
     return {.x = 0,

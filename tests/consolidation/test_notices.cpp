@@ -1,5 +1,4 @@
 // Notices of the problems 4 and 5: what raises each, and what close by does not.
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -7,19 +6,18 @@
 #include "consolidation/RateCase.h"
 #include "kernels/consolidation/BasConsolidation.h"
 #include "report/Measured.h"
+#include "support/Matchers.h"
 #include "support/Raised.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::HasSubstr;
 
 class ConsolidationNotices : public testing::Test {
   protected:
     ConsolidationNotices() { FreshSession(); }
     // A circle of radius 5 m under 150 kN/m2 over 4 m of clay.
     void Settle(double x, double z, int soil, int loadType = 3) {
-        Session.ProblemType = 4;
+        Session.ProblemType = Problem::Consolidation;
         ComputeConsolidation(x, 0, z, 1000, 150, 5, 5, 4, 0.9, 50, 9, 0.2, 7000, loadType, soil);
         ASSERT_FALSE(Session.CalcAborted);
     }

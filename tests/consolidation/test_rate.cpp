@@ -1,15 +1,11 @@
 // Degree of consolidation: grid, step, rows and sums, by hand.
-
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "RateCase.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::ElementsAre;
-using testing::Pointwise;
 
 class Rate : public testing::Test {
   protected:

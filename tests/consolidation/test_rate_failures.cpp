@@ -1,18 +1,15 @@
 // Degree of consolidation: how a run ends that cannot be calculated. The pointer tells how far it came: a failure ahead
 // of the nodes leaves the arrow, one among the nodes the hourglass.
-
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <limits>
 
 #include "RateCase.h"
 #include "services/SharedServices.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::HasSubstr;
 
 class RateFailure : public testing::Test {
   protected:

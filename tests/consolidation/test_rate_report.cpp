@@ -1,17 +1,13 @@
 // The report of problem 5: rows by hand, and whole reports as goldens in three languages.
-
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "RateCase.h"
 #include "support/Golden.h"
 #include "support/Lines.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::ContainsRegex;
-using testing::Not;
 
 class RateReport : public testing::Test {
   protected:

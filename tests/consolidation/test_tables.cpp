@@ -15,7 +15,7 @@ class ConsolidationTables : public testing::Test {
   protected:
     ConsolidationTables() { FreshSession(); }
     static void Settle(int soil, int loadType) {
-        Session.ProblemType = 4;
+        Session.ProblemType = Problem::Consolidation;
         ComputeConsolidation(0, 0, 1, 1000, 150, 3, 4, 4, 0.9, 50, 9, 0.2, 7000, loadType, soil);
         ASSERT_FALSE(Session.CalcAborted);
     }

@@ -1,5 +1,4 @@
 // Ticks of axes, against what one would write at an axis by hand.
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -7,12 +6,10 @@
 
 #include "contour/AxisTicks.h"
 #include "services/texts/LanguageTexts.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 TEST(AxisTicksTest, StepsAreOneTwoOrFiveTimesAPowerOfTen) {
     EXPECT_THAT(RoundTicks(0, 20, 6).Places, ElementsAre(0, 5, 10, 15, 20));

@@ -1,5 +1,4 @@
 // What can be read off a chart: values at the cursor, jumps, marks and their difference.
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -8,11 +7,10 @@
 #include "contour/ChartTable.h"
 #include "services/SharedServices.h"
 #include "services/texts/LanguageTexts.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::HasSubstr;
 
 // Two curves over the time; at time 4 the load jumps.
 ChartArguments Load(const std::vector<std::vector<std::string>>& rows) {

@@ -118,7 +118,7 @@ TEST_F(ContourData, MissingAndDamagedFilesAreFailures) {
 }
 
 TEST_F(ContourData, ARunsOwnFilesGiveTheNodesOfTheRun) {
-    Session.ProblemType = 9;
+    Session.ProblemType = Problem::RaftDisplacement;
     Session.LoadType = 2;
     Session.Q = 20000;
     Session.A = Session.B = 6;

@@ -1,17 +1,15 @@
 // The curve sets against tables written down by hand from small results.
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "contour/CurveSets.h"
 #include "core/Units.h"
 #include "services/SharedServices.h"
 #include "support/Files.h"
+#include "support/Matchers.h"
 #include "support/TestSession.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::ElementsAre;
 
 using Rows = std::vector<std::vector<std::string>>;
 
@@ -62,7 +60,7 @@ class CurveSets : public testing::Test {
 
     // Two time units, one load step, at problem 6.
     void SetTimeProblem() {
-        Session.ProblemType = 6;
+        Session.ProblemType = Problem::TimeDirect;
         Session.TimeUnit = "months";
         Session.TimePeriod = 2;
         Session.NLoad = 1;
@@ -83,7 +81,7 @@ class CurveSets : public testing::Test {
     }
     // Three points along the middle row of a raft 6 m long.
     void SetRaft() {
-        Session.ProblemType = 9;
+        Session.ProblemType = Problem::RaftDisplacement;
         Session.LoadType = 2;
         Session.A = Session.A0 = 6;
         Session.RaftMidCount = 3;
@@ -221,7 +219,7 @@ TEST_F(CurveSets, Tab6FitsALineToTheShownSettlements) {
     EXPECT_THAT(FromOne(chart.LineStyles), ElementsAre(LineStyle::Points, LineStyle::LinesNoMarkers, LineStyle::Solid));
     const Rows header = HeaderOf(chart);
     EXPECT_EQ(header[header.size() - 2], (std::vector<std::string>{"x", "s", "sm", "sf"}));
-    Session.ProblemType = 10;
+    Session.ProblemType = Problem::RaftConsolidation;
     EXPECT_EQ(Chart("Tab6").ChartTitle, "Consolidation settlement");
 }
 
@@ -253,7 +251,7 @@ TEST_F(CurveSets, TheRangeOfARaftIsItsSideOrItsDiameter) {
 }
 
 TEST_F(CurveSets, Problem5HasOneFixedSetFromNodeZeroOn) {
-    Session.ProblemType = 5;
+    Session.ProblemType = Problem::ConsolidationRate;
     Session.IsoLast = 2;
     Fill(Session.IsoZ, 0, {0, 1, 2});
     Fill(Session.IsoU0, 0, {100, 100, 100});

@@ -1,5 +1,4 @@
 // The field of a raft's values: classes, regions, lines, extremes and sections, against geometry.
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <array>
@@ -14,12 +13,10 @@
 #include "core/StartSession.h"
 #include "services/SharedServices.h"
 #include "services/texts/LanguageTexts.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 class FieldTest : public testing::Test {
   protected:

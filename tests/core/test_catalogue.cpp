@@ -61,8 +61,8 @@ TEST(ProblemCatalogue, AnEntryLeadsToItsFirstProblem) {
 
 TEST(ProblemCatalogue, TheProblemInForceHasARowOrFails) {
     FreshSession();
-    Session.ProblemType = 7;
-    EXPECT_EQ(ProblemInForce().ProblemType, 7);
+    Session.ProblemType = Problem::TimeOedometer;
+    EXPECT_EQ(ProblemInForce().ProblemType, Problem::TimeOedometer);
     Session.ProblemType = 12;
     EXPECT_EQ(KindOf([] { ProblemInForce(); }), FailureKind::SubscriptRange);
 }
@@ -252,21 +252,21 @@ TEST(ProblemDefaults, OfAProblemOutsideTheCatalogueChangeNothing) {
 
 TEST(ProblemDefaults, AreTheNearestSingles) {
     FreshSession();
-    Session.ProblemType = 4;
+    Session.ProblemType = Problem::Consolidation;
     SetProblemDefaults();
     EXPECT_EQ(static_cast<double>(Session.Cc), 0.1599999964237213);
 }
 
 TEST(ProblemDefaults, OfARaftOnClayLeaveWhatItCalculatesWithAtZeroOnAFreshSession) {
     FreshSession();
-    Session.ProblemType = 10;
+    Session.ProblemType = Problem::RaftConsolidation;
     SetProblemDefaults();
     for (const Single& value : {Session.z, Session.eo, Session.Po, Session.Cc, Session.Gamma}) EXPECT_EQ(value, 0.0);
 }
 
 TEST(ProblemDefaults, TheTimeOfTheMeasurementIsTheThirdTimeOfTheLoadTable) {
     FreshSession();
-    Session.ProblemType = 7;
+    Session.ProblemType = Problem::TimeOedometer;
     SetProblemDefaults();
     EXPECT_EQ(Session.DesignCode, Session.LoadTime(3));
     EXPECT_EQ(Session.DesignCode, 4);
@@ -274,10 +274,10 @@ TEST(ProblemDefaults, TheTimeOfTheMeasurementIsTheThirdTimeOfTheLoadTable) {
 
 TEST(ProblemDefaults, WordsAreThoseOfTheLanguageInForce) {
     FreshSession(Language::German);
-    Session.ProblemType = 5;
+    Session.ProblemType = Problem::ConsolidationRate;
     SetProblemDefaults();
     EXPECT_EQ(Session.TimeUnit, "Jahre");
-    Session.ProblemType = 6;
+    Session.ProblemType = Problem::TimeDirect;
     SetProblemDefaults();
     EXPECT_EQ(Session.TimeUnit, "Tage");
     FreshSession();

@@ -47,7 +47,7 @@ TEST_F(SessionFieldsTest, ABadNameOrValueChangesNothing) {
 }
 
 TEST_F(SessionFieldsTest, ACountSizesItsTable) {
-    Session.ProblemType = 6;
+    Session.ProblemType = Problem::TimeDirect;
     SetProblemDefaults();
     EXPECT_EQ(SetSessionField("NLoad", "6"), SetFieldOutcome::Done);
     EXPECT_EQ(SetSessionField("LoadTime(6)", "15"), SetFieldOutcome::Done);

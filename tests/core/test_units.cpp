@@ -267,7 +267,7 @@ TEST_F(Units, ASessionStartsWithBaseUnitsDefaultsAndTheWordsOfTheLanguage) {
     EXPECT_EQ(Session.ProjectName, "");
     EXPECT_EQ(Session.WorkName, "Unbenannt");
     EXPECT_EQ(Session.SymbolSuffix, Text(123_text));
-    EXPECT_EQ(Session.ProblemType, 1);
+    EXPECT_EQ(Session.ProblemType, Problem::SoilStress);
     EXPECT_EQ(Session.Datum, TextTools().LongDateOfToday());
     EXPECT_EQ(Session.Len1Label + Session.Len2Label + Session.Force1Label + Session.Force2Label + Session.TempLabel,
               "[m][cm][kN][MN][°C]");

@@ -1,7 +1,5 @@
 // The answer beside the fields, on the real windows and by the real command line: what it shows, and that looking
 // changes nothing.
-#include <gmock/gmock.h>
-
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QLabel>
@@ -27,6 +25,7 @@
 #include "files/SettingsFiles.h"
 #include "kernels/RunKernel.h"
 #include "report/Notices.h"
+#include "support/Matchers.h"
 #include "support/Places.h"
 #include "ui/model/PictureForm.h"
 
@@ -34,10 +33,6 @@ namespace lithmark::tests {
 namespace {
 
 namespace fs = std::filesystem;
-using ::testing::Contains;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 
 constexpr Language kAll[] = {Language::German, Language::English, Language::Arabic};
 constexpr int kPatience = 60000;
@@ -310,7 +305,7 @@ TEST_F(AnswerTest, IsHiddenByAKeyAndRemembered) {
     });
     Open(kExamples[0], Language::English);
     for (const FormRow& row : AllForms()) {
-        if (row.ProblemType != 1 || !dynamic_cast<PictureForm*>(row.Make().get())) continue;
+        if (row.ProblemType != Problem::SoilStress || !dynamic_cast<PictureForm*>(row.Make().get())) continue;
         const auto form = row.Make();
         form->Reopen();
         form->Load();

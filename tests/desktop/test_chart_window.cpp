@@ -1,5 +1,4 @@
 // The chart window with real keys and the mouse: zoom, marks, curves shown and hidden, the ways out.
-#include <gmock/gmock.h>
 #include <qcustomplot.h>
 
 #include <QCheckBox>
@@ -15,12 +14,10 @@
 #include "desktop/ChartView.h"
 #include "desktop/ChartWindow.h"
 #include "kernels/RunKernel.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::HasSubstr;
-using ::testing::StartsWith;
 
 class ChartWindowTest : public ::testing::Test {
   protected:

@@ -1,6 +1,4 @@
 // The command line program beside the windows: its lines as they come, its end, and how it is ended.
-#include <gmock/gmock.h>
-
 #include <QElapsedTimer>
 #include <QTest>
 #include <filesystem>
@@ -8,15 +6,11 @@
 #include "../ui/FormTest.h"
 #include "core/Catalogue.h"
 #include "desktop/CliProcess.h"
+#include "support/Matchers.h"
 #include "ui/model/DraftProject.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::SizeIs;
 
 class CliProcessTest : public FormTest {
   protected:
@@ -27,7 +21,7 @@ class CliProcessTest : public FormTest {
         };
         process.OnErrorLine = [this](const std::string& line) { errorLines.push_back(line); };
         process.OnEnd = [this](const CliEnd& end) { ends.push_back(end); };
-        Session.ProblemType = 1;
+        Session.ProblemType = Problem::SoilStress;
         SetProblemDefaults();
     }
     void AwaitEnd(std::size_t ends_ = 1) {

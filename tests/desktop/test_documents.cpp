@@ -1,7 +1,5 @@
 // What documents have besides the report is chosen once, in the viewer, in the preview or where a document is saved;
 // the company's logo.
-#include <gmock/gmock.h>
-
 #include <QCheckBox>
 #include <QFileDialog>
 #include <QImage>
@@ -13,14 +11,11 @@
 #include "core/Catalogue.h"
 #include "render/ReportPaper.h"
 #include "report/Notices.h"
+#include "support/Matchers.h"
 #include "support/Places.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::Not;
 
 void ChooseFile(QWidget& dialog, const std::string& path) {
     auto& name = Child<QLineEdit>(dialog, "fileNameEdit");

@@ -1,6 +1,4 @@
 // The drawings beside the fields: they follow the values, keep their numbers inside, and lead to the boxes.
-#include <gmock/gmock.h>
-
 #include <QApplication>
 #include <QImage>
 #include <QLabel>
@@ -20,13 +18,11 @@
 #include "render/drawings/Inks.h"
 #include "render/drawings/Proportions.h"
 #include "render/drawings/Symbols.h"
+#include "support/Matchers.h"
 #include "ui/model/PictureForm.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::IsEmpty;
-using ::testing::Not;
 
 constexpr QSize kSize(380, 480);
 

@@ -1,6 +1,4 @@
 // What holds for the windows of all forms, and how keys and clicks reach the model.
-#include <gmock/gmock.h>
-
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -18,12 +16,11 @@
 #include "EveryWindow.h"
 #include "desktop/Sizes.h"
 #include "render/drawings/Drawings.h"
+#include "support/Matchers.h"
 #include "ui/model/FieldForm.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::IsEmpty;
 
 bool Holds(QLayout* layout, QWidget* widget) {
     if (layout == nullptr) return false;
@@ -254,7 +251,7 @@ TEST_F(StressViewTest, HidingThePictureMakesTheWindowNarrower) {
 // 1366 x 768 at 125 % leave less than this, with the widest words.
 TEST_F(StressViewTest, OnASmallScreenTheFieldsScrollAndTheButtonsStay) {
     StartIn(Language::German);
-    Session.ProblemType = 2;
+    Session.ProblemType = Problem::SoilStrain;
     Open();
     view_->resize(view_->width(), 320);
     QCoreApplication::processEvents();
@@ -277,7 +274,7 @@ TEST_F(StressViewTest, OnASmallScreenTheFieldsScrollAndTheButtonsStay) {
 }
 
 TEST_F(StressViewTest, FieldsThatComeIntoSightFindTheirRoom) {
-    Session.ProblemType = 2;
+    Session.ProblemType = Problem::SoilStrain;
     Open();
     Click("optLoadType(0)");
     QCoreApplication::processEvents();

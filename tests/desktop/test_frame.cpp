@@ -1,6 +1,4 @@
 // The frame's window: menu, bars, their layout, and its direction.
-#include <gmock/gmock.h>
-
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -12,13 +10,12 @@
 
 #include "ScreenRun.h"
 #include "desktop/SplashView.h"
+#include "support/Matchers.h"
 #include "ui/frmSplash.h"
 #include "ui/model/UnsavedTable.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::IsEmpty;
 
 class FrameViewTest : public ::testing::Test {
   protected:

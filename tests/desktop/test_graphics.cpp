@@ -1,7 +1,5 @@
 // Pictures in words: drawings, charts and plots are graphics with a name and a sentence from the data; so are the cells
 // of a table.
-#include <gmock/gmock.h>
-
 #include <QAccessible>
 #include <QTableWidget>
 
@@ -9,12 +7,10 @@
 #include "ScreenRun.h"
 #include "desktop/ContourView.h"
 #include "desktop/RowsChart.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 class GraphicTest : public EveryWindow {};
 

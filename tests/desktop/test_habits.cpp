@@ -1,7 +1,5 @@
 // The small habits of the windows: colours as the desktop asks for them, the splash, where the focus is, the list of
 // files, a report without a word processor.
-#include <gmock/gmock.h>
-
 #include <QDBusMessage>
 #include <QDBusVariant>
 #include <QDBusVirtualObject>
@@ -16,13 +14,12 @@
 #include "desktop/Palettes.h"
 #include "desktop/SplashView.h"
 #include "desktop/ThemeKeeper.h"
+#include "support/Matchers.h"
 #include "support/Variable.h"
 #include "ui/frmSplash.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::HasSubstr;
 
 // --- light and dark ---
 

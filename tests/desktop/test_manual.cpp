@@ -1,6 +1,4 @@
 // The manual in the program: F1 shows the page in the language, with its pictures, and every link leads somewhere.
-#include <gmock/gmock.h>
-
 #include <QMessageBox>
 #include <QTextBlock>
 #include <QTextBrowser>
@@ -11,6 +9,7 @@
 #include "ScreenRun.h"
 #include "desktop/ManualTopics.h"
 #include "desktop/ManualWindow.h"
+#include "support/Matchers.h"
 #include "support/Places.h"
 #include "support/Variable.h"
 #include "ui/frmConsolidation.h"
@@ -19,10 +18,6 @@
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::HasSubstr;
-using ::testing::Not;
-using ::testing::StartsWith;
 
 const std::filesystem::path kDocs = SourceDir() / "docs";
 
@@ -220,7 +215,7 @@ TEST_F(ExamplesOfTheManual, ALinkOpensACopy) {
 TEST_F(ExamplesOfTheManual, NoneIsOpenedUnderADialog) {
     ScreenRun run(settings_.Dir());
     run.Start();
-    Session.ProblemType = 1;
+    Session.ProblemType = Problem::SoilStress;
     run.In("frmstress", [&](QWidget& dialog) {
         run.In("manualWindow", [&](QWidget& manual) {
             run.In("messageBox", [](QWidget& box) {

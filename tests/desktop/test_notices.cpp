@@ -35,7 +35,7 @@ std::string SectionOf(QWidget& manual) {
 TEST_F(NoticesOnScreen, AClickOpensTheManualAtTheSection) {
     ScreenRun run(settings_.Dir());
     run.Start();
-    Session.ProblemType = 9;
+    Session.ProblemType = Problem::RaftDisplacement;
     Session.ResultText = "Report\r\n";
     std::string first, second;
     run.In("frmResultTools", [&](QWidget& viewer) {

@@ -27,7 +27,7 @@ class PaneTest : public FormTest {
 };
 
 TEST_F(PaneTest, OfADialogAreItsFieldsItsAnswerAndItsButtons) {
-    Session.ProblemType = 1;
+    Session.ProblemType = Problem::SoilStress;
     frmstress form;
     form.Load();
     FormView view(form, nullptr);
@@ -50,7 +50,7 @@ TEST_F(PaneTest, OfADialogAreItsFieldsItsAnswerAndItsButtons) {
 }
 
 TEST_F(PaneTest, OfTheResultsAreTheReportAndTheWaysOut) {
-    Session.ProblemType = 1;
+    Session.ProblemType = Problem::SoilStress;
     Session.ResultText = "Sigma_z = 1\r\n";
     frmResultTools form;
     form.Load();

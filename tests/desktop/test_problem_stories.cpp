@@ -1,7 +1,5 @@
 // Each problem from its menu entry to its report, curves and contours, on the real windows by keys and clicks: a new
 // project with the defaults, the same report as the command line's, saved, opened on another day, and the same again.
-#include <gmock/gmock.h>
-
 #include <QClipboard>
 #include <QComboBox>
 #include <QPlainTextEdit>
@@ -11,13 +9,11 @@
 
 #include "ScreenRun.h"
 #include "core/Catalogue.h"
+#include "support/Matchers.h"
 #include "support/Places.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::HasSubstr;
-using ::testing::StartsWith;
 
 struct Story {
     int Problem, Row;  // its row in the list of the project's problem

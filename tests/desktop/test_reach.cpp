@@ -1,7 +1,5 @@
 // By keyboard and in words: the names and roles of what a window shows, the way of the Tab key, keys that press
 // buttons, and what has the focus at first.
-#include <gmock/gmock.h>
-
 #include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
@@ -18,12 +16,10 @@
 
 #include "EveryWindow.h"
 #include "desktop/ManualTopics.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 class ReachTest : public EveryWindow {};
 
@@ -95,7 +91,7 @@ TEST_F(ReachTest, OptionsAreRadioButtonsAndTheSetOneIsChecked) {
 
 TEST_F(ReachTest, ABoxIsDescribedByItsSymbolItsUnitAndItsRange) {
     frmstress form;
-    Session.ProblemType = 2;
+    Session.ProblemType = Problem::SoilStrain;
     form.Load();
     FormView view(form, nullptr);
     const auto described = [&](const char* box) {
@@ -172,7 +168,7 @@ TEST_F(ReachTest, AGroupOfOptionsIsOneStopAndTheArrowsMoveInIt) {
         for (const auto& [array, count] : stops) EXPECT_EQ(count, 1) << name << ": " << array.toStdString();
     });
     StartIn(Language::English);
-    Session.ProblemType = 1;
+    Session.ProblemType = Problem::SoilStress;
     frmstress form;
     form.Load();
     FormView view(form, nullptr);
@@ -222,7 +218,7 @@ TEST_F(ReachTest, TheFirstNumberHasTheFocusAndIsSelected) {
 }
 
 TEST_F(ReachTest, KeysPressTheButtonsOfAProblem) {
-    Session.ProblemType = 1;
+    Session.ProblemType = Problem::SoilStress;
     frmstress form;
     form.Load();
     FormView view(form, nullptr);

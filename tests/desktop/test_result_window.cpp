@@ -1,6 +1,4 @@
 // What the result window has around the report: find, save as a document, a word that something was copied.
-#include <gmock/gmock.h>
-
 #include <QComboBox>
 #include <QFileDialog>
 #include <QPlainTextEdit>
@@ -8,19 +6,17 @@
 #include "ScreenRun.h"
 #include "report/Notices.h"
 #include "report/StepTables.h"
+#include "support/Matchers.h"
 #include "ui/frmResultTools.h"
 
 namespace lithmark::tests {
 namespace {
 
-using ::testing::HasSubstr;
-using ::testing::StartsWith;
-
 class ResultWindow : public ::testing::Test {
   protected:
     ResultWindow() : run_(folder_.Dir()) {
         run_.Start();
-        Session.ProblemType = 9;
+        Session.ProblemType = Problem::RaftDisplacement;
         Session.WorkDir = folder_.Dir();
         Session.WorkName = "Silo";
         Session.ResultText = "Sigma_z = 1\r\nTau = 2\r\nSigma_z = 3\r\n";

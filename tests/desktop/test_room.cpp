@@ -1,7 +1,5 @@
 // Windows on their screen: nothing outside, nothing cut, the fields scroll and the buttons stay. The screen is the one
 // that the test runs on: a large one, and one of 1366 x 768 at 125 % of which a bar takes its part (CMakeLists.txt).
-#include <gmock/gmock.h>
-
 #include <QApplication>
 #include <QComboBox>
 #include <QGroupBox>
@@ -19,11 +17,10 @@
 #include "desktop/Palettes.h"
 #include "desktop/ScreenRoom.h"
 #include "desktop/Sizes.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::IsEmpty;
 
 class RoomTest : public EveryWindow {};
 

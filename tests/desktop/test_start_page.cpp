@@ -1,6 +1,4 @@
 // The page without a project on the real window: cards, pins, examples, the room it takes; the status bar beside it.
-#include <gmock/gmock.h>
-
 #include <QComboBox>
 #include <QLabel>
 #include <QScrollArea>
@@ -12,12 +10,11 @@
 #include "ScreenRun.h"
 #include "desktop/Icons.h"
 #include "desktop/StartView.h"
+#include "support/Matchers.h"
 #include "support/Variable.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::HasSubstr;
 
 class StartPageView : public ::testing::Test {
   protected:
@@ -71,7 +68,7 @@ TEST_F(StartPageView, TheDrawingsLeaveTheSessionAsItIs) {
     auto& page = Child<StartView>(run.Window(), "startPage");
     EXPECT_TRUE(QTest::qWaitFor([&] { return page.Painted(); }, 20000));
     EXPECT_EQ(Session.P, 321);
-    EXPECT_EQ(Session.ProblemType, 1);
+    EXPECT_EQ(Session.ProblemType, Problem::SoilStress);
     EXPECT_EQ(Session.WorkName, "Untitled");
     EXPECT_EQ(table, &Session.LoadTime);
     // They are drawings, not blanks: in the place of the picture there are lines.

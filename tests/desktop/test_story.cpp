@@ -1,6 +1,4 @@
 // The way of a user from the start to the report and back to the saved project, on the real windows.
-#include <gmock/gmock.h>
-
 #include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
@@ -9,12 +7,10 @@
 #include <QRadioButton>
 
 #include "ScreenRun.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::HasSubstr;
-using ::testing::Not;
 
 // Boussinesq (1885) on the axis: 3 Q / (2 pi z^2) = 3 x 1000 / (2 pi x 4) = 119.37 kN/m2.
 constexpr const char* kStressOnTheAxis = "= 119.4";

@@ -3,14 +3,10 @@
 
 #include "files/ProjectFiles.h"
 #include "files/ProjectTest.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::Contains;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 
 class Damaged : public ProjectTest {
   protected:

@@ -2,13 +2,10 @@
 #include "core/SessionFields.h"
 #include "files/ProjectFiles.h"
 #include "files/ProjectTest.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 
 class ProblemData : public ProjectTest {};
 
@@ -134,7 +131,7 @@ TEST_F(ProblemData, AFileWrittenByOneMethodIsReadByAnother) {
     StartProblem(6);
     EXPECT_EQ(ReadProblemData(), ReadOutcome::Read);
     EXPECT_EQ(Session.OedSettlement(10), Single(1.5));
-    EXPECT_EQ(Session.ProblemType, 6);
+    EXPECT_EQ(Session.ProblemType, Problem::TimeDirect);
 }
 
 TEST_F(ProblemData, ATimeUnitOfAnotherLanguageIsTheSameUnitOfTheLanguageInForce) {

@@ -1,13 +1,10 @@
 // The project file .PO3 and the order file .AUF.
 #include "files/ProjectFiles.h"
 #include "files/ProjectTest.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 
 class ProjectFiles : public ProjectTest {
   protected:

@@ -1,19 +1,15 @@
 // What lists tell of a project without opening it.
-#include <gmock/gmock.h>
-
 #include <chrono>
 #include <filesystem>
 
 #include "files/ProjectGlance.h"
 #include "services/storage/ProjectArchive.h"
 #include "support/Files.h"
+#include "support/Matchers.h"
 #include "support/ScriptedHost.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 class GlanceTest : public ::testing::Test {
   protected:
@@ -42,7 +38,7 @@ TEST_F(GlanceTest, TellsProblemHeadingAndTheDayOfTheLastChange) {
     ChangedOn("Crane.RDE", 2026, 3, 2);
     const ProjectGlance glance = GlanceAt(File("Crane.PO3"));
     EXPECT_TRUE(glance.There);
-    EXPECT_EQ(glance.ProblemType, 9);
+    EXPECT_EQ(glance.ProblemType, Problem::RaftDisplacement);
     EXPECT_EQ(glance.Order, "GT-1");
     EXPECT_EQ(glance.Project, "Crane runway");
     EXPECT_EQ(glance.Changed, "2026-03-02");  // the day of the data, which changed last
@@ -56,7 +52,7 @@ TEST_F(GlanceTest, APackedProjectStaysPackedAndTellsTheSame) {
         BuildArchive("Silo", {{"PO3", "Version 9\r\n10\r\n0\r\n"}, {"AUF", "GT-2\r\n\r\nSilo\r\n"}, {"RCO", "1\r\n"}});
     WriteBytes(File("Silo.PO3"), archive);
     const ProjectGlance glance = GlanceAt(File("Silo.PO3"));
-    EXPECT_EQ(glance.ProblemType, 10);
+    EXPECT_EQ(glance.ProblemType, Problem::RaftConsolidation);
     EXPECT_EQ(glance.Order, "GT-2");
     EXPECT_EQ(glance.Project, "Silo");
     EXPECT_EQ(ReadBytes(File("Silo.PO3")), archive);
@@ -66,7 +62,7 @@ TEST_F(GlanceTest, APackedProjectStaysPackedAndTellsTheSame) {
 TEST_F(GlanceTest, WhatIsNotThereOrNoProjectIsLeftOut) {
     EXPECT_FALSE(GlanceAt(File("Gone.PO3")).There);
     WriteBytes(File("Bare.PO3"), "Version 9\r\n4\r\n0\r\n");
-    EXPECT_EQ(GlanceAt(File("Bare.PO3")).ProblemType, 4);
+    EXPECT_EQ(GlanceAt(File("Bare.PO3")).ProblemType, Problem::Consolidation);
     EXPECT_EQ(GlanceAt(File("Bare.PO3")).Order, "");
     for (const char* damaged : {"", "Version 9", "Version 9\r\nx\r\n", "Version 9\r\n99\r\n", "PK\x03\x04 broken"}) {
         WriteBytes(File("Bad.PO3"), damaged);

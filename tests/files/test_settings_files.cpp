@@ -2,13 +2,10 @@
 #include "core/Units.h"
 #include "files/ProjectTest.h"
 #include "files/SettingsFiles.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 
 class SettingsFiles : public ProjectTest {
   protected:

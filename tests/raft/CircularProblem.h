@@ -23,7 +23,7 @@ class CircularRaft : public testing::Test {
   protected:
     CircularRaft() {
         ResetSession();
-        Session.ProblemType = 9;
+        Session.ProblemType = Problem::RaftDisplacement;
         Session.LoadType = 3;
         Session.Nue = 0.25;
         Session.PrefND = 12;

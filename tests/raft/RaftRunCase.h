@@ -19,7 +19,7 @@ class RaftRunCase : public testing::Test {
         FreshSession(language);
         Session.WorkDir = folder_.Dir();
         Session.WorkName = "Raft1";
-        Session.ProblemType = 9;
+        Session.ProblemType = Problem::RaftDisplacement;
         Session.LoadType = 2;
         Session.Q = 7854;
         Session.A = Session.B = 5;

@@ -15,7 +15,7 @@ namespace {
 class CircularClay : public CircularRaft {
   protected:
     CircularClay() {
-        Session.ProblemType = 10;
+        Session.ProblemType = Problem::RaftConsolidation;
         Session.PrefND = 6;
         Input.SoilPropertyType = 2;
     }

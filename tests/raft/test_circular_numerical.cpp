@@ -48,7 +48,7 @@ TEST_F(CircularNumerical, ElasticLayerAgreesWithTheUnfoldedSystem) {
 
 // Mean stresses times h/Es; here z is the depth of the layer.
 TEST_F(CircularNumerical, ElasticClayAgreesWithTheUnfoldedSystem) {
-    Session.ProblemType = 10;
+    Session.ProblemType = Problem::RaftConsolidation;
     Input.SoilPropertyType = 1;
     Input.h = 3;
     for (double z : {0.0, 0.5})
@@ -182,13 +182,13 @@ TEST_F(CircularNumerical, SettlementsAreLinearInLoadAndModulus) {
 TEST_F(CircularNumerical, NoModulusFails) {
     Input.Es = 0;
     EXPECT_THROW(Calculate(), Failure);
-    Session.ProblemType = 10;
+    Session.ProblemType = Problem::RaftConsolidation;
     EXPECT_THROW(Calculate(), Failure);
 }
 
 // No mean stress over no depth.
 TEST_F(CircularNumerical, ClayOfNoThicknessFails) {
-    Session.ProblemType = 10;
+    Session.ProblemType = Problem::RaftConsolidation;
     Input.h = 0;
     EXPECT_THROW(Calculate(), Failure);
 }
@@ -218,7 +218,7 @@ TEST_F(CircularNumerical, FlexibleRaftOnTheHalfSpace) {
 
 // Clay by Es: the centre settles by its mean stress, which for a loaded circle is known, times h/Es.
 TEST_F(CircularNumerical, FlexibleRaftOnClayByEs) {
-    Session.ProblemType = 10;
+    Session.ProblemType = Problem::RaftConsolidation;
     Input.SoilPropertyType = 1;
     Session.PrefND = 24;
     for (double z : {0.0, 2.0}) {

@@ -85,7 +85,7 @@ TEST_F(CircularPunch, FirstRayForcesAreTheCentralPart) {
 TEST_F(CircularPunch, ClosedFormSettlement) {
     Calculate();
     for (int i = 1; i <= Session.NodeSettlement.Upper(); ++i) ASSERT_EQ(Session.NodeSettlement(i), Single(14.72625));
-    Session.ProblemType = 10;
+    Session.ProblemType = Problem::RaftConsolidation;
     Input.SoilPropertyType = 1;
     Calculate();
     for (int i = 1; i <= Session.NodeSettlement.Upper(); ++i) ASSERT_NEAR(Session.NodeSettlement(i), 15.708, 2e-6);
@@ -158,7 +158,7 @@ TEST_F(CircularPunch, TheLayerPlaysNoPartInProblem9) {
 class CircularPunchOnClay : public CircularPunch {
   protected:
     CircularPunchOnClay() {
-        Session.ProblemType = 10;
+        Session.ProblemType = Problem::RaftConsolidation;
         Input.SoilPropertyType = 2;
     }
 

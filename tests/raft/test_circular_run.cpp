@@ -31,7 +31,7 @@ class CircularRun : public testing::Test {
         Session.WorkDir = folder_.Dir();
         Session.WorkName = "Tank";
         Session.LoadType = 3;
-        Session.ProblemType = 9;
+        Session.ProblemType = Problem::RaftDisplacement;
         Session.Nue = 0.25;
         Session.PrefND = 4;
         Session.B = 3;
@@ -119,7 +119,7 @@ TEST_F(CircularRun, AnalyticalRunSetsZToNothing) {
 }
 
 TEST_F(CircularRun, AnalyticalClayLeavesTheLimitingDepth) {
-    Session.ProblemType = 10;
+    Session.ProblemType = Problem::RaftConsolidation;
     Session.SoilPropertyType = 2;
     Session.AnalysisType = true;
     Compute();

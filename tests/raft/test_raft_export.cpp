@@ -190,7 +190,7 @@ TEST_F(RaftExport, SoilOfTheHalfSpace) {
 
 // Deliberate: Poisson's ratio in the record becomes that of the soil file as the run ends and stays so.
 TEST_F(RaftExport, AnalyticalClaySetsPoissonsRatio) {
-    Session.ProblemType = 10;
+    Session.ProblemType = Problem::RaftConsolidation;
     Session.AnalysisType = true;
     Run();
     EXPECT_TRUE(HoldsRecords(Bytes("BAU"), SoilFile(0, 5000, {kNone}, 0, 30, 8.69f, 5)));
@@ -202,7 +202,7 @@ TEST_F(RaftExport, AnalyticalClaySetsPoissonsRatio) {
 }
 
 TEST_F(RaftExport, NumericalClayLeavesPoissonsRatio) {
-    Session.ProblemType = 10;
+    Session.ProblemType = Problem::RaftConsolidation;
     const Layer above{0.5f, 200000000, 200000000, 18, "G/ge", 30, 0, 0, 2};
     const Layer stiff{5, 5000, 5000, 18, "T/vi", 0, 30, 0, 2};
     Run();
@@ -227,7 +227,7 @@ TEST_F(RaftExport, LayerAboveTheGroundLeavesTheFirstLayerEmpty) {
     result.Input.z = -1;
     result.Input.h = 5;
     result.Input.Es = 5000;
-    Session.ProblemType = 10;
+    Session.ProblemType = Problem::RaftConsolidation;
     ExportRaft(result);
     const Layer clay{4, 5000, 5000, 18, "T/vi", 0, 30, 0, 2};
     EXPECT_TRUE(HoldsRecords(Bytes("BAU"), SoilFile(0.25f, 0, {kNone, clay}, 0, 0, 0, 0)));

@@ -1,5 +1,4 @@
 // Notices of the raft runs: what raises each, what close by does not, and the measures behind them.
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -11,12 +10,11 @@
 #include "raft/RaftProblem.h"
 #include "raft/RaftRunCase.h"
 #include "report/Measured.h"
+#include "support/Matchers.h"
 #include "support/Raised.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::HasSubstr;
 
 class RaftNotices : public RaftRunCase {
   protected:
@@ -28,7 +26,7 @@ class RaftNotices : public RaftRunCase {
     }
     // Clay by its modulus below the depth z.
     void OnClay(double z, int soil = 1) {
-        Session.ProblemType = 10;
+        Session.ProblemType = Problem::RaftConsolidation;
         Session.SoilPropertyType = soil;
         Session.z = z;
         Session.h = 5;
@@ -137,7 +135,7 @@ TEST_F(RaftNotices, ForcesThatDoNotBalanceTheLoadAreTold) {
     Session.Exz_x = 0;  // a central load is balanced
     Run();
     EXPECT_FALSE(Raised(NoticeId::RaftEquilibrium));
-    Session.ProblemType = 9;  // so is any load on an elastic layer
+    Session.ProblemType = Problem::RaftDisplacement;  // so is any load on an elastic layer
     Session.Exz_x = 1;
     Session.Exz_y = 0.5;
     Run();

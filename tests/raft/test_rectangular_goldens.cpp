@@ -1,5 +1,4 @@
 // Reports and export files of the rectangular raft as goldens, and the report row by row.
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -12,12 +11,10 @@
 #include "raft/RaftRunCase.h"
 #include "support/Golden.h"
 #include "support/Lines.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::HasSubstr;
-using testing::Not;
 
 struct RectangularCase {
     const char* name;
@@ -39,25 +36,25 @@ const RectangularCase kCases[] = {
      }},
     {"clay_modulus",
      [] {
-         Session.ProblemType = 10;
+         Session.ProblemType = Problem::RaftConsolidation;
          Session.z = 0.5;
      }},
     {"clay_thin",
      [] {
-         Session.ProblemType = 10;
+         Session.ProblemType = Problem::RaftConsolidation;
          Session.SoilPropertyType = 2;
          Session.h = 2;
          Session.Exz_x = 0.5;
      }},
     {"clay_thick",
      [] {
-         Session.ProblemType = 10;
+         Session.ProblemType = Problem::RaftConsolidation;
          Session.SoilPropertyType = 2;
          Session.h = 7;
      }},
     {"clay_punch",
      [] {
-         Session.ProblemType = 10;
+         Session.ProblemType = Problem::RaftConsolidation;
          Session.SoilPropertyType = 2;
          Session.AnalysisType = true;
      }},
@@ -115,7 +112,7 @@ TEST_F(GoldenRaftExport, OfTheElasticLayerStays) {
 }
 
 TEST_F(GoldenRaftExport, OfThickClayStays) {
-    Session.ProblemType = 10;
+    Session.ProblemType = Problem::RaftConsolidation;
     Session.SoilPropertyType = 2;
     Session.h = 7;
     Session.z = 0.25;
@@ -160,10 +157,10 @@ TEST_F(RaftReport, RowsOfEachProblem) {
     EXPECT_THAT(rows([] {}), testing::ElementsAre("T400186 Q", "T300076 e", "T400001 a", "T101 b", "T40052 h",
                                                   "T90029 Es", "T90004 Nue_s"));
     EXPECT_THAT(
-        rows([] { Session.ProblemType = 10; }),
+        rows([] { Session.ProblemType = Problem::RaftConsolidation; }),
         testing::ElementsAre("T400186 Q", "T300076 e", "T400001 a", "T101 b", "T90001(z) z", "T40052 h", "T90029 Es"));
     EXPECT_THAT(rows([] {
-                    Session.ProblemType = 10;
+                    Session.ProblemType = Problem::RaftConsolidation;
                     Session.SoilPropertyType = 2;
                 }),
                 testing::ElementsAre("T400186 Q", "T300076 e", "T400001 a", "T101 b", "T90001(z) z", "T40052 h",
@@ -184,7 +181,7 @@ TEST_F(RaftReport, TitlesTellTheAnalysis) {
     EXPECT_EQ(numerical[title + 4], "T140095");
     const std::vector<std::string> centre = Lines([] {
         Session.AnalysisType = true;
-        Session.ProblemType = 10;
+        Session.ProblemType = Problem::RaftConsolidation;
     });
     const std::size_t at = Position(centre, "T140190");
     EXPECT_EQ(centre[at + 1], "T300081 T300082");
@@ -233,7 +230,7 @@ TEST_F(RaftReport, TablesHoldTheMiddleRowAndAllNodes) {
     ASSERT_EQ(lines.size(), t2 + 35);
     EXPECT_EQ(lines.back(), "");
 
-    const std::vector<std::string> clay = Lines([] { Session.ProblemType = 10; });
+    const std::vector<std::string> clay = Lines([] { Session.ProblemType = Problem::RaftConsolidation; });
     EXPECT_EQ(clay[Position(clay, "T40079 T1") + 2], "T90098/ T400122/ T140186:");
     EXPECT_EQ(clay[Position(clay, "T40079 T2") + 2], "T90098/ T140186:");
     EXPECT_THAT(clay[Position(clay, "T40079 T1") + 4], HasSubstr("T40081"));
@@ -242,7 +239,7 @@ TEST_F(RaftReport, TablesHoldTheMiddleRowAndAllNodes) {
 // The limiting depth stands where the layer's thickness stood; the second eccentricity has no row.
 TEST_F(RaftReport, PrintsTheThicknessAfterTheRun) {
     const std::vector<std::string> lines = Lines([] {
-        Session.ProblemType = 10;
+        Session.ProblemType = Problem::RaftConsolidation;
         Session.SoilPropertyType = 2;
         Session.AnalysisType = true;
         Session.z = 3;
@@ -261,13 +258,13 @@ TEST_F(RaftReport, PrintsTheThicknessAfterTheRun) {
 // Lengths in feet, forces in tons: values and labels follow; unit weights keep their value.
 TEST_F(RaftReport, FollowsTheUnits) {
     Fresh();
-    Session.ProblemType = 10;
+    Session.ProblemType = Problem::RaftConsolidation;
     Session.SoilPropertyType = 2;
     Session.Exz_x = 0.5;
     Run();
     const double pressure = Session.RaftMidPressure(1), settlement = Session.RaftMidSettlement(1);
     Fresh();
-    Session.ProblemType = 10;
+    Session.ProblemType = Problem::RaftConsolidation;
     Session.SoilPropertyType = 2;
     Session.Exz_x = 0.5;
     Session.Len1Label = "[ft]";

@@ -59,7 +59,7 @@ TEST_F(RectangularRun, WritesTheElementSizesBack) {
 }
 
 TEST_F(RectangularRun, AnalyticalRunStartsAtTheSurface) {
-    Session.ProblemType = 10;
+    Session.ProblemType = Problem::RaftConsolidation;
     Session.z = 3;
     Session.AnalysisType = true;
     Run();
@@ -71,7 +71,7 @@ TEST_F(RectangularRun, AnalyticalRunStartsAtTheSurface) {
     EXPECT_EQ(Session.z, 0);
     EXPECT_GT(Session.h, 100);  // the limiting depth
     Fresh();
-    Session.ProblemType = 10;
+    Session.ProblemType = Problem::RaftConsolidation;
     Session.z = 0.5;
     Run();
     EXPECT_EQ(Session.z, 0.5);
@@ -102,7 +102,7 @@ TEST_F(RectangularRun, PointerShowsTheWork) {
 // A problem number or soil type that nothing is worked for leaves zeros, not what an earlier run had.
 TEST_F(RectangularRun, UnknownSoilTypeGivesZeros) {
     Run();
-    Session.ProblemType = 10;
+    Session.ProblemType = Problem::RaftConsolidation;
     Session.SoilPropertyType = 3;
     Run();
     for (const Single s : Session.NodeSettlement) EXPECT_EQ(s, 0);
@@ -173,14 +173,14 @@ TEST_F(FlexibleComparison, ElasticLayer) {
 }
 
 TEST_F(FlexibleComparison, UniformClay) {
-    Session.ProblemType = 10;
+    Session.ProblemType = Problem::RaftConsolidation;
     Session.z = 0.5;
     Run();
     Expect([&](int i) { return MeanStress(i, 0.5, 5.5) * 5 / 5000 * 100; });
 }
 
 TEST_F(FlexibleComparison, ThinClay) {
-    Session.ProblemType = 10;
+    Session.ProblemType = Problem::RaftConsolidation;
     Session.SoilPropertyType = 2;
     Session.h = 2;
     Run();
@@ -189,7 +189,7 @@ TEST_F(FlexibleComparison, ThinClay) {
 }
 
 TEST_F(FlexibleComparison, ThickClay) {
-    Session.ProblemType = 10;
+    Session.ProblemType = Problem::RaftConsolidation;
     Session.SoilPropertyType = 2;
     Session.h = 7;  // two sublayers
     Run();
@@ -204,7 +204,7 @@ TEST_F(FlexibleComparison, ThickClay) {
 }
 
 TEST_F(FlexibleComparison, AnalyticalClay) {
-    Session.ProblemType = 10;
+    Session.ProblemType = Problem::RaftConsolidation;
     Session.SoilPropertyType = 2;
     Session.AnalysisType = true;
     Session.PrefTol = 1;

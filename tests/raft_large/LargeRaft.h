@@ -22,7 +22,7 @@ class LargeRaft : public testing::Test {
         ResetSession();
         Notices().Clear();
         Session.Nue = 0.25;
-        Session.ProblemType = 9;
+        Session.ProblemType = Problem::RaftDisplacement;
         input_ = SquareRaft();
         input_.z = 0;
         input_.h = 3;

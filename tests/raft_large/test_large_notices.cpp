@@ -1,15 +1,12 @@
 // What whole runs of large rafts tell beside their reports: by which solver, and how well conditioned.
-#include <gmock/gmock.h>
-
 #include "kernels/raft/Conditioning.h"
 #include "kernels/raft/RaftRun.h"
 #include "raft/RaftRunCase.h"
+#include "support/Matchers.h"
 #include "support/Raised.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::HasSubstr;
 
 // 2501 nodes on 5 m of soil, in elements 5 cm wide and so many times as long. The longer they are, the more a force on
 // a node settles its neighbours across, as a point load, and the less itself.

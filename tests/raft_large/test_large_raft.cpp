@@ -34,7 +34,7 @@ TEST_F(LargeRaft, ElasticLayerAgreesWithTheInverse) {
 class LargeRaftOnClay : public LargeRaft, public testing::WithParamInterface<const char*> {
   protected:
     LargeRaftOnClay() {
-        Session.ProblemType = 10;
+        Session.ProblemType = Problem::RaftConsolidation;
         Session.PrefTol = 1e-4;
     }
     RaftSolver Solve() {

@@ -96,7 +96,7 @@ class EndedRaftRuns : public tests::RaftRunCase, public testing::WithParamInterf
 
 TEST_P(EndedRaftRuns, LeaveTheFormerResults) {
     Session.z = 1;  // on the clay of a notice
-    Session.ProblemType = 10;
+    Session.ProblemType = Problem::RaftConsolidation;
     Session.h = 0.5;
     Steps().SwitchOn(true);
     RunIt();

@@ -1,16 +1,14 @@
 // Every example gives its report, its curves and its documents in every language.
-
 #include "render/ChartDocument.h"
 #include "render/ContourDocument.h"
 #include "render/RenderCase.h"
 #include "render/ReportDocument.h"
 #include "services/ProjectStore.h"
 #include "support/Languages.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::HasSubstr;
 
 std::vector<std::string> ExampleNames() {
     std::vector<std::string> names;

@@ -14,11 +14,10 @@
 #include "render/ReportLines.h"
 #include "render/figures/ReportFigures.h"
 #include "support/Languages.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::HasSubstr;
 
 struct PlacedWord {
     int Page;

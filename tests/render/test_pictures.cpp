@@ -13,13 +13,13 @@
 #include "render/ContourDocument.h"
 #include "render/FieldDocument.h"
 #include "render/RenderCase.h"
+#include "support/Matchers.h"
 #include "support/Places.h"
 
 namespace lithmark::tests {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::HasSubstr;
 
 constexpr int kReferenceWidth = 200;
 constexpr double kTolerance = 1;  // mean difference of a colour, of 255

@@ -8,11 +8,10 @@
 #include "render/ReportDocument.h"
 #include "render/ReportLines.h"
 #include "support/Languages.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::HasSubstr;
 
 std::string WithoutIsolates(std::string text) {
     return ReplaceAll(ReplaceAll(text, "\u2066", ""), "\u2069", "");

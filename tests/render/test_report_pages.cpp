@@ -5,11 +5,10 @@
 #include "render/DisplayLines.h"
 #include "render/RenderCase.h"
 #include "render/ReportLines.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::ElementsAre;
 
 class ReportPages : public RenderTest {};
 

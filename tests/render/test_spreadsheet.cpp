@@ -6,12 +6,10 @@
 #include "base/NumberText.h"
 #include "render/ChartDocument.h"
 #include "render/RenderCase.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::HasSubstr;
-using testing::Not;
 
 // The parts of a workbook by name, read with the archive library's own checks.
 std::map<std::string, std::string> PartsOf(const std::string& bytes) {

@@ -1,5 +1,4 @@
 // What stands behind a report: the box of notices and the tables for a check by hand, as text.
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <string>
@@ -9,14 +8,12 @@
 #include "report/Notices.h"
 #include "report/ToolLib.h"
 #include "support/Lines.h"
+#include "support/Matchers.h"
 #include "support/StepsOn.h"
 #include "support/TestSession.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::ElementsAre;
-using testing::HasSubstr;
 
 class AfterReport : public testing::Test {
   protected:

@@ -1,15 +1,13 @@
 // The heading block of a report, and lines of text.
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "report/ToolLib.h"
 #include "support/Lines.h"
+#include "support/Matchers.h"
 #include "support/TestSession.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::ElementsAre;
 
 class Heading : public testing::Test {
   protected:

@@ -1,5 +1,4 @@
 // The board of notices: ids, order, sentences, languages, and measured values as words.
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -11,6 +10,7 @@
 #include "report/Measured.h"
 #include "services/SharedServices.h"
 #include "support/Files.h"
+#include "support/Matchers.h"
 #include "support/Places.h"
 #include "support/Raised.h"
 #include "support/ScriptedHost.h"
@@ -18,8 +18,6 @@
 
 namespace lithmark::tests {
 namespace {
-
-using testing::HasSubstr;
 
 class NoticesTest : public testing::Test {
   protected:

@@ -1,15 +1,13 @@
 // The parameter block of a report: label, symbol, unit, "=", value.
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "report/ToolLib.h"
 #include "support/Lines.h"
+#include "support/Matchers.h"
 #include "support/TestSession.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::ElementsAre;
 
 class Parameters : public testing::Test {
   protected:

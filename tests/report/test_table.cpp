@@ -1,16 +1,14 @@
 // Tables of a report: header rows, widths, gaps, rulers, cells.
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "report/ToolLib.h"
 #include "support/Files.h"
 #include "support/Lines.h"
+#include "support/Matchers.h"
 #include "support/TestSession.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::ElementsAre;
 
 class Table : public testing::Test {
   protected:

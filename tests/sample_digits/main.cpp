@@ -14,7 +14,7 @@
 int main(int argc, char** argv) {
     using namespace lithmark;
     StartSession();
-    Session.ProblemType = 4;
+    Session.ProblemType = Problem::Consolidation;
     SetProblemDefaults();
     StudyRequest request;
     request.Random = {"Es=lognormal:5000:30%", "P=normal:150:10%:100:200",  "h=triangular:3:5:9",

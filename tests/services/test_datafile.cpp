@@ -1,4 +1,3 @@
-#include <gmock/gmock.h>
 #include <unistd.h>
 
 #include <bit>
@@ -9,11 +8,10 @@
 #include "services/storage/WrittenFile.h"
 #include "services/texts/LanguageTexts.h"
 #include "support/Files.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
 
 class DataFile : public ::testing::Test {
   protected:

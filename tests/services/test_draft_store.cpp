@@ -1,16 +1,14 @@
 // Drafts on the disk: what was kept comes back, and nothing else is taken for it.
-#include <gmock/gmock.h>
 #include <sys/stat.h>
 
 #include <string>
 
 #include "services/storage/DraftStore.h"
 #include "support/Files.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::SizeIs;
 
 class DraftStoreTest : public ::testing::Test {
   protected:

@@ -1,5 +1,4 @@
 // A project is open in one program at a time.
-#include <gmock/gmock.h>
 #include <unistd.h>
 
 #include <memory>
@@ -9,16 +8,12 @@
 #include "services/storage/TemporaryFile.h"
 #include "services/texts/LanguageTexts.h"
 #include "support/Files.h"
+#include "support/Matchers.h"
 #include "support/OtherProcess.h"
 #include "support/ScriptedHost.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::SizeIs;
 
 class ProjectLockTest : public ::testing::Test {
   protected:

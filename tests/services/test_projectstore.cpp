@@ -1,4 +1,3 @@
-#include <gmock/gmock.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -11,15 +10,11 @@
 #include "services/storage/ProjectArchive.h"
 #include "services/texts/LanguageTexts.h"
 #include "support/Files.h"
+#include "support/Matchers.h"
 #include "support/ScriptedHost.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::SizeIs;
 
 using Files = std::map<std::string, std::string>;  // by name
 

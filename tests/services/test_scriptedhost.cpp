@@ -1,13 +1,11 @@
 // The tests' own host: its promises hold, so that a story in a test can be trusted.
-#include <gmock/gmock.h>
 #include <gtest/gtest-spi.h>
 
+#include "support/Matchers.h"
 #include "support/ScriptedHost.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
 
 struct DemoForm : Form {
     DemoForm() : Form("frmDemo") {

@@ -1,16 +1,9 @@
 // Directories, units, company lines, language, and the store behind them.
-#include <gmock/gmock.h>
-
 #include "services/ServicesTest.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::AllOf;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::SizeIs;
 
 class Settings : public ServicesTest {};
 

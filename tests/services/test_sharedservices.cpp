@@ -1,17 +1,11 @@
-#include <gmock/gmock.h>
 
 #include "services/ServicesTest.h"
 #include "services/storage/DataFile.h"
 #include "support/Languages.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::AllOf;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::Not;
-using ::testing::SizeIs;
 
 class Services : public ServicesTest {};
 

@@ -1,6 +1,4 @@
 // ListTools, TextTools, FileTools and the command line's host.
-#include <gmock/gmock.h>
-
 #include <csignal>
 
 #include "services/FileTools.h"
@@ -9,14 +7,10 @@
 #include "services/TextTools.h"
 #include "services/host/ConsoleHost.h"
 #include "support/Languages.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::SizeIs;
 
 class Tools : public ServicesTest {
   protected:

@@ -1,5 +1,4 @@
 // Notices of the stress runs: what raises each, what close by does not, and the measured values in them.
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -7,6 +6,7 @@
 #include "kernels/elastic/CircleIntegral.h"
 #include "report/Measured.h"
 #include "stress/StressCase.h"
+#include "support/Matchers.h"
 #include "support/Pi.h"
 #include "support/Raised.h"
 #include "support/ScriptedHost.h"
@@ -14,8 +14,6 @@
 
 namespace lithmark::tests {
 namespace {
-
-using testing::HasSubstr;
 
 class StressNotices : public testing::Test {
   protected:

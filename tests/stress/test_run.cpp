@@ -1,5 +1,4 @@
 // A whole run of the stress kernel: pointer, failure, flags, and the rows of its report.
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <string>
@@ -11,17 +10,12 @@
 #include "report/ToolLib.h"
 #include "stress/StressCase.h"
 #include "support/Lines.h"
+#include "support/Matchers.h"
 #include "support/ScriptedHost.h"
 #include "support/TestSession.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::ElementsAre;
-using testing::ElementsAreArray;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::Not;
 
 class StressRun : public testing::Test {
   protected:
@@ -68,7 +62,7 @@ TEST_F(StressRun, CopiesAToTheRadius) {
 
 // Also for the stress problem, which does not show the modulus.
 TEST_F(StressRun, OnAFailureTellsItOnceAndKeepsHourglassAndEarlierReport) {
-    Session.ProblemType = 1;
+    Session.ProblemType = Problem::SoilStress;
     Run(PointLoadAt(1, 1, 1, 0.3, 0));
     EXPECT_TRUE(Session.CalcAborted);
     EXPECT_EQ(host_.Messages.size(), 1u);
@@ -99,7 +93,7 @@ TEST_F(StressRun, EndsEveryLineOfItsReportWithCrLf) {
 }
 
 TEST_F(StressRun, PrintsStressesWithoutTheModulusAndPBeforeQ) {
-    Session.ProblemType = 1;
+    Session.ProblemType = Problem::SoilStress;
     Run(RectangleAt(1, 1, 1, 4, 3));
     const std::vector<std::string> expected = {"",
                                                "T<400174>",
@@ -134,7 +128,7 @@ TEST_F(StressRun, PrintsStressesWithoutTheModulusAndPBeforeQ) {
 }
 
 TEST_F(StressRun, PrintsStrainsWithTheModulusAheadOfPoissonsRatio) {
-    Session.ProblemType = 2;
+    Session.ProblemType = Problem::SoilStrain;
     Run(CircleAt(1, 1, 1, 3));
     const std::vector<std::string> expected = {"",
                                                "T<400179>",
@@ -169,7 +163,7 @@ TEST_F(StressRun, PrintsStrainsWithTheModulusAheadOfPoissonsRatio) {
 }
 
 TEST_F(StressRun, PrintsDisplacementsAndTheSettlement) {
-    Session.ProblemType = 3;
+    Session.ProblemType = Problem::SoilDisplacement;
     Run(PointLoadAt(1, 1, 1));
     const std::vector<std::string> expected = {"",          "T<400172>",      Ruler(),
                                                "",  //
@@ -209,7 +203,7 @@ TEST_F(StressRun, WithAnUnknownLoadTypePrintsNeitherTitleNorLoad) {
 }
 
 TEST_F(StressRun, OfAnotherProblemPrintsNeitherTitleNorResults) {
-    Session.ProblemType = 4;
+    Session.ProblemType = Problem::Consolidation;
     Run(RectangleAt(1, 1, 1, 4, 3));
     const std::vector<std::string> rows = Rows();
     EXPECT_EQ(rows[1], Ruler());
@@ -235,7 +229,7 @@ TEST_F(StressRun, ConvertsToTheUnitsInForce) {
 
 // Deliberate: another small length unit changes the label of a displacement and not its number.
 TEST_F(StressRun, PrintsDisplacementsInCentimetresWithAnyLabel) {
-    Session.ProblemType = 3;
+    Session.ProblemType = Problem::SoilDisplacement;
     Run(PointLoadAt(1, 2, 3));
     const std::string centimetres = Line("T<40081>");
     ASSERT_THAT(centimetres, HasSubstr("[cm]"));

@@ -10,12 +10,10 @@
 
 #include "study/OrderedRows.h"
 #include "study/StudyProblem.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::ElementsAre;
-using testing::HasSubstr;
 
 // Clay of many thin sublayers under a circle of 32401 nodes: problem 4 takes seconds for it.
 RowInput LongRow() {

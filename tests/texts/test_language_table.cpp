@@ -1,5 +1,4 @@
 // What must hold for every row of the language table.
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -9,12 +8,11 @@
 
 #include "base/Utf8.h"
 #include "support/Languages.h"
+#include "support/Matchers.h"
 #include "texts/LanguageTable.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::IsEmpty;
 
 bool IsArabicLetter(char32_t c) {
     return c >= 0x0620 && c <= 0x064A;

@@ -1,5 +1,4 @@
 // The mnemonic marks "&" of buttons and menu entries.
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <map>
@@ -8,12 +7,11 @@
 
 #include "base/Utf8.h"
 #include "support/Languages.h"
+#include "support/Matchers.h"
 #include "texts/LanguageTable.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::IsEmpty;
 
 std::size_t Marks(std::string_view text) {
     std::size_t count = 0;

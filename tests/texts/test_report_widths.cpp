@@ -1,5 +1,4 @@
 // Reports have lines of 60 characters: the labels, titles and table heads that go into them are measured here.
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -10,12 +9,11 @@
 
 #include "base/Utf8.h"
 #include "support/Languages.h"
+#include "support/Matchers.h"
 #include "texts/LanguageTable.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::IsEmpty;
 
 constexpr std::size_t kLine = 60;
 constexpr std::size_t kLongestLabel = 38;

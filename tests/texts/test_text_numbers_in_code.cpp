@@ -1,5 +1,4 @@
 // The numbers that the code uses and the numbers of the table must be the same.
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -10,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "support/Matchers.h"
 #include "support/Places.h"
 #include "texts/LanguageTable.h"
 
@@ -17,7 +17,6 @@ namespace lithmark::tests {
 namespace {
 
 namespace fs = std::filesystem;
-using ::testing::IsEmpty;
 
 constexpr const char* kFloors[] = {"base",    "texts", "services", "core",   "files",   "report", "kernels",
                                    "contour", "ui",    "study",    "render", "desktop", "cli"};

@@ -1,15 +1,11 @@
 // How a run ends that cannot be calculated: with a message of its own, or in the shared failure routine. A failure
 // ahead of the report leaves the hourglass.
-
-#include <gmock/gmock.h>
-
 #include "TimeCase.h"
 #include "services/SharedServices.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::HasSubstr;
 
 class TimeFailure : public TimeSettlementTest {
   protected:

@@ -1,14 +1,11 @@
 // Notices of the problems 6 to 8: what raises each, and what close by does not.
-#include <gmock/gmock.h>
-
 #include "report/Measured.h"
+#include "support/Matchers.h"
 #include "support/Raised.h"
 #include "timesettlement/TimeCase.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::HasSubstr;
 
 class HistoryNotices : public TimeSettlementTest {};
 

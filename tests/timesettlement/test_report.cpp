@@ -1,20 +1,13 @@
 // The report of problems 6 to 8: rows and cells by hand, and whole reports as goldens in three languages.
-
-#include <gmock/gmock.h>
-
 #include <algorithm>
 
 #include "TimeCase.h"
 #include "support/Golden.h"
 #include "support/Lines.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using testing::Contains;
-using testing::ContainsRegex;
-using testing::HasSubstr;
-using testing::Not;
 
 class TimeReport : public TimeSettlementTest {
   protected:

@@ -6,12 +6,10 @@
 #include "AllForms.h"
 #include "FormTest.h"
 #include "core/SessionFields.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::IsEmpty;
-using ::testing::Not;
 
 class EveryForm : public FormTest {
   protected:

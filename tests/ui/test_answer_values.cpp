@@ -1,8 +1,7 @@
 // What an answer says of numbers, and which commands it needs.
-#include <gmock/gmock.h>
-
 #include "FormTest.h"
 #include "core/Catalogue.h"
+#include "support/Matchers.h"
 #include "ui/answer/AnswerRun.h"
 #include "ui/answer/RaftPlane.h"
 #include "ui/answer/RaftSize.h"
@@ -10,11 +9,6 @@
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::Contains;
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
-using ::testing::SizeIs;
 
 class AnswerValuesTest : public FormTest {
   protected:
@@ -66,7 +60,7 @@ TEST_F(AnswerValuesTest, TheTiltIsTheGreatestSlope) {
 }
 
 TEST_F(AnswerValuesTest, ARaftHasTheNodesOfItsMesh) {
-    Session.ProblemType = 9;
+    Session.ProblemType = Problem::RaftDisplacement;
     SetProblemDefaults();
     Session.LoadType = LoadShape::Rectangle;
     Session.A = 10;
@@ -77,7 +71,7 @@ TEST_F(AnswerValuesTest, ARaftHasTheNodesOfItsMesh) {
     Session.LoadType = LoadShape::Rectangle;
     Session.PrefDx = 0;
     EXPECT_EQ(SizeOf(Session).Nodes, 0);
-    Session.ProblemType = 1;
+    Session.ProblemType = Problem::SoilStress;
     EXPECT_EQ(SizeOf(Session).Nodes, 0);
 }
 
@@ -95,7 +89,7 @@ TEST_F(AnswerValuesTest, TheReportComesFirst) {
 
 // A row without a value parts the line there, and the point itself is among the rows.
 TEST_F(AnswerValuesTest, AGapIsNeverBridged) {
-    Session.ProblemType = 1;
+    Session.ProblemType = Problem::SoilStress;
     SetProblemDefaults();
     Session.z = 2;
     CommandOutput report{.Numbers = {{"Sigma_z", 30}}}, study;

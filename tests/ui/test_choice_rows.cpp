@@ -4,13 +4,11 @@
 #include <string>
 
 #include "FormTest.h"
+#include "support/Matchers.h"
 #include "ui/frmstress.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 using R = SessionRecord;
 
@@ -162,7 +160,7 @@ TEST_F(ChoiceRows, BoxesThatAreNotShownAnewStandForWhatTheyWereShownFrom) {
     struct KeepingForm : frmstress {
         void ShowOpened() override {}
     };
-    Session.ProblemType = 2;
+    Session.ProblemType = Problem::SoilStrain;
     WriteBytes(DataFile("P1.SSD"), Lines({"1", "1", "3.3333", "900", "12", "3", "1", ".3", "12345.6", "2"}));
     WriteBytes(DataFile("Other.SSD"), Lines({"1", "1", "4", "900", "12", "3", "1", ".3", "12345.6", "2"}));
     SetProblemSaved(2, true);

@@ -10,6 +10,7 @@
 #include "core/Catalogue.h"
 #include "core/Units.h"
 #include "services/storage/ProjectLock.h"
+#include "support/Matchers.h"
 #include "support/OtherProcess.h"
 #include "support/Places.h"
 #include "ui/model/DraftProject.h"
@@ -19,8 +20,6 @@ namespace lithmark::tests {
 namespace {
 
 namespace fs = std::filesystem;
-using ::testing::IsEmpty;
-using ::testing::SizeIs;
 
 class DraftProjectTest : public FormTest {
   protected:
@@ -110,7 +109,7 @@ TEST_F(DraftProjectTest, IsTheUsersOwnAndGoesWithItsOwner) {
 }
 
 TEST_F(DraftProjectTest, GoesWithAProgramThatIsAskedToEnd) {
-    Session.ProblemType = 1;
+    Session.ProblemType = Problem::SoilStress;
     const std::string told = DataFile("told");
     OtherProcess program([&] {
         EndCleanlyOnSignals();
@@ -123,7 +122,7 @@ TEST_F(DraftProjectTest, GoesWithAProgramThatIsAskedToEnd) {
 }
 
 TEST_F(DraftProjectTest, AFolderThatCannotBeMadeIsAFailure) {
-    Session.ProblemType = 1;
+    Session.ProblemType = Problem::SoilStress;
     const char* was = std::getenv("TMPDIR");
     const std::string before = was ? was : "";
     ::setenv("TMPDIR", DataFile("missing").c_str(), 1);

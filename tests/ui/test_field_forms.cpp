@@ -3,14 +3,11 @@
 #include <string>
 
 #include "FormTest.h"
+#include "support/Matchers.h"
 #include "ui/model/FieldForm.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::StartsWith;
 
 using R = SessionRecord;
 

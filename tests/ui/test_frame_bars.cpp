@@ -3,12 +3,10 @@
 #include <string>
 
 #include "FrameTest.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 class FrameBars : public FrameTest {
   protected:

@@ -3,13 +3,10 @@
 #include <string>
 
 #include "FrameTest.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 
 class FrameFiles : public FrameTest {
   protected:
@@ -80,7 +77,7 @@ TEST_F(FrameFiles, SaveAsCopiesTheProjectFileAlwaysAndTheHeadingIfThereIsOne) {
         OpenByDialog("P1.PO3");
         OpenByDialog(name + ".PO3");
         EXPECT_EQ(Session.ProjectName, name);
-        EXPECT_EQ(Session.ProblemType, 7);
+        EXPECT_EQ(Session.ProblemType, Problem::TimeOedometer);
         EXPECT_EQ(TickedProblems(), heading ? std::vector<int>({0, 6}) : std::vector<int>({6}));
     }
     EXPECT_THAT(host.Messages, IsEmpty());

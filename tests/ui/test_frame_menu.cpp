@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "FrameTest.h"
+#include "support/Matchers.h"
 #include "ui/frmAbout.h"
 #include "ui/frmDataDir.h"
 #include "ui/frmNumberFormats.h"
@@ -13,9 +14,6 @@
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 class FrameMenu : public FrameTest {
   protected:

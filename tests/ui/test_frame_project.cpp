@@ -3,14 +3,11 @@
 #include <string>
 
 #include "FrameTest.h"
+#include "support/Matchers.h"
 #include "ui/frmstress.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 
 class FrameProject : public FrameTest {
   protected:
@@ -57,7 +54,7 @@ TEST_F(FrameProject, FromNewThroughSaveToReopening) {
     next.SetClock([this] { return now; });
     next.Start(DataFile("Halle.PO3"));
     EXPECT_EQ(next.Caption, "Lithmark - [Halle]");
-    EXPECT_EQ(Session.ProblemType, 2);
+    EXPECT_EQ(Session.ProblemType, Problem::SoilStrain);
     EXPECT_EQ(Session.Auftr, "A 17");
     EXPECT_EQ(Session.Proj, "Halle");
     host.OnForm<frmstress>([](frmstress& form) { EXPECT_EQ(form.txt_z.Text, "2.50"); });
@@ -117,7 +114,7 @@ TEST_F(FrameProject, ANewProjectLeavesTheOldOnePlain) {
 
 TEST_F(FrameProject, OpeningReadsTheProblemAndTheHeading) {
     OpenStressProject("P1");
-    EXPECT_EQ(Session.ProblemType, 1);
+    EXPECT_EQ(Session.ProblemType, Problem::SoilStress);
     EXPECT_EQ(Session.Auftr, "Order P1");
     EXPECT_EQ(Session.Datum, "1 May");
     EXPECT_EQ(Session.Proj, "House P1");
@@ -154,7 +151,7 @@ TEST_F(FrameProject, FilesOfLowerCaseExtensionsAreFound) {
     WriteBytes(DataFile("P1.auf"), Lines({"A", "B", "C"}));
     WriteBytes(DataFile("P1.ssd"), Lines({"1", "2", "3", "900", "10", "6", "7", ".3", "5000", "1"}));
     OpenByDialog("P1.po3");
-    EXPECT_EQ(Session.ProblemType, 3);
+    EXPECT_EQ(Session.ProblemType, Problem::SoilDisplacement);
     EXPECT_EQ(Session.Proj, "C");
     EXPECT_THAT(TickedProblems(), ElementsAre(0, 3));
     EXPECT_THAT(DataFiles(), ElementsAre("P1.auf", "P1.po3", "P1.ssd"));
@@ -166,7 +163,7 @@ TEST_F(FrameProject, AFileOfAnotherExtensionOpensNothing) {
     WriteBytes(DataFile("note.txt"), Lines({"Version 9", "4", "0"}));
     OpenByDialog("note.txt");
     EXPECT_EQ(Session.ProjectName, "P1");
-    EXPECT_EQ(Session.ProblemType, 1);
+    EXPECT_EQ(Session.ProblemType, Problem::SoilStress);
     EXPECT_EQ(frame.Caption, "Lithmark - [P1]");
     EXPECT_THAT(Recent(), ElementsAre(DataFile("P1.PO3")));
     EXPECT_THAT(DataFiles(), ElementsAre("P1.AUF", "P1.PO3", "P1.SSD", "note.txt"));

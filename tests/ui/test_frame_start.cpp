@@ -3,13 +3,10 @@
 #include <vector>
 
 #include "FrameTest.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 
 using FrameStart = FrameTest;
 
@@ -18,7 +15,7 @@ TEST_F(FrameStart, LeavesTheFrameWithoutAProject) {
     EXPECT_TRUE(frame.Shown);
     EXPECT_EQ(frame.Caption, "Lithmark - [Untitled]");
     EXPECT_EQ(Session.ProjectName, "");
-    EXPECT_EQ(Session.ProblemType, 1);
+    EXPECT_EQ(Session.ProblemType, Problem::SoilStress);
     EXPECT_EQ(Session.WorkName, "Untitled");
     EXPECT_EQ(Session.DataDir, DataDir());
     EXPECT_EQ(Session.ProgramDir, SettingsFile(""));

@@ -6,15 +6,11 @@
 #include "services/TextTools.h"
 #include "services/storage/ProjectArchive.h"
 #include "services/storage/ProjectLock.h"
+#include "support/Matchers.h"
 #include "ui/frmstress.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::SizeIs;
 
 class FrameState : public FrameTest {
   protected:
@@ -30,7 +26,7 @@ class FrameState : public FrameTest {
         EXPECT_EQ(page.Name, Session.ProjectName);
         if (!open) {
             EXPECT_THAT(TickedProblems(), IsEmpty());
-            EXPECT_EQ(Session.ProblemType, 1);
+            EXPECT_EQ(Session.ProblemType, Problem::SoilStress);
             EXPECT_EQ(Session.ProjectFile, "");
             EXPECT_EQ(page.Order + page.Project, "");
             return;

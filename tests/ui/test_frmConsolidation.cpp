@@ -1,13 +1,11 @@
 // The dialogs of the problems 4 and 5: what they show, take and refuse, and where Enter leads.
 #include "ProblemDialogTest.h"
+#include "support/Matchers.h"
 #include "ui/frmConsolidation.h"
 #include "ui/frmConsolidationRate.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 class ConsolidationDialog : public ProblemDialogTest {};
 

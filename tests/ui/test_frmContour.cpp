@@ -1,15 +1,13 @@
 // The window of the contour plot: check boxes, zoom, and how it is reached.
 #include "ProblemDialogTest.h"
 #include "kernels/RunKernel.h"
+#include "support/Matchers.h"
 #include "ui/frmContour.h"
 #include "ui/frmOptionDraw.h"
 #include "ui/frmRigidDisplacement.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::IsEmpty;
-using ::testing::SizeIs;
 
 class ContourWindow : public ProblemDialogTest {
   protected:

@@ -3,12 +3,11 @@
 #include <string>
 
 #include "FormTest.h"
+#include "support/Matchers.h"
 #include "ui/frmDataDir.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
 
 class DataDirDialog : public FormTest {};
 

@@ -5,14 +5,12 @@
 #include "FormTest.h"
 #include "core/Units.h"
 #include "files/SettingsFiles.h"
+#include "support/Matchers.h"
 #include "ui/frmNumberFormats.h"
 #include "ui/model/FormatCheck.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 
 class NumberFormatsDialog : public FormTest {};
 

@@ -3,12 +3,11 @@
 #include <string>
 
 #include "FormTest.h"
+#include "support/Matchers.h"
 #include "ui/frmOptionDraw.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::IsEmpty;
 
 class CurveChoice : public FormTest {
   protected:

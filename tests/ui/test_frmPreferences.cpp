@@ -4,14 +4,11 @@
 #include <vector>
 
 #include "FormTest.h"
+#include "support/Matchers.h"
 #include "ui/frmPreferences.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 
 class PreferencesDialog : public FormTest {
   protected:

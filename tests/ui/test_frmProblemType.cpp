@@ -5,13 +5,10 @@
 
 #include "FrameTest.h"
 #include "services/TextTools.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 
 class ProjectDialog : public FrameTest {
   protected:
@@ -57,7 +54,7 @@ TEST_F(ProjectDialog, ButtonsCarryTheirMarksAndFileButtonsTheirDots) {
 
 TEST_F(ProjectDialog, ANewProjectStartsEmptyWithTodayAndTheFirstProblem) {
     Session.Auftr = "left over";
-    Session.ProblemType = 5;
+    Session.ProblemType = Problem::ConsolidationRate;
     OnDialog([](frmProblemType& form) {
         const std::string today = TextTools().LongDateOfToday();
         EXPECT_EQ(form.txtAuftr.Text, "");
@@ -85,7 +82,7 @@ TEST_F(ProjectDialog, TheProjectsDataAreShown) {
 TEST_F(ProjectDialog, AProjectWithoutAHeadingFileKeepsItsProblem) {
     for (const bool projectFile : {true, false}) {
         HaveProject(10);
-        Session.ProblemType = 10;
+        Session.ProblemType = Problem::RaftConsolidation;
         Session.Auftr = "of another project";
         std::filesystem::remove(DataFile("P1.AUF"));
         if (!projectFile) std::filesystem::remove(DataFile("P1.PO3"));
@@ -105,7 +102,7 @@ TEST_F(ProjectDialog, AProjectWithoutAHeadingFileKeepsItsProblem) {
 TEST_F(ProjectDialog, AProjectWithDamagedFilesKeepsItsProblem) {
     for (const char* damaged : {"P1.AUF", "P1.PO3"}) {
         HaveProject(10);
-        Session.ProblemType = 10;
+        Session.ProblemType = Problem::RaftConsolidation;
         WriteBytes(DataFile(damaged), "x\r\n");
         host.Messages.clear();
         OnDialog([](frmProblemType& form) {
@@ -402,7 +399,7 @@ TEST_F(ProjectDialog, LoadingFromAndSavingToOtherProjectsLeavesTheOpenOne) {
 
 TEST_F(ProjectDialog, CancelKeepsTheProjectsData) {
     HaveProject(2);
-    Session.ProblemType = 2;
+    Session.ProblemType = Problem::SoilStrain;
     Session.Auftr = "Order P1";
     WriteProject("Q", 9);
     OnDialog([this](frmProblemType& form) {
@@ -413,7 +410,7 @@ TEST_F(ProjectDialog, CancelKeepsTheProjectsData) {
         EXPECT_TRUE(form.Unloaded());
     });
     EXPECT_FALSE(Session.DialogOk);
-    EXPECT_EQ(Session.ProblemType, 2);
+    EXPECT_EQ(Session.ProblemType, Problem::SoilStrain);
     EXPECT_EQ(Session.Auftr, "Order P1");
     EXPECT_EQ(ReadBytes(DataFile("P1.PO3")), Lines({"Version 9", "2", "0"}));
 }

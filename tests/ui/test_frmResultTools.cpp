@@ -9,15 +9,12 @@
 #include "report/AfterReport.h"
 #include "report/Notices.h"
 #include "report/StepTables.h"
+#include "support/Matchers.h"
 #include "ui/frmOptionDraw.h"
 #include "ui/frmResultTools.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 
 const std::string kReport = "Stresses\r\n----\r\n";
 
@@ -270,7 +267,7 @@ struct BareHost : ScriptedHost {
 TEST_F(Viewer, AWayOutThatFailsIsToldAndTheViewerStays) {
     BareHost bare;
     TakeIsochrones();
-    Session.ProblemType = 5;
+    Session.ProblemType = Problem::ConsolidationRate;
     frmResultTools viewer;
     viewer.Load();
     int told = 0;
@@ -279,7 +276,7 @@ TEST_F(Viewer, AWayOutThatFailsIsToldAndTheViewerStays) {
         EXPECT_EQ(static_cast<int>(bare.Messages.size()), ++told) << button;
         EXPECT_FALSE(viewer.Unloaded());
     }
-    Session.ProblemType = 9;
+    Session.ProblemType = Problem::RaftDisplacement;
     viewer.Load();
     Click(viewer, "cmdVERDA");
     EXPECT_EQ(static_cast<int>(bare.Messages.size()), ++told);
@@ -293,7 +290,7 @@ TEST_F(Viewer, AWayOutThatBreaksDownIsToldToo) {
             throw std::runtime_error("no process");
         }
     } breaking;
-    Session.ProblemType = 9;
+    Session.ProblemType = Problem::RaftDisplacement;
     frmResultTools viewer;
     viewer.Load();
     EXPECT_NO_THROW(Click(viewer, "cmdPrinter"));

@@ -1,13 +1,11 @@
 // The dialogs of the rigid rafts.
 #include "ProblemDialogTest.h"
+#include "support/Matchers.h"
 #include "ui/frmRigidConsolidation.h"
 #include "ui/frmRigidDisplacement.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 class RaftDialog : public ProblemDialogTest {};
 

@@ -2,6 +2,7 @@
 #include "ProblemDialogTest.h"
 #include "base/Utf8.h"
 #include "services/TextTools.h"
+#include "support/Matchers.h"
 #include "ui/frmMethodtype.h"
 #include "ui/frmTimeSettlement1.h"
 #include "ui/frmTimeSettlement2.h"
@@ -9,9 +10,6 @@
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 class MethodDialog : public ProblemDialogTest {};
 

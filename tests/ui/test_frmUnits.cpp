@@ -4,12 +4,11 @@
 
 #include "FormTest.h"
 #include "files/SettingsFiles.h"
+#include "support/Matchers.h"
 #include "ui/frmUnits.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
 
 class UnitsDialog : public FormTest {
   protected:

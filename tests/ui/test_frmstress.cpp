@@ -4,17 +4,13 @@
 
 #include "FormTest.h"
 #include "core/Units.h"
+#include "support/Matchers.h"
 #include "ui/frmResultTools.h"
 #include "ui/frmstress.h"
 #include "ui/model/UnsavedInput.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::StartsWith;
 
 class StressDialog : public FormTest {
   protected:

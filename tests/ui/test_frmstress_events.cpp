@@ -5,16 +5,12 @@
 #include <vector>
 
 #include "FormTest.h"
+#include "support/Matchers.h"
 #include "ui/frmResultTools.h"
 #include "ui/frmstress.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::EndsWith;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 
 class StressCommands : public FormTest {
   protected:

@@ -4,15 +4,11 @@
 #include "AllForms.h"
 #include "FormTest.h"
 #include "core/SessionFields.h"
+#include "support/Matchers.h"
 #include "ui/answer/LiveAnswer.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::SizeIs;
 
 // Work that ends when the test says so.
 class FakeWorker : public AnswerWorker {

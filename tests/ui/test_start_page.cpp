@@ -6,16 +6,13 @@
 
 #include "FrameTest.h"
 #include "services/storage/UserFolders.h"
+#include "support/Matchers.h"
 #include "support/Places.h"
 #include "support/Variable.h"
 #include "ui/frmMethodtype.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 
 class StartPageTest : public FrameTest {
   protected:
@@ -45,7 +42,7 @@ TEST_F(StartPageTest, RecentProjectsTellProblemAndDay) {
     const StartPage page = frame.RecentProjects();
     ASSERT_EQ(page.RecentProjects.size(), 1u);
     EXPECT_EQ(page.RecentProjects[0].Path, DataFile("P1.PO3"));
-    EXPECT_EQ(page.RecentProjects[0].ProblemType, 1);
+    EXPECT_EQ(page.RecentProjects[0].ProblemType, Problem::SoilStress);
     EXPECT_EQ(page.RecentProjects[0].Changed.size(), 10u);  // "2026-03-02"
     EXPECT_FALSE(page.RecentProjects[0].Pinned);
     EXPECT_EQ(ProblemInShort(1), "[1] Stresses in soil");
@@ -138,7 +135,7 @@ TEST_F(StartPageTest, ACardThatIsCancelledLeavesNoProject) {
     host.OnForm<frmProblemType>([](frmProblemType& form) { Click(form, "CmdCancel"); });
     frame.BeginProject(9);
     EXPECT_FALSE(frame.ProjectOpen());
-    EXPECT_EQ(Session.ProblemType, 1);
+    EXPECT_EQ(Session.ProblemType, Problem::SoilStress);
     EXPECT_THAT(DataFiles(), IsEmpty());
 }
 
@@ -177,7 +174,7 @@ TEST_F(StartPageTest, AnExampleOpensAsACopyInTheDocuments) {
     frame.OpenExample(example);
     EXPECT_EQ(Session.ProjectName, "SquareRaft");
     EXPECT_EQ(Session.DataDir, Documents("Lithmark/"));
-    EXPECT_EQ(Session.ProblemType, 9);
+    EXPECT_EQ(Session.ProblemType, Problem::RaftDisplacement);
     for (const char* ending : {".PO3", ".AUF", ".RDE"})
         EXPECT_EQ(ReadBytes(Documents(std::string("Lithmark/SquareRaft") + ending)),
                   ReadBytes(Examples() + "SquareRaft/SquareRaft" + ending));

@@ -1,15 +1,10 @@
 // A table of numbers while it is edited.
-#include <gmock/gmock.h>
-
 #include "FormTest.h"
+#include "support/Matchers.h"
 #include "ui/model/TableEditing.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::StartsWith;
 
 using Rows = std::vector<std::vector<std::string>>;
 

@@ -5,15 +5,12 @@
 #include "FormTest.h"
 #include "core/Catalogue.h"
 #include "services/storage/DraftStore.h"
+#include "support/Matchers.h"
 #include "ui/model/UnsavedInput.h"
 #include "ui/model/UnsavedTable.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::SizeIs;
 
 class UnsavedInput : public FormTest {
   protected:

@@ -10,15 +10,11 @@
 #include "files/ProblemData.h"
 #include "files/SettingsFiles.h"
 #include "support/DistinctFields.h"
+#include "support/Matchers.h"
 #include "support/Places.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::StartsWith;
 
 class UntouchedBoxes : public FormTest {
   protected:
@@ -103,7 +99,7 @@ TEST_F(UntouchedBoxes, OpenAndComputeChangesNoBitOfTheDataInAnyDialog) {
 TEST_F(UntouchedBoxes, TheDialogAndTheCommandLineComputeTheSame) {
     Session.Force1Label = "[MN]";
     Session.Force1Factor = 0.001;
-    Session.ProblemType = 1;
+    Session.ProblemType = Problem::SoilStress;
     WriteBytes(DataFile("P1.SSD"),
                Lines({"1.23456", ".5", "3.333", "900", "12", "3.333", "1.23456", ".3", "12345.6", "2"}));
     SetProblemSaved(1, true);
@@ -122,7 +118,7 @@ TEST_F(UntouchedBoxes, TheDialogAndTheCommandLineComputeTheSame) {
 }
 
 TEST_F(UntouchedBoxes, AnEditedBoxIsReadFromItsTextAndTheOthersKeepTheirValues) {
-    Session.ProblemType = 2;
+    Session.ProblemType = Problem::SoilStrain;
     WriteBytes(DataFile("P1.SSD"),
                Lines({"1.23456", ".5", "3.333", "900", "12", "3.333", "1.23456", ".3", "12345.6", "2"}));
     SetProblemSaved(2, true);
@@ -143,7 +139,7 @@ TEST_F(UntouchedBoxes, AnEditedBoxIsReadFromItsTextAndTheOthersKeepTheirValues) 
 
 // 1.6666 m are shown as 1.67 m and are within a limit of 5/3 m; what is typed must be within as it stands.
 TEST_F(UntouchedBoxes, AnUntouchedValueIsCheckedAsItIsStored) {
-    Session.ProblemType = 2;
+    Session.ProblemType = Problem::SoilStrain;
     WriteBytes(DataFile("P1.SSD"), Lines({"1", ".5", "3.333", "900", "12", "3", "1", ".4996", "12345.6", "2"}));
     SetProblemSaved(2, true);
     Session.FmtRatio = "0";
@@ -199,7 +195,7 @@ TEST_F(UntouchedBoxes, ADraftIsWhatAStoreLeavesAndChangesNothing) {
 }
 
 TEST_F(UntouchedBoxes, ADraftNamesEveryBoxThatStopsItWithItsReason) {
-    Session.ProblemType = 2;
+    Session.ProblemType = Problem::SoilStrain;
     OnShown<frmstress>([](frmstress& form) {
         Type(form, "txt_z", "deep");
         Type(form, "txt_Nue", "0.6");
@@ -217,7 +213,7 @@ TEST_F(UntouchedBoxes, ADraftNamesEveryBoxThatStopsItWithItsReason) {
 
 // With lengths in mm one kN/mm2 is 1E+06 kN/m2, so 1E+38 in the box does not fit 32 bits (3.4E+38).
 TEST_F(UntouchedBoxes, AValueThatDoesNotFitIsAReasonThatNamesItsField) {
-    Session.ProblemType = 2;
+    Session.ProblemType = Problem::SoilStrain;
     Session.Len1Label = "[mm]";
     Session.Len1Factor = 1000;
     OnShown<frmstress>([](frmstress& form) {

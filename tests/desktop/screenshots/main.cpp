@@ -230,7 +230,7 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
     TakeProblemDialogs(gallery);
     TakeUnusualValues(gallery);
     frmstress stress;
-    Session.ProblemType = 1;
+    Session.ProblemType = Problem::SoilStress;
     stress.Reopen();
     stress.Load();
     stress.cmdSave_Click();
@@ -258,13 +258,13 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
     frmAbout about;
     gallery.Take(about, QStringLiteral("frmAbout"));
     frmOptionDraw draw;
-    Session.ProblemType = 9;
+    Session.ProblemType = Problem::RaftDisplacement;
     gallery.Take(draw, QStringLiteral("frmOptionDraw-raft"));
-    Session.ProblemType = 8;
+    Session.ProblemType = Problem::TimeTheory;
     gallery.Take(draw, QStringLiteral("frmOptionDraw"));
     frmMethodtype method;
     gallery.Take(method, QStringLiteral("frmMethodtype"));
-    Session.ProblemType = 1;
+    Session.ProblemType = Problem::SoilStress;
 
     gallery.TakeModal(QStringLiteral("message"), [&] {
         stress.Reopen();
@@ -278,7 +278,7 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
     gallery.TakeModal(QStringLiteral("company"), [&] { host.EditCompanyLines({"Baugrund Nord", "Hamburg"}); });
     gallery.TakeModal(QStringLiteral("files"), [&] { host.ShowFileList(settings, "PO3"); });
     gallery.TakeModal(QStringLiteral("editor"), [&] { host.ShowTextEditor(Session.ResultText); });
-    Session.ProblemType = 8;
+    Session.ProblemType = Problem::TimeTheory;
     SetProblemDefaults();
     RunProblemKernel();
     Session.CurveLoadUnit = Session.Force1Label;
@@ -288,13 +288,13 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
         gallery.TakeModal(
             QStringLiteral("chart-") + QLatin1String(curve), [&] { host.ShowChart(BuildChart()); }, MarkAndTurn);
     }
-    Session.ProblemType = 5;
+    Session.ProblemType = Problem::ConsolidationRate;
     SetProblemDefaults();
     RunProblemKernel();
     gallery.TakeModal(QStringLiteral("chart-depth"), [&] { host.ShowChart(BuildChart()); });
     gallery.TakeModal(
         QStringLiteral("chart-depth-down"), [&] { host.ShowChart(BuildChart()); }, MarkAndTurn);
-    Session.ProblemType = 9;
+    Session.ProblemType = Problem::RaftDisplacement;
     SetProblemDefaults();
     Session.AnalysisType = Analysis::Numerical;
     RunProblemKernel();
@@ -334,7 +334,7 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
     table.Columns = {{"t\n[1]\n[-]", TableEdit::Kind::Whole}, {"p\n[2]\n[%]", TableEdit::Kind::Real, 100, 0}};
     table.Rows = {{"1", "19"}, {"2", "42"}, {"4.5", "83"}};
     gallery.TakeModal(QStringLiteral("table"), [&] { host.EditTable(table); });
-    Session.ProblemType = 7;
+    Session.ProblemType = Problem::TimeOedometer;
     frmTimeSettlement2 oedometer;
     oedometer.Reopen();
     oedometer.Load();
