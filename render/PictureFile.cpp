@@ -8,6 +8,7 @@
 #include <QSvgGenerator>
 #include <algorithm>
 
+#include "base/Utf8.h"
 #include "render/DisplayLines.h"
 #include "render/RenderApplication.h"
 

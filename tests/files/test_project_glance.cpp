@@ -2,6 +2,7 @@
 #include <chrono>
 #include <filesystem>
 
+#include "core/Problems.h"
 #include "files/ProjectGlance.h"
 #include "services/storage/ProjectArchive.h"
 #include "support/Files.h"
