@@ -12,7 +12,7 @@ namespace lithmark {
 
 namespace {
 
-constexpr int kMostDecimals = 4;
+constexpr int kCellDecimals = 4;
 
 void WriteCell(Workbook& workbook, lxw_worksheet* sheet, lxw_row_t row, lxw_col_t col, const std::string& cell,
                char decimalSign, lxw_format* format) {
@@ -82,7 +82,7 @@ std::string ChartXlsx(const ChartArguments& chart) {
     for (int c = 1; c <= chart.LastColumn; ++c) {
         const std::vector<std::string> numbers = NumbersOf(chart, c);
         // A number that the table has with all its digits is shown with as many as one reads.
-        const int decimals = std::min(kMostDecimals, DecimalsOf(numbers, SharedServices().DecimalSign));
+        const int decimals = std::min(kCellDecimals, DecimalsOf(numbers, SharedServices().DecimalSign));
         lxw_format* const format = workbook.Decimals(decimals);
         widest.push_back(0);
         for (int r = 1; r <= chart.LastRow; ++r) {
