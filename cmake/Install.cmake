@@ -5,8 +5,6 @@ include(GNUInstallDirs)
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
 find_program(GZIP_PROGRAM gzip REQUIRED)
 
-set(LITHMARK_COMPONENT_ID org.lithmark.lithmark)
-set(LITHMARK_HOMEPAGE ${PROJECT_HOMEPAGE_URL})
 
 # The day of what is made: SOURCE_DATE_EPOCH, else that of the last change of the sources.
 if(DEFINED ENV{SOURCE_DATE_EPOCH})
@@ -66,7 +64,7 @@ foreach(shell bash zsh fish)
 endforeach()
 
 # The page of changes as Debian writes it.
-lithmark_make(changelog.Debian COMMAND ${changes} debian DEPENDS ${changes_inputs})
+lithmark_make(changelog.Debian COMMAND ${changes} debian ${LITHMARK_CONTACT} DEPENDS ${changes_inputs})
 foreach(file changelog.Debian changelog)
   set(from ${made}/changelog.Debian)
   if(file STREQUAL "changelog")
@@ -87,9 +85,10 @@ foreach(shot "project;A project" "report;The report of a calculation" "curves-ge
   list(GET shot 0 name)
   list(GET shot 1 caption)
   string(APPEND LITHMARK_SCREENSHOTS "    <screenshot${kind}>\n      <caption>${caption}</caption>\n"
-    "      <image>${LITHMARK_HOMEPAGE}/screenshots/${name}.png</image>\n    </screenshot>\n")
+    "      <image>${LITHMARK_SITE}/screenshots/${name}.png</image>\n    </screenshot>\n")
   set(kind)
 endforeach()
+configure_file(${packaging}/debian/copyright.in ${made}/copyright @ONLY)
 configure_file(${packaging}/desktop/lithmark.metainfo.xml.in ${made}/${LITHMARK_COMPONENT_ID}.metainfo.xml @ONLY)
 
 # Everything that an installation needs.
@@ -167,7 +166,7 @@ foreach(component ${LITHMARK_COMPONENTS})
   if(component STREQUAL "desktop")
     set(package lithmark)
   endif()
-  install(FILES ${packaging}/debian/copyright ${made}/changelog.gz ${made}/changelog.Debian.gz
+  install(FILES ${made}/copyright ${made}/changelog.gz ${made}/changelog.Debian.gz
     DESTINATION ${doc}/${package} COMPONENT ${component})
   if(EXISTS ${packaging}/debian/${package}.lintian-overrides)
     install(FILES ${packaging}/debian/${package}.lintian-overrides DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides

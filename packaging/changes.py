@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""changes.py CHANGELOG VERSION EPOCH debian|releases|check: what the packages need of the page of changes.
+"""changes.py CHANGELOG VERSION EPOCH debian CONTACT|releases|check: what the packages need of the page of changes.
 
 A release of the page is a heading "## 1.0.0 (2026-12-01)" with its list; one without a date is not out yet, and EPOCH
 (seconds since 1970) stands for its day. The first one must be VERSION. `check` also asks for its date.
@@ -11,7 +11,6 @@ import sys
 from email.utils import format_datetime
 
 HEADING = re.compile(r'^## (\d+\.\d+\.\d+)(?: \((\d{4}-\d\d-\d\d)\))?$')
-MAINTAINER = 'The Lithmark developers <maintainers@lithmark.example>'
 
 
 def releases(page, epoch):
@@ -32,7 +31,7 @@ def releases(page, epoch):
     return found
 
 
-def debian(found):
+def debian(found, contact):
     for version, moment, _, items in found:
         print(f'lithmark ({version}-1) unstable; urgency=medium\n')
         for item in items:
@@ -43,10 +42,10 @@ def debian(found):
                     line = '   '
                 line += ' ' + word
             print(line)
-        print(f'\n -- {MAINTAINER}  {format_datetime(moment)}\n')
+        print(f'\n -- {contact}  {format_datetime(moment)}\n')
 
 
-def metainfo(found):
+def metainfo(found, _):
     for version, moment, _, items in found:
         print(f'    <release version="{version}" date="{moment:%Y-%m-%d}">\n      <description>\n        <ul>')
         for item in items:
@@ -55,7 +54,7 @@ def metainfo(found):
 
 
 def main():
-    path, version, epoch, what = sys.argv[1:]
+    path, version, epoch, what, *contact = sys.argv[1:]
     with open(path, encoding='utf-8') as file:
         found = releases(file.read(), int(epoch))
     if not found or found[0][0] != version:
@@ -67,7 +66,7 @@ def main():
         if not found[0][2]:
             raise SystemExit(f'{path}: release {version} has no date: ## {version} ({moment_now()})')
     else:
-        {'debian': debian, 'releases': metainfo}[what](found)
+        {'debian': debian, 'releases': metainfo}[what](found, ' '.join(contact))
 
 
 def moment_now():

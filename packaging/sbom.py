@@ -71,6 +71,12 @@ def package(name):
     }
 
 
+def site(build):
+    """Where the program is published, as the build was told."""
+    with open(os.path.join(build, 'CMakeCache.txt'), encoding='utf-8') as file:
+        return re.search(r'^CMAKE_PROJECT_HOMEPAGE_URL:\w+=(.*)$', file.read(), re.MULTILINE)[1]
+
+
 def sha256(path):
     with open(path, 'rb') as file:
         return hashlib.sha256(file.read()).hexdigest()
@@ -98,7 +104,7 @@ def main():
     digest = hashlib.sha256(''.join(sha256(program) for program in programs).encode()).hexdigest()
     json.dump({
         'spdxVersion': 'SPDX-2.3', 'dataLicense': 'CC0-1.0', 'SPDXID': 'SPDXRef-DOCUMENT', 'name': f'lithmark-{version}',
-        'documentNamespace': f'https://lithmark.example/spdx/lithmark-{version}-{digest[:32]}',
+        'documentNamespace': f'{site(build)}/spdx/lithmark-{version}-{digest[:32]}',
         'creationInfo': {'created': f'{created:%Y-%m-%dT%H:%M:%SZ}', 'creators': ['Organization: The Lithmark developers',
                                                                                   'Tool: packaging/sbom.py']},
         'packages': [own, *packages], 'relationships': relations,

@@ -1,3 +1,4 @@
+// Ahead of the other headers of the system.
 #include <winsock2.h>
 #include <ws2tcpip.h>
 
@@ -11,10 +12,6 @@
 #include "services/platform/Process.h"
 #include "services/platform/WindowsText.h"
 #include "services/platform/Workers.h"
-
-// Ahead of the other header of the system.
-#include <winsock2.h>
-#include <ws2tcpip.h>
 
 namespace lithmark::platform {
 

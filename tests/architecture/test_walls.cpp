@@ -61,10 +61,15 @@ TEST(Walls, TheDrawersOfTheServices) {
 }
 
 // What differs between operating systems stands in services/platform, in files that bear their names.
+bool IsOfOneSystem(const std::string& header) {
+    static const std::regex ofOneSystem(
+        R"(^(unistd|fcntl|pwd|poll|signal|spawn|dirent|dlfcn|termios|windows|winsock2|io|process|shlobj)\.h$|^sys/.*|^linux/.*)");
+    return std::regex_match(header, ofOneSystem);
+}
+
 TEST(Walls, OnlyThePlatformKnowsTheOperatingSystem) {
-    static const std::regex header(
-        R"(^(unistd|fcntl|pwd|poll|spawn|dirent|dlfcn|termios|windows|winsock2|io|process|shlobj)\.h$|^sys/.*|^linux/.*)"),
-        asked(R"(#\s*(if|ifdef|ifndef|elif)\b[^\n]*(_WIN32|_WIN64|__linux__|__unix__|__APPLE__|__MINGW\w*__))");
+    static const std::regex asked(
+        R"(#\s*(if|ifdef|ifndef|elif)\b[^\n]*(_WIN32|_WIN64|__linux__|__unix__|__APPLE__|__MINGW\w*__))");
     static const std::regex named(R"(^services/platform/(Posix|Windows)\w+\.(cpp|h)$)");
     int ofSystems = 0;
     for (const auto& file : Sources()) {
@@ -74,9 +79,26 @@ TEST(Walls, OnlyThePlatformKnowsTheOperatingSystem) {
             continue;
         }
         for (const auto& name : Includes(file.Text))
-            EXPECT_FALSE(std::regex_match(name, header)) << file.Path << " includes " << name;
+            EXPECT_FALSE(IsOfOneSystem(name)) << file.Path << " includes " << name;
     }
     EXPECT_GE(ofSystems, 6);
+}
+
+// The tests that every system's command line is held to.
+TEST(Walls, TestsOfTheCommandLineAskTheSystemInOnePlace) {
+    int ofSystems = 0;
+    for (const char* folder : {"base", "causes", "cli", "consolidation", "contour", "core", "files", "raft", "report",
+                               "services", "stress", "study", "support", "texts", "timesettlement"})
+        for (const auto& entry : fs::directory_iterator(SourceDir() / "tests" / folder)) {
+            const std::string name = entry.path().filename().string();
+            if (name.starts_with("Posix") || name.starts_with("Windows")) {
+                ++ofSystems;
+                continue;
+            }
+            for (const auto& header : Includes(TextOf(std::string("tests/") + folder + "/" + name)))
+                EXPECT_FALSE(IsOfOneSystem(header)) << folder << "/" << name << " includes " << header;
+        }
+    EXPECT_GE(ofSystems, 2);
 }
 
 // No family of kernels knows another one; what several need stands in kernels/elastic, or lower.

@@ -1,13 +1,10 @@
 #include "CliCase.h"
 
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 
 #include "support/Places.h"
+#include "support/System.h"
 
 namespace lithmark::tests {
 
@@ -17,16 +14,15 @@ CliResult CliTest::Run(std::vector<std::string> words) const {
 }
 
 CliResult CliTest::RunPlain(const std::vector<std::string>& words, const std::string& out) const {
-    // Root may write everywhere, unless this one ability is taken from it.
-    const bool dropped = asOrdinaryUser && geteuid() == 0;
-    std::string line = dropped ? "setpriv --bounding-set=-dac_override --inh-caps=-dac_override env " : "";
-    line += runner + "XDG_CONFIG_HOME=" + Quoted(settings_.Dir()) + " " +
-            Quoted(otherProgram.empty() ? CommandLineTool().string() : otherProgram);
-    for (const std::string& word : words) line += " " + Quoted(word);
     const std::string outFile = out.empty() ? output_ / "out" : out, errFile = output_ / "err";
-    line += " >" + Quoted(outFile) + " 2>" + Quoted(errFile) + " </dev/null";
-    const int status = std::system(line.c_str());
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, out.empty() ? ReadBytes(outFile) : "", ReadBytes(errFile)};
+    const int status = RunProgram({otherProgram.empty() ? CommandLineTool().string() : otherProgram,
+                                   words,
+                                   {{"XDG_CONFIG_HOME", settings_.Dir()}},
+                                   outFile,
+                                   errFile,
+                                   runner,
+                                   asOrdinaryUser});
+    return {status, out.empty() ? ReadBytes(outFile) : "", ReadBytes(errFile)};
 }
 
 std::string CliTest::Example(const std::string& name) const {
@@ -46,12 +42,6 @@ std::string CliTest::New(const std::string& name, int problem, const std::vector
     const CliResult result = Run(words);
     EXPECT_EQ(result.Status, 0) << result.Err;
     return work / (name + ".PO3");
-}
-
-std::string CliTest::Quoted(const std::string& word) {
-    std::string quoted = "'";
-    for (const char c : word) quoted += c == '\'' ? std::string("'\\''") : std::string(1, c);
-    return quoted + "'";
 }
 
 void ExpectFailure(const CliResult& result, int status, const std::vector<std::string>& parts) {

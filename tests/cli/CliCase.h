@@ -37,8 +37,6 @@ class CliTest : public testing::Test {
     std::string runner;        // a command that runs the program, with a blank at its end
 
   private:
-    static std::string Quoted(const std::string& word);
-
     TestFolder settings_, output_;
 };
 

@@ -113,6 +113,7 @@ TEST_F(CliCommands, AnOutputThatCannotBeWrittenIsNamedAndNothingIsLeft) {
     ExpectFailure(Run({"report", project, "--output", work / "report.txt"}), 1, {"report.txt"});
     std::filesystem::remove(work / "report.txt");
     EXPECT_EQ(work.Names(), before);
+    LITHMARK_NEEDS(DeviceFiles);
     const CliResult full = RunPlain({"report", project}, "/dev/full");
     EXPECT_EQ(full.Status, 1);
     EXPECT_EQ(LinesOf(full.Err).size(), 1u) << full.Err;
@@ -145,6 +146,7 @@ TEST_F(CliCommands, ATableTakesTheRowsThatItsCountAsksFor) {
 }
 
 TEST_F(CliCommands, AFolderWithoutWritingIsEnoughToRead) {
+    LITHMARK_NEEDS(FilePermissions);
     const std::string project = New("Footing", 1), raft = New("Raft", 9, {"LoadType=2", "A=4", "B=4", "h=5"});
     asOrdinaryUser = true;
     std::filesystem::permissions(work.Dir(), std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);

@@ -11,6 +11,7 @@ namespace {
 class CliFormats : public CliTest {};
 
 TEST_F(CliFormats, EachFormatIsWhatItsNameSays) {
+    LITHMARK_NEEDS(PosixShell);
     const std::string time = Example("OfficeBuilding"), raft = Example("SquareRaft");
     struct Case {
         std::vector<std::string> Words;
@@ -51,6 +52,7 @@ TEST_F(CliFormats, EachFormatIsWhatItsNameSays) {
 
 // The program for scripts starts in a few milliseconds because it loads nothing that draws.
 TEST_F(CliFormats, TheProgramIsLinkedWithoutTheToolkit) {
+    LITHMARK_NEEDS(PosixShell);
     const std::string list = work / "libraries";
     ASSERT_EQ(std::system(("ldd '" + CommandLineTool().string() + "' >'" + list + "'").c_str()), 0);
     EXPECT_THAT(ReadBytes(list), HasSubstr("libc.so"));
@@ -89,6 +91,7 @@ TEST_F(CliFormats, ADocumentGoesToStandardOutputWithTheMessagesOfItsOwnRun) {
 #endif
 
 TEST_F(CliFormats, AProjectIsFoundFromItsOwnFolderAndUnderAnyLetterCase) {
+    LITHMARK_NEEDS(PosixShell);
     const std::string project = Example("PointLoad");
     const std::string report = Run({"report", project}).Out;
     ASSERT_FALSE(report.empty());

@@ -1,7 +1,4 @@
 // What a command does to files: its project's, its output, those of others.
-#include <sys/stat.h>
-
-#include <csignal>
 #include <thread>
 
 #include "cli/CliCase.h"
@@ -18,6 +15,7 @@ class CliStorage : public CliTest {};
 // --- output ---
 
 TEST_F(CliStorage, AnOutputThatIsAFileOfTheProjectIsRefused) {
+    LITHMARK_NEEDS(SymbolicLinks);
     const std::string project = New("Raft1", 9, {"LoadType=2", "A=4", "B=4", "h=5"});
     const std::vector<std::string> before = work.Names();
     const std::string data = ReadBytes(work / "Raft1.RDE");
@@ -43,6 +41,7 @@ TEST_F(CliStorage, APackedProjectIsNotReplacedByItsReport) {
 }
 
 TEST_F(CliStorage, WhatAStudyReadsIsNotWhatItWrites) {
+    LITHMARK_NEEDS(SymbolicLinks);
     const std::string project = New("Footing", 1);
     const std::string rows = work / "rows.csv", part = work / "part.csv", link = work / "link.csv";
     WriteBytes(rows, "z\n1\n2\n");
@@ -58,6 +57,7 @@ TEST_F(CliStorage, WhatAStudyReadsIsNotWhatItWrites) {
 // --- scratch ---
 
 TEST_F(CliStorage, AScratchFolderThatIsMissingIsNamed) {
+    LITHMARK_NEEDS(PosixShell);
     const std::string project = New("Raft1", 9, {"LoadType=2", "A=4", "B=4", "h=5"});
     runner = "TMPDIR=" + (work / "none") + " ";
     for (const char* lang : {"de", "en", "ar"}) {
@@ -87,9 +87,10 @@ TEST_F(CliStorage, AProjectMadeUnderOneLanguageRunsUnderEveryOther) {
 // --- other programs ---
 
 TEST_F(CliStorage, CommandsAtTheSameTimeOnAPackedProjectWaitForEachOther) {
+    LITHMARK_NEEDS(PosixShell);
     const std::string project = New("Raft1", 9, {"LoadType=2", "A=4", "B=4", "h=5"});
     ASSERT_TRUE(ProjectStore().PackProject(work / "Raft1", 1, "", ".po3"));
-    const std::string tool = CommandLineTool();
+    const std::string tool = CommandLineTool().string();
     const std::string script = "for i in 1 2 3 4 5 6; do '" + tool + "' report '" + project +
                                "' --set Q=$((1000 * i)) > '" + (work / "out") + "'$i 2> '" + (work / "err") +
                                "'$i || echo failed >> '" + (work / "failed") + "' & done; wait";
@@ -109,7 +110,7 @@ TEST_F(CliStorage, AProjectThatAnotherProgramHasPackedAndOpenIsToldWithWho) {
     ASSERT_TRUE(ProjectStore().PackProject(work / "Footing", 1, "", ".po3"));
     const ProjectLock lock(work / "Footing");
     const CliResult result = Run({"show", project});
-    ExpectFailure(result, 1, {"is open already", "process " + std::to_string(::getpid())});
+    ExpectFailure(result, 1, {"is open already", "process " + std::to_string(OwnProcess())});
     EXPECT_TRUE(IsArchiveFile(project));
 }
 
@@ -121,6 +122,7 @@ TEST_F(CliStorage, AProjectThatIsOpenInTheWindowCanBeReported) {
 }
 
 TEST_F(CliStorage, ASignalThatEndsTheProgramLeavesNothingBehind) {
+    LITHMARK_NEEDS(PosixShell);
     const std::string project = New("Raft1", 9, {"LoadType=3", "A=5", "h=5", "AnalysisType=false"});
     ASSERT_TRUE(ProjectStore().PackProject(work / "Raft1", 1, "", ".po3"));
     runner = "timeout -s TERM 0.3 env ";
@@ -132,6 +134,7 @@ TEST_F(CliStorage, ASignalThatEndsTheProgramLeavesNothingBehind) {
 }
 
 TEST_F(CliStorage, ASignalThatEndsTheProgramLeavesNoScratchBehind) {
+    LITHMARK_NEEDS(PosixShell);
     const std::string project = New("Raft1", 9, {"LoadType=3", "A=5", "h=5", "AnalysisType=false"});
     const TestFolder scratch;
     for (const char* signal : {"TERM", "HUP"}) {
@@ -153,10 +156,11 @@ TEST_F(CliStorage, WhatACrashLeftInAFolderThatIsWrittenToGoes) {
 
 // Nothing is in the table's place before the first row; whoever tidies up meanwhile leaves what is being written.
 TEST_F(CliStorage, AStudyThatHasNoRowYetIsLeftAloneByOthersAndLeavesNothing) {
+    LITHMARK_NEEDS(PosixShell);
     const std::string project = New("Raft1", 9, {"LoadType=3", "A=5", "h=5", "AnalysisType=false", "Q=1000"});
     const std::string table = work / "rows.csv";
     WriteBytes(table, "old");
-    const std::string tool = CommandLineTool();
+    const std::string tool = CommandLineTool().string();
     const std::string study = "'" + tool + "' study '" + project + "' --vary Q=1,2 --set PrefND=180 -o '" + table + "'";
     const auto hidden = [this] {
         std::vector<std::string> names = work.Names();
@@ -169,7 +173,7 @@ TEST_F(CliStorage, AStudyThatHasNoRowYetIsLeftAloneByOthersAndLeavesNothing) {
     ASSERT_EQ(hidden().size(), 1u);
     EXPECT_TRUE(ProjectStore().UnpackProject(work / "Raft1", ".po3"));  // tidies up
     EXPECT_EQ(hidden().size(), 1u);
-    ::kill(std::stoi(ReadBytes(work / "pid")), SIGKILL);
+    KillProcess(std::stoi(ReadBytes(work / "pid")));
     EXPECT_EQ(ReadBytes(table), "old");
     // The workers hold it until they have seen that their study is gone.
     for (int tries = 0; !hidden().empty() && tries < 1000; ++tries) {
@@ -182,14 +186,15 @@ TEST_F(CliStorage, AStudyThatHasNoRowYetIsLeftAloneByOthersAndLeavesNothing) {
 // --- files that no command should read ---
 
 TEST_F(CliStorage, HugeFilesPipesAndDevicesAreRefusedAtOnce) {
+    LITHMARK_NEEDS(NamedPipes);
     const std::string project = New("Footing", 1);
     runner = "timeout 10 env ";
     std::filesystem::resize_file(work / "Footing.SSD", std::uintmax_t{600} << 20);
     ExpectFailure(Run({"report", project}), 1, {"Footing.SSD", "larger than 32 MB"});
     std::filesystem::remove(work / "Footing.SSD");
-    ASSERT_EQ(::mkfifo((work / "Footing.SSD").c_str(), 0600), 0);
+    MakePipe(work / "Footing.SSD");
     ExpectFailure(Run({"report", project}), 1, {"Footing.SSD is not a file"});
-    ASSERT_EQ(::mkfifo((work / "Pipe.PO3").c_str(), 0600), 0);
+    MakePipe(work / "Pipe.PO3");
     ExpectFailure(Run({"report", work / "Pipe.PO3"}), 1, {"Pipe.PO3 is not a file"});
     std::filesystem::create_symlink("/dev/zero", work / "Zero.PO3");
     ExpectFailure(Run({"report", work / "Zero.PO3"}), 1, {"Zero.PO3 is not a file"});

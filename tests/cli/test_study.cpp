@@ -136,6 +136,7 @@ TEST_F(CliStudy, ListsFromZeroBeginAtZero) {
 }
 
 TEST_F(CliStudy, ARaftStudyLeavesNothingBesideTheProject) {
+    LITHMARK_NEEDS(PosixShell);
     const std::string project = Example("SquareRaft");
     const auto before = work.Names();
     const TestFolder temporary;
@@ -197,6 +198,7 @@ TEST_F(CliStudy, AWrongRequestIsToldBeforeAnythingRuns) {
 }
 
 TEST_F(CliStudy, RowsComeFromAFileAndFromStandardInput) {
+    LITHMARK_NEEDS(PosixShell);
     const std::string project = Example("PointLoad");
     // A byte order mark, quotes, an empty cell that leaves the project's value, no line end at the end.
     WriteBytes(work / "rows.csv", "\xEF\xBB\xBFz,Q\r\n1,1000\r\n\"2\",\r\n3,500");
@@ -316,6 +318,7 @@ TEST_F(CliStudy, AVaryThatIsNoWholeNumberFailsRowByRow) {
 
 // Ctrl+C and the signal of schedulers and shutdowns alike: the rows so far, and a count of those that are missing.
 TEST_F(CliStudy, AnEndedStudyLeavesTheRowsSoFar) {
+    LITHMARK_NEEDS(PosixShell);
     const std::string project = Example("RectangularFooting");
     for (const std::string signal : {"INT", "TERM"}) {
         runner = "timeout --foreground --preserve-status -s " + signal + " 1 env ";
@@ -341,11 +344,13 @@ TEST_F(CliStudy, AStudyThatCannotBeginLeavesTheOldTable) {
 }
 
 TEST_F(CliStudy, AFullDiskIsAFailureAndNoTable) {
+    LITHMARK_NEEDS(DeviceFiles);
     ExpectFailure(RunPlain({"study", Example("RectangularFooting"), "--vary", "z=1:1000:1", "--output", "/dev/full"}),
                   1, {"/dev/full"});
 }
 
 TEST_F(CliStudy, ATerminalShowsTheProgress) {
+    LITHMARK_NEEDS(PosixShell);
     const std::string project = Example("PointLoad");
     const std::string line = CommandLineTool().string() + " study " + project +
                              " --vary z=1:20000:1 --take s --output " + (work / "s.csv") + " --settings " + work.Dir();

@@ -1,6 +1,7 @@
 // What a study answers beside its rows: the summary, the tornado, and where a result crosses its limit.
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 #include "cli/StudyCliCase.h"
 #include "support/Matchers.h"
@@ -13,7 +14,7 @@ class CliAnswers : public CliStudy {
     // Under a point load, on its axis: Sigma_z = 3 Q/(2 pi z^2) (Boussinesq).
     void SetUp() override { project = New("Axis", 1, {"LoadType=1", "x=0", "y=0", "z=2", "Q=1000"}); }
 
-    static double OnAxis(double load, double depth) { return 3 * load / (2 * M_PI * depth * depth); }
+    static double OnAxis(double load, double depth) { return 3 * load / (2 * std::numbers::pi * depth * depth); }
     Json Answer(const std::vector<std::string>& more, int status = 0) const {
         const CliResult result = Run(With({"study", project, "--format", "json"}, more));
         EXPECT_EQ(result.Status, status) << result.Err;
@@ -146,7 +147,7 @@ TEST_F(CliAnswers, ACrossingIsFoundForEveryOtherRow) {
     EXPECT_THAT(Keys(rows[0]), ElementsAre("Row", "z", "Q", "Sigma_z", "Beyond", "Status", "Notices"));
     for (int i = 0; i < 2; ++i) {
         const Json& row = rows[static_cast<std::size_t>(i)];
-        const double z = i + 1, exact = 200 * 2 * M_PI * z * z / 3;
+        const double z = i + 1, exact = 200 * 2 * std::numbers::pi * z * z / 3;
         EXPECT_NEAR(row["Q"].get<double>(), exact, 3e-6 * exact);
         EXPECT_LE(row["Sigma_z"].get<double>(), 200) << "what is told is not beyond";
         EXPECT_EQ(row["Beyond"], "above");
@@ -167,7 +168,7 @@ TEST_F(CliAnswers, AllCrossingsAreTold) {
     EXPECT_NEAR(rows[0]["x"].get<double>(), -rows[1]["x"].get<double>(), 1e-5);
     // Boussinesq: 3 Q z^3/(2 pi R^5).
     const double z = 2, r = rows[1]["x"].get<double>(), distance = std::sqrt(r * r + z * z);
-    EXPECT_NEAR(3 * 1000 * z * z * z / (2 * M_PI * std::pow(distance, 5)), 60, 1e-3);
+    EXPECT_NEAR(3 * 1000 * z * z * z / (2 * std::numbers::pi * std::pow(distance, 5)), 60, 1e-3);
 }
 
 TEST_F(CliAnswers, ACrossingWithTrialsThatAbortSaysSo) {

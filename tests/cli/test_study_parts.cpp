@@ -157,6 +157,7 @@ TEST_F(CliParts, AShardGoesOnAsAShard) {
 
 // The program is killed in the middle: what it wrote so far is a table to go on from.
 TEST_F(CliParts, AKilledStudyIsGoneOnFrom) {
+    LITHMARK_NEEDS(PosixShell);
     const std::string output = work / "killed.csv", tank = Example("CircularTank");
     const std::vector<std::string> words = {"study",      tank,     "--vary", "z=0.1:60:0.1", "--set",
                                             "PrefND=120", "--take", "s",      "--output",     output};

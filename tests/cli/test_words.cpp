@@ -126,6 +126,7 @@ TEST_F(CliWords, HelpTellsDefaultsExamplesAndExitStatuses) {
 
 // As a user would copy them, with projects of these names.
 TEST_F(CliWords, TheExamplesOfTheHelpRun) {
+    LITHMARK_NEEDS(PosixShell);
     const std::string building = Example("OfficeBuilding");
     New("Raft", 9, {"LoadType=2", "A=4", "B=4", "h=5"});
     New("Clay", 4, {"LoadType=2", "A=2", "B=2", "z=1", "h=2", "P=100", "Es=5000"});
@@ -228,6 +229,7 @@ TEST_F(CliWords, AProjectFileIsTakenInAnyLetterCaseOfItsEnding) {
 }
 
 TEST_F(CliWords, WithoutExportARaftRunsInAFolderWithoutWriting) {
+    LITHMARK_NEEDS(FilePermissions);
     const std::string raft = New("Raft", 9, {"LoadType=2", "A=4", "B=4", "h=5"});
     const auto before = work.Names();
     const std::string report = Run({"report", raft, "--no-export"}).Out;

@@ -267,7 +267,8 @@ TEST_F(Rate, PointLoadGivesBoussinesqStress) {
     // Boussinesq (1885): 3 Q z^3/(2 pi R^5)
     for (int m = 0; m <= 4; ++m) {
         const double z = 1 + m, R = std::sqrt(5 + z * z);
-        EXPECT_NEAR(Session.IsoU0(m), 3 * 7854 * z * z * z / (2 * M_PI * std::pow(R, 5)), 1e-3) << "node " << m;
+        EXPECT_NEAR(Session.IsoU0(m), 3 * 7854 * z * z * z / (2 * std::numbers::pi * std::pow(R, 5)), 1e-3)
+            << "node " << m;
     }
 }
 
@@ -280,7 +281,7 @@ TEST_F(Rate, PointLoadOnTheSurfaceTakesATinyDepthInstead) {
     Run(c);
     EXPECT_NEAR(Session.IsoU0(0), 0, 1e-20);
     EXPECT_GT(Session.IsoU0(0), 0);
-    EXPECT_NEAR(Session.IsoU0(1), 3 * 7854 / (2 * M_PI * std::pow(10, 2.5)), 1e-3);
+    EXPECT_NEAR(Session.IsoU0(1), 3 * 7854 / (2 * std::numbers::pi * std::pow(10, 2.5)), 1e-3);
 }
 
 TEST_F(Rate, RectangleGivesNewmarkStressAtItsCentre) {
@@ -291,8 +292,9 @@ TEST_F(Rate, RectangleGivesNewmarkStressAtItsCentre) {
     for (int node = 0; node <= 4; ++node) {
         const double z = 1 + node, m = 1 / z, V = 2 * m * m + 1;
         double angle = std::atan(2 * m * m * std::sqrt(V) / (V - m * m * m * m));
-        if (angle < 0) angle += M_PI;
-        const double corner = (2 * m * m * std::sqrt(V) / (V + m * m * m * m) * (V + 1) / V + angle) / (4 * M_PI);
+        if (angle < 0) angle += std::numbers::pi;
+        const double corner =
+            (2 * m * m * std::sqrt(V) / (V + m * m * m * m) * (V + 1) / V + angle) / (4 * std::numbers::pi);
         EXPECT_NEAR(Session.IsoU0(node), 4 * corner * 150, 1e-3) << "node " << node;
     }
 }

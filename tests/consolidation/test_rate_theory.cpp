@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <numbers>
 #include <vector>
 
 #include "RateCase.h"
@@ -24,7 +25,7 @@ class RateTheory : public testing::Test {
 double TerzaghiDegree(double Tv) {
     double rest = 0;
     for (int m = 0; m < 200; ++m) {
-        const double M = (2 * m + 1) * M_PI / 2;
+        const double M = (2 * m + 1) * std::numbers::pi / 2;
         rest += 2 / (M * M) * std::exp(-M * M * Tv);
     }
     return (1 - rest) * 100;
@@ -34,7 +35,7 @@ double TerzaghiDegree(double Tv) {
 double TerzaghiPressure(double Z, double Tv) {
     double u = 0;
     for (int m = 0; m < 200; ++m) {
-        const double M = (2 * m + 1) * M_PI / 2;
+        const double M = (2 * m + 1) * std::numbers::pi / 2;
         u += 2 / M * std::sin(M * Z) * std::exp(-M * M * Tv);
     }
     return u;
@@ -198,7 +199,8 @@ TEST_F(RateTheory, ThickLayerFollowsTheRootLawOfShortTimes) {
     for (const double Tv : {0.002, 0.01, 0.021}) {
         c.T = TimeOf(c, Tv, 500);
         Run(c);
-        EXPECT_NEAR(Session.Uc, 100 * 2 * std::sqrt(Tv / M_PI), kScheme + Rounding(StepsOf(c))) << "Tv = " << Tv;
+        EXPECT_NEAR(Session.Uc, 100 * 2 * std::sqrt(Tv / std::numbers::pi), kScheme + Rounding(StepsOf(c)))
+            << "Tv = " << Tv;
     }
 }
 
@@ -237,7 +239,7 @@ class TwoLayers {
   public:
     TwoLayers(double h1, double h2, double Cv1, double Cv2, double k1, double k2, bool drained)
         : h1_(h1), h2_(h2), c1_(std::sqrt(Cv1)), c2_(std::sqrt(Cv2)), k1_(k1), k2_(k2), drained_(drained) {
-        const double step = 1e-3 * M_PI / (h1 / c1_ + h2 / c2_);
+        const double step = 1e-3 * std::numbers::pi / (h1 / c1_ + h2 / c2_);
         for (double b = step; roots_.size() < 120; b += step)
             if (Flow(b) * Flow(b + step) <= 0) roots_.push_back(Bisected(b, b + step));
     }

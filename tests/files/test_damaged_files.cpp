@@ -302,6 +302,7 @@ TEST_F(Damaged, ArbitraryChangesOfAFileNeverDoMoreThanFail) {
 // --- writing that fails --------------------------------------------------------------------------------------------
 
 TEST_F(Damaged, WritingOnAFullDiskIsToldAndNotSaved) {
+    LITHMARK_NEEDS(CopyOfAProcess);
     for (const DefaultFile& file : DefaultFiles()) {
         SCOPED_TRACE(file.Extension);
         StartProblem(file.ProblemType);

@@ -145,6 +145,7 @@ TEST_F(ProjectFiles, ProjectAndOrderFileAreThoseOfTheProjectAndProjectDataThoseO
 }
 
 TEST_F(ProjectFiles, WritingThatFailsIsToldOnceAndNotSaved) {
+    LITHMARK_NEEDS(CopyOfAProcess);
     std::filesystem::create_directory(Path("AUF"));
     Session.FileSaved = true;
     WriteProjectData();

@@ -148,6 +148,7 @@ TEST_F(SettingsFiles, DamagedPreferencesAreToldAndWhatWasNotReadIsDefault) {
 }
 
 TEST_F(SettingsFiles, PreferencesThatCannotBeWrittenAreToldAndTheOldOnesStay) {
+    LITHMARK_NEEDS(CopyOfAProcess);
     SavePreferences();
     const std::string before = ReadBytes(folder / "Preferen.tol");
     EXPECT_TRUE(OnAFullDisk(8, [&] {

@@ -364,6 +364,7 @@ TEST_F(RaftExport, FailedWriteKeepsWhatStands) {
 
 // The texts wait in memory for the end; the first records do not.
 TEST_F(RaftExport, AFullDiskIsToldForTheFileThatFailsAndLeavesNone) {
+    LITHMARK_NEEDS(CopyOfAProcess);
     EXPECT_TRUE(tests::OnAFullDisk(20, [this] {
         RunRectangle();
         return Session.CalcAborted && host_.Messages.size() == 1 &&

@@ -1,5 +1,3 @@
-#include <unistd.h>
-
 #include <bit>
 #include <cmath>
 #include <random>
@@ -253,9 +251,11 @@ TEST_F(DataFile, WhatCannotBeOpenedForReadingFailsWithItsKind) {
     };
     EXPECT_EQ(open(folder / "NONE.SSD"), FailureKind::FileMissing);
     EXPECT_EQ(open(folder.Dir()), FailureKind::NotAFile);
+    EXPECT_FALSE(IsNumberedFileOpen(1));
+    LITHMARK_NEEDS(DeviceFiles);
     EXPECT_EQ(open("/dev/zero"), FailureKind::NotAFile);
     EXPECT_FALSE(IsNumberedFileOpen(1));
-    if (geteuid() == 0) return;  // root reads everything
+    if (IsRoot()) return;  // root reads everything
     WriteBytes(folder / "LOCKED.SSD", "1");
     std::filesystem::permissions(folder / "LOCKED.SSD", std::filesystem::perms::none);
     EXPECT_EQ(open(folder / "LOCKED.SSD"), FailureKind::PermissionDenied);
@@ -269,7 +269,7 @@ TEST_F(DataFile, WhatCannotBeOpenedForWritingFailsWithItsKindAndLeavesNothing) {
     EXPECT_EQ(open(folder / "nowhere/A.SSD"), FailureKind::FileMissing);
     EXPECT_FALSE(IsNumberedFileOpen(1));
     EXPECT_THAT(folder.Names(), ElementsAre());
-    if (geteuid() == 0) return;  // root writes everywhere
+    if (IsRoot()) return;  // root writes everywhere
     WriteBytes(folder / "LOCKED.SSD", "1");
     std::filesystem::permissions(folder / "LOCKED.SSD", std::filesystem::perms::owner_read);
     EXPECT_EQ(open(folder / "LOCKED.SSD"), FailureKind::PermissionDenied);
@@ -372,6 +372,7 @@ TEST_F(DataFile, DroppingAFileLeavesTheOldOneAndNothingElse) {
 }
 
 TEST_F(DataFile, TheNewFileKeepsTheModeOfTheOldOne) {
+    LITHMARK_NEEDS(FilePermissions);
     WriteBytes(folder / "A.SSD", "old");
     const auto mode = std::filesystem::perms::owner_read | std::filesystem::perms::owner_write;
     std::filesystem::permissions(folder / "A.SSD", mode);
@@ -383,6 +384,7 @@ TEST_F(DataFile, TheNewFileKeepsTheModeOfTheOldOne) {
 }
 
 TEST_F(DataFile, ASymbolicLinkStaysALink) {
+    LITHMARK_NEEDS(SymbolicLinks);
     WriteBytes(folder / "REAL.SSD", "old");
     std::filesystem::create_symlink("REAL.SSD", folder / "A.SSD");
     StartWriting();
@@ -401,6 +403,7 @@ TEST_F(DataFile, ANameAsLongAsTheFileSystemAllowsIsWritten) {
 }
 
 TEST_F(DataFile, AFullDiskIsAFailureWhereTheFileIsClosedOrBefore) {
+    LITHMARK_NEEDS(DeviceFiles);
     WrittenFile shortOne("/dev/full", WrittenFile::Target::FileOrDevice);
     shortOne.Append("new");
     EXPECT_EQ(KindOf([&] { shortOne.Commit(); }), FailureKind::DiskFull);
@@ -412,6 +415,7 @@ TEST_F(DataFile, AFullDiskIsAFailureWhereTheFileIsClosedOrBefore) {
 }
 
 TEST_F(DataFile, ADiskThatFillsUpLeavesTheOldFileAndNothingElse) {
+    LITHMARK_NEEDS(CopyOfAProcess);
     WriteBytes(folder / "A.SSD", "old");
     EXPECT_TRUE(OnAFullDisk(100000, [&] {
         StartWriting();
@@ -432,12 +436,14 @@ TEST_F(DataFile, ADiskThatFillsUpLeavesTheOldFileAndNothingElse) {
 }
 
 TEST_F(DataFile, AProcessThatDiesWhileWritingLeavesTheOldFile) {
+    LITHMARK_NEEDS(CopyOfAProcess);
     WriteBytes(folder / "A.SSD", "old");
-    EXPECT_FALSE(OnAFullDisk(RLIM_INFINITY, [&]() -> bool {
+    const auto status = RunInACopy([&]() -> int {
         StartWriting();
         for (int i = 0; i < 100000; ++i) WriteRawLine(1, "new");
-        ::_exit(9);
-    }));
+        EndAtOnce(9);
+    });
+    EXPECT_EQ(status, 9);
     EXPECT_EQ(ReadBytes(folder / "A.SSD"), "old");
     StartWriting();
     WriteRawLine(1, "new");
@@ -499,6 +505,7 @@ TEST_F(DataFileSet, WithoutACommitEverythingIsAsItWas) {
 
 // A disk that fills up is met before any file has taken its place.
 TEST_F(DataFileSet, ADiskThatFillsUpReplacesNoneOfThem) {
+    LITHMARK_NEEDS(CopyOfAProcess);
     WriteBytes(folder / "A.SSD", "old");
     EXPECT_TRUE(OnAFullDisk(100, [&] {
         NumberedFileSet set;

@@ -1,5 +1,4 @@
 // A project is open in one program at a time.
-#include <unistd.h>
 
 #include <memory>
 
@@ -11,6 +10,7 @@
 #include "support/Matchers.h"
 #include "support/OtherProcess.h"
 #include "support/ScriptedHost.h"
+#include "support/System.h"
 
 namespace lithmark::tests {
 namespace {
@@ -33,6 +33,7 @@ TEST_F(ProjectLockTest, ALockHasItsFileAsLongAsItIsHeld) {
 }
 
 TEST_F(ProjectLockTest, TheSecondOpenerIsToldWhoHasTheProject) {
+    LITHMARK_NEEDS(CopyOfAProcess);
     const OtherProcess other([this] { new ProjectLock(folder / "Raft1"); });
     EXPECT_FALSE(ProjectStore().TakeProject(folder / "Raft1"));
     ASSERT_THAT(host.Messages, SizeIs(1));
@@ -43,6 +44,7 @@ TEST_F(ProjectLockTest, TheSecondOpenerIsToldWhoHasTheProject) {
 }
 
 TEST_F(ProjectLockTest, ALockDoesNotOutliveItsHolder) {
+    LITHMARK_NEEDS(CopyOfAProcess);
     OtherProcess other([this] { new ProjectLock(folder / "Raft1"); });
     other.Kill();
     EXPECT_THAT(folder.Names(), SizeIs(1));  // the file, without its lock
@@ -53,13 +55,14 @@ TEST_F(ProjectLockTest, ALockDoesNotOutliveItsHolder) {
 }
 
 TEST_F(ProjectLockTest, AProgramThatIsAskedToEndTakesItsLockAndItsTemporariesAlong) {
+    LITHMARK_NEEDS(CopyOfAProcess);
     OtherProcess other([this] {
         EndCleanlyOnSignals();
         new ProjectLock(folder / "Raft1");
         new TemporaryFile(folder.Dir(), "target");
     });
     EXPECT_THAT(folder.Names(), SizeIs(2));
-    other.Kill(SIGTERM);
+    other.AskToEnd();
     EXPECT_THAT(folder.Names(), IsEmpty());
 }
 
@@ -73,6 +76,7 @@ TEST_F(ProjectLockTest, TheProjectThatThisProgramHasIsItsOwn) {
 }
 
 TEST_F(ProjectLockTest, AProjectThatCannotBeTakenLeavesTheOldOne) {
+    LITHMARK_NEEDS(CopyOfAProcess);
     const OtherProcess other([this] { new ProjectLock(folder / "Raft1"); });
     EXPECT_TRUE(ProjectStore().TakeProject(folder / "Raft2"));
     EXPECT_FALSE(ProjectStore().TakeProject(folder / "Raft1"));
@@ -80,12 +84,14 @@ TEST_F(ProjectLockTest, AProjectThatCannotBeTakenLeavesTheOldOne) {
 }
 
 TEST_F(ProjectLockTest, ASaveIntoAProjectThatIsOpenElsewhereIsRefused) {
+    LITHMARK_NEEDS(CopyOfAProcess);
     const OtherProcess other([this] { new ProjectLock(folder / "Raft1"); });
     EXPECT_EQ(KindOf([this] { return ProjectStore().BeginSave(folder / "Raft1"); }), FailureKind::ProjectInUse);
 }
 
 TEST_F(ProjectLockTest, AFolderWithoutPermissionToWriteNeedsNoLock) {
-    if (::geteuid() == 0) GTEST_SKIP() << "root may write everywhere";
+    LITHMARK_NEEDS(FilePermissions);
+    if (IsRoot()) GTEST_SKIP() << "root may write everywhere";
     std::filesystem::permissions(folder.Dir(), std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
     EXPECT_TRUE(ProjectStore().TakeProject(folder / "Raft1"));
     std::filesystem::permissions(folder.Dir(), std::filesystem::perms::owner_all);
@@ -93,6 +99,7 @@ TEST_F(ProjectLockTest, AFolderWithoutPermissionToWriteNeedsNoLock) {
 }
 
 TEST_F(ProjectLockTest, ALinkInThePlaceOfTheLockLeadsNowhere) {
+    LITHMARK_NEEDS(SymbolicLinks);
     WriteBytes(folder / "precious", "data");
     std::filesystem::create_symlink("precious", folder / ".lithmark-Raft1.lock");
     EXPECT_TRUE(ProjectStore().TakeProject(folder / "Raft1"));
@@ -102,6 +109,7 @@ TEST_F(ProjectLockTest, ALinkInThePlaceOfTheLockLeadsNowhere) {
 // --- what crashes leave ---
 
 TEST_F(ProjectLockTest, WhatACrashLeftIsTidiedUpAtTheNextOpening) {
+    LITHMARK_NEEDS(CopyOfAProcess);
     OtherProcess other([this] {
         new ProjectLock(folder / "Raft1");
         new TemporaryFile(folder.Dir(), "target");
@@ -111,11 +119,12 @@ TEST_F(ProjectLockTest, WhatACrashLeftIsTidiedUpAtTheNextOpening) {
     WriteBytes(folder / "Raft1.PO3", "Version 9\r\n1\r\n0\r\n");
     WriteBytes(folder / ".lithmark-notes.txt", "the user's own");
     EXPECT_TRUE(ProjectStore().UnpackProject(folder / "Raft1", ".po3"));
-    const std::string name = std::filesystem::path(mine.Name()).filename();
+    const std::string name = std::filesystem::path(mine.Name()).filename().string();
     EXPECT_THAT(folder.Names(), ::testing::UnorderedElementsAre(name, ".lithmark-notes.txt", "Raft1.PO3"));
 }
 
 TEST_F(ProjectLockTest, WhatAnotherProgramIsWritingStays) {
+    LITHMARK_NEEDS(CopyOfAProcess);
     const OtherProcess other([this] { new TemporaryFile(folder.Dir(), "target"); });
     EXPECT_TRUE(ProjectStore().UnpackProject(folder / "Raft1", ".po3"));
     EXPECT_THAT(folder.Names(), SizeIs(1));

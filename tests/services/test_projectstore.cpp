@@ -1,6 +1,3 @@
-#include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 #include <zip.h>
 
 #include <map>
@@ -187,7 +184,8 @@ TEST_F(ProjectStoreTest, ANewerFolderOrPipeIsNoNewerFile) {
     EXPECT_FALSE(Unpack());
     EXPECT_EQ(ReadBytes(folder / "Raft1.PO3"), archive);
     std::filesystem::remove(folder / "Raft1.RDE");
-    ASSERT_EQ(::mkfifo((folder / "Raft1.RDE").c_str(), 0600), 0);
+    LITHMARK_NEEDS(NamedPipes);
+    MakePipe(folder / "Raft1.RDE");
     EXPECT_FALSE(Unpack());
     EXPECT_EQ(ReadBytes(folder / "Raft1.PO3"), archive);
     EXPECT_THAT(host.Messages, SizeIs(2));
@@ -321,15 +319,8 @@ TEST_F(ProjectStoreTest, WhatAnArchiveSaysOfItsSizeTakesNoMemory) {
     for (std::size_t at = 0; (at = archive.find(size, at)) != std::string::npos; ++places)
         archive.replace(at, 4, claimed);
     ASSERT_EQ(places, 2);  // in the entry's own head and in the archive's list
-    rlimit before{};
-    ::getrlimit(RLIMIT_AS, &before);
-#ifndef __SANITIZE_ADDRESS__
-    const rlimit little{rlim_t{512} << 20, before.rlim_max};
-    ::setrlimit(RLIMIT_AS, &little);
-#endif
-    const auto kind = KindOf([&] { ReadArchive(archive); });
-    ::setrlimit(RLIMIT_AS, &before);
-    EXPECT_EQ(kind, FailureKind::DamagedArchive);
+    const LittleMemory little(std::uint64_t{512} << 20);
+    EXPECT_EQ(KindOf([&] { ReadArchive(archive); }), FailureKind::DamagedArchive);
 }
 
 // A reader of archives gives files or DamagedArchive, whatever the bytes.
@@ -352,19 +343,16 @@ TEST_F(ProjectStoreTest, ArbitraryBytesNeverCrashTheUnpacking) {
 
 // Runs an action in a process of its own that ends without a word after so many steps. True when it got to the end.
 bool RunsToTheEnd(int steps, const std::function<void()>& action) {
-    const pid_t child = ::fork();
-    if (child == 0) {
+    const auto status = RunInACopy([&] {
         int left = steps;
         ProjectStore().BetweenSteps = [&] {
-            if (left-- == 0) ::_exit(1);
+            if (left-- == 0) EndAtOnce(1);
         };
         action();
-        ::_exit(0);
-    }
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    EXPECT_TRUE(WIFEXITED(status));
-    return WEXITSTATUS(status) == 0;
+        return 0;
+    });
+    EXPECT_TRUE(status);
+    return status == 0;
 }
 
 // Without the temporary files that a killed process cannot take away.
@@ -374,6 +362,7 @@ Files WithoutTemporaries(Files files) {
 }
 
 TEST_F(ProjectStoreTest, AProcessThatDiesAtAnyStepOfPackingLosesNothing) {
+    LITHMARK_NEEDS(CopyOfAProcess);
     int steps = 0;
     bool ended = false;
     for (; !ended; ++steps) {
@@ -391,6 +380,7 @@ TEST_F(ProjectStoreTest, AProcessThatDiesAtAnyStepOfPackingLosesNothing) {
 }
 
 TEST_F(ProjectStoreTest, AProcessThatDiesAtAnyStepOfUnpackingLosesNothing) {
+    LITHMARK_NEEDS(CopyOfAProcess);
     int steps = 0;
     bool ended = false;
     for (; !ended; ++steps) {
@@ -419,6 +409,7 @@ TEST_F(ProjectStoreTest, AnArchiveThatReadsBackWronglyDoesNotTakeTheProjectsPlac
 }
 
 TEST_F(ProjectStoreTest, AFullDiskLeavesThePlainFilesOrTheArchiveAsTheyWere) {
+    LITHMARK_NEEDS(CopyOfAProcess);
     EXPECT_TRUE(OnAFullDisk(50, [this] { return !Pack() && host.Messages.size() == 1; }));
     EXPECT_EQ(Content(), kProject);
     EXPECT_TRUE(Pack());

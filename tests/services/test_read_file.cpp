@@ -1,7 +1,5 @@
 // Files that are read whole: regular ones, of a size that a reader can use.
 #include <gmock/gmock.h>
-#include <sys/resource.h>
-#include <sys/stat.h>
 
 #include "services/storage/DataFile.h"
 #include "services/storage/ProjectArchive.h"
@@ -52,7 +50,8 @@ TEST_F(ReadFileTest, TheLimitItselfCanBeRead) {
 
 // A pipe without a writer would hold its reader for ever, and one without a reader its writer.
 TEST_F(ReadFileTest, APipeOrADeviceIsNoDataFile) {
-    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+    LITHMARK_NEEDS(DeviceFiles);
+    MakePipe(folder / "pipe");
     std::filesystem::create_symlink("/dev/null", folder / "device");
     for (const char* name : {"pipe", "device"}) {
         EXPECT_EQ(KindOf([&] { ReadWholeFile(folder / name); }), FailureKind::NotAFile) << name;

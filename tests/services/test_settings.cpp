@@ -1,6 +1,7 @@
 // Directories, units, company lines, language, and the store behind them.
 #include "services/ServicesTest.h"
 #include "support/Matchers.h"
+#include "support/System.h"
 
 namespace lithmark::tests {
 namespace {
@@ -63,6 +64,7 @@ TEST_F(Settings, AStoreThatCannotBeWrittenIsToldOnce) {
 
 // What cannot be read may hold everything that its user set.
 TEST_F(Settings, AStoreThatCannotBeReadIsToldOnceAndNotReplaced) {
+    LITHMARK_NEEDS(SymbolicLinks);
     SharedServices().SaveSetting("App", "Settings", "A", true);
     const std::string store = ReadBytes(folder / "settings.json");
     std::filesystem::rename(folder / "settings.json", folder / "real");

@@ -9,6 +9,7 @@
 #include "services/storage/UserFolders.h"
 #include "support/Files.h"
 #include "support/ScriptedHost.h"
+#include "support/System.h"
 #include "support/Variable.h"
 
 namespace lithmark::tests {
@@ -17,6 +18,7 @@ namespace {
 class UserFolders : public ::testing::Test {
   protected:
     void SetUp() override {
+        LITHMARK_NEEDS(FoldersOfHome);
         SharedServices().UseSettingsDirectory("");
         home.Set(folder / "home");
         config.Unset();

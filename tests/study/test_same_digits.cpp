@@ -124,6 +124,7 @@ void ExpectSameRun(const RowOutcome& outcome, const Json& program, int problemTy
 }
 
 TEST_P(SameDigits, AsOneProgramPerRow) {
+    LITHMARK_NEEDS(WorkersByCopying);
     const auto& [problemType, inputs] = GetParam();
     const std::string project = New("Row", problemType);
     StartProblem(problemType);

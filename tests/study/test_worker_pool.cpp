@@ -1,26 +1,21 @@
 // Workers: rows in and outcomes out, a worker that dies, the end of a study, and what stays behind.
-#include <poll.h>
-#include <signal.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <array>
 #include <chrono>
 #include <thread>
 
 #include "study/OrderedRows.h"
 #include "study/StudyProblem.h"
 #include "support/Matchers.h"
+#include "support/System.h"
 
 namespace lithmark::tests {
 namespace {
 
-// Clay of many thin sublayers under a circle of 32401 nodes: problem 4 takes seconds for it.
-RowInput LongRow() {
-    return {{"LoadType", "3"}, {"x", "1"}, {"PrefND", "180"}, {"h", "200"}, {"PrefDz", "0.05"}};
-}
+class Workers : public testing::Test {
+  protected:
+    void SetUp() override { LITHMARK_NEEDS(WorkersByCopying); }
+};
 
-TEST(Workers, EachRowIsWorkedOnTheProjectThatWasOpen) {
+TEST_F(Workers, EachRowIsWorkedOnTheProjectThatWasOpen) {
     StartProblem(1);
     Session.LoadType = 1;
     WorkerPool pool(Session, TakesOf(1, {"Sigma_z"}), 3);
@@ -37,7 +32,7 @@ TEST(Workers, EachRowIsWorkedOnTheProjectThatWasOpen) {
 }
 
 // A row has the notices of its own run: those of the row before are gone.
-TEST(Workers, EachRowTellsTheNoticesOfItsRun) {
+TEST_F(Workers, EachRowTellsTheNoticesOfItsRun) {
     StartProblem(9);
     WorkerPool pool(Session, TakesOf(9, {"RaftMeanPressure"}), 1);
     const RowInput square = {{"LoadType", "2"}, {"A", "5"},      {"B", "5"},
@@ -53,7 +48,7 @@ TEST(Workers, EachRowTellsTheNoticesOfItsRun) {
     EXPECT_EQ(outcomes[2].Notices, "raft-thin-layer");
 }
 
-TEST(Workers, AValueThatNoFieldHoldsAbortsItsRowAlone) {
+TEST_F(Workers, AValueThatNoFieldHoldsAbortsItsRowAlone) {
     StartProblem(1);
     WorkerPool pool(Session, TakesOf(1, {"Sigma_z"}), 2);
     const auto outcomes = OutcomesOf(pool, {{{"LoadType", "1.5"}}, {}, {{"Young", "1"}}, {{"hLayer(3)", "1"}}});
@@ -64,7 +59,7 @@ TEST(Workers, AValueThatNoFieldHoldsAbortsItsRowAlone) {
     EXPECT_TRUE(outcomes[0].Aborted && outcomes[2].Aborted && outcomes[3].Aborted);
 }
 
-TEST(Workers, AWorkerThatDiesIsReplacedAndItsRowSaysSo) {
+TEST_F(Workers, AWorkerThatDiesIsReplacedAndItsRowSaysSo) {
     StartProblem(4);
     WorkerPool pool(Session, TakesOf(4, {"s"}), 1);
     pool.Add(0, {});
@@ -75,7 +70,7 @@ TEST(Workers, AWorkerThatDiesIsReplacedAndItsRowSaysSo) {
     std::this_thread::sleep_for(std::chrono::milliseconds(200));  // into the long row
     const auto before = pool.Processes();
     ASSERT_EQ(before.size(), 1u);
-    kill(before.front(), SIGKILL);
+    KillProcess(before.front());
     while (pool.Unanswered() > 0) pool.Collect(answers, 100);
     ASSERT_EQ(answers.size(), 3u);
     EXPECT_EQ(answers[1].Row, 1u);
@@ -87,15 +82,15 @@ TEST(Workers, AWorkerThatDiesIsReplacedAndItsRowSaysSo) {
 }
 
 // Killed between two rows, a worker takes nothing with it: what it still held is worked by another.
-TEST(Workers, AWorkerThatDiesIdleCostsNoRow) {
+TEST_F(Workers, AWorkerThatDiesIdleCostsNoRow) {
     StartProblem(1);
     WorkerPool pool(Session, TakesOf(1, {"Sigma_z"}), 1);
     ASSERT_FALSE(OutcomesOf(pool, {{}})[0].Aborted);
-    kill(pool.Processes().front(), SIGKILL);
+    KillProcess(pool.Processes().front());
     for (const RowOutcome& outcome : OutcomesOf(pool, {{}, {}, {}})) EXPECT_FALSE(outcome.Aborted) << outcome.Message();
 }
 
-TEST(Workers, RowsThatAreAbandonedAreNeverAnswered) {
+TEST_F(Workers, RowsThatAreAbandonedAreNeverAnswered) {
     StartProblem(4);
     WorkerPool pool(Session, TakesOf(4, {"s"}), 2);
     for (Ticket row = 0; row < 4; ++row) pool.Add(row, LongRow());
@@ -109,9 +104,9 @@ TEST(Workers, RowsThatAreAbandonedAreNeverAnswered) {
     EXPECT_EQ(answers[0].Row, 7u);
 }
 
-TEST(Workers, TheEndOfThePoolLeavesNoProcess) {
+TEST_F(Workers, TheEndOfThePoolLeavesNoProcess) {
     StartProblem(4);
-    std::vector<pid_t> processes;
+    std::vector<int> processes;
     {
         WorkerPool pool(Session, TakesOf(4, {"s"}), 2);
         pool.Add(0, LongRow());
@@ -121,34 +116,10 @@ TEST(Workers, TheEndOfThePoolLeavesNoProcess) {
         processes = pool.Processes();
         EXPECT_EQ(processes.size(), 2u);
     }
-    for (const pid_t process : processes) EXPECT_EQ(kill(process, 0), -1);
+    for (const int process : processes) EXPECT_FALSE(ProcessRuns(process));
 }
 
-// The study is killed: its workers see it and go. A pipe that they all hold tells when the last is gone.
-TEST(Workers, WorkersOutliveNoStudy) {
-    StartProblem(4);
-    std::array<int, 2> ends{};
-    ASSERT_EQ(pipe(ends.data()), 0);
-    const pid_t study = fork();
-    if (study == 0) {
-        close(ends[0]);
-        WorkerPool pool(Session, TakesOf(4, {"s"}), 2);
-        std::vector<WorkerPool::Answer> answers;
-        pool.Add(0, LongRow());
-        pool.Add(1, {});
-        while (answers.empty()) pool.Collect(answers, 50);
-        raise(SIGKILL);
-    }
-    close(ends[1]);
-    pollfd end{ends[0], POLLIN, 0};
-    EXPECT_EQ(poll(&end, 1, 60000), 1);
-    EXPECT_TRUE(end.revents & POLLHUP);
-    close(ends[0]);
-    int status = 0;
-    waitpid(study, &status, 0);
-}
-
-TEST(Workers, RowsComeInOrderAndFewAreHeld) {
+TEST_F(Workers, RowsComeInOrderAndFewAreHeld) {
     StartProblem(1);
     WorkerPool pool(Session, TakesOf(1, {"Sigma_z"}), 2);
     std::uint64_t next = 0, furthest = 0, greatestHeld = 0;
@@ -169,7 +140,7 @@ TEST(Workers, RowsComeInOrderAndFewAreHeld) {
     EXPECT_LT(greatestHeld, rows.Count / 2);
 }
 
-TEST(Workers, AnEndedStudyGivesTheRowsSoFar) {
+TEST_F(Workers, AnEndedStudyGivesTheRowsSoFar) {
     StartProblem(1);
     WorkerPool pool(Session, TakesOf(1, {"Sigma_z"}), 2);
     std::uint64_t next = 0;

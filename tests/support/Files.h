@@ -1,8 +1,7 @@
 // What tests with files share: a folder of their own, bytes of files, and the kind of a failure.
 #pragma once
 
-#include <sys/resource.h>
-
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -10,6 +9,7 @@
 #include <vector>
 
 #include "base/Failure.h"
+#include "support/System.h"
 
 namespace lithmark::tests {
 
@@ -52,6 +52,6 @@ inline std::optional<FailureKind> KindOf(auto&& action) {
 
 // Runs an action in a process of its own in which no file can grow beyond so many bytes, as on a full disk. True when
 // the action says so there.
-bool OnAFullDisk(rlim_t bytes, const std::function<bool()>& action);
+bool OnAFullDisk(std::uint64_t bytes, const std::function<bool()>& action);
 
 }  // namespace lithmark::tests

@@ -18,7 +18,7 @@ const std::filesystem::path& BuildDir() {
 }
 
 const std::filesystem::path& CommandLineTool() {
-    static const std::filesystem::path path = BuildDir() / "cli/lithmark-cli";
+    static const std::filesystem::path path = BuildDir() / "cli/lithmark-cli" LITHMARK_PROGRAM_SUFFIX;
     return path;
 }
 

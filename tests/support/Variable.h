@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 
+#include "support/System.h"
+
 namespace lithmark::tests {
 
 // A variable of the environment that has its old value again in the end.
@@ -16,8 +18,8 @@ class Variable {
     ~Variable() { before_ ? Set(*before_) : Unset(); }
     Variable(const Variable&) = delete;
     Variable& operator=(const Variable&) = delete;
-    void Set(const std::string& value) const { ::setenv(name_, value.c_str(), 1); }
-    void Unset() const { ::unsetenv(name_); }
+    void Set(const std::string& value) const { SetVariable(name_, value); }
+    void Unset() const { SetVariable(name_, std::nullopt); }
 
   private:
     const char* name_;

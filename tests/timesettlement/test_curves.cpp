@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <cmath>
+#include <numbers>
 
 #include "TimeCase.h"
 #include "kernels/timesettlement/SuddenLoadCurve.h"
@@ -281,13 +282,13 @@ TEST_F(Curves, TheoryRunsAheadOfTheExactSeriesByAtMostFivePoints) {
     for (int t = 1; t <= Session.ConsolidationEnd; ++t) {
         double exact = 1;
         for (int m = 0; m < 100; ++m) {
-            const double M = (2 * m + 1) * M_PI / 2;
+            const double M = (2 * m + 1) * std::numbers::pi / 2;
             exact -= 2 / (M * M) * std::exp(-M * M * run.TimeFactor(t));
         }
         EXPECT_GT(run.DegreeU(t), exact) << "t = " << t;
         EXPECT_LT(run.DegreeU(t), exact + 0.05) << "t = " << t;
         if (run.FormulaCase(t) == 1) {
-            EXPECT_NEAR(run.DegreeU(t) / exact, std::sqrt(M_PI / 3), 1e-3) << "t = " << t;
+            EXPECT_NEAR(run.DegreeU(t) / exact, std::sqrt(std::numbers::pi / 3), 1e-3) << "t = " << t;
         }
     }
 }
