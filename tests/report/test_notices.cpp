@@ -84,7 +84,7 @@ TEST_F(NoticesTest, EveryIdHasANameAndASectionOfTheManual) {
     for (int id = 0; id < kNoticeIds; ++id) names.emplace(NoticeName(static_cast<NoticeId>(id)));
     EXPECT_EQ(names.size(), static_cast<std::size_t>(kNoticeIds));
     for (const char* page : {"notices.md", "manual/de/notices.md", "manual/ar/notices.md"}) {
-        const std::string manual = ReadBytes(SourceDir() / "docs" / page);
+        const std::string manual = ReadBytes((SourceDir() / "docs" / page).string());
         for (const std::string& name : names) EXPECT_THAT(manual, HasSubstr("\n## " + name + "\n")) << page;
     }
 }
