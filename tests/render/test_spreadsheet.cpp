@@ -7,6 +7,7 @@
 #include "render/ChartDocument.h"
 #include "render/RenderCase.h"
 #include "support/Matchers.h"
+#include "support/Variable.h"
 
 namespace lithmark::tests {
 namespace {
@@ -166,11 +167,9 @@ TEST_F(Spreadsheet, WhatItsScratchCannotTakeIsToldForTheScratch) {
         const std::string words = testing::internal::GetCapturedStderr();
         return failure && failure->File().find("lithmark-") != std::string::npos && words.empty();
     }));
-    const char* before = std::getenv("TMPDIR");
-    const std::string kept = before != nullptr ? before : "";
-    ::setenv("TMPDIR", (folder / "none").c_str(), 1);
+    const Variable scratch("TMPDIR");
+    scratch.Set(folder / "none");
     const auto failure = FailureOf([&] { TableXlsx("t", table); });
-    before != nullptr ? ::setenv("TMPDIR", kept.c_str(), 1) : ::unsetenv("TMPDIR");
     ASSERT_TRUE(failure);
     EXPECT_EQ(failure->Kind(), FailureKind::FileMissing);
     EXPECT_EQ(failure->File(), folder / "none");

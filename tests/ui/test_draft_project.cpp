@@ -1,6 +1,4 @@
 // A dialog's unsaved input as a project of its own: what Save would write, for as long as it is needed.
-#include <sys/stat.h>
-
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -13,6 +11,7 @@
 #include "support/Matchers.h"
 #include "support/OtherProcess.h"
 #include "support/Places.h"
+#include "support/Variable.h"
 #include "ui/model/DraftProject.h"
 #include "ui/model/ProblemForm.h"
 
@@ -100,9 +99,7 @@ TEST_F(DraftProjectTest, IsTheUsersOwnAndGoesWithItsOwner) {
     InEveryDialog([&](ProblemForm& form) {
         const DraftProject draft(form.Draft().Record);
         folder = draft.Folder();
-        struct stat status {};
-        ASSERT_EQ(::stat(folder.c_str(), &status), 0);
-        EXPECT_EQ(status.st_mode & 0777, 0700u);
+        EXPECT_EQ(fs::status(folder).permissions(), fs::perms::owner_all);
         WriteBytes(folder + "left by a command", "");
     });
     EXPECT_FALSE(fs::exists(folder));
@@ -117,20 +114,15 @@ TEST_F(DraftProjectTest, GoesWithAProgramThatIsAskedToEnd) {
     });
     const std::string folder = ReadBytes(told);
     EXPECT_TRUE(fs::exists(folder));
-    program.Kill(SIGTERM);
+    program.AskToEnd();
     EXPECT_FALSE(fs::exists(folder));
 }
 
 TEST_F(DraftProjectTest, AFolderThatCannotBeMadeIsAFailure) {
     Session.ProblemType = Problem::SoilStress;
-    const char* was = std::getenv("TMPDIR");
-    const std::string before = was ? was : "";
-    ::setenv("TMPDIR", DataFile("missing").c_str(), 1);
+    const Variable folder("TMPDIR");
+    folder.Set(DataFile("missing"));
     EXPECT_TRUE(FailureOf([] { DraftProject draft(Session); }));
-    if (was)
-        ::setenv("TMPDIR", before.c_str(), 1);
-    else
-        ::unsetenv("TMPDIR");
 }
 
 }  // namespace
