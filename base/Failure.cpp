@@ -38,8 +38,21 @@ FailureKind KindOf(int error, FailureKind otherwise) {
 std::string ShortName(int error) {
 #ifdef __GLIBC__
     if (const char* name = ::strerrorname_np(error)) return name;
+#else
+    static constexpr std::pair<int, const char*> kNames[] = {
+        {E2BIG, "E2BIG"},   {EAGAIN, "EAGAIN"}, {EBADF, "EBADF"},   {EBUSY, "EBUSY"},     {EEXIST, "EEXIST"},
+        {EFBIG, "EFBIG"},   {EINTR, "EINTR"},   {EINVAL, "EINVAL"}, {EIO, "EIO"},         {EMFILE, "EMFILE"},
+        {ENFILE, "ENFILE"}, {EPIPE, "EPIPE"},   {ESPIPE, "ESPIPE"}, {ETXTBSY, "ETXTBSY"}, {EXDEV, "EXDEV"}};
+    for (const auto& [number, name] : kNames)
+        if (number == error) return name;
 #endif
     return std::to_string(error);
+}
+
+// The usual number of an error, where the system has others of its own.
+int NumberOf(const std::error_code& code) {
+    const std::error_condition usual = code.default_error_condition();
+    return usual.category() == std::generic_category() ? usual.value() : code.value();
 }
 
 Failure FromSystemError(int error, FailureKind otherwise, std::string file) {
@@ -70,9 +83,9 @@ Failure FailureFrom(const std::exception& error) {
     if (dynamic_cast<const std::bad_alloc*>(&error) != nullptr) return Failure(FailureKind::OutOfMemory);
     if (dynamic_cast<const std::length_error*>(&error) != nullptr) return Failure(FailureKind::OutOfMemory);
     if (const auto* file = dynamic_cast<const std::filesystem::filesystem_error*>(&error))
-        return FromSystemError(file->code().value(), FailureKind::ReadError, file->path1().string());
+        return FromSystemError(NumberOf(file->code()), FailureKind::ReadError, file->path1().generic_string());
     if (const auto* system = dynamic_cast<const std::system_error*>(&error))
-        return FromSystemError(system->code().value(), FailureKind::Other, {});
+        return FromSystemError(NumberOf(system->code()), FailureKind::Other, {});
     return Failure(FailureKind::Other);
 }
 

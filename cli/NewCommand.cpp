@@ -25,9 +25,9 @@ ExitStatus NewCommand(const CommonOptions& options, int problem, ConsoleHost& ho
         fail(ExitStatus::BadCommandLine, 902012_text, options.Project);
     const fs::path dir = path.has_parent_path() ? path.parent_path() : fs::path(".");
     RequireFolderOf(options.Project);
-    if (!fs::is_directory(dir)) fail(ExitStatus::FileTrouble, 902003_text, dir.string());
+    if (!fs::is_directory(dir)) fail(ExitStatus::FileTrouble, 902003_text, dir.generic_string());
 
-    Session.DataDir = Session.WorkDir = dir.string() + "/";
+    Session.DataDir = Session.WorkDir = dir.generic_string() + "/";
     Session.ProjectName = Session.WorkName = path.filename().string();
     Session.ProjectFile = DataFileName(Session.WorkDir, Session.WorkName, "PO3");
     if (fs::exists(Session.ProjectFile)) fail(ExitStatus::FileTrouble, 902013_text, Session.ProjectFile);

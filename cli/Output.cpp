@@ -35,7 +35,7 @@ void RequireFolderOf(const std::string& path) {
     const fs::path folder = fs::path(path).parent_path();
     std::error_code error;
     if (folder.empty() || fs::exists(folder, error) || error) return;
-    throw CommandFailure(ExitStatus::FileTrouble, path + ": " + Text(190008_text, {{"|1", folder.string()}}));
+    throw CommandFailure(ExitStatus::FileTrouble, path + ": " + Text(190008_text, {{"|1", folder.generic_string()}}));
 }
 
 void RefuseProjectFile(const std::string& output) {

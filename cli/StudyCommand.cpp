@@ -109,7 +109,7 @@ SummaryFile SummaryFileOf(const CommonOptions& options, const StudyOptions& stud
     std::error_code error;
     const fs::path folder = fs::path(file.Path).parent_path();
     if (!folder.empty() && !fs::is_directory(folder, error))
-        throw CommandFailure(ExitStatus::FileTrouble, Text(902003_text, {{"|1", folder.string()}}));
+        throw CommandFailure(ExitStatus::FileTrouble, Text(902003_text, {{"|1", folder.generic_string()}}));
     if (file.Path == output || fs::equivalent(file.Path, output, error))
         FailCommandLine(908061_text, "--summary, --output");
     RefuseProjectFile(file.Path);

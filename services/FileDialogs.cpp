@@ -71,7 +71,7 @@ void FileDialogsService::SplitProjectPath(const std::string& file, std::string& 
     const auto known = ProjectExtensions();
     if (std::find(known.begin(), known.end(), extension) != known.end())
         stem.resize(stem.size() - extension.size() - 1);
-    dir = WithSeparator(path.parent_path().string());
+    dir = WithSeparator(path.parent_path().generic_string());
     name = stem;
 }
 

@@ -29,7 +29,7 @@ std::string FileOf(const std::string& stem, std::string_view extension) {
 }
 
 std::string FolderOf(const std::string& path) {
-    const std::string folder = fs::path(path).parent_path().string();
+    const std::string folder = fs::path(path).parent_path().generic_string();
     return folder.empty() ? "." : folder;
 }
 

@@ -31,6 +31,11 @@ int FailWithLast() noexcept {
     return FailWith(NumberOfLastError());
 }
 
+bool IsFolder(const std::wstring& path) noexcept {
+    const DWORD attributes = ::GetFileAttributesW(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
 DWORD Most(std::size_t count) noexcept {
     constexpr std::size_t kMost = 1 << 30;
     return static_cast<DWORD>(count < kMost ? count : kMost);
@@ -114,11 +119,9 @@ int OpenFile(const std::string& path, Open how) noexcept {
                                         nullptr, creation, FILE_ATTRIBUTE_NORMAL | link, nullptr);
     if (handle == INVALID_HANDLE_VALUE) {
         // A folder cannot be opened, which is told as any refusal.
-        const DWORD attributes = ::GetFileAttributesW(name.c_str());
-        const bool folder = attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-        if (folder && how != Open::New) return FailWith(EISDIR);
-        ::SetLastError(folder ? ERROR_FILE_EXISTS : ::GetLastError());
-        return FailWithLast();
+        const int number = NumberOfLastError();
+        if (!IsFolder(name)) return FailWith(number);
+        return FailWith(how == Open::New ? EEXIST : EISDIR);
     }
     const int descriptor = ::_open_osfhandle(reinterpret_cast<std::intptr_t>(handle), _O_BINARY | _O_NOINHERIT);
     if (descriptor < 0) ::CloseHandle(handle);
@@ -170,7 +173,10 @@ void SyncFolder(const std::string&) noexcept {}  // RenameOver writes through
 
 int RenameOver(const std::string& from, const std::string& to) noexcept {
     constexpr DWORD kHow = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
-    return ::MoveFileExW(WidePath(from).c_str(), WidePath(to).c_str(), kHow) != 0 ? 0 : FailWithLast();
+    const std::wstring target = WidePath(to);
+    if (::MoveFileExW(WidePath(from).c_str(), target.c_str(), kHow) != 0) return 0;
+    const int number = NumberOfLastError();
+    return FailWith(IsFolder(target) ? EISDIR : number);
 }
 
 int RemoveFile(const char* path) noexcept {

@@ -26,7 +26,7 @@ std::string NameOf(const std::string& text) {
 }
 
 std::string FileOf(const std::string& dir, const std::string& project, const std::string& form) {
-    return (fs::path(dir) / (NameOf(project + '\n' + form) + ".json")).string();
+    return (fs::path(dir) / (NameOf(project + '\n' + form) + ".json")).generic_string();
 }
 
 Json ListOf(const StoredDraft::Pairs& pairs) {

@@ -56,7 +56,7 @@ std::string DataDirUnset(const std::string& programDir) {
     const std::string user = UserSettingsDir();
     if (user.empty()) {
         std::error_code error;
-        return WithSeparator(fs::current_path(error).string());
+        return WithSeparator(fs::current_path(error).generic_string());
     }
     return programDir == user ? UserProjectsDir() : programDir;
 }

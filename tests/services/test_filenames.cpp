@@ -30,6 +30,7 @@ TEST(FileNames, BackslashesBecomeThePlatformsSeparators) {
 }
 
 TEST(FileNames, AnExistingFileOfAnotherLetterCaseIsFoundByItsExtensionAlone) {
+    LITHMARK_NEEDS(NamesByCase);
     const TestFolder folder;
     WriteBytes(folder / "Raft1.ssd", "1");
     WriteBytes(folder / "raft1.CON", "other project");
@@ -40,6 +41,7 @@ TEST(FileNames, AnExistingFileOfAnotherLetterCaseIsFoundByItsExtensionAlone) {
 }
 
 TEST(FileNames, TheServiceGivesBackTheNameThatIsOpened) {
+    LITHMARK_NEEDS(NamesByCase);
     const TestFolder folder;
     WriteBytes(folder / "Raft1.tO1", "1");
     SharedServices().SetFileName(folder / "Raft1.To1");
@@ -57,6 +59,7 @@ TEST(FileNames, AFolderInTheWayIsNotAMissingFile) {
 // --- dialogs and paths ---------------------------------------------------------------------------------------------
 
 TEST(FileDialogs, OpeningGivesFileFolderAndBareName) {
+    LITHMARK_NEEDS(NamesByCase);
     const TestFolder folder;
     WriteBytes(folder / "Raft1.po3", "");
     ScriptedHost host;

@@ -34,7 +34,7 @@ TEST_F(ReadFileTest, AFailureNamesItsFile) {
 // The file has no content on the disk, so that reading it would be what takes memory and time.
 TEST_F(ReadFileTest, AHugeFileIsRefusedBeforeItIsRead) {
     WriteBytes(folder / "f", "");
-    std::filesystem::resize_file(folder / "f", std::uintmax_t{600} << 30);
+    MakeLarge(folder / "f", std::uint64_t{600} << 30);
     const auto failure = FailureOf([this] { ReadWholeFile(folder / "f"); });
     ASSERT_TRUE(failure);
     EXPECT_EQ(failure->Kind(), FailureKind::TooLarge);

@@ -91,7 +91,7 @@ TEST_F(Settings, AStoreOfBracketsInBracketsTakesNoMemory) {
 
 TEST_F(Settings, AHugeStoreIsNotRead) {
     WriteBytes(folder / "settings.json", "{}");
-    std::filesystem::resize_file(folder / "settings.json", std::uintmax_t{600} << 30);
+    MakeLarge(folder / "settings.json", std::uint64_t{600} << 30);
     EXPECT_TRUE(SharedServices().GetSetting("App", "Settings", "A", true));
     SharedServices().SaveSetting("App", "Settings", "A", false);
     ASSERT_THAT(host.Messages, SizeIs(1));

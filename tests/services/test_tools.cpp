@@ -54,6 +54,7 @@ TEST_F(Tools, TheListKeepsFourFilesAndIsStored) {
 }
 
 TEST_F(Tools, AnExistingRecentFileIsGivenAndTheListStays) {
+    LITHMARK_NEEDS(NamesByCase);
     RecentFileTable table;
     WriteBytes(folder / "A.po3", "");
     ListTools().AddRecentFile(folder / "A.PO3", "App", table);

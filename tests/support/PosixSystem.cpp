@@ -6,6 +6,7 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <filesystem>
 
 #include "support/OtherProcess.h"
 #include "support/System.h"
@@ -29,6 +30,10 @@ void SetVariable(const char* name, const std::optional<std::string>& value) {
         ::setenv(name, value->c_str(), 1);
     else
         ::unsetenv(name);
+}
+
+void MakeLarge(const std::string& path, std::uint64_t bytes) {
+    std::filesystem::resize_file(path, bytes);
 }
 
 void MakePipe(const std::string& path) {

@@ -19,6 +19,9 @@ enum class Ability {
     DeviceFiles,       // /dev/null, /dev/zero, /dev/full
     FilePermissions,   // for the owner, the group and others
     FoldersOfHome,     // the user's folders follow the variable HOME
+    NamesByCase,       // names that differ by letter case alone are different files
+    OpenFilesGo,       // a file that is open can be taken away, and its folder
+    TimesOfFolders,    // the standard library can set them
     PosixShell,        // with its tools: timeout, script, kill
     WorkersByCopying,  // a study's worker is a copy of the program; else the program is started anew
 };
@@ -35,6 +38,9 @@ bool IsRoot();
 
 // Nothing takes the variable away. The program sees it as its users' shells would set it.
 void SetVariable(const char* name, const std::optional<std::string>& value);
+
+// Makes a file so large; nothing is written to the disk.
+void MakeLarge(const std::string& path, std::uint64_t bytes);
 
 // A pipe in a folder; it has no reader and no writer. Fails the test where there is none.
 void MakePipe(const std::string& path);

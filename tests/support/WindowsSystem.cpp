@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 #include <windows.h>
+#include <winioctl.h>
 
 #include <array>
 #include <cstdlib>
@@ -55,6 +56,12 @@ const char* ReasonWithout(Ability ability) {
             return "files of this system have no permissions for owner, group and others";
         case Ability::FoldersOfHome:
             return "the user's folders do not follow HOME on this system";
+        case Ability::NamesByCase:
+            return "names do not differ by letter case on this system";
+        case Ability::OpenFilesGo:
+            return "a file that is open stays on this system, and its folder";
+        case Ability::TimesOfFolders:
+            return "the standard library sets no times of folders on this system";
         case Ability::PosixShell:
             return "this system has no POSIX shell";
         case Ability::WorkersByCopying:
@@ -69,6 +76,16 @@ bool IsRoot() {
 
 void SetVariable(const char* name, const std::optional<std::string>& value) {
     ::_wputenv_s(Wide(name).c_str(), Wide(value.value_or("")).c_str());
+}
+
+void MakeLarge(const std::string& path, std::uint64_t bytes) {
+    const HANDLE file = Opened(Wide(path), GENERIC_WRITE, OPEN_ALWAYS);
+    DWORD given = 0;
+    ::DeviceIoControl(file, FSCTL_SET_SPARSE, nullptr, 0, nullptr, 0, &given, nullptr);
+    LARGE_INTEGER end;
+    end.QuadPart = static_cast<LONGLONG>(bytes);
+    EXPECT_TRUE(::SetFilePointerEx(file, end, nullptr, FILE_BEGIN) != 0 && ::SetEndOfFile(file) != 0) << path;
+    ::CloseHandle(file);
 }
 
 void MakePipe(const std::string& path) {
