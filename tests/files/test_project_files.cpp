@@ -164,6 +164,7 @@ TEST_F(ProjectFiles, WritingThatFailsIsToldOnceAndNotSaved) {
 }
 
 TEST_F(ProjectFiles, AProjectHasAFileInWhateverLetterCase) {
+    LITHMARK_NEEDS(NamesByCase);
     EXPECT_FALSE(ProjectHasFile("SSD"));
     WriteBytes(folder / "Raft1.Ssd", "");
     EXPECT_TRUE(ProjectHasFile("SSD"));
@@ -215,6 +216,7 @@ TEST_F(Wrappers, TheCommonStepTellsTheFailureDropsTheFileAndClearsTheNotice) {
 }
 
 TEST_F(Wrappers, ADataFileNameIsFoldedToUpperCaseUnlessAnotherFormExists) {
+    LITHMARK_NEEDS(NamesByCase);
     EXPECT_EQ(DataFileName(folder.Dir(), "Raft1", "po3"), Path("PO3"));
     WriteBytes(folder / "Raft1.Auf", "");
     EXPECT_EQ(DataFileName(folder.Dir(), "Raft1", "AUF"), folder / "Raft1.Auf");

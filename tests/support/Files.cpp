@@ -10,7 +10,7 @@ namespace lithmark::tests {
 TestFolder::TestFolder() {
     std::random_device random;
     do {
-        const std::string name = "lithmark-test-" + std::to_string(random());
+        const std::string name = "lithmark-test-" + std::to_string(random() % 1000000);
         path_ = (std::filesystem::temp_directory_path() / name).generic_string();
     } while (!std::filesystem::create_directory(path_));
     std::filesystem::permissions(path_, std::filesystem::perms::owner_all);
