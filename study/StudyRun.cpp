@@ -85,7 +85,8 @@ class KeptRows {
   private:
     void Advance() {
         line_ = file_->Next(run_.Plan);
-        if (line_ && (line_->Row < run_.Part.K || (line_->Row - run_.Part.K) % run_.Part.N != 0))
+        if (!line_) return file_.reset();  // some systems let nothing take the place of a file that is read
+        if (line_->Row < run_.Part.K || (line_->Row - run_.Part.K) % run_.Part.N != 0)
             throw StudyFailure(StudyFailure::Cause::File,
                                Text(908028_text, {{"|1", file_->Path()}, {"|2", std::to_string(line_->Row)}}));
     }

@@ -4,6 +4,7 @@
 
 #include "cli/StudyCliCase.h"
 #include "support/Matchers.h"
+#include "support/Pattern.h"
 #include "support/Places.h"
 
 namespace lithmark::tests {
@@ -48,8 +49,8 @@ TEST_F(CliStudy, TheTableHasAFixedHead) {
     ASSERT_EQ(lines.size(), 5u);
     EXPECT_EQ(lines[0], "Row,Pt,Ms,ConsolidationEnd,MeasureFactor,Status,Notices,Study\r");
     // Without a measurement a row has no factor: its cell is empty.
-    EXPECT_THAT(lines[1], testing::ContainsRegex("^1,100,#FALSE#,[0-9.]+,,ok,[a-z -]*,[0-9a-f]{8}\r$"));
-    EXPECT_THAT(lines[2], testing::ContainsRegex("^2,100,#TRUE#,[0-9.]+,[0-9.]+,ok,[a-z -]*,[0-9a-f]{8}\r$"));
+    EXPECT_THAT(lines[1], HasPattern("^1,100,#FALSE#,[0-9.]+,,ok,[a-z -]*,[0-9a-f]{8}\r$"));
+    EXPECT_THAT(lines[2], HasPattern("^2,100,#TRUE#,[0-9.]+,[0-9.]+,ok,[a-z -]*,[0-9a-f]{8}\r$"));
 }
 
 TEST_F(CliStudy, AResultThatIsCalledAsAVariedFieldHasAColumnOfItsOwn) {
@@ -281,7 +282,7 @@ TEST_F(CliStudy, TheSignOfAStudyFollowsItsInput) {
         return Study(project, With(words, more))[0]["Study"].get<std::string>();
     };
     const std::string plain = sign({});
-    EXPECT_THAT(plain, testing::MatchesRegex("[0-9a-f]{8}"));
+    EXPECT_THAT(plain, HasPattern("^[0-9a-f]{8}$"));
     EXPECT_EQ(sign({"--jobs", "1"}), plain);
     EXPECT_EQ(sign({"--shard", "1/2"}), plain);
     EXPECT_EQ(sign({"--lang", "de"}), plain);
