@@ -213,12 +213,6 @@ void IsochroneCurveSet(ChartArguments& chart) {
     chart.Flag = false;
 }
 
-std::string ProjectText() {
-    return Text(11_text, Styles::Heading) + Session.Auftr + "\n" + Text(12_text, Styles::Heading) + Session.Datum +
-           "\n" + Text(95_text, Styles::Heading) + Session.Proj + "\n" + Text(107_text, Styles::Heading) +
-           Session.ProjectName + "\n";
-}
-
 void BuildCurveSet(ChartArguments& chart, const CurveRequest& request) {
     switch (request.Set) {
         case CurveSet::Load:
@@ -260,6 +254,12 @@ void MakePrintable(ChartArguments& chart) {
 
 }  // namespace
 
+std::string ProjectTextInForce() {
+    return Text(11_text, Styles::Heading) + Session.Auftr + "\n" + Text(12_text, Styles::Heading) + Session.Datum +
+           "\n" + Text(95_text, Styles::Heading) + Session.Proj + "\n" + Text(107_text, Styles::Heading) +
+           Session.ProjectName + "\n";
+}
+
 ChartArguments BuildChart() {
     ChartArguments chart;
     chart.Flag = true;
@@ -271,7 +271,7 @@ ChartArguments BuildChart() {
         BuildCurveSet(chart, request);
         SetRange(chart, IsRaftCurve(request.Set));
     }
-    chart.ProjectText = ProjectText();
+    chart.ProjectText = ProjectTextInForce();
     BuildTableHeader(chart.Header);
     chart.LastColumn = Session.TableLastColumn;
     chart.LastRow = Session.TableLastRow;

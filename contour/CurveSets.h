@@ -17,6 +17,9 @@ namespace lithmark {
 // fields. Throws Failure: a result missing (SubscriptRange), per cent of a final settlement of 0 (DivisionByZero).
 ChartArguments BuildChart();
 
+// Order, date, project and file, a line each: ChartArguments::ProjectText of the open project.
+std::string ProjectTextInForce();
+
 // The head of a column on one line: title, symbol and unit joined by blanks, words that the narrow head divides made
 // whole again.
 std::string ColumnHead(const ChartArguments& chart, int column);

@@ -15,7 +15,7 @@ constexpr int kClickTravel = 4;  // pixels; farther is a pan
 }  // namespace
 
 ChartView::ChartView(const ChartArguments& chart, QWidget* parent)
-    : QCustomPlot(parent), chart_(chart), reading_(chart) {
+    : QCustomPlot(parent), chart_(chart), reading_(std::make_unique<ChartReading>(chart)) {
     setObjectName(QStringLiteral("plot"));
     setLayoutDirection(Qt::LeftToRight);
     setFocusPolicy(Qt::StrongFocus);
@@ -27,8 +27,19 @@ ChartView::ChartView(const ChartArguments& chart, QWidget* parent)
     Fill();
 }
 
-ChartInks ChartView::Inks() const {
-    const Theme theme = ThemeOf(palette());
+void ChartView::ShowChart(const ChartArguments& chart) {
+    chart_ = chart;
+    reading_ = std::make_unique<ChartReading>(chart);
+    look_.Hidden.clear();
+    row_.reset();
+    a_.reset();
+    b_.reset();
+    Whole();
+    if (OnReading) OnReading();
+}
+
+ChartInks WindowInks(const QPalette& palette) {
+    const Theme theme = ThemeOf(palette);
     const auto ink = [theme](Ink name) { return ColourOf(name, theme); };
     return {ink(Ink::Base),
             ink(Ink::Text),
@@ -38,7 +49,7 @@ ChartInks ChartView::Inks() const {
 }
 
 void ChartView::Fill() {
-    look_.Inks = Inks();
+    look_.Inks = WindowInks(palette());
     FillPlot(*this, chart_, look_);
     DrawReading();
 }
@@ -46,7 +57,7 @@ void ChartView::Fill() {
 void ChartView::ShowCurve(int curve, bool on) {
     look_.Hidden.resize(static_cast<std::size_t>(chart_.Curves), false);
     look_.Hidden[static_cast<std::size_t>(curve - 1)] = !on;
-    reading_.Show(curve, on);
+    reading_->Show(curve, on);
     for (std::optional<ChartMark>* mark : {&a_, &b_})
         if (*mark && (*mark)->Curve == curve && !on) mark->reset();
     plottable(curve - 1)->setVisible(on);
@@ -83,14 +94,14 @@ ChartLook ChartView::Look() const {
 void ChartView::Walk(int by) {
     if (!row_) {
         const QCPRange seen = PlaceAxis().range();
-        row_ = reading_.NearestRow(by > 0 ? seen.lower : seen.upper);
+        row_ = reading_->NearestRow(by > 0 ? seen.lower : seen.upper);
     } else {
-        row_ = reading_.NextPlace(*row_, by);
+        row_ = reading_->NextPlace(*row_, by);
     }
     walked_ = true;
     if (row_) {
         // What is walked to comes into sight.
-        const double x = reading_.X(*row_);
+        const double x = reading_->X(*row_);
         QCPRange seen = PlaceAxis().range();
         if (!seen.contains(x)) PlaceAxis().setRange(seen + (x - (x < seen.lower ? seen.lower : seen.upper)));
     }
@@ -99,8 +110,8 @@ void ChartView::Walk(int by) {
 
 void ChartView::Mark(bool first) {
     if (!row_) return;
-    for (int curve = 1; curve <= reading_.Curves(); ++curve) {
-        if (!reading_.Shown(curve) || std::isnan(reading_.Y(*row_, curve))) continue;
+    for (int curve = 1; curve <= reading_->Curves(); ++curve) {
+        if (!reading_->Shown(curve) || std::isnan(reading_->Y(*row_, curve))) continue;
         (first ? a_ : b_) = ChartMark{*row_, curve};
         break;
     }
@@ -120,7 +131,7 @@ void ChartView::MarkAt(const QPointF& at, bool first) {
         const QSize size = axisRect()->size();
         return axis.range().size() / std::max(1, axis.orientation() == Qt::Horizontal ? size.width() : size.height());
     };
-    const auto point = reading_.NearestPoint(PlaceAt(at), ValueAt(at), length(PlaceAxis()), length(ValueAxis()));
+    const auto point = reading_->NearestPoint(PlaceAt(at), ValueAt(at), length(PlaceAxis()), length(ValueAxis()));
     if (!point) return;
     (first ? a_ : b_) = point;
     row_ = point->Row;
@@ -128,7 +139,7 @@ void ChartView::MarkAt(const QPointF& at, bool first) {
 }
 
 QPointF ChartView::Place(const ChartMark& mark) const {
-    const double x = reading_.X(mark.Row), y = reading_.Y(mark.Row, mark.Curve);
+    const double x = reading_->X(mark.Row), y = reading_->Y(mark.Row, mark.Curve);
     return AxesChanged(chart_) ? QPointF(y, x) : QPointF(x, y);
 }
 
@@ -143,7 +154,7 @@ void ChartView::DrawReading() {
     const ChartInks& inks = look_.Inks;
     if (row_) {
         auto* line = new QCPItemStraightLine(this);
-        const double x = reading_.X(*row_);
+        const double x = reading_->X(*row_);
         line->setPen(QPen(inks.Axes, 1, Qt::DashLine));
         const bool upright = PlaceAxis().orientation() == Qt::Horizontal;
         line->point1->setCoords(upright ? QPointF(x, yAxis->range().lower) : QPointF(xAxis->range().lower, x));
@@ -179,7 +190,7 @@ void ChartView::mouseMoveEvent(QMouseEvent* event) {
     if (event->buttons() != Qt::NoButton) return;
     walked_ = false;
     const bool inside = axisRect()->rect().contains(event->position().toPoint());
-    const std::optional<int> row = inside ? reading_.NearestRow(PlaceAt(event->position())) : std::nullopt;
+    const std::optional<int> row = inside ? reading_->NearestRow(PlaceAt(event->position())) : std::nullopt;
     if (row == row_) return;
     row_ = row;
     Told();

@@ -4,11 +4,15 @@
 #include <qcustomplot.h>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 #include "render/ChartDocument.h"
 
 namespace lithmark {
+
+// The colours of a plot in a window of such a palette, light or dark.
+ChartInks WindowInks(const QPalette& palette);
 
 class ChartView : public QCustomPlot {
   public:
@@ -17,7 +21,10 @@ class ChartView : public QCustomPlot {
     // The row at the cursor or the walk, or the marks, are other ones.
     std::function<void()> OnReading;
 
-    const ChartReading& Reading() const noexcept { return reading_; }
+    // Another chart in place of this one; what was read and marked is gone.
+    void ShowChart(const ChartArguments& chart);
+
+    const ChartReading& Reading() const noexcept { return *reading_; }
     std::optional<int> Row() const noexcept { return row_; }
     const std::optional<ChartMark>& A() const noexcept { return a_; }
     const std::optional<ChartMark>& B() const noexcept { return b_; }
@@ -59,10 +66,9 @@ class ChartView : public QCustomPlot {
     double ValueAt(const QPointF& at) const;
     QPointF Place(const ChartMark& mark) const;
     void MarkAt(const QPointF& at, bool first);
-    ChartInks Inks() const;
 
     ChartArguments chart_;
-    ChartReading reading_;
+    std::unique_ptr<ChartReading> reading_;
     ChartLook look_;
     std::optional<int> row_;
     std::optional<ChartMark> a_, b_;

@@ -5,25 +5,22 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QMenu>
-#include <QPainter>
 #include <QPushButton>
 
 #include "contour/ChartTable.h"
+#include "desktop/ChartPane.h"
 #include "desktop/ChartView.h"
-#include "desktop/GraphicWords.h"
 #include "desktop/ManualTopics.h"
 #include "desktop/PaneKeys.h"
 #include "desktop/Printing.h"
-#include "desktop/SaveDialog.h"
+#include "desktop/SaveChart.h"
 #include "desktop/ScreenRoom.h"
 #include "desktop/ScrollColumn.h"
 #include "desktop/Sizes.h"
 #include "files/CommonStep.h"
 #include "render/QtText.h"
 #include "services/SharedServices.h"
-#include "services/storage/WrittenFile.h"
 #include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
@@ -32,68 +29,31 @@ namespace {
 
 const std::string kSection = "Chart";
 
-// What a curve looks like, for the box that shows and hides it.
-QIcon SampleOf(int curve, const ChartInks& inks) {
-    QPixmap picture(30, 12);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(CurvePen(curve, inks));
-    painter.drawLine(1, 6, 29, 6);
-    return picture;
-}
-
-QLabel* ReadingLabel(QWidget* parent, const char* name) {
-    auto* label = new QLabel(parent);
-    label->setObjectName(QString::fromLatin1(name));
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    label->setMinimumHeight(label->fontMetrics().height());
-    return label;
-}
-
 }  // namespace
 
 ChartWindow::ChartWindow(const ChartArguments& chart, QWidget* parent)
     : QDialog(parent),
       chart_(chart),
       small_(OnSmallScreen(*this)),
-      plot_(new ChartView(chart, this)),
-      values_(ReadingLabel(this, "lblValues")),
-      marks_(ReadingLabel(this, "lblMarks")) {
+      pane_(new ChartPane(chart, this, ChartPane::kLegendRoom,
+                          small_ ? ChartPane::Marks::Below : ChartPane::Marks::Beside)),
+      plot_(&pane_->Plot()) {
     setObjectName(QStringLiteral("chartWindow"));
     setWindowTitle(Q(chart.ChartTitle));
     setLayoutDirection(LanguageTexts().RightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
-    auto* window = new QHBoxLayout(this);
+    auto* window = new QBoxLayout(small_ ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom, this);
     window->setContentsMargins(sizes::kEdge, sizes::kEdge, sizes::kEdge, sizes::kEdge);
-    window->setSpacing(sizes::kEdge);
+    window->setSpacing(small_ ? sizes::kEdge : sizes::kRowGap);
     Arrange(*window);
-    // From the boxes the Tab key goes down to the plot.
-    if (auto* last = findChild<QCheckBox*>(QStringLiteral("chkCurve(%1)").arg(int(chart.Curves))))
-        setTabOrder(last, plot_);
-    MakeGraphic(*plot_, Q(chart.ChartTitle));
-    plot_->OnReading = [this] { ShowReading(); };
-    ShowReading();
     new PaneKeys(*this);
-    PaneKeys::MakePane(*plot_);
     BindHelpKey(*this, TopicOfProblem);
     plot_->setFocus();
     resize(960, 640);
 }
 
 void ChartWindow::Arrange(QBoxLayout& window) {
-    auto* column = new QVBoxLayout;
-    column->setSpacing(sizes::kRowGap);
-    window.addLayout(column, 1);
-    column->addLayout(LegendRow());
-    auto* drawn = new QHBoxLayout;
-    drawn->setSpacing(sizes::kEdge);
-    drawn->addWidget(plot_, 1);
-    column->addLayout(drawn, 1);
-    column->addWidget(values_);
+    window.addWidget(pane_, 1);
     if (small_) {
-        column->addWidget(marks_);
         auto* ways = new QWidget;
         auto* buttons = new QVBoxLayout(ways);
         buttons->setContentsMargins(0, 0, 0, 0);
@@ -105,43 +65,11 @@ void ChartWindow::Arrange(QBoxLayout& window) {
         window.addLayout(side);
         return;
     }
-    marks_->setFixedWidth(MarksWidth());
-    marks_->setAlignment(Qt::AlignTop | (marks_->alignment() & Qt::AlignHorizontal_Mask));
-    drawn->addWidget(marks_);
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(sizes::kColumnGap);
     AddWays(*buttons);
     buttons->addWidget(OkButton());
-    column->addLayout(buttons);
-}
-
-int ChartWindow::MarksWidth() const {
-    const ChartReading& reading = plot_->Reading();
-    int width = 0;
-    for (int row = 1; row <= reading.Rows(); ++row)
-        for (int curve = 1; curve <= reading.Curves(); ++curve)
-            width = std::max(width, fontMetrics().horizontalAdvance(Q(reading.MarkText({row, curve}))));
-    return width + fontMetrics().horizontalAdvance(QStringLiteral("B - A: -  "));
-}
-
-QBoxLayout* ChartWindow::LegendRow() {
-    // Side by side, or under each other where their names are long.
-    int width = 0;
-    for (int i = 1; i <= chart_.Curves; ++i) width += fontMetrics().horizontalAdvance(Q(chart_.Legends(i))) + 80;
-    auto* row = new QBoxLayout(width < 800 ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-    row->setSpacing(width < 800 ? sizes::kGroupGap : 0);
-    for (int i = 1; i <= chart_.Curves; ++i) {
-        QString name = Q(chart_.Legends(i));
-        auto* box = new QCheckBox(name.replace(QLatin1Char('&'), QStringLiteral("&&")), this);
-        box->setObjectName(QStringLiteral("chkCurve(%1)").arg(i));
-        box->setIcon(SampleOf(i, plot_->InksShown()));
-        box->setIconSize(QSize(30, 12));
-        box->setChecked(true);
-        connect(box, &QCheckBox::toggled, this, [this, i](bool on) { plot_->ShowCurve(i, on); });
-        row->addWidget(box);
-    }
-    row->addStretch(1);
-    return row;
+    window.addLayout(buttons);
 }
 
 void ChartWindow::AddTurn(QBoxLayout& row) {
@@ -205,30 +133,6 @@ void ChartWindow::keyPressEvent(QKeyEvent* event) {
     QDialog::keyPressEvent(event);
 }
 
-// The line at the cursor, and the marks with their difference; what can be done where there is nothing to read.
-void ChartWindow::ShowReading() {
-    const ChartReading& reading = plot_->Reading();
-    // The mark in front gives the line the direction of the language, whatever it begins with.
-    const QString direction = LanguageTexts().RightToLeft() ? QString(QChar(0x200F)) : QString();
-    values_->setText(direction + Q(plot_->Row() ? reading.ValuesAt(*plot_->Row()) : Text(910009_text)));
-    QString marks;
-    const auto add = [&](const char* name, const std::string& text) {
-        const QString parting = small_ ? QStringLiteral("     ") : QLatin1Char('\n') + direction;
-        marks += (marks.isEmpty() ? direction : parting) + QString::fromLatin1(name) + QStringLiteral(": ") + Q(text);
-    };
-    const auto &a = plot_->A(), &b = plot_->B();
-    // Beside the plot the lines keep their places.
-    const auto line = [&](const char* name, bool there, const std::string& text) {
-        if (there || !small_) add(name, there ? text : "–");
-    };
-    line("A", a.has_value(), a ? reading.MarkText(*a) : "");
-    line("B", b.has_value(), b ? reading.MarkText(*b) : "");
-    line("B - A", a && b, a && b ? reading.DifferenceText(*a, *b) : "");
-    marks_->setText(marks);
-    // What is walked to is spoken.
-    TellGraphic(*plot_, Q(plot_->Row() ? reading.ValuesAt(*plot_->Row()) : reading.Summary()));
-}
-
 void ChartWindow::CopyPicture() {
     UnderCommonStep([this] {
         QApplication::clipboard()->setImage(
@@ -246,23 +150,7 @@ void ChartWindow::Print() {
 }
 
 void ChartWindow::Save() {
-    const auto file = AskForFile(this, windowTitle(),
-                                 {{QStringLiteral("PDF"), QStringLiteral("pdf")},
-                                  {QStringLiteral("PNG"), QStringLiteral("png")},
-                                  {QStringLiteral("SVG"), QStringLiteral("svg")},
-                                  {Q(Text(910007_text)), QStringLiteral("xlsx")},
-                                  {Q(Text(910008_text)), QStringLiteral("csv")}});
-    if (!file) return;
-    UnderCommonStep([&] {
-        const ChartArguments& chart = plot_->Chart();
-        const ChartLook look = plot_->Look();
-        SharedServices().SetCurrentFile(file->Path);
-        WriteWholeFile(file->Path, file->Ending == QStringLiteral("pdf")   ? ChartPdf(chart, look)
-                                   : file->Ending == QStringLiteral("svg") ? ChartSvg(chart, look)
-                                   : file->Ending == QStringLiteral("png") ? ChartPng(chart, look)
-                                   : file->Ending == QStringLiteral("csv") ? ChartCsv(chart)
-                                                                           : ChartXlsx(chart));
-    });
+    SaveChart(this, plot_->Chart(), plot_->Look());
 }
 
 void ChartWindow::Original() {

@@ -6,11 +6,11 @@
 #include "services/host/Charting.h"
 
 class QBoxLayout;
-class QLabel;
 class QPushButton;
 
 namespace lithmark {
 
+class ChartPane;
 class ChartView;
 
 class ChartWindow : public QDialog {
@@ -21,16 +21,12 @@ class ChartWindow : public QDialog {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
-    QBoxLayout* LegendRow();
-    // Boxes, plot, what can be read off it, and buttons: under each other, on a small screen the buttons at the side.
+    // What is seen and the buttons: under each other, on a small screen beside each other.
     void Arrange(QBoxLayout& window);
     void AddWays(QBoxLayout& row);
-    void AddTurn(QBoxLayout& row);
-    // As wide as the longest mark, so that the plot keeps its width.
-    int MarksWidth() const;
-    QPushButton* AddButton(QBoxLayout& row, const std::string& caption, const char* name, void (ChartWindow::*slot)());
     QPushButton* OkButton();
-    void ShowReading();
+    void AddTurn(QBoxLayout& row);
+    QPushButton* AddButton(QBoxLayout& row, const std::string& caption, const char* name, void (ChartWindow::*slot)());
 
     void CopyPicture();
     void CopyTable();
@@ -42,8 +38,8 @@ class ChartWindow : public QDialog {
 
     const ChartArguments chart_;
     const bool small_;
+    ChartPane* pane_;
     ChartView* plot_;
-    QLabel *values_, *marks_;
 };
 
 }  // namespace lithmark

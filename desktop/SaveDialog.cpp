@@ -4,7 +4,10 @@
 #include <QGridLayout>
 
 #include "core/Session.h"
+#include "files/CommonStep.h"
 #include "render/QtText.h"
+#include "services/SharedServices.h"
+#include "services/storage/WrittenFile.h"
 #include "ui/model/ExportFolder.h"
 
 namespace lithmark {
@@ -52,6 +55,16 @@ std::optional<ChosenFile> AskForFile(QWidget* parent, const QString& title, cons
     for (const FileKind& kind : kinds)
         if (QFileInfo(file).suffix().compare(kind.Ending, Qt::CaseInsensitive) == 0) ending = kind.Ending;
     return ChosenFile{file.toStdString(), ending};
+}
+
+void SaveAs(QWidget& window, const std::vector<FileKind>& kinds,
+            const std::function<std::string(const QString& ending)>& bytes) {
+    const auto file = AskForFile(&window, window.windowTitle(), kinds);
+    if (!file) return;
+    UnderCommonStep([&] {
+        SharedServices().SetCurrentFile(file->Path);
+        WriteWholeFile(file->Path, bytes(file->Ending));
+    });
 }
 
 }  // namespace lithmark

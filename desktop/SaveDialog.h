@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -24,5 +25,9 @@ struct ChosenFile {
 // stands under the files; it stays the caller's. Nothing when cancelled.
 std::optional<ChosenFile> AskForFile(QWidget* parent, const QString& title, const std::vector<FileKind>& kinds,
                                      QWidget* choices = nullptr);
+
+// Asks for the file under the window's title and writes what `bytes` gives for the ending. What goes wrong is told.
+void SaveAs(QWidget& window, const std::vector<FileKind>& kinds,
+            const std::function<std::string(const QString& ending)>& bytes);
 
 }  // namespace lithmark

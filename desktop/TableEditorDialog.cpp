@@ -1,19 +1,14 @@
 #include "desktop/TableEditorDialog.h"
 
-#include <QApplication>
 #include <QBoxLayout>
-#include <QClipboard>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <QShortcut>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QTableWidget>
-#include <algorithm>
 
 #include "base/Utf8.h"
+#include "desktop/EditGrid.h"
 #include "desktop/ManualTopics.h"
 #include "desktop/PageTools.h"
 #include "desktop/PaneKeys.h"
@@ -38,11 +33,6 @@ QString AxisTitle(const std::string& head) {
     return Q(first == std::string::npos ? head : head.substr(0, first) + " " + head.substr(last + 1));
 }
 
-// The unit, the last line of a head.
-QString UnitOf(const std::string& head) {
-    return Q(head.substr(head.rfind('\n') + 1));
-}
-
 // A load history goes up in stairs: a load counts from the begin of its time step.
 RowsChart::Kind KindOf(const TableEdit& table) {
     return table.Title == Text(400125_text) ? RowsChart::Kind::Stairs : RowsChart::Kind::Line;
@@ -54,21 +44,17 @@ TableEditorDialog::TableEditorDialog(TableEdit& table, QWidget* parent)
     : QDialog(parent),
       table_(table),
       rows_(table),
-      grid_(new QTableWidget(this)),
+      grid_(new EditGrid(rows_, this)),
       chart_(new RowsChart(KindOf(table), this)),
       note_(new QLabel(this)) {
     setObjectName(QStringLiteral("tableEditor"));
     setWindowTitle(PlainCaption(table.Title));
     setLayoutDirection(LanguageTexts().RightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
-    grid_->setObjectName(QStringLiteral("grid"));
     grid_->setAccessibleName(windowTitle());
-    grid_->setColumnCount(rows_.Columns());
     for (int c = 0; c < rows_.Columns(); ++c)
         grid_->setHorizontalHeaderItem(c, new QTableWidgetItem(Q(table.Columns[static_cast<std::size_t>(c)].Head)));
     grid_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    grid_->setSelectionMode(QAbstractItemView::ContiguousSelection);
     grid_->setToolTip(Q(ReplaceAll(table.RowHead, "\n", " ")));
-    grid_->installEventFilter(this);
     MakeAlert(*note_);
     note_->setObjectName(QStringLiteral("lblNote"));
     note_->setTextFormat(Qt::PlainText);
@@ -80,15 +66,23 @@ TableEditorDialog::TableEditorDialog(TableEdit& table, QWidget* parent)
     window->addWidget(RowsAndChart(), 1);
     window->addWidget(note_);
     window->addWidget(Buttons());
-    BindKeys();
+    BindHelpKey(*this, TopicOfProblem);
+    new PaneKeys(*this);
     keep_.setSingleShot(true);
     keep_.setInterval(kKeepAfter);
     connect(&keep_, &QTimer::timeout, this, [this] { KeepRows(table_, rows_.Texts()); });
-    connect(grid_, &QTableWidget::cellChanged, this, [this](int row, int column) { Typed(row, column); });
-    connect(grid_, &QTableWidget::itemSelectionChanged, this, [this] {
-        if (!showing_) ShowState();
-    });
-    ShowRows();
+    grid_->OnSelection = [this] { ShowState(); };
+    grid_->OnPasted = [this](const std::string& words) {
+        pasted_ = words;
+        ShowState();
+    };
+    grid_->ShowRows();
+    grid_->OnRows = [this] {
+        pasted_.clear();
+        ShowState();
+        keep_.start();
+    };
+    ShowState();
     grid_->setCurrentCell(0, 0);
     resize(820, 520);
 }
@@ -126,20 +120,12 @@ QWidget* TableEditorDialog::Buttons() {
         buttons->addWidget(button);
         return button;
     };
-    add(Text(903013_text), "cmdAddRow", [this] {
-        const int row = grid_->currentRow() < 0 ? rows_.Rows() : grid_->currentRow() + 1;
-        Change([&] { rows_.InsertRow(row); }, row, 0);
-    });
-    delete_ = add(Text(903014_text), "cmdDeleteRow", [this] {
-        const Selection at = Selected();
-        Change([&] { rows_.DeleteRows(at.FirstRow, at.LastRow); }, at.FirstRow, at.FirstColumn);
-    });
-    up_ = add(Text(906534_text), "cmdUp", [this] { MoveRows(-1); });
-    down_ = add(Text(906535_text), "cmdDown", [this] { MoveRows(1); });
-    undo_ = add(Text(906536_text), "cmdUndo",
-                [this] { Change([&] { rows_.Undo(); }, grid_->currentRow(), grid_->currentColumn()); });
-    redo_ = add(Text(906537_text), "cmdRedo",
-                [this] { Change([&] { rows_.Redo(); }, grid_->currentRow(), grid_->currentColumn()); });
+    add(Text(903013_text), "cmdAddRow", [this] { grid_->InsertRow(); });
+    delete_ = add(Text(903014_text), "cmdDeleteRow", [this] { grid_->DeleteRows(); });
+    up_ = add(Text(906534_text), "cmdUp", [this] { grid_->MoveRows(-1); });
+    down_ = add(Text(906535_text), "cmdDown", [this] { grid_->MoveRows(1); });
+    undo_ = add(Text(906536_text), "cmdUndo", [this] { grid_->Undo(); });
+    redo_ = add(Text(906537_text), "cmdRedo", [this] { grid_->Redo(); });
     buttons->addStretch(1);
     add(Text(8_text, Styles::Button), "cmdHelp", [this] {
         SharedServices().SetHelpText(table_.Help);
@@ -149,80 +135,6 @@ QWidget* TableEditorDialog::Buttons() {
     ok_->setDefault(true);
     add(Text(7_text, Styles::Button), "CmdCancel", [this] { reject(); });
     return line;
-}
-
-void TableEditorDialog::BindKeys() {
-    const auto bind = [this](const QKeySequence& keys, auto&& slot) {
-        auto* shortcut = new QShortcut(keys, this);
-        connect(shortcut, &QShortcut::activated, this, slot);
-    };
-    bind(QKeySequence::Copy, [this] { Copy(); });
-    bind(QKeySequence::Paste, [this] { Paste(); });
-    bind(QKeySequence::Undo, [this] { undo_->click(); });
-    bind(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), [this] { redo_->click(); });
-    bind(QKeySequence(Qt::CTRL | Qt::Key_Plus),
-         [this] { findChild<QPushButton*>(QStringLiteral("cmdAddRow"))->click(); });
-    bind(QKeySequence(Qt::CTRL | Qt::Key_Minus), [this] { delete_->click(); });
-    bind(QKeySequence(Qt::ALT | Qt::Key_Up), [this] { up_->click(); });
-    bind(QKeySequence(Qt::ALT | Qt::Key_Down), [this] { down_->click(); });
-    BindHelpKey(*this, TopicOfProblem);
-    new PaneKeys(*this);
-}
-
-TableEditorDialog::Selection TableEditorDialog::Selected() const {
-    const auto ranges = grid_->selectedRanges();
-    if (ranges.isEmpty()) {
-        const int row = grid_->currentRow(), column = grid_->currentColumn();
-        return {row, column, row, column};
-    }
-    const QTableWidgetSelectionRange& at = ranges.front();
-    return {at.topRow(), at.leftColumn(), at.bottomRow(), at.rightColumn()};
-}
-
-void TableEditorDialog::ShowRows() {
-    showing_ = true;
-    grid_->setRowCount(rows_.Rows());
-    for (int r = 0; r < rows_.Rows(); ++r)
-        for (int c = 0; c < rows_.Columns(); ++c) {
-            if (grid_->item(r, c) == nullptr) grid_->setItem(r, c, new QTableWidgetItem);
-            grid_->item(r, c)->setText(Q(rows_.Cell(r, c)));
-            MarkCell(r, c);
-        }
-    showing_ = false;
-    ShowState();
-}
-
-// A cell in error bears a mark and its reason; one that shows fewer digits than its value has is written aslant.
-void TableEditorDialog::MarkCell(int row, int column) {
-    QTableWidgetItem& item = *grid_->item(row, column);
-    const auto fault = rows_.Fault(row, column);
-    const bool hides = !fault && rows_.HidesDigits(row, column);
-    const QColor ink = ColourOf(Ink::Error, ThemeOf(palette()));
-    QColor ground = ink;
-    ground.setAlpha(40);
-    item.setBackground(fault ? QBrush(ground) : QBrush());
-    item.setForeground(fault ? QBrush(ink) : QBrush());
-    QFont font = item.font();
-    font.setItalic(hides);
-    font.setBold(fault.has_value());
-    item.setFont(font);
-    item.setTextAlignment(Qt::AlignRight | Qt::AlignVCenter | Qt::AlignAbsolute);
-    item.setData(Qt::AccessibleTextRole, InWords(row, column));
-    item.setToolTip(Q(fault   ? *fault
-                      : hides ? Text(906539_text, {{"|1", rows_.AllDigits(row, column)}})
-                              : std::string()));
-}
-
-// "Row 3, Time, days, 4.5", and what is wrong with it.
-QString TableEditorDialog::InWords(int row, int column) const {
-    const std::string place = Text(906538_text, {{"|1", std::to_string(row + 1)}, {"|2", rows_.Title(column)}});
-    QStringList words{Q(place)};
-    if (const QString unit = UnitOf(table_.Columns[static_cast<std::size_t>(column)].Head);
-        unit != QLatin1String("[-]"))
-        words.append(QString(unit).remove(QLatin1Char('[')).remove(QLatin1Char(']')));
-    words.append(Q(rows_.Cell(row, column)));
-    if (const auto fault = rows_.Fault(row, column)) words.append(Q(*fault));
-    return words.join(QStringLiteral(", "));
 }
 
 void TableEditorDialog::ShowState() {
@@ -243,10 +155,9 @@ void TableEditorDialog::ShowState() {
     ok_->setEnabled(!fault);
     undo_->setEnabled(rows_.CanUndo());
     redo_->setEnabled(rows_.CanRedo());
-    const Selection at = Selected();
-    delete_->setEnabled(at.FirstRow >= 0 && at.LastRow - at.FirstRow + 1 < rows_.Rows());
-    up_->setEnabled(at.FirstRow > 0);
-    down_->setEnabled(at.FirstRow >= 0 && at.LastRow + 1 < rows_.Rows());
+    delete_->setEnabled(grid_->CanDelete());
+    up_->setEnabled(grid_->CanMove(-1));
+    down_->setEnabled(grid_->CanMove(1));
 
     if (rows_.Columns() < 2) return;
     std::vector<QPointF> points;
@@ -255,61 +166,6 @@ void TableEditorDialog::ShowState() {
         if (x && y) points.emplace_back(*x, *y);
     }
     chart_->Show(std::move(points), AxisTitle(table_.Columns[0].Head), AxisTitle(table_.Columns[1].Head));
-}
-
-void TableEditorDialog::Typed(int row, int column) {
-    if (showing_) return;
-    pasted_.clear();
-    rows_.SetCell(row, column, grid_->item(row, column)->text().toStdString());
-    showing_ = true;
-    MarkCell(row, column);
-    showing_ = false;
-    ShowState();
-    keep_.start();
-}
-
-template <typename Command>
-void TableEditorDialog::Change(Command&& command, int row, int column) {
-    pasted_.clear();
-    command();
-    ShowRows();
-    grid_->setCurrentCell(std::clamp(row, 0, rows_.Rows() - 1), std::clamp(column, 0, rows_.Columns() - 1));
-    ShowState();
-    keep_.start();
-}
-
-void TableEditorDialog::MoveRows(int by) {
-    const Selection at = Selected();
-    Change([&] { rows_.MoveRows(at.FirstRow, at.LastRow, by); }, at.FirstRow + by, at.FirstColumn);
-    grid_->setRangeSelected({at.FirstRow + by, at.FirstColumn, at.LastRow + by, at.LastColumn}, true);
-}
-
-void TableEditorDialog::Copy() {
-    const Selection at = Selected();
-    if (at.FirstRow < 0) return;
-    QApplication::clipboard()->setText(Q(rows_.Copied(at.FirstRow, at.FirstColumn, at.LastRow, at.LastColumn)));
-}
-
-void TableEditorDialog::Paste() {
-    const Selection at = Selected();
-    const std::string text = QApplication::clipboard()->text().toStdString();
-    std::string words;
-    Change([&] { words = rows_.Paste(std::max(at.FirstRow, 0), std::max(at.FirstColumn, 0), text); }, at.FirstRow,
-           at.FirstColumn);
-    pasted_ = std::move(words);
-    ShowState();
-}
-
-// Enter and Tab at the end of a cell go on as in a spreadsheet: Enter to the cell below.
-bool TableEditorDialog::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == grid_ && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            grid_->setCurrentCell(std::min(grid_->currentRow() + 1, rows_.Rows() - 1), grid_->currentColumn());
-            return true;
-        }
-    }
-    return QDialog::eventFilter(watched, event);
 }
 
 bool TableEditorDialog::Run() {

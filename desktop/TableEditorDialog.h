@@ -8,10 +8,10 @@
 
 class QLabel;
 class QPushButton;
-class QTableWidget;
 
 namespace lithmark {
 
+class EditGrid;
 class RowsChart;
 
 class TableEditorDialog : public QDialog {
@@ -24,42 +24,22 @@ class TableEditorDialog : public QDialog {
     // What was typed is kept when the window is closed too.
     void reject() override;
 
-  protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
   private:
-    struct Selection {
-        int FirstRow, FirstColumn, LastRow, LastColumn;
-    };
-    Selection Selected() const;
-
     QWidget* Buttons();
     // The chart beside the rows, on a small screen behind a tab.
     QWidget* RowsAndChart();
-    void BindKeys();
-    // The grid as the rows are, and what follows from them: marks, reason, chart, buttons.
-    void ShowRows();
+    // What follows from the rows: reason, chart, buttons.
     void ShowState();
-    void MarkCell(int row, int column);
-    QString InWords(int row, int column) const;
-    void Typed(int row, int column);
-    // Runs a command on the rows, shows them, and selects a cell.
-    template <typename Command>
-    void Change(Command&& command, int row, int column);
-    void MoveRows(int by);
-    void Copy();
-    void Paste();
 
     TableEdit& table_;
     TableEditing rows_;
     QTimer keep_;
-    QTableWidget* grid_;
+    EditGrid* grid_;
     RowsChart* chart_;
     QLabel* note_;
     QPushButton *ok_ = nullptr, *undo_ = nullptr, *redo_ = nullptr, *delete_ = nullptr, *up_ = nullptr,
                 *down_ = nullptr;
     std::string pasted_;
-    bool showing_ = false;
 };
 
 }  // namespace lithmark

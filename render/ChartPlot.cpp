@@ -24,6 +24,10 @@ constexpr int kMostMarkers = 40;  // of a curve; more would run into each other
 std::size_t SlotOf(int curve) {
     return static_cast<std::size_t>(curve - 1) % kDashes.size();
 }
+// A fifth curve has the colour of the first and another dash.
+std::size_t DashOf(int curve) {
+    return (SlotOf(curve) + static_cast<std::size_t>(curve - 1) / kDashes.size()) % kDashes.size();
+}
 
 // Round ticks, as many as the axis has room for, in the digits of the language.
 class RoundTicker : public QCPAxisTicker {
@@ -69,8 +73,8 @@ void AddCurve(QCustomPlot& plot, const ChartArguments& chart, const ChartReading
     curve->setPen(pen);
     if (style == LineStyle::Points) curve->setLineStyle(QCPCurve::lsNone);
     if (style == LineStyle::Points || (style == LineStyle::Solid && reading.Rows() <= kMostMarkers)) {
-        const bool filled = SlotOf(i) == 0;
-        QCPScatterStyle marker(kMarkers[SlotOf(i)], pen.color(), filled ? pen.color() : look.Inks.Ground,
+        const bool filled = DashOf(i) == 0;
+        QCPScatterStyle marker(kMarkers[DashOf(i)], pen.color(), filled ? pen.color() : look.Inks.Ground,
                                style == LineStyle::Points ? 7 : 5);
         marker.setPen(QPen(pen.color(), 1.5));
         curve->setScatterStyle(marker);
@@ -160,7 +164,7 @@ QString AxisLabel(const std::string& title) {
 }
 
 QPen CurvePen(int curve, const ChartInks& inks) {
-    return {inks.Curves[SlotOf(curve)], 2, kDashes[SlotOf(curve)]};
+    return {inks.Curves[SlotOf(curve)], 2, kDashes[DashOf(curve)]};
 }
 
 bool AxesChanged(const ChartArguments& chart) {

@@ -115,6 +115,15 @@ void TableEditing::SetCell(int row, int column, const std::string& text) {
     cells_[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)] = {text, ""};
 }
 
+void TableEditing::AppendRows(const std::vector<std::vector<std::string>>& rows, bool replace) {
+    Remember();
+    if (replace) cells_.clear();
+    for (const auto& row : rows) {
+        cells_.emplace_back();
+        for (const std::string& text : row) cells_.back().push_back({text, ""});
+    }
+}
+
 std::vector<TableEditing::CellState> TableEditing::NewRow(int row) const {
     std::vector<CellState> cells(static_cast<std::size_t>(Columns()), {"0", ""});
     const bool counts = !cells.empty() && table_.Columns[0].Accepts == TableEdit::Kind::Whole;

@@ -33,6 +33,8 @@ class TableEditing {
     std::optional<Place> FirstFault() const;
 
     void SetCell(int row, int column, const std::string& text);
+    // Rows of texts behind the present ones, or in their place; at least one.
+    void AppendRows(const std::vector<std::vector<std::string>>& rows, bool replace);
     // A new row ahead of `row`, with the former row's time plus one where the first column counts, and zeros.
     void InsertRow(int row);
     // A table keeps one row at least.
