@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "render/ChartDocument.h"
 #include "render/PictureFile.h"
 #include "render/QtText.h"
 #include "render/SansFont.h"
@@ -15,11 +16,9 @@ namespace {
 // A4 across without margins, in points of 1/96 inch.
 constexpr QSize kTornadoSize(1020, 680);
 constexpr int kTornadoMargin = 24, kTornadoTitle = 36;
-// The first two of the curves' colours.
-constexpr QRgb kLowColor = 0xFF0072B2, kHighColor = 0xFFD55E00;
 
 // One colour's bars; the uppermost has the greatest key.
-void AddBars(QCustomPlot& plot, const TornadoPicture& picture, const std::string& legend, QRgb color,
+void AddBars(QCustomPlot& plot, const TornadoPicture& picture, const std::string& legend, QColor fill,
              double TornadoPicture::Bar::*end) {
     auto* bars = new QCPBars(plot.yAxis, plot.xAxis);
     QVector<double> keys, values;
@@ -31,16 +30,19 @@ void AddBars(QCustomPlot& plot, const TornadoPicture& picture, const std::string
     bars->setBaseValue(picture.Middle);
     bars->setWidth(0.6);
     bars->setName(Q(legend));
-    QColor fill = QColor::fromRgb(color);
     bars->setPen(QPen(fill, 1));
     fill.setAlpha(200);  // where both lie on one side, both are seen
     bars->setBrush(fill);
 }
 
-void FillTornado(QCustomPlot& plot, const TornadoPicture& picture) {
+}  // namespace
+
+void FillTornado(QCustomPlot& plot, const TornadoPicture& picture, const ChartInks& inks) {
+    plot.clearPlottables();
+    plot.setBackground(QBrush(inks.Ground));
     plot.setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
-    AddBars(plot, picture, picture.LowLegend, kLowColor, &TornadoPicture::Bar::AtLow);
-    AddBars(plot, picture, picture.HighLegend, kHighColor, &TornadoPicture::Bar::AtHigh);
+    AddBars(plot, picture, picture.LowLegend, inks.Curves[0], &TornadoPicture::Bar::AtLow);
+    AddBars(plot, picture, picture.HighLegend, inks.Curves[1], &TornadoPicture::Bar::AtHigh);
     QSharedPointer<QCPAxisTickerText> names(new QCPAxisTickerText);
     double least = picture.Middle, greatest = picture.Middle;
     for (std::size_t i = 0; i < picture.Bars.size(); ++i) {
@@ -54,12 +56,19 @@ void FillTornado(QCustomPlot& plot, const TornadoPicture& picture) {
     plot.yAxis->setRange(0.4, static_cast<double>(picture.Bars.size()) + 0.6);
     plot.yAxis->setTicker(names);
     plot.axisRect()->setupFullAxesBox(true);
-    for (QCPAxis* axis : {plot.xAxis2, plot.yAxis2}) axis->setTicks(false);
+    for (QCPAxis* axis : {plot.xAxis2, plot.yAxis2}) {
+        axis->setTicks(false);
+        axis->setBasePen(QPen(inks.Axes));
+    }
     const QFont font = SansFont(13);
     for (QCPAxis* axis : {plot.xAxis, plot.yAxis}) {
+        for (const auto set : {&QCPAxis::setBasePen, &QCPAxis::setTickPen, &QCPAxis::setSubTickPen})
+            (axis->*set)(QPen(inks.Axes));
+        for (const auto set : {&QCPAxis::setTickLabelColor, &QCPAxis::setLabelColor}) (axis->*set)(inks.Text);
         axis->setTickLabelFont(font);
         axis->setLabelFont(font);
-        axis->grid()->setPen(QPen(QColor(0xDD, 0xDD, 0xDD), 1, Qt::SolidLine));
+        axis->grid()->setPen(QPen(inks.Grid, 1, Qt::SolidLine));
+        axis->grid()->setZeroLinePen(QPen(inks.Axes, 1));
     }
     plot.yAxis->grid()->setVisible(false);
     plot.yAxis->setTickLength(0);
@@ -68,8 +77,13 @@ void FillTornado(QCustomPlot& plot, const TornadoPicture& picture) {
     plot.xAxis->setLabel(Q(picture.Axis));
     plot.legend->setVisible(true);
     plot.legend->setFont(font);
+    plot.legend->setTextColor(inks.Text);
+    plot.legend->setBrush(QBrush(inks.Ground));
+    plot.legend->setBorderPen(QPen(inks.Axes));
     plot.axisRect()->insetLayout()->setInsetAlignment(0, Qt::AlignRight | Qt::AlignBottom);
 }
+
+namespace {
 
 void DrawTornado(QCPPainter& painter, const TornadoPicture& picture) {
     painter.fillRect(QRect(QPoint(0, 0), kTornadoSize), Qt::white);
@@ -78,7 +92,7 @@ void DrawTornado(QCPPainter& painter, const TornadoPicture& picture) {
     painter.drawText(QRect(kTornadoMargin, kTornadoMargin, kTornadoSize.width() - 2 * kTornadoMargin, kTornadoTitle),
                      Qt::AlignCenter, Q(picture.Title));
     QCustomPlot plot;
-    FillTornado(plot, picture);
+    FillTornado(plot, picture, {});
     painter.save();
     painter.translate(kTornadoMargin, kTornadoMargin + kTornadoTitle);
     plot.toPainter(&painter, kTornadoSize.width() - 2 * kTornadoMargin,

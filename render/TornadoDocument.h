@@ -4,7 +4,11 @@
 #include <string>
 #include <vector>
 
+class QCustomPlot;
+
 namespace lithmark {
+
+struct ChartInks;
 
 struct TornadoPicture {
     struct Bar {
@@ -17,6 +21,9 @@ struct TornadoPicture {
     double Middle = 0;      // the result where the bars begin
     std::vector<Bar> Bars;  // from above
 };
+
+// Puts the bars, axes and legend into a plot in place of what it holds.
+void FillTornado(QCustomPlot& plot, const TornadoPicture& picture, const ChartInks& inks);
 
 // The file's bytes. Names, axis and bars run from left to right in every language.
 std::string TornadoSvg(const TornadoPicture& picture);

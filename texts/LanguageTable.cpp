@@ -46,6 +46,7 @@ constexpr LanguageRow kRows[] = {
 #include "texts/tables/own_dialogs.inc"
 #include "texts/tables/own_storage.inc"
 #include "texts/tables/own_windows.inc"
+#include "texts/tables/own_studywindow.inc"
 #include "texts/tables/own_habits.inc"
 #include "texts/tables/own_answer.inc"
     // clang-format on

@@ -14,6 +14,7 @@
 #include "desktop/answer/AnswerView.h"
 #include "desktop/answer/SidePanes.h"
 #include "desktop/layouts/LayoutTools.h"
+#include "desktop/study/StudyButtons.h"
 #include "render/QtText.h"
 #include "render/drawings/Inks.h"
 
@@ -115,8 +116,11 @@ void LayoutProblem(FormView& view, PictureForm& form, std::initializer_list<Grou
     window->addLayout(columns, 1);
     QLabel* reason = ReasonLine(view);
     window->addWidget(reason);
-    window->addLayout(ButtonRow(view, {form.cmdSave, form.cmdSaveAs, form.cmdOpen, form.CmdMoreLess, form.cmdHelp},
-                                {form.cmdResult, form.cmdok}));
+    QBoxLayout* buttons =
+        ButtonRow(view, {form.cmdSave, form.cmdSaveAs, form.cmdOpen, form.CmdMoreLess, form.cmdHelp},
+                  {form.cmdResult, form.cmdok});
+    AddStudyButtons(view, form, *buttons);
+    window->addLayout(buttons);
     BindAnswer(view, form, *answer, *panes);
     view.AfterRefresh = [&view, &form, reason] { ShowReason(view, form, *reason); };
 }

@@ -9,6 +9,7 @@
 
 #include "../ui/AllForms.h"
 #include "../ui/FormTest.h"
+#include "StudySubjects.h"
 #include "contour/CurveSets.h"
 #include "core/Catalogue.h"
 #include "core/CurveRequest.h"
@@ -20,6 +21,8 @@
 #include "desktop/ManualWindow.h"
 #include "desktop/QtHost.h"
 #include "desktop/TableEditorDialog.h"
+#include "desktop/study/PointsWindow.h"
+#include "desktop/study/StudyWindow.h"
 #include "kernels/RunKernel.h"
 #include "report/Notices.h"
 #include "support/Languages.h"
@@ -99,6 +102,11 @@ class EveryWindow : public FormTest {
         LookAt(editor, look, "table" + in);
         ManualWindow manual(nullptr, PageOfTopic("problem-5"));
         LookAt(manual, look, "manual" + in);
+        const auto stress = LoadedDialog(Problem::SoilStrain);
+        StudyWindow study(SubjectOf(*stress, "z"), nullptr);
+        LookAt(study, look, "study" + in);
+        PointsWindow points(SubjectOf(*stress, "z"), nullptr);
+        LookAt(points, look, "points" + in);
     }
 
     // Curves and contours of the default projects.

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "core/SessionFields.h"
 #include "services/SharedServices.h"
 
 namespace lithmark {
@@ -11,6 +12,16 @@ namespace {
 constexpr int kRealNumber = 2;
 
 }  // namespace
+
+std::string StoredField::Name() const {
+    if (const auto* single = std::get_if<Single SessionRecord::*>(&place_))
+        return std::string(NameOf(&(Session.**single)));
+    if (const auto* integer = std::get_if<Integer SessionRecord::*>(&place_))
+        return std::string(NameOf(&(Session.**integer)));
+    const auto* element = std::get_if<Element>(&place_);
+    if (element == nullptr) return {};
+    return std::string(NameOf(&(Session.*element->Values))) + "(" + std::to_string(element->Index) + ")";
+}
 
 double StoredField::Get(const SessionRecord& record) const {
     if (const auto* single = std::get_if<Single SessionRecord::*>(&place_)) return record.**single;

@@ -27,6 +27,9 @@ class StoredField {
         : place_(Element{values, index}), format_(format) {}
 
     bool Exists() const noexcept { return !std::holds_alternative<std::monostate>(place_); }
+    bool Whole() const noexcept { return std::holds_alternative<Integer SessionRecord::*>(place_); }
+    // As the command line names it: "Es", "hLayer(2)"; empty for nowhere.
+    std::string Name() const;
     double Get(const SessionRecord& record) const;
     // A value as the box shows it, in display units.
     std::string Formatted(const SessionRecord& record, double shown) const;

@@ -2,7 +2,12 @@
 //
 //     QT_QPA_PLATFORM=offscreen screenshots OUTDIR [dark]
 #include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
 #include <QDir>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextStream>
@@ -10,6 +15,7 @@
 #include <set>
 
 #include "../../ui/AllForms.h"
+#include "../StudySubjects.h"
 #include "contour/CurveSets.h"
 #include "core/Catalogue.h"
 #include "core/Session.h"
@@ -24,6 +30,8 @@
 #include "desktop/QtHost.h"
 #include "desktop/SaveReport.h"
 #include "desktop/SplashView.h"
+#include "desktop/study/PointsWindow.h"
+#include "desktop/study/StudyWindow.h"
 #include "desktop/StartView.h"
 #include "desktop/answer/AnswerView.h"
 #include "kernels/RunKernel.h"
@@ -190,6 +198,69 @@ void TakeUnusualValues(Gallery& gallery) {
     }
 }
 
+void Wait(const std::function<bool()>& until) {
+    QElapsedTimer since;
+    since.start();
+    constexpr qint64 kPatience = 20000;
+    while (!until() && since.elapsed() < kPatience) QApplication::processEvents(QEventLoop::AllEvents, 20);
+}
+
+// The windows of studies and points, their rows worked.
+void TakeStudies(Gallery& gallery) {
+    const auto type = [](QWidget& window, const char* name, const QString& text) {
+        auto* box = window.findChild<QLineEdit*>(QLatin1String(name));
+        box->setText(text);
+        emit box->textEdited(text);
+    };
+    const auto choose = [](QWidget& window, const char* name, int item) {
+        auto* list = window.findChild<QComboBox*>(QLatin1String(name));
+        list->setCurrentIndex(item);
+        emit list->activated(item);
+    };
+    const auto form = tests::LoadedDialog(Problem::Consolidation);
+    StudyWindow study(tests::SubjectOf(*form, "h"), nullptr);
+    study.show();
+    const auto rows = [&](std::size_t count) {
+        Wait([&] {
+            return study.Work().Doing() == StudyWork::Job::None && study.Work().Rows() != nullptr &&
+                   study.Work().Rows()->Lines().size() == count;
+        });
+    };
+    rows(21);
+    type(study, "txtLimit", QStringLiteral("20"));
+    Wait([&] { return study.Work().Question()->LimitNumber().has_value(); });
+    rows(21);
+    gallery.Take(study, QStringLiteral("study"));
+    auto* tabs = study.findChild<QTabWidget*>(QStringLiteral("tabs"));
+    tabs->setCurrentIndex(1);
+    gallery.Take(study, QStringLiteral("study-table"));
+    tabs->setCurrentIndex(3);
+    Wait([&] { return !study.Work().Bars().empty(); });
+    gallery.Take(study, QStringLiteral("study-tornado"));
+    tabs->setCurrentIndex(0);
+    choose(study, "cboField(2)", 1);
+    rows(147);
+    gallery.Take(study, QStringLiteral("study-family"));
+    choose(study, "cboField(1)", 0);
+    choose(study, "cboField(2)", 0);
+    choose(study, "cboRandom(1)", 4);
+    rows(1000);
+    tabs->setCurrentIndex(2);
+    gallery.Take(study, QStringLiteral("study-histogram"));
+
+    const auto stress = tests::LoadedDialog(Problem::SoilStress);
+    PointsWindow points(tests::SubjectOf(*stress, "z"), nullptr);
+    points.show();
+    QApplication::clipboard()->setText(QStringLiteral("0\t0\t0.5\n0\t0\t1\n0\tab\t1.5\n0\t0\t2\n0\t0\t4\n"));
+    points.findChild<QAbstractButton*>(QStringLiteral("cmdPaste"))->click();
+    Wait([&] { return points.Table() != nullptr && !points.Working() && points.Table()->Lines().size() == 4; });
+    gallery.Take(points, QStringLiteral("points"));
+    points.findChild<QTabWidget*>(QStringLiteral("tabs"))->setCurrentIndex(1);
+    gallery.Take(points, QStringLiteral("points-chart"));
+    gallery.TakeModal(QStringLiteral("points-grid"),
+                      [&] { points.findChild<QAbstractButton*>(QStringLiteral("cmdGrid"))->click(); });
+}
+
 bool TakeAll(const QString& folder, Language language, const QString& code) {
     const QTemporaryDir place;
     const std::string settings = place.path().toStdString() + "/";
@@ -340,6 +411,7 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
     oedometer.Load();
     gallery.TakeModal(QStringLiteral("table-loads"), [&] { oedometer.cmdTimeLoad_Click(); });
     gallery.TakeModal(QStringLiteral("table-oedometer"), [&] { oedometer.CmdOdomterSettlement_Click(); });
+    TakeStudies(gallery);
 
     frame.SetWindow(nullptr);
     SetCurrentHost(nullptr);

@@ -1,0 +1,22 @@
+// CommandBar: the command that does the same as a window, ready to be copied.
+#pragma once
+
+#include <QWidget>
+#include <string>
+#include <vector>
+
+class QLineEdit;
+
+namespace lithmark {
+
+class CommandBar : public QWidget {
+  public:
+    explicit CommandBar(QWidget* parent);
+    // Empty where there is none.
+    void Show(const std::vector<std::string>& words);
+
+  private:
+    QLineEdit* text_;
+};
+
+}  // namespace lithmark

@@ -1,0 +1,159 @@
+#include "desktop/study/PointsFill.h"
+
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <cmath>
+
+#include "desktop/BoxMark.h"
+#include "desktop/Sizes.h"
+#include "desktop/study/AskTools.h"
+#include "render/QtText.h"
+#include "render/drawings/Inks.h"
+#include "services/SharedServices.h"
+#include "services/texts/LanguageTexts.h"
+#include "study/window/ShortNumber.h"
+
+namespace lithmark {
+
+namespace {
+
+constexpr int kWhole = 1, kReal = 2, kUsualCount = 11;
+
+TextId TitleOf(PointsFill::Kind kind) {
+    switch (kind) {
+        case PointsFill::Kind::Grid:
+            return 913271_text;
+        case PointsFill::Kind::Line:
+            return 913272_text;
+        default:
+            return 913273_text;
+    }
+}
+
+double NumberIn(const QLineEdit& box) {
+    return SharedServices().NumberOf(box.text().toStdString()).value_or(0);
+}
+
+}  // namespace
+
+PointsFill::PointsFill(PointsTable& points, Kind kind, QWidget* parent)
+    : QDialog(parent), points_(points), kind_(kind), replace_(nullptr), note_(nullptr) {
+    setObjectName(QStringLiteral("pointsFill"));
+    setWindowTitle(Q(Text(TitleOf(kind))));
+    setLayoutDirection(LanguageTexts().RightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(sizes::kEdge, sizes::kEdge, sizes::kEdge, sizes::kEdge);
+    column->setSpacing(sizes::kEdge);
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(sizes::kColumnGap);
+    grid->setVerticalSpacing(sizes::kRowGap);
+    grid->addWidget(new QLabel(Q(Text(kind == Kind::Depths ? 913276_text : 913203_text)), this), 0, 1);
+    grid->addWidget(new QLabel(Q(Text(913204_text)), this), 0, 2);
+    grid->addWidget(new QLabel(Q(Text(913274_text)), this), 0, 3);
+    for (int coordinate = 0; coordinate < 3; ++coordinate) AddLine(*grid, coordinate);
+    column->addLayout(grid);
+    replace_ = new QCheckBox(Q(Text(913275_text)), this);
+    replace_->setObjectName(QStringLiteral("chkReplace"));
+    replace_->setChecked(true);
+    column->addWidget(replace_);
+    note_ = new QLabel(this);
+    note_->setObjectName(QStringLiteral("lblNote"));
+    note_->setWordWrap(true);
+    note_->setMinimumHeight(2 * note_->fontMetrics().height());
+    QPalette ink = note_->palette();
+    ink.setColor(QPalette::WindowText, ColourOf(Ink::Error, ThemeOf(palette())));
+    note_->setPalette(ink);
+    column->addWidget(note_);
+    auto* row = new QHBoxLayout;
+    row->addStretch(1);
+    const auto add = [&](const std::string& caption, const char* name, void (QDialog::*slot)()) {
+        auto* button = new QPushButton(Q(caption), this);
+        button->setObjectName(QString::fromLatin1(name));
+        button->setAutoDefault(false);
+        connect(button, &QPushButton::clicked, this, [this, slot] { (this->*slot)(); });
+        row->addWidget(button);
+        return button;
+    };
+    add(Text(6_text, Styles::Button), "cmdok", &QDialog::accept)->setDefault(true);
+    add(Text(7_text, Styles::Button), "CmdCancel", &QDialog::reject);
+    column->addLayout(row);
+}
+
+// From, to and count, as far as the kind has them: a line has one count, depths have one x and one y.
+void PointsFill::AddLine(QGridLayout& grid, int coordinate) {
+    const FieldChoice& field = points_.Coordinates()[static_cast<std::size_t>(coordinate)];
+    const bool depth = coordinate == 2;
+    const double value = points_.Coordinate(0, coordinate).value_or(field.Value);
+    Line& line = lines_[static_cast<std::size_t>(coordinate)];
+    const int row = coordinate + 1;
+    const std::string name = field.Short() + (field.Unit.empty() ? "" : " [" + field.Unit + "]");
+    const auto box = [&](const char* boxName, int column, const std::string& text, TextId part) {
+        auto* edit = NumberBox(this, NumberedName(boxName, row), [this] { Check(); });
+        edit->setText(Q(text));
+        edit->setAccessibleName(Q(name + ", " + Text(part)));
+        grid.addWidget(edit, row, column);
+        return edit;
+    };
+    auto* label = new QLabel(Q(name), this);
+    grid.addWidget(label, row, 0);
+    line.From = box("txtFrom", 1, ShortNumber(value), 913203_text);
+    label->setBuddy(line.From);
+    if (kind_ != Kind::Depths || depth) {
+        const double to = depth ? (value == 0 ? 1 : 2 * value) : value;
+        line.To = box("txtTo", 2, ShortNumber(to), 913204_text);
+    }
+    if (kind_ == Kind::Grid || depth)
+        line.Count = box("txtCount", 3, std::to_string(depth ? kUsualCount : 1), 913274_text);
+}
+
+bool PointsFill::Mark(QLineEdit* box, int kind, double upper, double lower, const std::string& name) {
+    if (box == nullptr) return true;
+    const auto fault = SharedServices().TextFault(box->text().toStdString(), kind, upper, lower, name);
+    ShowMark(*box, fault.value_or(""));
+    if (fault && note_->text().isEmpty()) note_->setText(Q(*fault));
+    return !fault;
+}
+
+bool PointsFill::Check() {
+    note_->clear();
+    bool good = true;
+    for (std::size_t i = 0; i < lines_.size(); ++i) {
+        const FieldChoice& field = points_.Coordinates()[i];
+        good = Mark(lines_[i].From, kReal, field.Greatest, field.Least, field.Label) && good;
+        good = Mark(lines_[i].To, kReal, field.Greatest, field.Least, field.Label) && good;
+        good =
+            Mark(lines_[i].Count, kWhole, PointsTable::kMostPoints, kind_ == Kind::Line ? 2 : 1, Text(913301_text)) &&
+            good;
+    }
+    return good;
+}
+
+EvenValues PointsFill::ValuesOf(const Line& line) const {
+    const double from = NumberIn(*line.From);
+    if (line.To == nullptr) return {from, from, 1};
+    return {from, NumberIn(*line.To), static_cast<int>(std::lround(NumberIn(*line.Count)))};
+}
+
+void PointsFill::accept() {
+    if (!Check()) return;
+    bool put = false;
+    if (kind_ == Kind::Line) {
+        std::array<double, 3> from{}, to{};
+        for (std::size_t i = 0; i < lines_.size(); ++i) {
+            from[i] = NumberIn(*lines_[i].From);
+            to[i] = NumberIn(*lines_[i].To);
+        }
+        const int count = static_cast<int>(std::lround(NumberIn(*lines_[2].Count)));
+        put = points_.AddLine(from, to, count, replace_->isChecked());
+    } else {
+        put = points_.AddGrid({ValuesOf(lines_[0]), ValuesOf(lines_[1]), ValuesOf(lines_[2])}, replace_->isChecked());
+    }
+    if (put) return QDialog::accept();
+    note_->setText(Q(Text(913277_text, {{"|1", std::to_string(PointsTable::kMostPoints)}})));
+}
+
+}  // namespace lithmark

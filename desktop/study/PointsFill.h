@@ -1,0 +1,39 @@
+// PointsFill: asks for many points at once: a grid, a line, depths below a point.
+#pragma once
+
+#include <QDialog>
+#include <array>
+
+#include "study/window/Points.h"
+
+class QCheckBox;
+class QLabel;
+class QLineEdit;
+
+namespace lithmark {
+
+class PointsFill : public QDialog {
+  public:
+    enum class Kind { Grid, Line, Depths };
+    PointsFill(PointsTable& points, Kind kind, QWidget* parent);
+
+    // Puts the points into the table, or marks what keeps them from it.
+    void accept() override;
+
+  private:
+    struct Line {
+        QLineEdit *From = nullptr, *To = nullptr, *Count = nullptr;
+    };
+    void AddLine(class QGridLayout& grid, int coordinate);
+    bool Check();
+    bool Mark(QLineEdit* box, int kind, double upper, double lower, const std::string& name);
+    EvenValues ValuesOf(const Line& line) const;
+
+    PointsTable& points_;
+    const Kind kind_;
+    std::array<Line, 3> lines_;
+    QCheckBox* replace_;
+    QLabel* note_;
+};
+
+}  // namespace lithmark

@@ -1,0 +1,15 @@
+// The buttons of a problem's dialog that lead to its study and its points.
+#pragma once
+
+class QBoxLayout;
+
+namespace lithmark {
+
+class FormView;
+class ProblemForm;
+
+// Puts them into a row of buttons, ahead of the form's results, on the way of the Tab key too. The form lives as long
+// as the view.
+void AddStudyButtons(FormView& view, ProblemForm& form, QBoxLayout& row);
+
+}  // namespace lithmark

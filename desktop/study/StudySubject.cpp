@@ -1,0 +1,41 @@
+#include "desktop/study/StudySubject.h"
+
+#include <QLabel>
+
+#include "core/Session.h"
+#include "render/QtText.h"
+#include "render/drawings/Inks.h"
+#include "services/texts/LanguageTexts.h"
+
+namespace lithmark {
+
+std::string SavedProject() {
+    return Session.DataDir + Session.ProjectName + ".PO3";
+}
+
+QLabel* WordsLabel(QWidget* parent, const char* name, int lines) {
+    auto* label = new QLabel(parent);
+    label->setObjectName(QString::fromLatin1(name));
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    label->setMinimumHeight(lines * label->fontMetrics().lineSpacing());
+    label->setAlignment((LanguageTexts().RightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute |
+                        Qt::AlignVCenter);
+    return label;
+}
+
+void SetInk(QLabel& label, Ink ink) {
+    QPalette palette = label.palette();
+    palette.setColor(QPalette::WindowText, ColourOf(ink, ThemeOf(palette)));
+    label.setPalette(palette);
+}
+
+QLabel* InputLabel(QWidget* parent, const StudySubject& subject) {
+    QLabel* label = WordsLabel(parent, "lblInput", 1);
+    label->setText(Q(Text(subject.Modified ? 913235_text : 913236_text)));
+    if (subject.Modified) SetInk(*label, Ink::Warning);
+    return label;
+}
+
+}  // namespace lithmark

@@ -1,0 +1,360 @@
+#include "desktop/study/StudyWindow.h"
+
+#include <QBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTableWidget>
+
+#include "desktop/ChartPane.h"
+#include "desktop/ChartView.h"
+#include "desktop/ManualTopics.h"
+#include "desktop/SaveChart.h"
+#include "desktop/ScrollColumn.h"
+#include "desktop/Sizes.h"
+#include "desktop/study/AskTools.h"
+#include "desktop/study/CommandBar.h"
+#include "desktop/study/SaveTable.h"
+#include "desktop/study/StudyAsk.h"
+#include "desktop/study/TornadoTab.h"
+#include "desktop/study/WorkRow.h"
+#include "files/CommonStep.h"
+#include "render/QtText.h"
+#include "render/drawings/Inks.h"
+#include "services/SharedServices.h"
+#include "services/texts/LanguageTexts.h"
+#include "study/window/ShortNumber.h"
+#include "study/window/StudyCharts.h"
+#include "study/window/StudyMemory.h"
+
+namespace lithmark {
+
+namespace {
+
+constexpr int kRest = 300;  // ms after the last change until the study begins
+constexpr std::size_t kMostRowsShown = 2000;
+
+const std::string kSection = "Study";
+
+// The last study of each problem.
+std::string MemoryKey() {
+    return "Problem " + std::to_string(Session.ProblemType);
+}
+
+}  // namespace
+
+StudyWindow::StudyWindow(const StudySubject& subject, QWidget* parent)
+    : QDialog(parent),
+      subject_(subject),
+      question_(subject.Fields, subject.Results, subject.First),
+      work_(subject.Draft, this),
+      shown_([this] { ShowWork(); }) {
+    setObjectName(QStringLiteral("studyWindow"));
+    Recall(question_, SharedServices().GetSetting(kApplicationTitle, kSection, MemoryKey(), ""));
+    setWindowTitle(Q(Text(913242_text, {{"|1", subject.Title}})));
+    setLayoutDirection(LanguageTexts().RightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(sizes::kEdge, sizes::kEdge, sizes::kEdge, sizes::kEdge);
+    column->setSpacing(sizes::kRowGap);
+    column->addWidget(InputLabel(this, subject));
+    auto* columns = new QHBoxLayout;
+    columns->setSpacing(sizes::kGroupGap);
+    ask_ = new StudyAsk(question_, this);
+    columns->addWidget(new ScrollColumn(ask_, this));
+    columns->addWidget(Tabs(), 1);
+    column->addLayout(columns, 1);
+    answer_ = WordsLabel(this, "lblAnswer", 2);
+    column->addWidget(answer_);
+    progress_ = new WorkRow(this, [this] { work_.Cancel(); });
+    run_ = AskButton(progress_, progress_->Row(), Q(Text(913233_text, Styles::Button)), "cmdRun", [this] { Run(); });
+    run_->setToolTip(QKeySequence(Qt::Key_F5).toString(QKeySequence::NativeText));
+    column->addWidget(progress_);
+    command_ = new CommandBar(this);
+    column->addWidget(command_);
+    column->addLayout(Buttons());
+    BindHelpKey(*this, [] { return std::string("studies"); });
+
+    ask_->OnChange = tornado_->OnChange = [this] { Asked(); };
+    ask_->OnFind = [this] { Find(); };
+    work_.OnChange = [this] { Came(); };
+    rest_.setSingleShot(true);
+    rest_.setInterval(kRest);
+    connect(&rest_, &QTimer::timeout, this, [this] { Work(false); });
+    connect(tabs_, &QTabWidget::currentChanged, this, [this] { Asked(); });
+    resize(1080, 720);
+    Asked();
+}
+
+QWidget* StudyWindow::Tabs() {
+    tabs_ = new QTabWidget(this);
+    tabs_->setObjectName(QStringLiteral("tabs"));
+    tabs_->tabBar()->setAccessibleName(Q(Text(913324_text)));
+    StudyCurves none;
+    const auto chart = [&] {
+        return question_.FirstVaried() != nullptr ? CurveChart(question_, none) : ChartArguments();
+    };
+    const auto add = [&](QWidget* page, TextId text) {
+        if (page->layout() != nullptr)
+            page->layout()->setContentsMargins(sizes::kGroupPad, sizes::kGroupPad, sizes::kGroupPad, sizes::kGroupPad);
+        tabs_->addTab(page, Q(Text(text)));
+    };
+    constexpr int kLegendRoom = 560, kLeastPlot = 150;
+    curve_ = new ChartPane(chart(), tabs_, kLegendRoom);
+    curve_->setObjectName(QStringLiteral("curve"));
+    add(curve_, 913227_text);
+    add(TableTab(), 913228_text);
+    histogram_ = new ChartPane(HistogramChart(question_, {}), tabs_, kLegendRoom);
+    histogram_->setObjectName(QStringLiteral("histogram"));
+    add(histogram_, 913229_text);
+    for (ChartPane* pane : {curve_, histogram_}) pane->Plot().setMinimumHeight(kLeastPlot);
+    tornado_ = new TornadoTab(question_, tabs_);
+    add(tornado_, 913230_text);
+    return tabs_;
+}
+
+QWidget* StudyWindow::TableTab() {
+    auto* page = new QWidget(tabs_);
+    auto* column = new QVBoxLayout(page);
+    tableNote_ = WordsLabel(page, "lblTable", 1);
+    tableNote_->hide();
+    column->addWidget(tableNote_);
+    table_ = new QTableWidget(page);
+    table_->setObjectName(QStringLiteral("rows"));
+    table_->setAccessibleName(Q(Text(913228_text)));
+    table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table_->verticalHeader()->hide();
+    column->addWidget(table_, 1);
+    return page;
+}
+
+QLayout* StudyWindow::Buttons() {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(sizes::kColumnGap);
+    const QString dots = QStringLiteral("...");
+    csv_ = AskButton(this, *row, QStringLiteral("CSV") + dots, "cmdCsv",
+                     [this] { SaveCsvFile(*this, work_.Rows()->Csv()); });
+    sheet_ = AskButton(this, *row, Q(Text(910007_text)) + dots, "cmdSheet",
+                       [this] { SaveSheetFile(*this, work_.Rows()->Cells()); });
+    chart_ = AskButton(this, *row, Q(Text(913246_text)) + dots, "cmdChart", [this] { SaveShown(); });
+    row->addStretch(1);
+    AskButton(this, *row, Q(Text(913247_text, Styles::Button)), "cmdok", [this] { accept(); });
+    return row;
+}
+
+void StudyWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_F5) return Run();
+    QDialog::keyPressEvent(event);
+}
+
+void StudyWindow::done(int result) {
+    UnderCommonStep(
+        [&] { SharedServices().SaveSetting(kApplicationTitle, kSection, MemoryKey(), MemoryOf(question_)); });
+    QDialog::done(result);
+}
+
+// --- what is asked ---
+
+void StudyWindow::Asked() {
+    findShown_ = false;
+    ShowFaults(tabs_->currentIndex() == kTornado ? question_.TornadoFaults() : question_.Faults());
+    ShowCommand();
+    ShowProgress();
+    rest_.start();
+}
+
+void StudyWindow::ShowFaults(const std::vector<AskFault>& faults) {
+    ask_->Mark(question_.Faults());
+    tornado_->Mark(question_.TornadoFaults());
+    ask_->EnableFind(true);
+    run_->setEnabled(faults.empty());
+    if (faults.empty()) return;
+    answer_->setText(Q(faults.front().Reason));
+    SetInk(*answer_, Ink::Error);
+}
+
+// The rows as soon as what is asked rests, unless they are there already; the tornado where it is looked at.
+void StudyWindow::Work(bool wanted) {
+    rest_.stop();
+    if (tabs_->currentIndex() == kTornado) {
+        if (!question_.TornadoFaults().empty()) return;
+        const auto words = StudyWork::TornadoWords(question_, SavedProject());
+        if (words == tornadoWords_ && !wanted) return ShowWork();
+        tornadoWords_ = words;
+        work_.StartTornado(question_);
+        return;
+    }
+    if (!question_.Faults().empty()) return;
+    const auto words = StudyWork::RowsWords(question_, SavedProject());
+    if (words == rowsWords_ && !wanted && work_.EndOfRows() != StudyWork::RowsEnd::None) return ShowWork();
+    rowsWords_ = words;
+    work_.StartRows(question_, wanted);
+    ShowProgress();
+}
+
+void StudyWindow::Run() {
+    Work(true);
+}
+
+void StudyWindow::Find() {
+    const std::vector<AskFault> faults = question_.FindFaults();
+    if (!faults.empty()) {
+        ask_->Mark(faults);
+        answer_->setText(Q(faults.front().Reason));
+        SetInk(*answer_, Ink::Error);
+        return;
+    }
+    rest_.stop();
+    findShown_ = true;
+    ShowCommand();
+    work_.StartFind(question_);
+}
+
+bool StudyWindow::RowsAreOld() const {
+    return work_.Rows() != nullptr &&
+           (!question_.Faults().empty() || StudyWork::RowsWords(question_, SavedProject()) != rowsWords_);
+}
+
+// --- what has come ---
+
+void StudyWindow::Came() {
+    shown_.Came();
+    if (work_.Doing() == StudyWork::Job::None) ShowWork();
+}
+
+void StudyWindow::ShowWork() {
+    shown_.stop();
+    ShowRows();
+    ShowTornado();
+    ShowProgress();
+}
+
+void StudyWindow::ShowRows() {
+    if (work_.Question() == nullptr || work_.Rows() == nullptr) return;
+    const StudyQuestion& asked = *work_.Question();
+    std::string answer;
+    if (asked.FirstVaried() != nullptr) {
+        const StudyCurves curves = CurvesOf(asked, *work_.Rows(), work_.Present());
+        curve_->ShowChart(CurveChart(asked, curves));
+        if (work_.Doing() != StudyWork::Job::Rows) answer = CrossingText(asked, curves);
+    }
+    if (asked.IsRandom()) {
+        histogram_->ShowChart(HistogramChart(asked, HistogramOf(asked, *work_.Rows())));
+        answer += (answer.empty() ? "" : " ") + HistogramText(asked, *work_.Rows());
+    }
+    tabs_->setTabEnabled(kCurve, asked.FirstVaried() != nullptr);
+    tabs_->setTabEnabled(kHistogram, asked.IsRandom());
+    ShowTable();
+    if (!work_.Found().empty()) answer = Text(913248_text, {{"|1", work_.Found()}});
+    if (work_.Doing() == StudyWork::Job::Find) answer = Text(903005_text);
+    if (!work_.Trouble().empty()) answer = work_.Trouble();
+    if (!question_.Faults().empty() && tabs_->currentIndex() != kTornado) return;
+    answer_->setText((LanguageTexts().RightToLeft() ? QString(QChar(0x200F)) : QString()) + Q(answer));
+    SetInk(*answer_, work_.Trouble().empty() ? Ink::Text : Ink::Error);
+}
+
+void StudyWindow::ShowTable() {
+    const ShownRows rows = RowsOf(*work_.Question(), *work_.Rows(), kMostRowsShown);
+    const std::size_t all = work_.Rows()->Lines().size();
+    tableNote_->setText(Q(Text(913254_text, {{"|1", std::to_string(kMostRowsShown)}, {"|2", std::to_string(all)}})));
+    tableNote_->setVisible(all > kMostRowsShown);
+    const Theme theme = ThemeOf(palette());
+    QStringList heads;
+    for (const std::string& head : rows.Heads) heads.append(Q(head));
+    table_->setColumnCount(static_cast<int>(rows.Heads.size()));
+    table_->setHorizontalHeaderLabels(heads);
+    table_->setRowCount(static_cast<int>(rows.Rows.size()));
+    for (int r = 0; r < table_->rowCount(); ++r) {
+        const ShownRows::Row& row = rows.Rows[static_cast<std::size_t>(r)];
+        for (int c = 0; c < table_->columnCount(); ++c) {
+            const bool words = c >= table_->columnCount() - 2;
+            QTableWidgetItem* item = table_->item(r, c);
+            if (item == nullptr) {
+                item = new QTableWidgetItem;
+                table_->setItem(r, c, item);
+            }
+            item->setText((c == 0 && row.Crossed ? QStringLiteral("× ") : QString()) +
+                          Q(row.Cells[static_cast<std::size_t>(c)]));
+            item->setTextAlignment(words ? Qt::Alignment(Qt::AlignVCenter | Qt::AlignLeading)
+                                         : Qt::AlignRight | Qt::AlignVCenter | Qt::AlignAbsolute);
+            QFont font = table_->font();
+            font.setBold(row.Crossed);
+            item->setFont(font);
+            const bool aborted = row.Is == ShownRows::Kind::Aborted, noticed = row.Is == ShownRows::Kind::Noticed;
+            item->setForeground(aborted   ? QBrush(ColourOf(Ink::Error, theme))
+                                : noticed ? QBrush(ColourOf(Ink::Warning, theme))
+                                          : QBrush());
+            item->setToolTip(words ? item->text() : QString());
+        }
+    }
+    table_->resizeColumnsToContents();
+}
+
+void StudyWindow::ShowTornado() {
+    if (!work_.TornadoQuestion()) return;
+    const bool working = work_.Doing() == StudyWork::Job::Middle || work_.Doing() == StudyWork::Job::Tornado;
+    const bool none = work_.Bars().empty() || !work_.TornadoMiddle();
+    TornadoPicture picture;
+    if (!none) picture = TornadoPictureOf(*work_.TornadoQuestion(), work_.Bars(), *work_.TornadoMiddle());
+    QString note;
+    if (none) note = Q(working ? Text(903005_text) : work_.Trouble().empty() ? Text(913249_text) : work_.Trouble());
+    tornado_->ShowBars(picture, note);
+}
+
+void StudyWindow::ShowProgress() {
+    using Job = StudyWork::Job;
+    using End = StudyWork::RowsEnd;
+    const StudyTable* rows = work_.Rows();
+    const std::uint64_t done = rows == nullptr ? 0 : rows->Lines().size(),
+                        wanted = rows == nullptr ? 0 : rows->Wanted();
+    if (work_.Doing() == Job::None)
+        progress_->Rest();
+    else
+        progress_->Run(done, work_.Doing() == Job::Rows ? wanted : 0);
+    std::string text;
+    bool warning = false;
+    if (rows != nullptr) {
+        text = Text(913237_text, {{"|1", std::to_string(done)}, {"|2", std::to_string(wanted)}});
+        if (const int aborted = rows->Aborted(); aborted > 0)
+            text += Text(913238_text, {{"|1", std::to_string(aborted)}});
+        if (work_.EndOfRows() != End::None && done < wanted)
+            text += Text(913239_text, {{"|1", std::to_string(wanted - done)}});
+        if (work_.EndOfRows() == End::Promised) {
+            text += Text(913240_text, {{"|1", ShortNumber(work_.PromisedSeconds(), 2)}});
+            warning = true;
+        }
+        // What belongs to former boxes says so.
+        if (RowsAreOld()) {
+            text = "! " + Text(913241_text) + " - " + text;
+            warning = true;
+        }
+    }
+    progress_->Say(text, warning);
+    const bool any = done > 0 && work_.Doing() != Job::Rows;
+    csv_->setEnabled(any);
+    sheet_->setEnabled(any);
+    chart_->setEnabled(tabs_->currentIndex() == kTornado ? !tornado_->Picture().Bars.empty() : any);
+}
+
+void StudyWindow::ShowCommand() {
+    std::vector<std::string> words;
+    if (findShown_)
+        words = StudyWork::FindWords(question_, SavedProject());
+    else if (tabs_->currentIndex() == kTornado)
+        words = question_.TornadoFaults().empty() ? StudyWork::TornadoWords(question_, SavedProject()) : words;
+    else if (question_.Faults().empty())
+        words = StudyWork::RowsWords(question_, SavedProject());
+    command_->Show(words);
+}
+
+// --- the ways out ---
+
+void StudyWindow::SaveShown() {
+    if (tabs_->currentIndex() == kTornado) return SaveTornadoFile(*this, tornado_->Picture());
+    ChartView& plot = (tabs_->currentIndex() == kHistogram ? histogram_ : curve_)->Plot();
+    SaveChart(this, plot.Chart(), plot.Look());
+}
+
+}  // namespace lithmark

@@ -1,0 +1,81 @@
+// StudyWindow: a study of what a problem's dialog holds: what varies at the side, curve, table, frequency and tornado
+// beside it, the command that does the same below. Looking changes nothing: all runs work on a copy.
+#pragma once
+
+#include <QDialog>
+#include <QTimer>
+
+#include "desktop/study/ShowTimer.h"
+#include "desktop/study/StudySubject.h"
+#include "desktop/study/StudyWork.h"
+
+class QLabel;
+class QPushButton;
+class QTabWidget;
+class QTableWidget;
+
+namespace lithmark {
+
+class ChartPane;
+class CommandBar;
+class StudyAsk;
+class TornadoTab;
+class WorkRow;
+
+class StudyWindow : public QDialog {
+  public:
+    StudyWindow(const StudySubject& subject, QWidget* parent);
+
+    const StudyWork& Work() const noexcept { return work_; }
+
+    void done(int result) override;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    enum Tab { kCurve, kTable, kHistogram, kTornado };
+
+    QWidget* Tabs();
+    QWidget* TableTab();
+    QLayout* Buttons();
+
+    // After a change of what is asked, and as the former one has rested for a moment.
+    void Asked();
+    void Work(bool wanted);
+    void Run();
+    void Find();
+    // What has come of the work.
+    void Came();
+    void ShowWork();
+    void ShowRows();
+    void ShowTable();
+    void ShowTornado();
+    void ShowProgress();
+    void ShowCommand();
+    void ShowFaults(const std::vector<AskFault>& faults);
+    bool RowsAreOld() const;
+
+    void SaveShown();
+
+    const StudySubject subject_;
+    StudyQuestion question_;
+    StudyWork work_;
+    QTimer rest_;
+    ShowTimer shown_;
+    std::vector<std::string> rowsWords_;     // of the rows that are shown
+    std::vector<std::string> tornadoWords_;  // of the tornado that is shown
+    bool findShown_ = false;
+
+    StudyAsk* ask_ = nullptr;
+    QTabWidget* tabs_ = nullptr;
+    ChartPane *curve_ = nullptr, *histogram_ = nullptr;
+    TornadoTab* tornado_ = nullptr;
+    QTableWidget* table_ = nullptr;
+    QLabel *answer_ = nullptr, *tableNote_ = nullptr;
+    WorkRow* progress_ = nullptr;
+    CommandBar* command_ = nullptr;
+    QPushButton *run_ = nullptr, *csv_ = nullptr, *sheet_ = nullptr, *chart_ = nullptr;
+};
+
+}  // namespace lithmark
