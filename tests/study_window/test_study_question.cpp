@@ -244,9 +244,9 @@ TEST_F(StudyQuestionTest, TheNextStudyBeginsAsTheLastOneWasAskedWithRangesOfItsO
 }
 
 TEST(CommandTextTest, WordsThatAShellWouldChangeStandInQuotes) {
-    EXPECT_EQ(CommandText({"study", "/home/me/My crane.PO3", "--vary", "A=2:6:*21", "--vary", "hLayer(1)=2:4:^3",
-                           "--take", "s", "--limit", "s=5"}),
-              "lithmark-cli study '/home/me/My crane.PO3' --vary 'A=2:6:*21' --vary 'hLayer(1)=2:4:^3' --take s "
+    EXPECT_EQ(CommandText({"study", "/data/My crane.PO3", "--vary", "A=2:6:*21", "--vary", "hLayer(1)=2:4:^3", "--take",
+                           "s", "--limit", "s=5"}),
+              "lithmark-cli study '/data/My crane.PO3' --vary 'A=2:6:*21' --vary 'hLayer(1)=2:4:^3' --take s "
               "--limit s=5");
     EXPECT_EQ(CommandText({"it's"}), "lithmark-cli 'it'\\''s'");
     EXPECT_EQ(CommandText({""}), "lithmark-cli ''");
