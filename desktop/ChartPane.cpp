@@ -49,12 +49,14 @@ ChartPane::ChartPane(const ChartArguments& chart, QWidget* parent, int legendRoo
     : QWidget(parent),
       legendRoom_(legendRoom),
       marksAt_(marks),
-      plot_(new ChartView(chart, this)),
-      values_(ReadingLabel(this, "lblValues")),
-      marks_(ReadingLabel(this, "lblMarks")),
       column_(new QVBoxLayout(this)) {
     column_->setContentsMargins(0, 0, 0, 0);
     column_->setSpacing(sizes::kRowGap);
+    // In the order of the Tab key.
+    BuildLegend(chart);
+    plot_ = new ChartView(chart, this);
+    values_ = ReadingLabel(this, "lblValues");
+    marks_ = ReadingLabel(this, "lblMarks");
     auto* drawn = new QHBoxLayout;
     drawn->setSpacing(sizes::kEdge);
     drawn->addWidget(plot_, 1);
@@ -70,7 +72,6 @@ ChartPane::ChartPane(const ChartArguments& chart, QWidget* parent, int legendRoo
     } else {
         readings->addWidget(marks_);
     }
-    BuildLegend(chart);
     MakeGraphic(*plot_, Q(chart.ChartTitle));
     PaneKeys::MakePane(*plot_);
     plot_->OnReading = [this] { ShowReading(); };
@@ -97,7 +98,7 @@ void ChartPane::BuildLegend(const ChartArguments& chart) {
     for (int i = 1; i <= chart.Curves; ++i) {
         auto* box = new QCheckBox(CaptionOf(chart, i), legend_);
         box->setObjectName(QStringLiteral("chkCurve(%1)").arg(i));
-        box->setIcon(SampleOf(i, plot_->InksShown()));
+        box->setIcon(SampleOf(i, WindowInks(palette())));
         box->setIconSize(QSize(30, 12));
         box->setChecked(true);
         connect(box, &QCheckBox::toggled, this, [this, i](bool on) { plot_->ShowCurve(i, on); });
@@ -106,8 +107,10 @@ void ChartPane::BuildLegend(const ChartArguments& chart) {
     }
     grid->setColumnStretch(columns, 1);
     column_->insertWidget(0, legend_);
-    // The boxes stand above the plot, on the way of the Tab key too.
+    if (plot_ == nullptr) return;
+    // Boxes that come later stand above the plot too, on the way of the Tab key.
     QWidget* before = plot_->previousInFocusChain();
+    while (before != plot_ && before->focusPolicy() == Qt::NoFocus) before = before->previousInFocusChain();
     for (QCheckBox* box : boxes_) {
         setTabOrder(before, box);
         before = box;

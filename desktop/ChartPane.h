@@ -34,8 +34,8 @@ class ChartPane : public QWidget {
 
     const int legendRoom_;
     const Marks marksAt_;
-    ChartView* plot_;
-    QLabel *values_, *marks_;
+    ChartView* plot_ = nullptr;
+    QLabel *values_ = nullptr, *marks_ = nullptr;
     QBoxLayout* column_;
     QWidget* legend_ = nullptr;
     std::vector<QCheckBox*> boxes_;

@@ -43,8 +43,6 @@ class ChartView : public QCustomPlot {
     // What is seen, for paper and files, and with which turn.
     ChartLook Look() const;
     const ChartArguments& Chart() const noexcept { return chart_; }
-    // Those of the window, light or dark.
-    const ChartInks& InksShown() const noexcept { return look_.Inks; }
 
   protected:
     void mousePressEvent(QMouseEvent* event) override;

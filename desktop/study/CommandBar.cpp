@@ -25,7 +25,7 @@ CommandBar::CommandBar(QWidget* parent) : QWidget(parent), text_(new QLineEdit(t
     text_->setLayoutDirection(Qt::LeftToRight);
     row->addWidget(AskLabel(this, Text(913234_text), text_));
     row->addWidget(text_, 1);
-    auto* copy = new QPushButton(Q(Text(906521_text, Styles::Button)), this);
+    auto* copy = new QPushButton(Q(Text(913259_text, Styles::Button)), this);
     copy->setObjectName(QStringLiteral("cmdCopy"));
     copy->setAutoDefault(false);
     copy->setMinimumHeight(sizes::kClicked);
