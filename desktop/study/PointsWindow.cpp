@@ -33,7 +33,7 @@ namespace lithmark {
 
 namespace {
 
-constexpr int kRest = 300;  // ms after the last change until the points are worked
+constexpr int kPointsRest = 300;  // ms after the last change until the points are worked
 
 std::vector<FieldChoice> CoordinatesOf(const StudySubject& subject) {
     std::vector<FieldChoice> coordinates;
@@ -59,7 +59,7 @@ PointsWindow::PointsWindow(const StudySubject& subject, QWidget* parent)
     process_.OnErrorLine = [this](const std::string& line) { trouble_ = line; };
     process_.OnEnd = [this](const CliEnd& end) { End(end); };
     rest_.setSingleShot(true);
-    rest_.setInterval(kRest);
+    rest_.setInterval(kPointsRest);
     connect(&rest_, &QTimer::timeout, this, [this] { Start(); });
 
     auto* column = new QVBoxLayout(this);

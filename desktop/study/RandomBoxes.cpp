@@ -14,7 +14,7 @@ namespace lithmark {
 
 namespace {
 
-std::vector<QString> FieldItems(const StudyQuestion& question) {
+std::vector<QString> RandomFieldItems(const StudyQuestion& question) {
     std::vector<QString> items = {Q(Text(913210_text))};
     for (const FieldChoice& field : question.Fields())
         if (!field.Whole) items.push_back(SymbolAndWords(field.Symbol, field.Label));
@@ -50,7 +50,7 @@ RandomBoxes::RandomBoxes(StudyQuestion& question, int line, std::function<void()
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(sizes::kColumnGap);
     grid->setVerticalSpacing(sizes::kRowGap);
-    field_ = AskList(this, NumberedName("cboRandom", number), FieldItems(question), [this] { Choose(); });
+    field_ = AskList(this, NumberedName("cboRandom", number), RandomFieldItems(question), [this] { Choose(); });
     grid->addWidget(AskLabel(this, Text(line == 0 ? 913212_text : 913202_text), field_), 0, 0);
     grid->addWidget(field_, 0, 1, 1, 3);
     kind_ = AskList(this, NumberedName("cboKind", number),

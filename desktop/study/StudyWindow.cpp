@@ -34,10 +34,10 @@ namespace lithmark {
 
 namespace {
 
-constexpr int kRest = 300;  // ms after the last change until the study begins
+constexpr int kStudyRest = 300;  // ms after the last change until the study begins
 constexpr std::size_t kMostRowsShown = 2000;
 
-const std::string kSection = "Study";
+const std::string kStudySection = "Study";
 
 // The last study of each problem.
 std::string MemoryKey() {
@@ -53,7 +53,7 @@ StudyWindow::StudyWindow(const StudySubject& subject, QWidget* parent)
       work_(subject.Draft, this),
       shown_([this] { ShowWork(); }) {
     setObjectName(QStringLiteral("studyWindow"));
-    Recall(question_, SharedServices().GetSetting(kApplicationTitle, kSection, MemoryKey(), ""));
+    Recall(question_, SharedServices().GetSetting(kApplicationTitle, kStudySection, MemoryKey(), ""));
     setWindowTitle(Q(Text(913242_text, {{"|1", subject.Title}})));
     setLayoutDirection(LanguageTexts().RightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     auto* column = new QVBoxLayout(this);
@@ -81,7 +81,7 @@ StudyWindow::StudyWindow(const StudySubject& subject, QWidget* parent)
     ask_->OnFind = [this] { Find(); };
     work_.OnChange = [this] { Came(); };
     rest_.setSingleShot(true);
-    rest_.setInterval(kRest);
+    rest_.setInterval(kStudyRest);
     connect(&rest_, &QTimer::timeout, this, [this] { Work(false); });
     connect(tabs_, &QTabWidget::currentChanged, this, [this] { Asked(); });
     resize(1080, 720);
@@ -151,7 +151,7 @@ void StudyWindow::keyPressEvent(QKeyEvent* event) {
 
 void StudyWindow::done(int result) {
     UnderCommonStep(
-        [&] { SharedServices().SaveSetting(kApplicationTitle, kSection, MemoryKey(), MemoryOf(question_)); });
+        [&] { SharedServices().SaveSetting(kApplicationTitle, kStudySection, MemoryKey(), MemoryOf(question_)); });
     QDialog::done(result);
 }
 

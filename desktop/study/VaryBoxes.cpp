@@ -14,7 +14,7 @@ namespace lithmark {
 
 namespace {
 
-enum Column { kLabel, kFirst, kBetween, kSecond, kUnit };
+enum VaryColumn { kVaryLabel, kVaryFirst, kVaryBetween, kVarySecond, kVaryUnit };
 
 std::vector<QString> FieldItems(const StudyQuestion& question) {
     std::vector<QString> items = {Q(Text(913210_text))};
@@ -33,8 +33,8 @@ VaryBoxes::VaryBoxes(StudyQuestion& question, int line, std::function<void()> ch
     grid->setHorizontalSpacing(sizes::kColumnGap);
     grid->setVerticalSpacing(sizes::kRowGap);
     field_ = AskList(this, NumberedName("cboField", number), FieldItems(question), [this] { Choose(); });
-    grid->addWidget(AskLabel(this, Text(line == 0 ? 913201_text : 913202_text), field_), 0, kLabel);
-    grid->addWidget(field_, 0, kFirst, 1, kUnit);
+    grid->addWidget(AskLabel(this, Text(line == 0 ? 913201_text : 913202_text), field_), 0, kVaryLabel);
+    grid->addWidget(field_, 0, kVaryFirst, 1, kVaryUnit);
     from_ = NumberBox(this, NumberedName("txtFrom", number), read);
     to_ = NumberBox(this, NumberedName("txtTo", number), read);
     fromLabel_ = AskLabel(this, Text(913203_text), from_);
@@ -42,24 +42,24 @@ VaryBoxes::VaryBoxes(StudyQuestion& question, int line, std::function<void()> ch
     list_ = NumberBox(this, NumberedName("txtList", number), read);
     listLabel_ = AskLabel(this, Text(913205_text), list_);
     unit_ = new QLabel(this);
-    grid->addWidget(fromLabel_, 1, kLabel);
-    grid->addWidget(from_, 1, kFirst);
-    grid->addWidget(toLabel_, 1, kBetween);
-    grid->addWidget(to_, 1, kSecond);
-    grid->addWidget(unit_, 1, kUnit);
-    grid->addWidget(listLabel_, 1, kLabel);
-    grid->addWidget(list_, 1, kFirst, 1, 3);
+    grid->addWidget(fromLabel_, 1, kVaryLabel);
+    grid->addWidget(from_, 1, kVaryFirst);
+    grid->addWidget(toLabel_, 1, kVaryBetween);
+    grid->addWidget(to_, 1, kVarySecond);
+    grid->addWidget(unit_, 1, kVaryUnit);
+    grid->addWidget(listLabel_, 1, kVaryLabel);
+    grid->addWidget(list_, 1, kVaryFirst, 1, 3);
     count_ = NumberBox(this, NumberedName("txtCount", number), read);
     countLabel_ = AskLabel(this, Text(913205_text), count_);
     steps_ = AskList(this, NumberedName("cboSteps", number),
                      {Q(Text(913207_text)), Q(Text(913208_text)), Q(Text(913209_text))}, read);
     stepsLabel_ = AskLabel(this, Text(913206_text), steps_);
-    grid->addWidget(countLabel_, 2, kLabel);
-    grid->addWidget(count_, 2, kFirst);
-    grid->addWidget(stepsLabel_, 2, kBetween);
-    grid->addWidget(steps_, 2, kSecond, 1, 2);
-    grid->setColumnStretch(kFirst, 1);
-    grid->setColumnStretch(kSecond, 1);
+    grid->addWidget(countLabel_, 2, kVaryLabel);
+    grid->addWidget(count_, 2, kVaryFirst);
+    grid->addWidget(stepsLabel_, 2, kVaryBetween);
+    grid->addWidget(steps_, 2, kVarySecond, 1, 2);
+    grid->setColumnStretch(kVaryFirst, 1);
+    grid->setColumnStretch(kVarySecond, 1);
     Show();
 }
 

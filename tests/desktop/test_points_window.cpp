@@ -21,7 +21,7 @@ namespace {
 
 using ::testing::HasSubstr;
 
-constexpr int kPatience = 60000;
+constexpr int kPointsPatience = 60000;
 
 class PointsWindowTest : public FormTest {
   protected:
@@ -35,7 +35,7 @@ class PointsWindowTest : public FormTest {
     void Await(std::size_t rows) {
         EXPECT_TRUE(QTest::qWaitFor(
             [&] { return window_->Table() && !window_->Working() && window_->Table()->Lines().size() == rows; },
-            kPatience))
+            kPointsPatience))
             << Child<QLabel>(*window_, "lblNote").text().toStdString();
         QTest::qWait(0);
     }
@@ -62,7 +62,7 @@ TEST_F(PointsWindowTest, EveryResultIsTheOneThatAReportOfThePointPrints) {
                   << QStringLiteral("%1=%2").arg(QChar(u'x' + c)).arg(QString::fromStdString(Cell(row, c)));
         for (const std::string& word : project.Options()) words << QString::fromStdString(word);
         report.start(QString::fromStdString(CliProcess::Program()), words);
-        ASSERT_TRUE(report.waitForFinished(kPatience));
+        ASSERT_TRUE(report.waitForFinished(kPointsPatience));
         const std::string text = report.readAllStandardOutput().toStdString();
         for (std::size_t i = 0; i < window_->Points().Results().size(); ++i) {
             const ResultChoice& result = window_->Points().Results()[i];
@@ -96,7 +96,7 @@ TEST_F(PointsWindowTest, AWrongRowSaysWhyAndTheOthersAreWorked) {
 TEST_F(PointsWindowTest, AGridIsAskedForAndDrawnOverTheDepth) {
     Await(1);
     QTimer::singleShot(0, window_.get(), [&] {
-        EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }, kPatience));
+        EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }, kPointsPatience));
         QWidget& fill = *QApplication::activeModalWidget();
         TypeInto(fill, "txtFrom(1)", "0");
         TypeInto(fill, "txtTo(1)", "2");

@@ -29,7 +29,7 @@ namespace {
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
-constexpr int kPatience = 60000;
+constexpr int kStudyPatience = 60000;
 
 class StudyWindowTest : public FormTest {
   protected:
@@ -54,7 +54,7 @@ class StudyWindowTest : public FormTest {
                 if (work.EndOfRows() == StudyWork::RowsEnd::Promised) ClickOn(window, "cmdRun");
                 return work.EndOfRows() == StudyWork::RowsEnd::Done;
             },
-            kPatience))
+            kStudyPatience))
             << work.Trouble();
     }
     static std::string Command(QWidget& window) { return Child<QLineEdit>(window, "txtCommand").text().toStdString(); }
@@ -64,7 +64,7 @@ class StudyWindowTest : public FormTest {
         shell.setWorkingDirectory(QString::fromStdString(SharedServices().ExecutableDir()));
         const std::string text = "./" + command + " --settings '" + Session.ProgramDir + "' --lang en";
         shell.start(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), QString::fromStdString(text)});
-        EXPECT_TRUE(shell.waitForFinished(kPatience));
+        EXPECT_TRUE(shell.waitForFinished(kStudyPatience));
         return shell.readAllStandardOutput().toStdString();
     }
     // Without the last column, which names the study: the saved project is another one than its scratch copy only there
@@ -106,7 +106,7 @@ TEST_F(StudyWindowTest, TheRowsAreWhatTheCommandGivesThatTheWindowShows) {
     Child<QCheckBox>(*window, "chkTake(2)").click();
     TypeInto(*window, "txtLimit", "5");
     AwaitRows(*window);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window->Work().Rows()->Wanted() == 8; }, kPatience));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->Work().Rows()->Wanted() == 8; }, kStudyPatience));
     AwaitRows(*window);
     EXPECT_THAT(Command(*window), StartsWith("lithmark-cli study " + DataFile("P1.PO3") + " --vary 'h="));
     EXPECT_THAT(Command(*window), HasSubstr("--take s --take Sigma_z --limit s=5"));
@@ -136,7 +136,7 @@ TEST_F(StudyWindowTest, LookingChangesNothing) {
         AwaitRows(*window);
         TypeInto(*window, "txtFrom(1)", "1");
         Choose(*window, "cboField(2)", 1);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return window->Work().Question()->Varied(1) != nullptr; }, kPatience));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return window->Work().Question()->Varied(1) != nullptr; }, kStudyPatience));
         AwaitRows(*window);
     }
     EXPECT_EQ(look(), fields);
@@ -153,7 +153,7 @@ TEST_F(StudyWindowTest, ALimitIsFoundBetweenTwoRowsAndByTheSearch) {
     const double limit =
         (static_cast<double>(lines.front().Numbers[0]) + static_cast<double>(lines.back().Numbers[0])) / 2;
     TypeInto(*window, "txtLimit", std::to_string(limit));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window->Work().Question()->LimitNumber().has_value(); }, kPatience));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->Work().Question()->LimitNumber().has_value(); }, kStudyPatience));
     AwaitRows(*window);
     const std::string answer = Child<QLabel>(*window, "lblAnswer").text().toStdString();
     EXPECT_THAT(answer, HasSubstr(" at h = "));
@@ -164,7 +164,7 @@ TEST_F(StudyWindowTest, ALimitIsFoundBetweenTwoRowsAndByTheSearch) {
     EXPECT_EQ(marked, 2);
     ClickOn(*window, "cmdFind");
     EXPECT_THAT(Command(*window), HasSubstr(" --find h="));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !window->Work().Found().empty(); }, kPatience))
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window->Work().Found().empty(); }, kStudyPatience))
         << window->Work().Trouble();
     // The command's own answer.
     const StudyAnswer told(RunInShell(Command(*window)));
@@ -185,7 +185,7 @@ TEST_F(StudyWindowTest, WhatCannotBeTakenIsMarkedAndTold) {
     EXPECT_FALSE(Child<QPushButton>(*window, "cmdRun").isEnabled());
     EXPECT_EQ(Command(*window), "");
     TypeInto(*window, "txtCount(1)", "5");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window->Work().Rows()->Wanted() == 5; }, kPatience));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->Work().Rows()->Wanted() == 5; }, kStudyPatience));
     AwaitRows(*window);
     EXPECT_EQ(Child<QLabel>(*window, "lblProgress").text().toStdString(), "5 of 5 rows");
 }
@@ -199,7 +199,7 @@ TEST_F(StudyWindowTest, RandomSamplesGiveAHistogram) {
     const auto& random = Child<QComboBox>(*window, "cboRandom(1)");
     Choose(*window, "cboRandom(1)", random.findText(QStringLiteral("h  "), Qt::MatchStartsWith));
     TypeInto(*window, "txtSamples", "200");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window->Work().Rows()->Wanted() == 200; }, kPatience));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->Work().Rows()->Wanted() == 200; }, kStudyPatience));
     AwaitRows(*window);
     EXPECT_TRUE(tabs.isTabEnabled(2));
     EXPECT_FALSE(tabs.isTabEnabled(0));
@@ -212,7 +212,7 @@ TEST_F(StudyWindowTest, ATornadoOfAllQuantitiesIsThatOfTheCommand) {
     const auto window = Open();
     AwaitRows(*window);
     Child<QTabWidget>(*window, "tabs").setCurrentIndex(3);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !window->Work().Bars().empty(); }, kPatience)) << window->Work().Trouble();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window->Work().Bars().empty(); }, kStudyPatience)) << window->Work().Trouble();
     EXPECT_THAT(Command(*window), HasSubstr("--tornado"));
     const StudyAnswer told(RunInShell(Command(*window)));
     ASSERT_EQ(told.Rows.size(), window->Work().Bars().size());
@@ -230,9 +230,9 @@ TEST_F(StudyWindowTest, CancelKeepsTheRowsSoFarAndSaysHowManyAreMissing) {
     ClickOn(*window, "cmdRun");
     const StudyWork& work = window->Work();
     ASSERT_TRUE(
-        QTest::qWaitFor([&] { return !work.Rows()->Lines().empty() && work.Rows()->Wanted() == 70000; }, kPatience));
+        QTest::qWaitFor([&] { return !work.Rows()->Lines().empty() && work.Rows()->Wanted() == 70000; }, kStudyPatience));
     ClickOn(*window, "cmdCancel");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return work.Doing() == StudyWork::Job::None; }, kPatience));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return work.Doing() == StudyWork::Job::None; }, kStudyPatience));
     if (work.EndOfRows() == StudyWork::RowsEnd::Done) GTEST_SKIP() << "faster than the click";
     EXPECT_EQ(work.EndOfRows(), StudyWork::RowsEnd::Cancelled);
     const std::size_t rows = work.Rows()->Lines().size();
@@ -266,7 +266,7 @@ TEST_F(StudyWindowTest, TheDialogsButtonOpensTheStudyOfTheBoxThatHadTheFocus) {
     form_->Focus = form_->Find("txt_h");
     std::string first;
     QTimer::singleShot(0, &view, [&] {
-        EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }, kPatience));
+        EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }, kStudyPatience));
         QWidget* modal = QApplication::activeModalWidget();
         ASSERT_NE(modal, nullptr);
         EXPECT_EQ(modal->objectName().toStdString(), "studyWindow");
@@ -280,7 +280,7 @@ TEST_F(StudyWindowTest, TheDialogsButtonOpensTheStudyOfTheBoxThatHadTheFocus) {
     view.Refresh();
     std::string told;
     QTimer::singleShot(0, &view, [&] {
-        EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }, kPatience));
+        EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }, kStudyPatience));
         told = QApplication::activeModalWidget()->objectName().toStdString();
         QApplication::activeModalWidget()->close();
     });
