@@ -15,11 +15,10 @@
 #include "desktop/ChartPane.h"
 #include "desktop/ChartView.h"
 #include "desktop/study/PointsWindow.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::HasSubstr;
 
 constexpr int kPointsPatience = 60000;
 
@@ -73,7 +72,7 @@ TEST_F(PointsWindowTest, EveryResultIsTheOneThatAReportOfThePointPrints) {
             const std::string printed = Trim(text.substr(equals + 1, end - equals - 1));
             EXPECT_EQ(Cell(row, 3 + static_cast<int>(i)), printed) << result.Take << " of row " << row;
         }
-        EXPECT_THAT(Cell(row, Status()), ::testing::StartsWith("ok"));
+        EXPECT_THAT(Cell(row, Status()), StartsWith("ok"));
     }
 }
 
@@ -90,7 +89,7 @@ TEST_F(PointsWindowTest, AWrongRowSaysWhyAndTheOthersAreWorked) {
     Grid().item(1, 1)->setText(QStringLiteral("0.5"));
     EXPECT_EQ(Cell(0, 3), "");  // former results are not shown as new ones
     Await(3);
-    EXPECT_THAT(Cell(1, Status()), ::testing::StartsWith("ok"));
+    EXPECT_THAT(Cell(1, Status()), StartsWith("ok"));
 }
 
 TEST_F(PointsWindowTest, AGridIsAskedForAndDrawnOverTheDepth) {

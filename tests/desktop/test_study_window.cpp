@@ -22,12 +22,10 @@
 #include "desktop/FormView.h"
 #include "desktop/study/StudyWindow.h"
 #include "study/window/CommandWords.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::HasSubstr;
-using ::testing::StartsWith;
 
 constexpr int kStudyPatience = 60000;
 
@@ -212,7 +210,8 @@ TEST_F(StudyWindowTest, ATornadoOfAllQuantitiesIsThatOfTheCommand) {
     const auto window = Open();
     AwaitRows(*window);
     Child<QTabWidget>(*window, "tabs").setCurrentIndex(3);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !window->Work().Bars().empty(); }, kStudyPatience)) << window->Work().Trouble();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window->Work().Bars().empty(); }, kStudyPatience))
+        << window->Work().Trouble();
     EXPECT_THAT(Command(*window), HasSubstr("--tornado"));
     const StudyAnswer told(RunInShell(Command(*window)));
     ASSERT_EQ(told.Rows.size(), window->Work().Bars().size());
@@ -229,8 +228,8 @@ TEST_F(StudyWindowTest, CancelKeepsTheRowsSoFarAndSaysHowManyAreMissing) {
     Choose(*window, "cboField(2)", 1);
     ClickOn(*window, "cmdRun");
     const StudyWork& work = window->Work();
-    ASSERT_TRUE(
-        QTest::qWaitFor([&] { return !work.Rows()->Lines().empty() && work.Rows()->Wanted() == 70000; }, kStudyPatience));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !work.Rows()->Lines().empty() && work.Rows()->Wanted() == 70000; },
+                                kStudyPatience));
     ClickOn(*window, "cmdCancel");
     ASSERT_TRUE(QTest::qWaitFor([&] { return work.Doing() == StudyWork::Job::None; }, kStudyPatience));
     if (work.EndOfRows() == StudyWork::RowsEnd::Done) GTEST_SKIP() << "faster than the click";

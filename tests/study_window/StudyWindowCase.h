@@ -10,6 +10,7 @@
 #include "FormTest.h"
 #include "study/window/StudyQuestion.h"
 #include "study/window/StudyTable.h"
+#include "support/Matchers.h"
 #include "ui/ProblemForms.h"
 
 namespace lithmark::tests {

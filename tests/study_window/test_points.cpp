@@ -8,9 +8,6 @@
 namespace lithmark::tests {
 namespace {
 
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-
 class PointsTest : public StudyWindowCase {
   protected:
     PointsTable Points() {

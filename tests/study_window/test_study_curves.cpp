@@ -8,11 +8,6 @@
 namespace lithmark::tests {
 namespace {
 
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::SizeIs;
-
 class StudyCurvesTest : public StudyWindowCase {
   protected:
     // The settlement of a clay layer over its thickness: 2, 3, 4, 5 m.

@@ -8,11 +8,6 @@
 namespace lithmark::tests {
 namespace {
 
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::SizeIs;
-
 std::vector<std::string> Names(const std::vector<FieldChoice>& fields) {
     std::vector<std::string> names;
     for (const FieldChoice& field : fields) names.push_back(field.Name);
@@ -62,7 +57,7 @@ TEST_F(StudyQuestionTest, ElementsOfAFieldAreNamedAsTheCommandLineDoes) {
     const auto names = Names(FieldChoicesOf(form, form.Draft().Record));
     EXPECT_THAT(names, ::testing::IsSupersetOf({"hLayer(1)", "CvLayer(1)", "KLayer(1)", "T"}));
     // A second layer is not there unless it is ticked.
-    EXPECT_THAT(names, ::testing::Not(::testing::Contains("hLayer(2)")));
+    EXPECT_THAT(names, Not(Contains("hLayer(2)")));
 }
 
 TEST_F(StudyQuestionTest, ARangeIsHalfToOneAndAHalfOfTheValueInsideTheLimits) {
