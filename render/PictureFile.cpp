@@ -11,6 +11,7 @@
 #include "base/Utf8.h"
 #include "render/DisplayLines.h"
 #include "render/RenderApplication.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 
@@ -31,7 +32,27 @@ std::string WithDirections(const std::string& svg) {
     return marked + svg.substr(at);
 }
 
+QImage PixelsOf(const QSize& size, int scale, const Draw& draw) {
+    QImage image(size * scale, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    QCPPainter painter;
+    painter.begin(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(scale, scale);
+    draw(painter);
+    painter.end();
+    return image;
+}
+
 }  // namespace
+
+void DrawOnPage(QCPPainter& painter, const QSize& size, const Draw& draw) {
+    constexpr int kPixels = 4;  // for each unit: sharp at four times the size of the screen
+    if (painter.paintEngine()->type() == QPaintEngine::Picture && LanguageTexts().RightToLeft())
+        painter.drawImage(QRect(QPoint(0, 0), size), PixelsOf(size, kPixels, draw));
+    else
+        draw(painter);
+}
 
 void DrawAsVectors(QPaintDevice& device, const QSizeF& extent, const QSize& size, const Draw& draw) {
     QCPPainter painter;
@@ -40,7 +61,7 @@ void DrawAsVectors(QPaintDevice& device, const QSizeF& extent, const QSize& size
     painter.setMode(QCPPainter::pmNoCaching);
     const double scale = std::min(extent.width() / size.width(), extent.height() / size.height());
     painter.scale(scale, scale);
-    draw(painter);
+    DrawOnPage(painter, size, draw);
     painter.end();
 }
 
@@ -63,16 +84,7 @@ std::string SvgOf(const QSize& size, const QString& title, const Draw& draw) {
 
 std::string PngOf(const QSize& size, int scale, const Draw& draw) {
     EnsureRenderApplication();
-    QImage image(size * scale, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::white);
-    {
-        QCPPainter painter;
-        painter.begin(&image);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.scale(scale, scale);
-        draw(painter);
-        painter.end();
-    }
+    const QImage image = PixelsOf(size, scale, draw);
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     image.save(&buffer, "PNG");

@@ -17,6 +17,10 @@ inline constexpr int kUsualSide = 700;
 // Draws on a painter whose units are those of the drawing's size.
 using Draw = std::function<void(QCPPainter&)>;
 
+// Draws on a page that is being painted. A page that is only recorded, as the preview does, would bend Arabic texts
+// when it is replayed: there the drawing is pixels.
+void DrawOnPage(QCPPainter& painter, const QSize& size, const Draw& draw);
+
 // Lines and texts stay such, instead of becoming pixels; the drawing is as large as fits into the extent.
 void DrawAsVectors(QPaintDevice& device, const QSizeF& extent, const QSize& size, const Draw& draw);
 

@@ -2,6 +2,8 @@
 #include <qcustomplot.h>
 
 #include <QFontMetricsF>
+#include <QGlyphRun>
+#include <QPaintEngine>
 #include <QTextLayout>
 #include <algorithm>
 #include <cmath>
@@ -135,7 +137,13 @@ class ReportPainter {
         double left = area.left();
         if (alignment & Qt::AlignRight) left = area.right() - width;
         if (alignment & Qt::AlignHCenter) left = area.center().x() - width / 2;
-        layout.draw(&painter_, QPointF(left - line.naturalTextRect().left(), area.top()));
+        const QPointF at(left - line.naturalTextRect().left(), area.top());
+        // A recorded page (the preview) replays each run of a text as one from left to right, which bends Arabic: signs
+        // and spaces at a run's ends change their sides. Glyphs stay where they are.
+        if (painter_.paintEngine()->type() == QPaintEngine::Picture)
+            for (const QGlyphRun& run : layout.glyphRuns()) painter_.drawGlyphRun(at, run);
+        else
+            layout.draw(&painter_, at);
     }
 
     // A text as wide as its area at most, its end cut with dots.
@@ -220,7 +228,7 @@ class ReportPainter {
         painter_.translate(area.topLeft());
         painter_.scale(area.width() / figure.Size.width(), area.height() / figure.Size.height());
         painter_.setClipRect(QRectF(QPointF(0, 0), QSizeF(figure.Size)));
-        figure.Paint(painter_);
+        DrawOnPage(painter_, figure.Size, figure.Paint);
         painter_.restore();
         painter_.setPen(Qt::black);
         QFont font = small_;

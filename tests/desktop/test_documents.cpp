@@ -1,17 +1,22 @@
 // What documents have besides the report is chosen once, in the viewer, in the preview or where a document is saved;
 // the company's logo.
+#include <qcustomplot.h>
+
 #include <QCheckBox>
 #include <QFileDialog>
 #include <QImage>
 #include <QMessageBox>
 #include <QPrintPreviewWidget>
+#include <QPrinter>
 #include <QToolBar>
 
 #include "ScreenRun.h"
 #include "core/Catalogue.h"
+#include "render/ReportDocument.h"
 #include "render/ReportPaper.h"
 #include "report/Notices.h"
 #include "support/Matchers.h"
+#include "services/texts/LanguageTexts.h"
 #include "support/Places.h"
 
 namespace lithmark::tests {
@@ -143,6 +148,65 @@ TEST_F(DocumentsOfARaft, TheWordProcessorGetsTheFiguresOfTheViewer) {
     qputenv("PATH", path);
     EXPECT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(kept); }, 20000));
     EXPECT_EQ(FiguresIn(kept), kAll);
+}
+
+// What the preview shows of a report, as pixels.
+QImage PreviewOf(const std::string& report, const ReportPaper& paper) {
+    QPrinter printer(QPrinter::HighResolution);
+    SetReportPage(printer);
+    QPrintPreviewWidget preview(&printer);
+    QObject::connect(&preview, &QPrintPreviewWidget::paintRequested, &preview, [&](QPrinter* target) {
+        PaintReport(*target, report, paper, "DejaVu Sans Mono", kReportPoints, true);
+    });
+    preview.resize(1000, 1400);
+    preview.show();
+    preview.updatePreview();
+    preview.fitToWidth();
+    QApplication::processEvents();
+    return preview.grab().toImage();
+}
+
+// The columns in which two pictures differ: the first and the last one.
+std::pair<int, int> ColumnsThatDiffer(const QImage& a, const QImage& b) {
+    std::pair<int, int> columns(a.width(), -1);
+    for (int y = 0; y < a.height(); ++y)
+        for (int x = 0; x < a.width(); ++x)
+            if (a.pixel(x, y) != b.pixel(x, y)) columns = {std::min(columns.first, x), std::max(columns.second, x)};
+    return columns;
+}
+
+// A colon behind an Arabic word stands at its left, on the recorded pages of the preview too.
+TEST(PreviewOfArabic, HasTheSignsOfATextInTheirPlaces) {
+    const std::string word = "المشروع", sign = ":";
+    ReportPaper paper;
+    const QImage empty = PreviewOf("\r\n", paper);
+    const auto [left, right] = ColumnsThatDiffer(empty, PreviewOf(word + "\r\n", paper));
+    ASSERT_GT(right - left, 20);
+    const auto [begin, end] =
+        ColumnsThatDiffer(PreviewOf(word + "\r\n", paper), PreviewOf(word + sign + "\r\n", paper));
+    ASSERT_GE(end, begin);
+    EXPECT_LE(end, left + 2) << "the word itself stays where it is";
+
+    // A figure's texts too.
+    LanguageTexts().SetCurrent(Language::Arabic);
+    const auto figure = [&](const std::string& text) {
+        ReportPaper drawn;
+        drawn.Figures.push_back({"", QSize(400, 60), [text](QCPPainter& painter) {
+                                     QFont font = painter.font();
+                                     font.setPixelSize(20);
+                                     painter.setFont(font);
+                                     painter.setLayoutDirection(Qt::RightToLeft);
+                                     painter.drawText(QRect(0, 0, 400, 60), Qt::AlignRight | Qt::AlignAbsolute,
+                                                      QString::fromStdString(text));
+                                 }});
+        return PreviewOf("\r\n", drawn);
+    };
+    const auto [wordLeft, wordRight] = ColumnsThatDiffer(figure(""), figure(word));
+    ASSERT_GT(wordRight - wordLeft, 20);
+    const auto [signLeft, signRight] = ColumnsThatDiffer(figure(word), figure(word + sign));
+    ASSERT_GE(signRight, signLeft);
+    EXPECT_LE(signRight, wordLeft + 4);
+    LanguageTexts().SetCurrent(Language::English);
 }
 
 class CompanyLogo : public ::testing::Test {

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QLineEdit>
+#include <QPrintPreviewWidget>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
@@ -30,12 +31,13 @@
 #include "desktop/QtHost.h"
 #include "desktop/SaveReport.h"
 #include "desktop/SplashView.h"
-#include "desktop/study/PointsWindow.h"
-#include "desktop/study/StudyWindow.h"
 #include "desktop/StartView.h"
 #include "desktop/answer/AnswerView.h"
+#include "desktop/study/PointsWindow.h"
+#include "desktop/study/StudyWindow.h"
 #include "kernels/RunKernel.h"
 #include "render/QtText.h"
+#include "report/Notices.h"
 #include "services/SharedServices.h"
 #include "services/storage/WrittenFile.h"
 #include "services/texts/LanguageTexts.h"
@@ -158,6 +160,12 @@ void MarkAndTurn(QWidget& window) {
     plot->Mark(true);
     for (int i = 0; i < 5; ++i) plot->Walk(1);
     plot->Mark(false);
+}
+
+// The preview with the figures, where the curves stand.
+void ShowCurves(QWidget& preview) {
+    if (auto* figures = preview.findChild<QAbstractButton*>(QStringLiteral("chkFigures"))) figures->click();
+    if (auto* pages = preview.findChild<QPrintPreviewWidget*>()) pages->setCurrentPage(pages->pageCount() - 1);
 }
 
 // Dialogs with values of their own, for what the drawings make of them.
@@ -369,11 +377,13 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
     SetProblemDefaults();
     Session.AnalysisType = Analysis::Numerical;
     RunProblemKernel();
+    Notices().Raise(NoticeId::RaftTension, 907003_text, {"-121 kN/m²", "12.5 %", "314 kN/m²"});
     gallery.Take(results, QStringLiteral("frmResultTools-raft"));
-    gallery.TakeModal(QStringLiteral("print-preview"), [&] {
-        host.PrintText(Session.ResultText, "DejaVu Sans Mono", 10, LanguageTexts().RightToLeft());
-    });
-    gallery.TakeModal(QStringLiteral("save-report"), [&] { SaveReport(&window); });
+    gallery.TakeModal(QStringLiteral("save-report"), [] { SaveReport(nullptr); });
+    gallery.TakeModal(QStringLiteral("preview"), [&] { results.cmdPrinter_Click(); });
+    gallery.TakeModal(
+        QStringLiteral("preview-figures"), [&] { results.cmdPrinter_Click(); }, ShowCurves);
+    Notices().Clear();
     ManualWindow manual(nullptr, PageOfTopic("notices#raft-tension"));
     gallery.Take(manual, QStringLiteral("manual"));
     for (const char* curve : {"Tab5", "Tab6"}) {
