@@ -162,9 +162,12 @@ std::string LabelOf(Unit unit) {
 }
 
 std::string FormatValue(double value, const std::string& format) {
-    if (format == kLongDate) return TextTools().LongDate(static_cast<int>(std::floor(std::clamp(value, -1e9, 1e9))));
+    const bool date = format == kLongDate;
+    const double day = std::floor(value);
+    if (date && day >= kFirstDay && day <= kLastDay) return TextTools().LongDate(static_cast<int>(day));
     const char decimalSign = SharedServices().DecimalSign;
-    if (!format.empty()) return FormatNumber(value, format, decimalSign);
+    // A number beyond the calendar, whose format in a damaged file is that of dates, is told as it is.
+    if (!format.empty() && !date) return FormatNumber(value, format, decimalSign);
     std::string text = NumberToText(Single(value));
     for (char& c : text)
         if (c == '.') c = decimalSign;

@@ -57,11 +57,12 @@ ReportPaper PaperInForce() {
 
 std::string LogoFileIn(const std::string& folder) {
     if (folder.empty()) return {};
-    const QFileInfoList files =
-        QDir(Q(folder)).entryInfoList({QStringLiteral("logo.png"), QStringLiteral("logo.jpg"),
-                                       QStringLiteral("logo.jpeg"), QStringLiteral("logo.svg")},
-                                      QDir::Files | QDir::Readable, QDir::Name | QDir::IgnoreCase);
-    return files.isEmpty() ? std::string() : files.front().absoluteFilePath().toStdString();
+    for (const char* name : {"logo.png", "logo.jpg", "logo.jpeg", "logo.svg"}) {
+        const QFileInfoList files = QDir(Q(folder)).entryInfoList({QLatin1String(name)}, QDir::Files | QDir::Readable,
+                                                                  QDir::Name | QDir::IgnoreCase);
+        if (!files.isEmpty()) return files.front().absoluteFilePath().toStdString();
+    }
+    return {};
 }
 
 QSize LogoSize(const std::string& file) {

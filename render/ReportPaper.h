@@ -41,7 +41,8 @@ struct ReportPaper {
 // The paper of the project in force, without figures.
 ReportPaper PaperInForce();
 
-// The company's logo: the file "Logo.png", "Logo.jpg" or "Logo.svg" of a folder, in any letter case. Empty without one.
+// The company's logo: the file "Logo.png", "Logo.jpg", "Logo.jpeg" or "Logo.svg" of a folder, the first of them that is
+// there, in any letter case. Empty without one.
 std::string LogoFileIn(const std::string& folder);
 // Draws a logo as large as fits, at the outer end of the area; nothing when the file is no picture.
 void DrawLogoFile(QPainter& painter, const QRectF& area, const std::string& file, bool atLeft);

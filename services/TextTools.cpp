@@ -75,7 +75,7 @@ std::optional<int> TextToolsService::DayNumber(int year, int month, int day) con
 }
 
 std::string TextToolsService::LongDate(int dayNumber) const {
-    if (dayNumber < *DayNumber(100, 1, 1) || dayNumber > *DayNumber(9999, 12, 31)) Fail(FailureKind::Overflow);
+    if (dayNumber < kFirstDay || dayNumber > kLastDay) Fail(FailureKind::Overflow);
     const std::chrono::sys_days day{std::chrono::days(dayNumber - kFirstOfJanuary1970)};
     const year_month_day date{day};
     return Text(901019_text, {{"|1", Text(kWeekdays[std::chrono::weekday(day).c_encoding()])},

@@ -10,6 +10,9 @@
 
 namespace lithmark {
 
+// The days that the calendar has: 1 January 100 and 31 December 9999.
+inline constexpr int kFirstDay = -657434, kLastDay = 2958465;
+
 class TextToolsService {
   public:
     // n blanks; none for a negative count, which tables rely on where a cell is wider than its column.

@@ -73,7 +73,11 @@ std::optional<std::vector<std::string>> PartFile::Cells(const std::string& line)
 }
 
 void PartFile::FailRow(TextId text, const std::string& row) const {
-    throw StudyFailure(StudyFailure::Cause::File, Text(text, {{"|1", path_}, {"|2", row}}));
+    // What stands in a row's place in a file that is none may be anything; then its line is named.
+    constexpr std::size_t kMostDigits = 20;
+    const bool named = !row.empty() && row.size() <= kMostDigits && row.find_first_not_of("0123456789") == row.npos;
+    throw StudyFailure(StudyFailure::Cause::File,
+                       Text(text, {{"|1", path_}, {"|2", named ? row : NumberToText(line_)}}));
 }
 
 void PartFile::FailLine() const {

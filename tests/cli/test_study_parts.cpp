@@ -64,6 +64,14 @@ TEST_F(CliParts, AShardHasEveryNthRow) {
     EXPECT_THAT(lines[7], testing::StartsWith("27,"));
 }
 
+// A file that is no part may be one line without an end: it is not taken whole into the memory.
+TEST_F(CliParts, ALineOfEndlessLengthIsRefused) {
+    Shards(1);
+    const std::string head = ReadBytes(Part(1)).substr(0, ReadBytes(Part(1)).find('\n') + 1);
+    WriteBytes(Part(1), head + std::string((std::size_t{1} << 24) + 1, '7'));
+    ExpectFailure(Run(Words(JoinWords(1))), 1, {"part1.csv", "2"});
+}
+
 TEST_F(CliParts, JoiningNamesTheRowsThatAreMissing) {
     Shards(3);
     WriteBytes(work / "joined.csv", "old");

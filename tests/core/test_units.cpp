@@ -177,6 +177,16 @@ TEST_F(Units, AnEmptyFormatGivesThePlainTextOfTheValueAsASingle) {
     EXPECT_EQ(KindOf([] { FormatValue(1e39, ""); }), FailureKind::Overflow);
 }
 
+// The format of dates, where a damaged file has it for a number.
+TEST_F(Units, AFormatOfDatesTellsNumbersBeyondTheCalendarAsTheyAre) {
+    EXPECT_EQ(*TextTools().DayNumber(100, 1, 1), kFirstDay);
+    EXPECT_EQ(*TextTools().DayNumber(9999, 12, 31), kLastDay);
+    EXPECT_EQ(FormatValue(25569, kLongDate), "Thursday, January 1, 1970");
+    EXPECT_EQ(FormatValue(kLastDay, kLongDate), "Friday, December 31, 9999");
+    EXPECT_EQ(FormatValue(kLastDay + 1.0, kLongDate), "2958466");
+    EXPECT_EQ(FormatValue(-1e30, kLongDate), "-1E+30");
+}
+
 TEST_F(Units, APatternRoundsHalfAwayFromZero) {
     EXPECT_EQ(FormatValue(0.3125, "0.000"), "0.313");
     EXPECT_EQ(FormatValue(-0.04, "0.0"), "0.0");

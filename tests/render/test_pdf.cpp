@@ -4,6 +4,7 @@
 #include <QPdfWriter>
 #include <QProcess>
 #include <QXmlStreamReader>
+#include <filesystem>
 #include <fstream>
 #include <set>
 
@@ -12,6 +13,7 @@
 #include "render/RenderCase.h"
 #include "render/ReportDocument.h"
 #include "render/ReportLines.h"
+#include "render/ReportPaper.h"
 #include "render/figures/ReportFigures.h"
 #include "support/Languages.h"
 #include "support/Matchers.h"
@@ -217,6 +219,16 @@ TEST_F(Pdf, ALogoOfTheSettingsIsTaken) {
     // What is no picture leaves the page without one.
     std::ofstream(folder / "LOGO.png") << "no picture";
     EXPECT_THAT(ReportPdf(Session.ResultText), testing::Not(HasSubstr("/Subtype /Image")));
+}
+
+// Of several logos the first in the order that is told: PNG, JPEG, SVG.
+TEST_F(Pdf, OfSeveralLogosTheFirstKindIsTaken) {
+    for (const char* name : {"logo.svg", "Logo.jpeg", "LOGO.JPG", "logo.PNG"}) {
+        std::ofstream(folder / name) << "a picture";
+        EXPECT_EQ(std::filesystem::path(LogoFileIn(folder.Dir())).filename(), name);
+    }
+    std::ofstream(folder / "Logo.gif") << "not of these kinds";
+    EXPECT_EQ(std::filesystem::path(LogoFileIn(folder.Dir())).filename(), "logo.PNG");
 }
 
 // Each problem has its drawing in its documents, and nothing that was chosen in the session is changed by that.

@@ -1,5 +1,6 @@
 // Where a user's own files lie, and that nothing lies beside the program.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 #include <string>
@@ -116,6 +117,14 @@ TEST_F(UserFolders, TheDesktopsNameOfTheDocumentsIsTaken) {
         Name(useless);
         EXPECT_EQ(UserDocumentsDir(), Home("")) << useless;
     }
+}
+
+// Opening a pipe would wait for somebody who writes into it.
+TEST_F(UserFolders, APipeInThePlaceOfTheDesktopsNamesIsNotWaitedFor) {
+    std::filesystem::create_directories(Home(".config"));
+    std::filesystem::create_directories(Home("Documents"));
+    ASSERT_EQ(::mkfifo(Home(".config/user-dirs.dirs").c_str(), 0600), 0);
+    EXPECT_EQ(UserDocumentsDir(), Home("Documents/"));
 }
 
 TEST_F(UserFolders, WhatTheProgramBringsIsBesideItWhileItIsNotInstalled) {

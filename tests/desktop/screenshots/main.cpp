@@ -37,6 +37,7 @@
 #include "desktop/study/StudyWindow.h"
 #include "kernels/RunKernel.h"
 #include "render/QtText.h"
+#include "report/Measured.h"
 #include "report/Notices.h"
 #include "services/SharedServices.h"
 #include "services/storage/WrittenFile.h"
@@ -377,7 +378,8 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
     SetProblemDefaults();
     Session.AnalysisType = Analysis::Numerical;
     RunProblemKernel();
-    Notices().Raise(NoticeId::RaftTension, 907003_text, {"-121 kN/m²", "12.5 %", "314 kN/m²"});
+    Notices().Raise(NoticeId::RaftTension, 907003_text,
+                    {MeasuredPressure(-121), MeasuredPercent(0.125), MeasuredPressure(314)});
     gallery.Take(results, QStringLiteral("frmResultTools-raft"));
     gallery.TakeModal(QStringLiteral("save-report"), [] { SaveReport(nullptr); });
     gallery.TakeModal(QStringLiteral("preview"), [&] { results.cmdPrinter_Click(); });
