@@ -79,7 +79,7 @@ TEST_F(StartPageTest, APinnedProjectThatIsGoneIsToldAndPinnedNoMore) {
     OpenStressProject("P1");
     frame.PinProject(DataFile("Gone.PO3"), true);
     frame.OpenListed(DataFile("Gone.PO3"));
-    EXPECT_THAT(host.LastMessage().Text, HasSubstr("Gone.PO3"));
+    EXPECT_THAT(host.LastMessage().Text, HasSubstr(DataFile("Gone.PO3"))) << "the whole path, however long it is";
     EXPECT_THAT(PinnedPaths(), IsEmpty());
     EXPECT_EQ(Session.ProjectName, "P1");  // stays open
 }
