@@ -15,8 +15,8 @@
 #include "render/ReportDocument.h"
 #include "render/ReportPaper.h"
 #include "report/Notices.h"
-#include "support/Matchers.h"
 #include "services/texts/LanguageTexts.h"
+#include "support/Matchers.h"
 #include "support/Places.h"
 
 namespace lithmark::tests {
