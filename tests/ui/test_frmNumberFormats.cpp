@@ -23,6 +23,11 @@ TEST_F(NumberFormatsDialog, AFormatMustPrintTheNumber) {
     EXPECT_EQ(FormatFault("1.00"), "\"1.00\" prints 5 as \"15.00\".");
 }
 
+TEST_F(NumberFormatsDialog, AnEndlessFormatIsQuotedInPart) {
+    const std::string nines(40, '9');
+    EXPECT_EQ(FormatFault(std::string(100000, '9')), "\"" + nines + "...\" prints 5 as \"" + nines + "...\".");
+}
+
 TEST_F(NumberFormatsDialog, TheDefaultsAreGood) {
     for (const NumberFormatRow& row : NumberFormats()) EXPECT_EQ(FormatFault(row.Default), std::nullopt) << row.Default;
 }

@@ -4,6 +4,7 @@
 
 #include "base/Failure.h"
 #include "base/NumberText.h"
+#include "base/Utf8.h"
 #include "core/Units.h"
 #include "services/SharedServices.h"
 #include "services/texts/LanguageTexts.h"
@@ -66,7 +67,7 @@ std::optional<std::string> FormatFault(const std::string& format) {
     for (const double value : kTried) {
         const std::string printed = Printed(value, format);
         if (PrintsIt(value, printed)) continue;
-        return Text(913480_text, {{"|1", format}, {"|2", FormatValue(value, "")}, {"|3", printed}});
+        return Text(913480_text, {{"|1", Excerpt(format)}, {"|2", FormatValue(value, "")}, {"|3", Excerpt(printed)}});
     }
     return std::nullopt;
 }
