@@ -1,6 +1,5 @@
 // Where a user's own files lie, and that nothing lies beside the program.
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include <filesystem>
 #include <string>
@@ -123,7 +122,7 @@ TEST_F(UserFolders, TheDesktopsNameOfTheDocumentsIsTaken) {
 TEST_F(UserFolders, APipeInThePlaceOfTheDesktopsNamesIsNotWaitedFor) {
     std::filesystem::create_directories(Home(".config"));
     std::filesystem::create_directories(Home("Documents"));
-    ASSERT_EQ(::mkfifo(Home(".config/user-dirs.dirs").c_str(), 0600), 0);
+    MakePipe(Home(".config/user-dirs.dirs"));
     EXPECT_EQ(UserDocumentsDir(), Home("Documents/"));
 }
 
