@@ -121,6 +121,16 @@ std::string Excerpt(std::string_view text) {
     return line;
 }
 
+std::string PathExcerpt(std::string_view path) {
+    constexpr std::size_t kBegin = 100, kEnd = 200;
+    const std::string shown = PrintableText(path);
+    const std::vector<char32_t> letters = CodePoints(shown);
+    if (letters.size() <= kBegin + kEnd) return shown;
+    std::string excerpt = FirstCharacters(shown, kBegin) + "...";
+    for (std::size_t i = letters.size() - kEnd; i < letters.size(); ++i) AppendCodePoint(excerpt, letters[i]);
+    return excerpt;
+}
+
 std::string UpperAscii(std::string_view text) {
     return MapAscii(text, 'a', 'z', 'A' - 'a');
 }

@@ -24,6 +24,8 @@ bool IsUtf8(std::string_view bytes);
 std::string PrintableText(std::string_view text);
 // A piece of a text for a message: short, printable, on one line.
 std::string Excerpt(std::string_view text);
+// A path for a message: whole, and of an endless one the begin and the end, which has the name.
+std::string PathExcerpt(std::string_view path);
 
 // Upper and lower case of the ASCII letters only (file name extensions, keywords).
 std::string UpperAscii(std::string_view text);

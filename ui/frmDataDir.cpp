@@ -66,7 +66,7 @@ void frmDataDir::StoreDataDir() {
     const std::string& path = txtDataDir.Text;
     MakeProjectsDir(path);
     if (!DirectoryExists(path)) {
-        SharedServices().ShowMessageBox(Text(160030_text), Text(190008_text, {{"|1", PrintableText(path)}}),
+        SharedServices().ShowMessageBox(Text(160030_text), Text(190008_text, {{"|1", PathExcerpt(path)}}),
                                         MessageIcon::Information);
         CurrentHost().SetFocus(*this, txtDataDir);
         return;

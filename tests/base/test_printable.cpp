@@ -34,6 +34,17 @@ TEST(ExcerptOfAText, IsOneShortPrintableLine) {
     EXPECT_EQ(CharacterCount(Excerpt(std::string(100000, 'x') + "\x1B")), 43u);
 }
 
+TEST(ExcerptOfAPath, HasItsBeginAndItsName) {
+    const std::string path = "/home/a b/Gründung.PO3";
+    EXPECT_EQ(PathExcerpt(path), path);
+    EXPECT_EQ(PathExcerpt(std::string(300, 'x')), std::string(300, 'x'));
+    const std::string endless = "/begin" + std::string(100000, 'x') + "/Gründung.PO3";
+    const std::string shown = PathExcerpt(endless);
+    EXPECT_EQ(CharacterCount(shown), 303u);
+    EXPECT_THAT(shown, testing::StartsWith("/beginxx"));
+    EXPECT_THAT(shown, testing::EndsWith("xx/Gründung.PO3"));
+}
+
 // No word of a library reaches a user: they are English in every language.
 TEST(FailureOfALibrary, BecomesOneOfThePrograms) {
     const auto kind = [](const std::exception& error) { return FailureFrom(error).Kind(); };

@@ -34,7 +34,7 @@ void MDITools::OpenListed(const std::string& path) {
     UnderCommonStep([&] {
         if (!MayLeaveProject()) return;
         if (!SharedServices().FileMissing(path, false)) return ChangeProject(path);
-        SharedServices().ShowMessageBox(Text(160030_text), Text(901007_text, {{"|1", PrintableText(path)}}),
+        SharedServices().ShowMessageBox(Text(160030_text), Text(901007_text, {{"|1", PathExcerpt(path)}}),
                                         MessageIcon::Information);
         PinPath(path, false);
     });
