@@ -35,7 +35,7 @@ TEST(ExcerptOfAText, IsOneShortPrintableLine) {
 }
 
 TEST(ExcerptOfAPath, HasItsBeginAndItsName) {
-    const std::string path = "/home/a b/Gründung.PO3";
+    const std::string path = "/projects/a b/Gründung.PO3";
     EXPECT_EQ(PathExcerpt(path), path);
     EXPECT_EQ(PathExcerpt(std::string(300, 'x')), std::string(300, 'x'));
     const std::string endless = "/begin" + std::string(100000, 'x') + "/Gründung.PO3";
