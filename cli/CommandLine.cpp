@@ -8,6 +8,7 @@
 #include <string_view>
 #include <utility>
 
+#include "base/Paths.h"
 #include "base/Utf8.h"
 #include "cli/Choices.h"
 #include "cli/HelpFormatter.h"
@@ -52,7 +53,7 @@ void UseLanguageAsked(int argc, char** argv) {
     LanguageTexts().SetCurrent(LanguageOfCode(language));
     if (std::ranges::any_of(kLanguageCodes, [&](const LanguageCodeRow& row) { return row.Code == language; })) return;
     std::error_code error;
-    if (!settings.empty() && !std::filesystem::is_directory(settings, error)) return;
+    if (!settings.empty() && !std::filesystem::is_directory(PathOf(settings), error)) return;
     if (!settings.empty()) SharedServices().UseSettingsDirectory(settings);
     SharedServices().LoadLanguage();
 }

@@ -1,5 +1,6 @@
 #include <filesystem>
 
+#include "base/Paths.h"
 #include "base/Utf8.h"
 #include "cli/Commands.h"
 #include "cli/Output.h"
@@ -16,7 +17,7 @@ namespace lithmark {
 // A project DIR/NAME with the defaults of its problem and what --set changes of them.
 ExitStatus NewCommand(const CommonOptions& options, int problem, ConsoleHost& host) {
     namespace fs = std::filesystem;
-    fs::path path(options.Project);
+    fs::path path = PathOf(options.Project);
     if (LowerAscii(path.extension().string()) == ".po3") path.replace_extension();
     const auto fail = [&](ExitStatus status, TextId text, const std::string& subject) {
         throw CommandFailure(status, Text(text, {{"|1", subject}}));
@@ -30,7 +31,7 @@ ExitStatus NewCommand(const CommonOptions& options, int problem, ConsoleHost& ho
     Session.DataDir = Session.WorkDir = dir.generic_string() + "/";
     Session.ProjectName = Session.WorkName = path.filename().string();
     Session.ProjectFile = DataFileName(Session.WorkDir, Session.WorkName, "PO3");
-    if (fs::exists(Session.ProjectFile)) fail(ExitStatus::FileTrouble, 902013_text, Session.ProjectFile);
+    if (fs::exists(PathOf(Session.ProjectFile))) fail(ExitStatus::FileTrouble, 902013_text, Session.ProjectFile);
 
     Session.ProblemType = problem;
     Session.Datum = TextTools().LongDateOfToday();

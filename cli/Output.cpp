@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "base/Paths.h"
 #include "base/Utf8.h"
 #include "cli/Documents.h"
 #include "cli/Failures.h"
@@ -32,7 +33,7 @@ void WriteOutput(const std::string& path, const std::string& bytes) {
 
 void RequireFolderOf(const std::string& path) {
     namespace fs = std::filesystem;
-    const fs::path folder = fs::path(path).parent_path();
+    const fs::path folder = PathOf(path).parent_path();
     std::error_code error;
     if (folder.empty() || fs::exists(folder, error) || error) return;
     throw CommandFailure(ExitStatus::FileTrouble, path + ": " + Text(190008_text, {{"|1", folder.generic_string()}}));
@@ -43,10 +44,10 @@ void RefuseProjectFile(const std::string& output) {
     if (IsStandardOutput(output) || Session.ProjectName.empty()) return;
     std::error_code error;
     // A project's file is found in either letter case.
-    const fs::path named = fs::weakly_canonical(MappedFileName(output), error);
+    const fs::path named = fs::weakly_canonical(PathOf(MappedFileName(output)), error);
     for (const std::string_view extension : ProjectExtensions()) {
         const std::string file = MappedFileName(Session.DataDir + Session.ProjectName + "." + std::string(extension));
-        if (fs::weakly_canonical(file, error) == named || fs::equivalent(file, output, error))
+        if (fs::weakly_canonical(PathOf(file), error) == named || fs::equivalent(PathOf(file), PathOf(output), error))
             throw CommandFailure(ExitStatus::BadCommandLine, Text(909020_text, {{"|1", output}}));
     }
 }
@@ -55,7 +56,7 @@ namespace {
 
 std::string FormatAsked(const CommonOptions& options, const std::vector<std::string>& formats) {
     if (!options.Format.empty()) return options.Format;
-    const std::string ending = LowerAscii(std::filesystem::path(options.Output).extension().string());
+    const std::string ending = LowerAscii(PathOf(options.Output).extension().string());
     if (ending.size() < 2) return formats.front();
     std::string format = ending.substr(1);
     if (std::find(formats.begin(), formats.end(), format) == formats.end()) FailFormat(format);

@@ -7,6 +7,7 @@
 #include <thread>
 #include <utility>
 
+#include "base/Paths.h"
 #include "base/Utf8.h"
 #include "cli/Failures.h"
 #include "cli/Output.h"
@@ -65,8 +66,8 @@ void StartCommand(const CommonOptions& options, ConsoleHost& host) {
     SharedServices().SetProgramNumber(6);
     if (!options.Settings.empty()) {
         std::error_code error;
-        if (!std::filesystem::exists(options.Settings, error)) FailFile(options.Settings, 190008_text);
-        if (!std::filesystem::is_directory(options.Settings, error)) FailFile(options.Settings, 902003_text);
+        if (!std::filesystem::exists(PathOf(options.Settings), error)) FailFile(options.Settings, 190008_text);
+        if (!std::filesystem::is_directory(PathOf(options.Settings), error)) FailFile(options.Settings, 902003_text);
         SharedServices().UseSettingsDirectory(options.Settings);
     }
     SetLanguage(options.Lang);
@@ -132,7 +133,7 @@ std::optional<bool> TryReadProject(const std::string& path, const std::string& s
 }  // namespace
 
 bool ReadProject(const std::string& path) {
-    if (UpperAscii(std::filesystem::path(path).extension().string()) != ".PO3") FailFile(path, 902004_text);
+    if (UpperAscii(PathOf(path).extension().string()) != ".PO3") FailFile(path, 902004_text);
     RequireFolderOf(path);
     Session.ProjectFile = path;
     FileDialogs().SplitProjectPath(path, Session.DataDir, Session.ProjectName);

@@ -6,6 +6,7 @@
 #include <system_error>
 
 #include "base/NumberText.h"
+#include "base/Paths.h"
 #include "cli/Output.h"
 #include "cli/StudyAnswers.h"
 #include "cli/StudySheet.h"
@@ -107,10 +108,10 @@ SummaryFile SummaryFileOf(const CommonOptions& options, const StudyOptions& stud
     asked.Format.clear();
     SummaryFile file{asked.Output, FormatInForce(asked, {"csv", "json", "jsonl", "xlsx"})};
     std::error_code error;
-    const fs::path folder = fs::path(file.Path).parent_path();
+    const fs::path folder = PathOf(file.Path).parent_path();
     if (!folder.empty() && !fs::is_directory(folder, error))
         throw CommandFailure(ExitStatus::FileTrouble, Text(902003_text, {{"|1", folder.generic_string()}}));
-    if (file.Path == output || fs::equivalent(file.Path, output, error))
+    if (file.Path == output || fs::equivalent(PathOf(file.Path), PathOf(output), error))
         FailCommandLine(908061_text, "--summary, --output");
     RefuseProjectFile(file.Path);
     return file;
@@ -120,7 +121,7 @@ SummaryFile SummaryFileOf(const CommonOptions& options, const StudyOptions& stud
 void RefuseInputs(const StudyOptions& study, const std::string& output) {
     const auto refuse = [](const std::string& read, const std::string& written, const char* names) {
         std::error_code error;
-        if (!read.empty() && !written.empty() && fs::equivalent(read, written, error))
+        if (!read.empty() && !written.empty() && fs::equivalent(PathOf(read), PathOf(written), error))
             FailCommandLine(908061_text, names);
     };
     refuse(study.Request.Rows, output, "--rows, --output");
@@ -158,7 +159,7 @@ ExitStatus StudyCommand(const CommonOptions& options, const StudyOptions& study,
     if (!study.Find.empty()) return AnswerFind(options, study, plan, host);
     const std::vector<ResultLimit> limits = LimitsOf(request);
     const std::string output = OutputOf(options, study);
-    if (!study.Resume.empty() && study.Resume != output && !fs::exists(study.Resume))
+    if (!study.Resume.empty() && study.Resume != output && !fs::exists(PathOf(study.Resume)))
         throw CommandFailure(ExitStatus::FileTrouble, Text(902005_text, {{"|1", study.Resume}}));
     StudyHead head{!plan.Cases().empty(), plan.Fields(), TakesOf(request), {}};
     head.Study = StudyIdentity(request, plan, head.Takes);

@@ -4,6 +4,7 @@
 #include <memory>
 #include <system_error>
 
+#include "base/Paths.h"
 #include "core/Session.h"
 #include "files/GloableVariable.h"
 #include "services/ProjectStore.h"
@@ -21,7 +22,7 @@ void CopyProjectFiles(const std::vector<std::string>& extensions, const std::str
         const std::string from = DataFileName(Session.DataDir, Session.ProjectName, extension);
         const std::string to = DataFileName(dir, name, extension);
         std::error_code error;  // a target that is not there yet
-        if (std::filesystem::equivalent(from, to, error)) continue;
+        if (std::filesystem::equivalent(PathOf(from), PathOf(to), error)) continue;
         const std::string content = ReadWholeFile(from, kMostArchivedBytes);
         files.push_back(std::make_unique<WrittenFile>(to));
         files.back()->Append(content);

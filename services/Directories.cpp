@@ -2,6 +2,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "base/Paths.h"
 #include "base/Utf8.h"
 #include "services/SharedServices.h"
 #include "services/platform/Process.h"
@@ -31,8 +32,7 @@ void SharedServicesService::UseSettingsDirectory(const std::string& dir) {
 std::string SharedServicesService::ExecutableDir() const {
     const std::string program = platform::ProgramFile();
     std::error_code error;
-    return WithSeparator(
-        (program.empty() ? fs::current_path(error) : fs::path(program).parent_path()).generic_string());
+    return WithSeparator((program.empty() ? fs::current_path(error) : PathOf(program).parent_path()).generic_string());
 }
 
 std::string SharedServicesService::StateDir() const {
@@ -41,9 +41,9 @@ std::string SharedServicesService::StateDir() const {
 
 std::string SharedServicesService::ResourceDir() const {
     const std::string executable = ExecutableDir();
-    const std::string shared = (fs::path(executable) / "../share/lithmark").lexically_normal().generic_string();
+    const std::string shared = (PathOf(executable) / "../share/lithmark").lexically_normal().generic_string();
     std::error_code error;
-    return fs::is_directory(shared, error) ? WithSeparator(shared) : executable;
+    return fs::is_directory(PathOf(shared), error) ? WithSeparator(shared) : executable;
 }
 
 std::string SharedServicesService::ProgramDir() const {

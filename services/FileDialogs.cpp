@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "base/Paths.h"
 #include "base/Utf8.h"
 #include "services/host/Host.h"
 #include "services/storage/FileNames.h"
@@ -29,7 +30,7 @@ std::string Title(const std::string& pattern, TextId forProject, TextId forData)
 // The folder of projects is made with the first of them; until then one looks where it is going to be.
 std::string FolderThatIs(const std::string& dir) {
     std::error_code error;
-    const bool later = dir == UserProjectsDir() && !std::filesystem::is_directory(dir, error);
+    const bool later = dir == UserProjectsDir() && !std::filesystem::is_directory(PathOf(dir), error);
     return later ? UserDocumentsDir() : dir;
 }
 
@@ -63,7 +64,7 @@ bool FileDialogsService::SaveFileDialog(std::string& file, const std::string& st
 
 void FileDialogsService::SplitProjectPath(const std::string& file, std::string& dir, std::string& name) const {
     std::error_code error;
-    const std::filesystem::path mapped = MappedFileName(file);
+    const std::filesystem::path mapped = PathOf(MappedFileName(file));
     const auto absolute = std::filesystem::absolute(mapped, error);
     const std::filesystem::path path = (error ? mapped : absolute).lexically_normal();
     std::string stem = path.filename().string();
@@ -80,9 +81,9 @@ bool FileDialogsService::ResolveProjectPath(const std::string& path, std::string
     const std::string wanted = extension.empty() && kind == kProjectFile ? std::string(kProjectExtension) : extension;
     const std::string found = MappedFileName(HasExtension(path, wanted) ? path : path + "." + wanted);
     std::error_code error;
-    if (!std::filesystem::is_regular_file(found, error)) return false;
+    if (!std::filesystem::is_regular_file(PathOf(found), error)) return false;
     SplitProjectPath(found, dir, name);
-    file = dir + std::filesystem::path(found).filename().string();
+    file = dir + PathOf(found).filename().string();
     return true;
 }
 

@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/Paths.h"
 #include "services/SharedServices.h"
 #include "services/storage/FileNames.h"
 #include "services/storage/ProjectArchive.h"
@@ -29,14 +30,14 @@ std::string FileOf(const std::string& stem, std::string_view extension) {
 }
 
 std::string FolderOf(const std::string& path) {
-    const std::string folder = fs::path(path).parent_path().generic_string();
+    const std::string folder = PathOf(path).parent_path().generic_string();
     return folder.empty() ? "." : folder;
 }
 
 // A plain file that is no link: a link is the user's own arrangement and stays where it is.
 bool IsPlainFile(const std::string& path) {
     std::error_code error;
-    return fs::symlink_status(path, error).type() == fs::file_type::regular;
+    return fs::symlink_status(PathOf(path), error).type() == fs::file_type::regular;
 }
 
 // True when a plain file counts and not what the archive holds of it. A copy may have lost the fractions of its second,
@@ -48,7 +49,7 @@ bool Outlives(const std::string& path, const std::string& archive) {
 
 bool IsSameFile(const std::string& a, const std::string& b) {
     std::error_code error;
-    return MappedFileName(a) == MappedFileName(b) || fs::equivalent(a, b, error);
+    return MappedFileName(a) == MappedFileName(b) || fs::equivalent(PathOf(a), PathOf(b), error);
 }
 
 // Runs a step of the store and tells its failure, for the project's file where it names none of its own.
@@ -142,7 +143,7 @@ bool ProjectStoreService::PackOnce(const std::string& stem, const std::string& s
     if (read.size() < 2) return true;
 
     WrittenFile archive(standing);
-    archive.Append(BuildArchive(fs::path(stem).filename().string(), files));
+    archive.Append(BuildArchive(PathOf(stem).filename().string(), files));
     archive.Sync();
     StepDone();
     if (ReadArchive(ReadWholeFile(archive.TemporaryName(), kMostArchiveFile)) != files)
@@ -153,7 +154,7 @@ bool ProjectStoreService::PackOnce(const std::string& stem, const std::string& s
     for (const ReadFile& file : read) {
         if (file.Path == standing || !file.Unchanged()) continue;
         std::error_code error;  // a file that stays does no harm: it holds what the archive does
-        fs::remove(file.Path, error);
+        fs::remove(PathOf(file.Path), error);
         StepDone();
     }
     return true;

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "base/NumberText.h"
+#include "base/Paths.h"
 #include "core/Session.h"
 #include "study/OrderedRows.h"
 #include "study/PartFile.h"
@@ -68,7 +69,7 @@ class OpenPlaces {
 class KeptRows {
   public:
     KeptRows(const StudyRun& run, const std::string& path) : run_(run) {
-        if (path.empty() || !std::filesystem::exists(path)) return;
+        if (path.empty() || !std::filesystem::exists(PathOf(path))) return;
         file_.emplace(path, run.Head);
         Advance();
     }

@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 #include <system_error>
 
+#include "base/Paths.h"
 #include "services/storage/JsonDepth.h"
 #include "services/storage/ReadFile.h"
 #include "services/storage/WrittenFile.h"
@@ -26,7 +27,7 @@ std::string NameOf(const std::string& text) {
 }
 
 std::string FileOf(const std::string& dir, const std::string& project, const std::string& form) {
-    return (fs::path(dir) / (NameOf(project + '\n' + form) + ".json")).generic_string();
+    return (PathOf(dir) / (NameOf(project + '\n' + form) + ".json")).generic_string();
 }
 
 Json ListOf(const StoredDraft::Pairs& pairs) {
@@ -65,14 +66,14 @@ void WriteDraft(const std::string& dir, const StoredDraft& draft) {
     const Json stored = {{"project", draft.Project}, {"form", draft.Form},           {"shown", draft.Shown},
                          {"when", draft.When},       {"texts", ListOf(draft.Texts)}, {"data", ListOf(draft.Data)}};
     std::error_code error;  // a folder that cannot be made shows in the write
-    if (fs::create_directories(dir, error)) fs::permissions(dir, fs::perms::owner_all, error);
+    if (fs::create_directories(PathOf(dir), error)) fs::permissions(PathOf(dir), fs::perms::owner_all, error);
     WriteWholeFile(FileOf(dir, draft.Project, draft.Form),
                    stored.dump(1, ' ', false, Json::error_handler_t::replace) + "\n");
 }
 
 void RemoveDraft(const std::string& dir, const std::string& project, const std::string& form) noexcept {
     std::error_code error;
-    fs::remove(FileOf(dir, project, form), error);
+    fs::remove(PathOf(FileOf(dir, project, form)), error);
 }
 
 }  // namespace lithmark

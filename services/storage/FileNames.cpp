@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "base/Paths.h"
 #include "base/Utf8.h"
 
 namespace lithmark {
@@ -25,7 +26,7 @@ std::string InOtherLetterCase(const std::string& path, std::size_t extensionLeng
     const std::string stem = name.substr(0, name.size() - extensionLength);
     std::string found;
     std::error_code error;
-    for (fs::directory_iterator it(folder.empty() ? "." : folder, error), end; !error && it != end;
+    for (fs::directory_iterator it(PathOf(folder.empty() ? "." : folder), error), end; !error && it != end;
          it.increment(error)) {
         const std::string other = it->path().filename().string();
         if (other.size() != name.size() || !other.starts_with(stem) || UpperAscii(other) != UpperAscii(name)) continue;
@@ -61,7 +62,7 @@ std::string MappedFileName(std::string_view name) {
 
 bool PathExists(const std::string& path) {
     std::error_code error;
-    const auto status = std::filesystem::status(path, error);
+    const auto status = std::filesystem::status(PathOf(path), error);
     return status.type() != std::filesystem::file_type::not_found;
 }
 

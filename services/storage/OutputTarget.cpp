@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "base/Failure.h"
+#include "base/Paths.h"
 #include "services/platform/Files.h"
 
 namespace lithmark {
@@ -15,8 +16,8 @@ namespace {
 // The file that a path stands for, behind symbolic links.
 std::string RealTarget(const std::string& path) {
     std::error_code error;
-    if (!std::filesystem::is_symlink(path, error)) return path;
-    const auto real = std::filesystem::weakly_canonical(path, error);
+    if (!std::filesystem::is_symlink(PathOf(path), error)) return path;
+    const auto real = std::filesystem::weakly_canonical(PathOf(path), error);
     return error ? path : real.generic_string();
 }
 

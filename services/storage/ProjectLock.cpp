@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "base/Failure.h"
+#include "base/Paths.h"
 #include "base/Utf8.h"
 #include "services/platform/Files.h"
 #include "services/platform/Process.h"
@@ -24,7 +25,7 @@ constexpr int kTries = 5;
 constexpr std::chrono::milliseconds kPause(20);
 
 std::string LockFileOf(const std::string& project) {
-    const std::filesystem::path path(project);
+    const std::filesystem::path path = PathOf(project);
     return (path.parent_path() / (std::string(kHiddenStart) + path.filename().string() + ".lock")).generic_string();
 }
 

@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 #include <system_error>
 
+#include "base/Paths.h"
 #include "services/platform/Files.h"
 #include "services/storage/JsonDepth.h"
 #include "services/storage/ReadFile.h"
@@ -70,7 +71,7 @@ void WriteSetting(const std::string& file, const std::string& app, const std::st
     Json& place = ObjectMember(ObjectMember(store, app), section)[key];
     std::visit([&](const auto& plain) { place = plain; }, value);
     std::error_code error;  // a folder that cannot be made shows in the write
-    std::filesystem::create_directories(std::filesystem::path(file).parent_path(), error);
+    std::filesystem::create_directories(PathOf(file).parent_path(), error);
     WriteWholeFile(file, store.dump(2, ' ', false, Json::error_handler_t::replace) + "\n");
 }
 

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "base/Failure.h"
+#include "base/Paths.h"
 #include "services/platform/Files.h"
 #include "services/platform/Process.h"
 
@@ -100,7 +101,7 @@ void RemoveLeftovers(const std::string& folder) noexcept {
     namespace fs = std::filesystem;
     try {
         std::error_code error;
-        for (fs::directory_iterator it(folder, error), end; !error && it != end; it.increment(error)) {
+        for (fs::directory_iterator it(PathOf(folder), error), end; !error && it != end; it.increment(error)) {
             const std::string name = it->path().filename().string();
             if (name.starts_with(kHiddenStart) && (name.ends_with(kTemporaryEnd) || name.ends_with(kLockEnd)))
                 RemoveUnused(it->path());

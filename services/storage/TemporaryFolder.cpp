@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "base/Failure.h"
+#include "base/Paths.h"
 #include "services/platform/Files.h"
 #include "services/storage/FileNames.h"
 
@@ -19,7 +20,7 @@ TemporaryFolder::TemporaryFolder() {
 
 TemporaryFolder::~TemporaryFolder() {
     std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
+    std::filesystem::remove_all(PathOf(path_), ignored);
 }
 
 std::string TemporaryFolder::Announce(const std::string& name) {

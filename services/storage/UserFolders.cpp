@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "base/Paths.h"
 #include "services/platform/Process.h"
 #include "services/storage/FileNames.h"
 
@@ -19,7 +20,7 @@ std::string OwnIn(const std::string& folder) {
 
 bool IsFolder(const std::string& path) {
     std::error_code error;
-    return fs::is_directory(path, error);
+    return fs::is_directory(PathOf(path), error);
 }
 
 }  // namespace
@@ -34,7 +35,7 @@ std::string UserStateDir() {
 
 void MakeSettingsDir(const std::string& programDir) {
     std::error_code error;
-    if (!programDir.empty() && programDir == UserSettingsDir()) fs::create_directories(programDir, error);
+    if (!programDir.empty() && programDir == UserSettingsDir()) fs::create_directories(PathOf(programDir), error);
 }
 
 std::string UserDocumentsDir() {
@@ -49,7 +50,7 @@ std::string UserProjectsDir() {
 
 void MakeProjectsDir(const std::string& dir) {
     std::error_code error;
-    if (!dir.empty() && WithSeparator(dir) == UserProjectsDir()) fs::create_directories(dir, error);
+    if (!dir.empty() && WithSeparator(dir) == UserProjectsDir()) fs::create_directories(PathOf(dir), error);
 }
 
 std::string DataDirUnset(const std::string& programDir) {

@@ -5,6 +5,8 @@
 #include <iterator>
 #include <random>
 
+#include "base/Paths.h"
+
 namespace lithmark::tests {
 
 TestFolder::TestFolder() {
@@ -30,11 +32,11 @@ std::vector<std::string> TestFolder::Names() const {
 }
 
 void WriteBytes(const std::string& path, const std::string& bytes) {
-    std::ofstream(std::filesystem::path(path), std::ios::binary) << bytes;
+    std::ofstream(PathOf(path), std::ios::binary) << bytes;
 }
 
 std::string ReadBytes(const std::string& path) {
-    std::ifstream file(std::filesystem::path(path), std::ios::binary);
+    std::ifstream file(PathOf(path), std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
