@@ -50,6 +50,19 @@ void NewIcon(QPainter& p) {
     p.drawLine(QPointF(8.5, 14.5), QPointF(15.5, 14.5));
 }
 
+// Two pages whose lines differ in one.
+void CompareIcon(QPainter& p) {
+    for (const double left : {2.5, 13.0}) {
+        p.setPen(QPen(Outline(), 1.4));
+        p.setBrush(kPaper);
+        p.drawRect(QRectF(left, 4, 8.5, 16));
+        p.setPen(QPen(kInk, 1.2));
+        for (const double y : {8.0, 16.0}) p.drawLine(QPointF(left + 2, y), QPointF(left + 6.5, y));
+        p.setPen(QPen(kGreen, 2));
+        p.drawLine(QPointF(left + 2, 12), QPointF(left + (left < 12 ? 4 : 6.5), 12));
+    }
+}
+
 void FolderIcon(QPainter& p) {
     p.setPen(QPen(Outline(), 1.4));
     p.setBrush(kSand);
@@ -171,6 +184,7 @@ const std::map<std::string, Drawing>& Drawings() {
         {"mnuSaveProjectAs", SaveIcon},
         {"mnuFileList", ListIcon},
         {"mnuFileExit", ExitIcon},
+        {"mnuCompare", CompareIcon},
         {"mnuCloseProject", CloseIcon},
         {"mnuNumberFormats", FormatsIcon},
         {"mnuProblem(0)", ListIcon},

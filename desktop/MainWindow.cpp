@@ -18,6 +18,7 @@
 #include "desktop/ScreenRoom.h"
 #include "desktop/ScrollColumn.h"
 #include "desktop/StartView.h"
+#include "desktop/compare/CompareWindow.h"
 #include "render/QtText.h"
 
 namespace lithmark {
@@ -201,6 +202,10 @@ void MainWindow::ShowStatus() {
 
 void MainWindow::ShowTheme(ThemeChoice choice) {
     if (OnTheme) OnTheme(choice);
+}
+
+void MainWindow::ShowComparison(const ComparedPair& pair) {
+    CompareWindow(pair, this).exec();
 }
 
 // Icons are drawn in colours that are seen on the window's ground.

@@ -31,6 +31,7 @@ class MainWindow : public QMainWindow, public FrameWindow {
     void SetDockLayout(const std::string& layout) override;
     void EndProcess() override;
     void ShowTheme(ThemeChoice choice) override;
+    void ShowComparison(const ComparedPair& pair) override;
 
     // Ends the process once the program is ended; whoever runs it sets it.
     std::function<void()> OnEnd;

@@ -19,7 +19,11 @@ namespace {
 // holds leaves the list as it was.
 void Fill(ComboBox& list, std::span<const UnitRow> units, const std::string& label) {
     list.Items.clear();
-    for (const UnitRow& unit : units) list.Items.push_back(Text(unit.Name) + ", " + Text(unit.UnitLabel));
+    // Behind a name that runs from right to left a unit keeps its own order of signs.
+    const bool mirrored = LanguageTexts().RightToLeft();
+    const std::string before = mirrored ? "\u2066" : "", after = mirrored ? "\u2069" : "";
+    for (const UnitRow& unit : units)
+        list.Items.push_back(Text(unit.Name) + ", " + before + Text(unit.UnitLabel) + after);
     const auto row = std::find_if(list.Items.begin(), list.Items.end(),
                                   [&](const std::string& item) { return item.find(label) != std::string::npos; });
     if (row != list.Items.end()) SelectRow(list, static_cast<int>(row - list.Items.begin()));

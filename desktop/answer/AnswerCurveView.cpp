@@ -288,7 +288,7 @@ void AnswerCurveView::paintEvent(QPaintEvent*) {
         const double part = (curves_[i].Beside ? width() : height()) / static_cast<double>(count);
         const double from = static_cast<double>(i) * part;
         const QRectF place =
-            curves_[i].Beside ? QRectF(from, 0, part - 2 * kPad, height()) : QRectF(0, from, width(), part - kPad);
+            curves_[i].Beside ? QRectF(from, 0, part - 4 * kPad, height()) : QRectF(0, from, width(), part - 3 * kPad);
         FigurePainter(painter, ThemeOf(palette()), place, curves_[i], kept, present_).Paint();
     }
 }

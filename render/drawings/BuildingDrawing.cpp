@@ -52,7 +52,7 @@ void DrawPressures(Sketch& s, const QRectF& house) {
 // The ring of the oedometer with the sample between two filter stones.
 void DrawRing(Sketch& s, const QRectF& room) {
     if (!s.Form.Has("txt_Hm")) return;
-    const double wall = 7, stone = 6;
+    const double wall = std::min(7.0, 0.2 * room.width()), stone = std::min(6.0, 0.2 * room.height());
     s.Rect({room.left(), room.top(), wall, room.height()}, s.Pen(Ink::Edge), s.Colour(Ink::Rock));
     s.Rect({room.right() - wall, room.top(), wall, room.height()}, s.Pen(Ink::Edge), s.Colour(Ink::Rock));
     const QRectF sample = room.adjusted(wall, stone, -wall, -stone);

@@ -10,8 +10,10 @@ namespace lithmark {
 namespace {
 
 constexpr double kFocusWidth = 2.5, kGap = 5, kPlate = 3, kTick = 5, kIndexSize = 0.7;
-// Below this a drawing has room for symbols only.
-constexpr double kLeastWidth = 260, kLeastHeight = 200;
+// Below the first a drawing has room for symbols only; below the second, as on a card, for none, and all that is as
+// large as letters elsewhere is a part of the picture.
+constexpr double kLeastWidth = 260, kLeastHeight = 200, kPlainWidth = 180, kPlainHeight = 130;
+constexpr double kPlainLine = 1.0 / 14, kPlainHead = 0.55, kPlainDot = 0.6, kPlainPen = 1.8;
 // A number goes out of the way of lines as far as this, and gives a pixel of way for so many that it would hide.
 constexpr double kOutOfTheWay = 48, kHiddenForAWay = 0.8;
 
@@ -30,14 +32,15 @@ Sketch::Sketch(QPainter& painter, const QRectF& area, const DrawnForm& form, The
       Record(form.Record()),
       theme_(theme),
       scale_(scale),
-      symbolsOnly_(area.width() < kLeastWidth || area.height() < kLeastHeight) {}
+      symbolsOnly_(area.width() < kLeastWidth || area.height() < kLeastHeight),
+      plain_(area.width() < kPlainWidth || area.height() < kPlainHeight) {}
 
 QPen Sketch::Pen(Ink ink, double width, Qt::PenStyle style) const {
-    return QPen(Colour(ink), width, style);
+    return QPen(Colour(ink), plain_ ? std::min(width, kPlainPen) : width, style);
 }
 
 double Sketch::LineHeight() const {
-    return QFontMetricsF(Painter.font()).height() + 2;
+    return plain_ ? std::max(4.0, Area.height() * kPlainLine) : QFontMetricsF(Painter.font()).height() + 2;
 }
 
 double Sketch::Steady(double fit) {
@@ -55,7 +58,7 @@ void Sketch::Arrow(const QPointF& from, const QPointF& to, const QPen& pen) {
     const QPointF way = to - from;
     const double length = std::hypot(way.x(), way.y());
     if (length < 1) return;
-    const double size = std::min(length, 5 + 3 * pen.widthF());
+    const double size = std::min(length, (5 + 3 * pen.widthF()) * (plain_ ? kPlainHead : 1));
     const QPointF along = way / length * size, across = Across(from, to) * size * 0.38;
     lines_.emplace_back(from, to);
     Painter.setPen(pen);
@@ -83,7 +86,8 @@ void Sketch::Rect(const QRectF& rect, const QPen& pen, const QBrush& brush) {
 void Sketch::Dot(const QPointF& at, double radius, Ink ink) {
     Painter.setPen(Qt::NoPen);
     Painter.setBrush(Colour(ink));
-    Painter.drawEllipse(at, radius, radius);
+    const double shown = plain_ ? radius * kPlainDot : radius;
+    Painter.drawEllipse(at, shown, shown);
 }
 
 void Sketch::Hatch(const QRectF& rect) {
@@ -105,12 +109,12 @@ void Sketch::Break(const QPointF& from, const QPointF& to, Ink ground) {
 }
 
 void Sketch::Symbol(const std::string& plain, const QPointF& at, Side side, Ink ink) {
-    words_.push_back({nullptr, plain, {}, at, side, ink, false, false});
+    if (!plain_) words_.push_back({nullptr, plain, {}, at, side, ink, false, false});
 }
 
 void Sketch::Number(const std::string& name, const QPointF& at, Side side, Ink ink, const char* symbol) {
     const std::optional<DrawnBox> box = Form.Find(name);
-    if (!box) return;
+    if (!box || plain_) return;
     const std::string shown = box->Symbol.empty() ? symbol : box->Symbol;
     QString rest;
     if (!symbolsOnly_ || shown.empty()) {
@@ -153,6 +157,11 @@ void Sketch::Dimension(const std::string& name, const QPointF& from, const QPoin
                        const char* symbol, Ink ink) {
     if (!Form.Has(name)) return;
     const QPen pen = PenOf(name, Pen(ink == Ink::Text ? Ink::Quiet : ink, 1.2));
+    if (plain_) {
+        // A line in a colour of its own belongs to the figure.
+        if (ink != Ink::Text) Line(from, to, pen);
+        return;
+    }
     const QPointF tick = Across(from, to) * kTick;
     Line(from, to, pen);
     Line(from - tick, from + tick, pen);

@@ -1,6 +1,6 @@
 // Sketch: what drawings are made of. Lines, arrows, fills in the colours of the window, dimension lines, and the
 // numbers of the form's boxes, which stay inside the area, keep clear of each other and, near their place, of the
-// lines.
+// lines. A small one has symbols in place of numbers, one as small as on a card no words and no dimensions.
 #pragma once
 
 #include <QLineF>
@@ -86,7 +86,7 @@ class Sketch {
 
     const Theme theme_;
     double& scale_;
-    const bool symbolsOnly_;
+    const bool symbolsOnly_, plain_;
     int stacks_ = 0;
     std::vector<Words> words_;
     std::vector<QRectF> taken_;

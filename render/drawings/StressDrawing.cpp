@@ -1,6 +1,7 @@
 // Stresses, strains and displacements at a point: a block of the half-space
 // with the load in the middle of its surface, and the point with its
 // coordinates.
+#include <algorithm>
 #include <cmath>
 
 #include "core/Problems.h"
@@ -83,9 +84,9 @@ void DrawPoint(const View& v) {
     DrawCoordinate(v, "txt_z", "z", v.Z, v.P.At(x, y, 0), point, Side::Right);
     s.Dot(point, 5, Ink::Point);
     if (s.Record.ProblemType != Problem::SoilDisplacement) return;
-    constexpr double kArrow = 34;
+    const double arrow = std::min(34.0, 0.2 * s.Area.height());
     const QPen pen = s.Pen(Ink::Point, 1.6);
-    const QPointF u(-0.8 * kArrow, 0.6 * kArrow), along(kArrow, 0), down(0, kArrow);
+    const QPointF u(-0.8 * arrow, 0.6 * arrow), along(arrow, 0), down(0, arrow);
     s.Arrow(point, point + u, pen);
     s.Symbol("u", point + u, Side::Left, Ink::Point);
     s.Arrow(point, point + along, pen);

@@ -3,31 +3,18 @@
 
 #include <QSize>
 #include <memory>
-#include <utility>
 
-#include "core/Session.h"
+#include "core/KeptSession.h"
 #include "render/drawings/Inks.h"
 
 class QPainter;
 
 namespace lithmark {
 
-// What is drawn may ask Session for something else than what the user has chosen. It works on a copy, and the record
-// itself comes back, its tables in the very place where they were.
-class KeptSession {
-  public:
-    KeptSession() : kept_(std::exchange(Session, SessionRecord(Session))) {}
-    ~KeptSession() { Session = std::move(kept_); }
-    KeptSession(const KeptSession&) = delete;
-    KeptSession& operator=(const KeptSession&) = delete;
-
-  private:
-    SessionRecord kept_;
-};
-
 class ProblemPicture {
   public:
-    // Of the problem in force. Who makes one keeps the session.
+    // Of the problem in force. What is drawn may ask Session for something else than what the user has chosen, so who
+    // makes one keeps the session.
     ProblemPicture();
     ~ProblemPicture();
 

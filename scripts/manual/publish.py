@@ -20,7 +20,7 @@ except ImportError as error:
 DOCS = Path(__file__).resolve().parents[2] / "docs"
 ENGLISH = ["manual", "notices", "stress-theory", "consolidation-theory", "time-theory", "raft-theory", "project-files",
            "command-line"]
-ORDER = ["index", "which-problem", *(f"problem-{n}" for n in range(1, 11)), "answer", "studies", "settings-files"]
+ORDER = ["index", "which-problem", *(f"problem-{n}" for n in range(1, 11)), "answer", "studies", "compare", "settings-files"]
 STYLE = (Path(__file__).parent / "manual.css").read_text(encoding="utf-8")
 LANGUAGES = {"manual/en": "en", "manual/de": "de", "manual/ar": "ar"}
 

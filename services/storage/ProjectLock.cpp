@@ -97,4 +97,13 @@ ProjectLock::~ProjectLock() {
     platform::CloseFile(descriptor_);
 }
 
+std::string HolderOfProject(const std::string& project) {
+    const int descriptor = platform::OpenFile(LockFileOf(project), platform::Open::ReadOwnName);
+    if (descriptor < 0) return {};
+    const bool held = platform::TryLock(descriptor) == platform::Locked::HeldByAnother;
+    std::string holder = held ? HolderIn(descriptor) : std::string();
+    platform::CloseFile(descriptor);
+    return holder;
+}
+
 }  // namespace lithmark

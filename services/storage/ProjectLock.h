@@ -32,4 +32,8 @@ class ProjectLock {
     std::unique_ptr<RemovedOnEnd> registered_;
 };
 
+// Who has the project of this path without extension open; empty where nobody has, or that cannot be found out. Takes
+// nothing and leaves no file.
+std::string HolderOfProject(const std::string& project);
+
 }  // namespace lithmark

@@ -21,6 +21,7 @@
 #include "desktop/ManualWindow.h"
 #include "desktop/QtHost.h"
 #include "desktop/TableEditorDialog.h"
+#include "desktop/compare/CompareWindow.h"
 #include "desktop/study/PointsWindow.h"
 #include "desktop/study/StudyWindow.h"
 #include "kernels/RunKernel.h"
@@ -107,6 +108,22 @@ class EveryWindow : public FormTest {
         LookAt(study, look, "study" + in);
         PointsWindow points(SubjectOf(*stress, "z"), nullptr);
         LookAt(points, look, "points" + in);
+        LookAtComparison(look, in);
+    }
+
+    // Two projects, one of which has no results, so that there is much to say.
+    void LookAtComparison(const Look& look, const std::string& in) {
+        const std::string folder = DataFile("compared/");
+        std::filesystem::create_directory(folder);
+        for (const auto& [name, poisson] : {std::pair("Crane", ".3"), std::pair("CraneWithALongName", ".7")}) {
+            WriteBytes(folder + name + ".PO3", Lines({"Version 9", "1", "0"}));
+            WriteBytes(folder + name + ".SSD", Lines({"1", "2", "3", "900", "10", "6", "7", poisson, "5000", "2"}));
+        }
+        const PairReading reading = ReadPair(folder + "Crane.PO3", folder + "CraneWithALongName.PO3");
+        ASSERT_TRUE(reading.Pair) << reading.Fault;
+        CompareWindow window(*reading.Pair, nullptr);
+        LookAt(window, look, "comparison" + in);
+        std::filesystem::remove_all(folder);
     }
 
     // Curves and contours of the default projects.

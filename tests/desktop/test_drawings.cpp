@@ -13,6 +13,7 @@
 #include "core/Catalogue.h"
 #include "core/FieldMeanings.h"
 #include "desktop/FormView.h"
+#include "desktop/Palettes.h"
 #include "desktop/PictureView.h"
 #include "render/drawings/Drawings.h"
 #include "render/drawings/Inks.h"
@@ -359,6 +360,35 @@ TEST(Inks, AreReadOnTheirGroundsInLightAndDark) {
                 EXPECT_GE(Contrast(ColourOf(row.Of, theme), ColourOf(ground, theme)), row.Least)
                     << static_cast<int>(row.Of) << " on " << static_cast<int>(ground);
         EXPECT_GE(Contrast(ColourOf(Ink::OnSelection, theme), ColourOf(Ink::Selection, theme)), 7.1);
+    }
+}
+
+// What the toolkit draws by itself: words on windows, boxes, buttons, tooltips and what is selected, in a window that
+// is worked in, in one that waits, and where it is switched off.
+TEST(Palettes, EveryRoleIsReadOnItsGroundInEveryState) {
+    struct Pair {
+        QPalette::ColorRole Word, Ground;
+    };
+    const Pair pairs[] = {{QPalette::WindowText, QPalette::Window},
+                          {QPalette::Text, QPalette::Base},
+                          {QPalette::Text, QPalette::AlternateBase},
+                          {QPalette::ButtonText, QPalette::Button},
+                          {QPalette::PlaceholderText, QPalette::Base},
+                          {QPalette::PlaceholderText, QPalette::Window},
+                          {QPalette::ToolTipText, QPalette::ToolTipBase},
+                          {QPalette::Link, QPalette::Window},
+                          {QPalette::Link, QPalette::Base},
+                          {QPalette::LinkVisited, QPalette::Base},
+                          {QPalette::BrightText, QPalette::Window},
+                          {QPalette::HighlightedText, QPalette::Highlight}};
+    constexpr double kLeast = 4.5;
+    for (const Theme theme : {Theme::Light, Theme::Dark}) {
+        const QPalette palette = PaletteOf(theme);
+        for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+            for (const Pair& pair : pairs)
+                EXPECT_GE(Contrast(palette.color(group, pair.Word), palette.color(group, pair.Ground)), kLeast)
+                    << "theme " << static_cast<int>(theme) << ", group " << group << ", role " << pair.Word << " on "
+                    << pair.Ground;
     }
 }
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "FormTest.h"
+#include "ui/compare/Comparison.h"
 #include "ui/frame/MDITools.h"
 #include "ui/frmProblemType.h"
 #include "ui/frmProjectCheck.h"
@@ -21,6 +22,7 @@ class RecordingWindow : public FrameWindow {
     std::optional<FormPosition> At;
     std::string Docked = "as it came";
     std::function<void()> OnDock;
+    std::vector<ComparedPair> Compared;
 
     void Refresh() override { ++Refreshes; }
     std::optional<FormPosition> Position() const override { return At; }
@@ -31,6 +33,7 @@ class RecordingWindow : public FrameWindow {
         Docked = layout;
     }
     void EndProcess() override { ProcessEnded = true; }
+    void ShowComparison(const ComparedPair& pair) override { Compared.push_back(pair); }
 };
 
 class FrameTest : public FormTest {

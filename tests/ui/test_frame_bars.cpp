@@ -28,7 +28,7 @@ TEST_F(FrameBars, FourBarsHoldTheEntriesOfFourMenus) {
     EXPECT_EQ(frame.Bars[0].Name, "mnuFile");
     EXPECT_EQ(frame.Bars[0].Caption, "File");
     EXPECT_THAT(frame.Bars[0].Buttons, ElementsAre("mnuNewProject", "mnuOpenProject", "mnuSaveProjectAs", "mnuFileList",
-                                                   "mnuCloseProject", "mnuFileExit"));
+                                                   "mnuCompare", "mnuCloseProject", "mnuFileExit"));
     EXPECT_EQ(frame.Bars[1].Name, "mnuMainProblem");
     EXPECT_EQ(frame.Bars[1].Buttons.size(), 10u);  // entries 0 to 9; the others have no text
     EXPECT_EQ(frame.Bars[2].Name, "mnuMainData");

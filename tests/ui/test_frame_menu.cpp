@@ -38,9 +38,9 @@ TEST_F(FrameMenu, TheBarHoldsFiveMenus) {
 
 TEST_F(FrameMenu, TheMenusHoldTheirEntriesInOrder) {
     EXPECT_THAT(Keys("mnuFile"),
-                ElementsAre("mnuNewProject", "mnuOpenProject", "mnuSaveProjectAs", "mnuFileList", "mnuCloseProject",
-                            "MnuRecentFile(0)", "MnuRecentFile(1)", "MnuRecentFile(2)", "MnuRecentFile(3)",
-                            "MnuRecentFile(4)", "mnuFileDash2", "mnuFileExit"));
+                ElementsAre("mnuNewProject", "mnuOpenProject", "mnuSaveProjectAs", "mnuFileList", "mnuCompare",
+                            "mnuCloseProject", "MnuRecentFile(0)", "MnuRecentFile(1)", "MnuRecentFile(2)",
+                            "MnuRecentFile(3)", "MnuRecentFile(4)", "mnuFileDash2", "mnuFileExit"));
     EXPECT_THAT(Keys("MnuVeiw"), ElementsAre("MnuStatusBar", "MnuVeiwDash1", "mnu_Toolbar", "mnuTheme"));
     EXPECT_THAT(Keys("mnuTheme"), ElementsAre("mnuThemeSystem", "mnuThemeLight", "mnuThemeDark"));
     EXPECT_THAT(Keys("mnu_Toolbar"), ElementsAre("MnuVeiwToolBar(0)", "MnuVeiwToolBar(1)", "MnuVeiwToolBar(2)",

@@ -319,5 +319,60 @@ TEST_F(FrameProject, OpeningTheOpenProjectAgainPacksNothing) {
     EXPECT_THAT(DataFiles(), ElementsAre("P1.AUF", "P1.PO3", "P1.SSD"));
 }
 
+// --- comparison ---
+
+class FrameComparison : public FrameTest {
+  protected:
+    FrameComparison() {
+        Start();
+        WriteStressProject("P2");
+        WriteProject("P3", 2);
+        WriteBytes(DataFile("P3.SSD"), ReadBytes(DataFile("P2.SSD")));
+    }
+};
+
+TEST_F(FrameComparison, TheOpenProjectIsHeldAgainstAnotherOne) {
+    OpenStressProject("P1");
+    host.AnswerFileToOpen(DataFile("P2.PO3"));
+    frame.m_cMenu_Click("mnuCompare");
+    EXPECT_EQ(host.OpenQuestions.back().Title, "Compare with \"P1\"");
+    ASSERT_EQ(window.Compared.size(), 1u);
+    EXPECT_EQ(window.Compared[0].NameOfOne, "P1");
+    EXPECT_EQ(window.Compared[0].NameOfOther, "P2");
+    EXPECT_EQ(Session.ProjectName, "P1");
+    EXPECT_EQ(host.Pointer(), PointerShape::Default);
+}
+
+TEST_F(FrameComparison, WithoutAnOpenProjectBothAreAskedFor) {
+    WriteStressProject("P1");
+    host.AnswerFileToOpen(DataFile("P2.PO3"));
+    host.AnswerFileToOpen(DataFile("P1.PO3"));
+    frame.m_cMenu_Click("mnuCompare");
+    EXPECT_EQ(host.OpenQuestions[0].Title, "First project");
+    ASSERT_EQ(window.Compared.size(), 1u);
+    EXPECT_EQ(window.Compared[0].NameOfOne, "P2");
+    EXPECT_FALSE(frame.ProjectOpen());
+}
+
+TEST_F(FrameComparison, ACancelledQuestionComparesNothing) {
+    host.AnswerFileToOpen(std::nullopt);
+    frame.m_cMenu_Click("mnuCompare");
+    OpenStressProject("P1");
+    host.AnswerFileToOpen(std::nullopt);
+    frame.m_cMenu_Click("mnuCompare");
+    EXPECT_TRUE(window.Compared.empty());
+    EXPECT_TRUE(host.Messages.empty());
+}
+
+TEST_F(FrameComparison, WhatCannotBeComparedIsToldByName) {
+    OpenStressProject("P1");
+    host.AnswerFileToOpen(DataFile("P3.PO3"));
+    frame.m_cMenu_Click("mnuCompare");
+    EXPECT_THAT(host.LastMessage().Text, ::testing::StartsWith(DataFile("P3.PO3")));
+    EXPECT_TRUE(window.Compared.empty());
+    EXPECT_EQ(Session.ProjectName, "P1");
+    EXPECT_EQ(Session.ProblemType, 1);
+}
+
 }  // namespace
 }  // namespace lithmark::tests

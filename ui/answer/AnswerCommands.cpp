@@ -3,6 +3,7 @@
 
 #include "base/NumberText.h"
 #include "core/Problems.h"
+#include "services/texts/LanguageTexts.h"
 #include "ui/answer/AnswerRun.h"
 
 namespace lithmark {
@@ -23,15 +24,6 @@ const char* DepthResult(int problem) {
     }
 }
 
-// Down to where a load has spread, and farther than the point. [m]
-double DeepestShown(const SessionRecord& draft) {
-    const double spread = draft.LoadType == LoadShape::Rectangle ? 2 * std::min<double>(draft.A, draft.B)
-                          : draft.LoadType == LoadShape::Circle  ? 4 * static_cast<double>(draft.A)
-                                                                 : 2 * static_cast<double>(draft.z);
-    const double deepest = std::max(spread, 1.5 * draft.z);
-    return deepest > 0 ? deepest : 1;
-}
-
 // Not from the very surface, where the stress below a point load is infinite.
 CommandWords DepthStudy(const SessionRecord& draft) {
     const double deepest = DeepestShown(draft);
@@ -42,6 +34,20 @@ CommandWords DepthStudy(const SessionRecord& draft) {
 }
 
 }  // namespace
+
+// Down to where a load has spread, and farther than the point.
+double DeepestShown(const SessionRecord& draft) {
+    const double spread = draft.LoadType == LoadShape::Rectangle ? 2 * std::min<double>(draft.A, draft.B)
+                          : draft.LoadType == LoadShape::Circle  ? 4 * static_cast<double>(draft.A)
+                                                                 : 2 * static_cast<double>(draft.z);
+    const double deepest = std::max(spread, 1.5 * draft.z);
+    return deepest > 0 ? deepest : 1;
+}
+
+std::string WhyFailed(const CommandOutput& report) {
+    if (report.Aborted && !report.Messages.empty()) return report.Messages.back();
+    return report.Trouble.empty() ? Text(913013_text) : report.Trouble;
+}
 
 std::vector<CommandWords> AnswerCommands(const SessionRecord& draft) {
     CommandWords report = {"report", "--format", "json", "--no-export"};

@@ -44,6 +44,11 @@ class AnswerWorker {
 // The commands that an answer to a draft needs: the report first, what its curves need behind it.
 std::vector<CommandWords> AnswerCommands(const SessionRecord& draft);
 
+// Of the stresses in soil: the depth that the curve reaches. [m]
+double DeepestShown(const SessionRecord& draft);
+
+// Why a report gave no results.
+std::string WhyFailed(const CommandOutput& report);
 // The answer that they gave. The report was not aborted.
 Answer AnswerOf(const SessionRecord& draft, const std::vector<CommandOutput>& outputs);
 // Its parts, without the notices.

@@ -26,11 +26,6 @@ std::string KeyOf(const SessionRecord& draft) {
     return key + std::to_string(static_cast<int>(LanguageTexts().Current())) + SharedServices().DecimalSign;
 }
 
-std::string WhyFailed(const CommandOutput& report) {
-    if (report.Aborted && !report.Messages.empty()) return report.Messages.back();
-    return report.Trouble.empty() ? Text(913013_text) : report.Trouble;
-}
-
 }  // namespace
 
 LiveAnswer::LiveAnswer(const ProblemForm& form, AnswerWorker& worker, std::function<Milliseconds()> clock)

@@ -45,6 +45,7 @@ constexpr CommandRow kCommands[] = {
     {"mnuOpenProject", &MDITools::mnuOpenProject_Click},
     {"mnuSaveProjectAs", &MDITools::mnuSaveProjectAs_Click},
     {"mnuFileList", &MDITools::mnuFileList_Click},
+    {"mnuCompare", &MDITools::mnuCompare_Click},
     {"mnuCloseProject", &MDITools::mnuCloseProject_Click},
     {"mnuFileExit", &MDITools::mnuFileExit_Click},
     {"mnuResetToolbar", &MDITools::mnuResetToolbar_Click},

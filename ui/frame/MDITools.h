@@ -24,6 +24,7 @@
 namespace lithmark {
 
 class frmSplash;
+struct ComparedPair;
 
 // The section of the settings that the window keeps its own state in.
 inline const std::string kSettings = "Settings";
@@ -45,6 +46,8 @@ class FrameWindow {
     // Docks the bars as a layout says; the default order for an empty one.
     virtual void SetDockLayout(const std::string& /*layout*/) {}
     virtual void EndProcess() {}
+    // Two projects beside each other, until the user closes the window.
+    virtual void ShowComparison(const ComparedPair&) {}
 };
 
 // What the frame shows of the open project.
@@ -113,6 +116,8 @@ class MDITools : public Form {
     // Back to the page without a project; the project is packed as at the end of the program.
     void mnuCloseProject_Click();
     void mnuFileList_Click();
+    // Asks for a project to hold against the open one; without an open one for both. Changes neither.
+    void mnuCompare_Click();
     void MnuRecentFile_Click(int index);
     // "Lithmark - [name]".
     void ShowTitle(const std::string& name);

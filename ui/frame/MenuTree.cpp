@@ -61,6 +61,7 @@ MenuTree::MenuTree() {
     add("mnuOpenProject", "mnuFile", 124_text, Styles::DialogButton, "Ctrl+O");
     add("mnuSaveProjectAs", "mnuFile", 10339_text, Styles::DialogButton);
     add("mnuFileList", "mnuFile", 70025_text);
+    add("mnuCompare", "mnuFile", 913520_text, Styles::DialogButton);
     add("mnuCloseProject", "mnuFile", 913400_text);
     separator("MnuRecentFile(0)", "mnuFile");
     for (int i = 1; i <= 4; ++i) items_.emplace_back(KeyOf("MnuRecentFile", i), "mnuFile");

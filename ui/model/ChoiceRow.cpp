@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/SessionFields.h"
+
 namespace lithmark {
 
 namespace {
@@ -12,6 +14,17 @@ int PlaceOf(const auto& value, const auto& values) {
 }
 
 }  // namespace
+
+std::string_view StoredChoice::FieldName() const {
+    return std::visit(
+        [](const auto place) -> std::string_view {
+            if constexpr (std::is_same_v<decltype(place), const std::monostate>)
+                return {};
+            else
+                return NameOf(FieldRef(&(Session.*place)));
+        },
+        place_);
+}
 
 int StoredChoice::PositionIn(const SessionRecord& record) const {
     if (const auto* number = std::get_if<Integer SessionRecord::*>(&place_))

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -24,6 +25,8 @@ class StoredChoice {
         : place_(word), words_(std::move(words)) {}
 
     bool Exists() const noexcept { return !std::holds_alternative<std::monostate>(place_); }
+    // The field's name in the record; empty where the form itself stores the choice.
+    std::string_view FieldName() const;
     // The position of what the record holds; -1 when it is none of them.
     int PositionIn(const SessionRecord& record) const;
     // Leaves the record as it is for a position that the choice does not have.

@@ -17,6 +17,7 @@
 
 #include "../../ui/AllForms.h"
 #include "../StudySubjects.h"
+#include "Comparison.h"
 #include "contour/CurveSets.h"
 #include "core/Catalogue.h"
 #include "core/Session.h"
@@ -424,6 +425,8 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
     gallery.TakeModal(QStringLiteral("table-loads"), [&] { oedometer.cmdTimeLoad_Click(); });
     gallery.TakeModal(QStringLiteral("table-oedometer"), [&] { oedometer.CmdOdomterSettlement_Click(); });
     TakeStudies(gallery);
+
+    TakeComparison(settings, [&](QWidget& window, const QString& name) { gallery.Take(window, name); });
 
     frame.SetWindow(nullptr);
     SetCurrentHost(nullptr);
