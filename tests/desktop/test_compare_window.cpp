@@ -14,13 +14,13 @@
 #include "desktop/ChartPane.h"
 #include "desktop/ChartView.h"
 #include "desktop/compare/CompareWindow.h"
+#include "support/Matchers.h"
 #include "support/Places.h"
 
 namespace lithmark::tests {
 namespace {
 
 namespace fs = std::filesystem;
-using ::testing::HasSubstr;
 
 constexpr int kPatience = 60000;
 

@@ -368,10 +368,10 @@ TEST_F(FrameComparison, WhatCannotBeComparedIsToldByName) {
     OpenStressProject("P1");
     host.AnswerFileToOpen(DataFile("P3.PO3"));
     frame.m_cMenu_Click("mnuCompare");
-    EXPECT_THAT(host.LastMessage().Text, ::testing::StartsWith(DataFile("P3.PO3")));
+    EXPECT_THAT(host.LastMessage().Text, StartsWith(DataFile("P3.PO3")));
     EXPECT_TRUE(window.Compared.empty());
     EXPECT_EQ(Session.ProjectName, "P1");
-    EXPECT_EQ(Session.ProblemType, 1);
+    EXPECT_EQ(Session.ProblemType, Problem::SoilStress);
 }
 
 }  // namespace

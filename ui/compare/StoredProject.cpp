@@ -2,9 +2,7 @@
 
 #include <cerrno>
 #include <chrono>
-#include <filesystem>
 #include <fstream>
-#include <system_error>
 #include <thread>
 
 #include "base/Failure.h"
@@ -16,12 +14,11 @@
 #include "services/FileDialogs.h"
 #include "services/SharedServices.h"
 #include "services/host/Host.h"
-#include "services/platform/Files.h"
-#include "services/platform/RemovedOnEnd.h"
 #include "services/storage/FileNames.h"
 #include "services/storage/ProjectArchive.h"
 #include "services/storage/ProjectLock.h"
 #include "services/storage/ReadFile.h"
+#include "services/storage/TemporaryFolder.h"
 #include "services/texts/LanguageTexts.h"
 #include "ui/ProblemForms.h"
 
@@ -48,32 +45,22 @@ class QuietHost : public Host {
     Host& before_;
 };
 
-// Files in a folder of their own that goes with this object.
+// The files of a project in a folder of their own.
 class ScratchFiles {
   public:
-    ScratchFiles(const std::string& name, const ProjectFiles& files) : folder_(platform::MakeTemporaryFolder()) {
-        if (folder_.empty()) FailWithSystemError(errno, FailureKind::WriteError, platform::TemporaryFolder());
-        registered_.emplace(folder_);
+    ScratchFiles(const std::string& name, const ProjectFiles& files) {
         for (const auto& [extension, bytes] : files) {
-            const std::string path = Dir() + name + "." + extension;
+            const std::string path = folder_.Announce(name + "." + extension);
             std::ofstream file(path, std::ios::binary);
             file << bytes;
             file.close();
             if (!file) FailWithSystemError(errno, FailureKind::WriteError, path);
         }
     }
-    ~ScratchFiles() {
-        std::error_code ignored;
-        std::filesystem::remove_all(folder_, ignored);
-    }
-    ScratchFiles(const ScratchFiles&) = delete;
-    ScratchFiles& operator=(const ScratchFiles&) = delete;
-
-    std::string Dir() const { return WithSeparator(folder_); }
+    const std::string& Dir() const noexcept { return folder_.Path(); }
 
   private:
-    std::string folder_;
-    std::optional<RemovedOnEnd> registered_;
+    TemporaryFolder folder_;
 };
 
 // Of a plain project those that its problem has, as far as they are there.
