@@ -33,10 +33,18 @@ namespace lithmark {
 
 namespace {
 
-enum Column { kLabel, kSymbol, kOne, kOther, kUnit, kChange, kColumns };
+enum ComparedColumn {
+    kQuantityColumn,
+    kSymbolColumn,
+    kOneColumn,
+    kOtherColumn,
+    kUnitColumn,
+    kChangeColumn,
+    kComparedColumns
+};
 
 // What is written from left to right, kept together in a line of any direction.
-QString Isolated(const std::string& text) {
+QString KeptTogether(const std::string& text) {
     return text.empty() ? QString() : QChar(0x2066) + Q(text) + QChar(0x2069);
 }
 
@@ -48,7 +56,7 @@ std::string InPrint(const std::string& title) {
     return words.Title + " " + SymbolWords(words.Symbol).toStdString() + title.substr(at + words.Symbol.size());
 }
 
-ChartArguments Printed(ChartArguments chart) {
+ChartArguments WithSymbolsInPrint(ChartArguments chart) {
     chart.XTitle = InPrint(chart.XTitle);
     chart.YTitle = InPrint(chart.YTitle);
     return chart;
@@ -93,7 +101,7 @@ CompareWindow::CompareWindow(ComparedPair pair, QWidget* parent)
 }
 
 QTableWidget* CompareWindow::AddTable(const char* name, TextId caption) {
-    auto* table = new QTableWidget(0, kColumns, tabs_);
+    auto* table = new QTableWidget(0, kComparedColumns, tabs_);
     table->setObjectName(QString::fromLatin1(name));
     table->setAccessibleName(Q(Text(caption)));
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -101,12 +109,12 @@ QTableWidget* CompareWindow::AddTable(const char* name, TextId caption) {
     table->setTabKeyNavigation(false);
     table->setAlternatingRowColors(false);
     table->verticalHeader()->hide();
-    table->setItemDelegateForColumn(kSymbol, new SymbolCells(table));
-    table->setHorizontalHeaderLabels({Q(Text(913524_text)), Q(Text(913525_text)), Isolated(pair_.NameOfOne),
-                                      Isolated(pair_.NameOfOther), Q(Text(913526_text)), Q(Text(913527_text))});
+    table->setItemDelegateForColumn(kSymbolColumn, new SymbolCells(table));
+    table->setHorizontalHeaderLabels({Q(Text(913524_text)), Q(Text(913525_text)), KeptTogether(pair_.NameOfOne),
+                                      KeptTogether(pair_.NameOfOther), Q(Text(913526_text)), Q(Text(913527_text))});
     QHeaderView& head = *table->horizontalHeader();
     head.setSectionResizeMode(QHeaderView::ResizeToContents);
-    head.setSectionResizeMode(kLabel, QHeaderView::Stretch);
+    head.setSectionResizeMode(kQuantityColumn, QHeaderView::Stretch);
     head.setMinimumSectionSize(sizes::kSymbolWidth);
     tabs_->addTab(table, Q(Text(caption)));
     return table;
@@ -118,9 +126,12 @@ QWidget* CompareWindow::MakeCurves() {
     column->setContentsMargins(sizes::kGroupPad, sizes::kGroupPad, sizes::kGroupPad, sizes::kGroupPad);
     choice_ = new QComboBox(page);
     choice_->setObjectName(QStringLiteral("cboCurves"));
-    choice_->setAccessibleName(Q(Text(913523_text)));
     choice_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    chart_ = new QLabel(Q(Text(913601_text)), page);
+    chart_->setBuddy(choice_);
     auto* row = new QHBoxLayout;
+    row->setSpacing(sizes::kColumnGap);
+    row->addWidget(chart_);
     row->addWidget(choice_);
     row->addStretch(1);
     column->addLayout(row);
@@ -154,15 +165,16 @@ void CompareWindow::Show(QTableWidget& table, const std::vector<ComparedRow>& ro
     table.setRowCount(static_cast<int>(rows.size()));
     for (int row = 0; row < table.rowCount(); ++row) {
         const ComparedRow& of = rows[static_cast<std::size_t>(row)];
-        const QString cells[kColumns] = {Q(of.Label),        Q(of.Symbol),      Isolated(of.One),
-                                         Isolated(of.Other), Isolated(of.Unit), Isolated(of.Change)};
-        for (int i = 0; i < kColumns; ++i) {
+        const QString cells[kComparedColumns] = {Q(of.Label),           Q(of.Symbol),
+                                                 KeptTogether(of.One),  KeptTogether(of.Other),
+                                                 KeptTogether(of.Unit), KeptTogether(of.Change)};
+        for (int i = 0; i < kComparedColumns; ++i) {
             auto* item = new QTableWidgetItem(cells[i]);
             // Numbers stand under each other in every language; words begin at the side where the language begins.
-            const bool number = i == kChange || ((i == kOne || i == kOther) && !of.Change.empty());
+            const bool number = i == kChangeColumn || ((i == kOneColumn || i == kOtherColumn) && !of.Change.empty());
             item->setTextAlignment(Qt::AlignVCenter |
                                    (number ? Qt::AlignRight | Qt::AlignAbsolute : Qt::Alignment(Qt::AlignLeading)));
-            if (i == kSymbol && !of.Symbol.empty())
+            if (i == kSymbolColumn && !of.Symbol.empty())
                 item->setData(Qt::AccessibleTextRole, SpokenSymbol(of.Symbol));
             else
                 item->setToolTip(cells[i]);
@@ -207,14 +219,15 @@ void CompareWindow::ShowResults() {
     Show(*results_, compared_);
     charts_ = ComparedCharts(pair_, one_->Is, other_->Is);
     for (const ChartArguments& chart : charts_) choice_->addItem(Q(chart.ChartTitle));
-    choice_->setVisible(charts_.size() > 1);
+    for (QWidget* part : {static_cast<QWidget*>(chart_), static_cast<QWidget*>(choice_)})
+        part->setVisible(charts_.size() > 1);
     tabs_->setTabEnabled(tabs_->indexOf(curves_), !charts_.empty());
     ShowCurve();
 }
 
 void CompareWindow::ShowCurve() {
     if (choice_->currentIndex() < 0) return;
-    const ChartArguments chart = Printed(charts_[static_cast<std::size_t>(choice_->currentIndex())]);
+    const ChartArguments chart = WithSymbolsInPrint(charts_[static_cast<std::size_t>(choice_->currentIndex())]);
     if (pane_ != nullptr) return pane_->ShowChart(chart);
     pane_ = new ChartPane(chart, curves_);
     pane_->setObjectName(QStringLiteral("pane"));

@@ -49,7 +49,7 @@ class CompareWindow : public QDialog {
     std::optional<ComparedAnswer> one_, other_;
     std::vector<ComparedRow> compared_;
     std::vector<ChartArguments> charts_;
-    QLabel* state_;
+    QLabel *state_, *chart_ = nullptr;
     QTabWidget* tabs_;
     QTableWidget *differing_, *results_;
     QWidget* curves_;

@@ -220,7 +220,7 @@ TEST_F(CompareWindowTest, IsSaidInWords) {
     CompareWindow window(*reading.Pair, nullptr);
     window.show();
     WaitForResults(window);
-    for (const char* name : {"differing", "results", "cboCurves"}) {
+    for (const char* name : {"differing", "results"}) {
         QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&Child<QWidget>(window, name));
         ASSERT_NE(spoken, nullptr);
         EXPECT_FALSE(spoken->text(QAccessible::Name).isEmpty()) << name;
