@@ -109,6 +109,7 @@ QTableWidget* CompareWindow::AddTable(const char* name, TextId caption) {
     table->setTabKeyNavigation(false);
     table->setAlternatingRowColors(false);
     table->verticalHeader()->hide();
+    table->installEventFilter(this);
     table->setItemDelegateForColumn(kSymbolColumn, new SymbolCells(table));
     table->setHorizontalHeaderLabels({Q(Text(913524_text)), Q(Text(913525_text)), KeptTogether(pair_.NameOfOne),
                                       KeptTogether(pair_.NameOfOther), Q(Text(913526_text)), Q(Text(913527_text))});
@@ -263,8 +264,15 @@ void CompareWindow::Copy() {
 
 void CompareWindow::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Save)) return Save();
-    if (event->matches(QKeySequence::Copy)) return Copy();
     QDialog::keyPressEvent(event);
+}
+
+// By itself a table copies one cell.
+bool CompareWindow::eventFilter(QObject* watched, QEvent* event) {
+    const bool copy = event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy);
+    if (!copy) return QDialog::eventFilter(watched, event);
+    Copy();
+    return true;
 }
 
 }  // namespace lithmark

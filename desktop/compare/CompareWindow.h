@@ -28,6 +28,7 @@ class CompareWindow : public QDialog {
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     QTableWidget* AddTable(const char* name, TextId caption);
