@@ -44,6 +44,7 @@ class AnswerView : public QWidget {
     void Build();
     void Follow();
     void FollowState();
+    void MakeRoomForReason(bool alone);
     void FollowNotices();
     void Speak();
     void ShowNotice(int index);

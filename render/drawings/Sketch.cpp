@@ -15,7 +15,7 @@ constexpr double kFocusWidth = 2.5, kGap = 5, kPlate = 3, kTick = 5, kIndexSize 
 constexpr double kLeastWidth = 260, kLeastHeight = 200, kPlainWidth = 180, kPlainHeight = 130;
 constexpr double kPlainLine = 1.0 / 14, kPlainHead = 0.55, kPlainDot = 0.6, kPlainPen = 1.8;
 // A number goes out of the way of lines as far as this, and gives a pixel of way for so many that it would hide.
-constexpr double kOutOfTheWay = 48, kHiddenForAWay = 0.8;
+constexpr double kOutOfTheWay = 36, kHiddenForAWay = 0.7;
 
 QPointF Across(const QPointF& from, const QPointF& to) {
     const QPointF way = to - from;
@@ -69,7 +69,8 @@ void Sketch::Arrow(const QPointF& from, const QPointF& to, const QPen& pen) {
 }
 
 void Sketch::Polygon(const QPolygonF& polygon, const QPen& pen, const QBrush& brush) {
-    if (pen.style() != Qt::NoPen)
+    // The fine edges of the ground may run under a number.
+    if (pen.style() != Qt::NoPen && pen.widthF() > 1)
         for (qsizetype i = 0; i < polygon.size(); ++i)
             lines_.emplace_back(polygon[i], polygon[(i + 1) % polygon.size()]);
     Painter.setPen(pen);
@@ -218,6 +219,9 @@ QRectF Sketch::PlaceOf(const Words& words, const QSizeF& size) const {
 double Sketch::Hidden(const QRectF& plate) const {
     double hidden = 0;
     for (const QLineF& line : lines_) {
+        if (std::max(line.x1(), line.x2()) <= plate.left() || std::min(line.x1(), line.x2()) >= plate.right() ||
+            std::max(line.y1(), line.y2()) <= plate.top() || std::min(line.y1(), line.y2()) >= plate.bottom())
+            continue;
         // Liang and Barsky (1984): the part of the line, 0 to 1, that lies between each pair of sides.
         double begin = 0, end = 1;
         const auto cut = [&](double at, double way, double low, double high) {
@@ -238,7 +242,7 @@ double Sketch::Hidden(const QRectF& plate) const {
 
 // The free place next to the wanted one, inside the area: at first up and down, then to the sides. Nearby, one that
 // hides less of the lines goes first.
-QRectF Sketch::FreePlace(QRectF wanted) const {
+QRectF Sketch::FreePlace(QRectF wanted, std::size_t rows) const {
     const auto inside = [&](QRectF rect) {
         rect.moveLeft(std::clamp(rect.left(), Area.left(), std::max(Area.left(), Area.right() - rect.width())));
         rect.moveTop(std::clamp(rect.top(), Area.top(), std::max(Area.top(), Area.bottom() - rect.height())));
@@ -257,7 +261,7 @@ QRectF Sketch::FreePlace(QRectF wanted) const {
             double cost = std::hypot(place.left() - wanted.left(), place.top() - wanted.top());
             if (least >= 0 && cost >= least) continue;
             if (!free(place)) continue;
-            cost += std::min(kOutOfTheWay, kHiddenForAWay * Hidden(place));
+            cost += std::min(kOutOfTheWay * static_cast<double>(rows), kHiddenForAWay * Hidden(place));
             if (least < 0 || cost < least) {
                 best = place;
                 least = cost;
@@ -269,7 +273,7 @@ QRectF Sketch::FreePlace(QRectF wanted) const {
 void Sketch::Write(const Words& words, const QRectF& at) {
     const QFont usual = Painter.font();
     QColor plate = Colour(words.Focused ? Ink::Selection : Ink::Window);
-    if (!words.Focused) plate.setAlpha(words.Box != nullptr ? 180 : 0);
+    if (!words.Focused) plate.setAlpha(words.Box != nullptr ? 220 : 0);
     Painter.setPen(Qt::NoPen);
     Painter.setBrush(plate);
     Painter.drawRoundedRect(at, kPlate, kPlate);
@@ -299,7 +303,7 @@ std::vector<DrawnNumber> Sketch::Finish() {
             wanted.push_back(PlaceOf(words_[i], SizeOf(words_[i])));
             whole |= wanted.back();
         }
-        const QPointF way = FreePlace(whole).topLeft() - whole.topLeft();
+        const QPointF way = FreePlace(whole, last - first).topLeft() - whole.topLeft();
         for (std::size_t i = first; i < last; ++i) {
             const QRectF at = wanted[i - first].translated(way);
             taken_.push_back(at);

@@ -77,7 +77,7 @@ class Sketch {
     };
     QSizeF SizeOf(const Words& words) const;
     QRectF PlaceOf(const Words& words, const QSizeF& size) const;
-    QRectF FreePlace(QRectF wanted) const;
+    QRectF FreePlace(QRectF wanted, std::size_t rows) const;
     // How much of the lines a plate would hide.
     double Hidden(const QRectF& plate) const;
     void Write(const Words& words, const QRectF& at);

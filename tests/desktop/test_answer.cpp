@@ -278,6 +278,33 @@ TEST_F(AnswerTest, AWrongBoxLeadsToItself) {
     });
 }
 
+// A second layer too thin for the first: the kernel has much to say, and nothing below it moves.
+TEST_F(AnswerTest, ALongReasonIsReadInFull) {
+    StartIn(Language::German);
+    Session.ProblemType = 5;
+    OnWindow([&](PictureForm& form, FormView& view, AnswerView& answer) {
+        auto& state = *answer.findChild<QLabel*>(QStringLiteral("answerState"));
+        auto& curves = *answer.findChild<QWidget*>(QStringLiteral("answerCurves"));
+        const auto inFull = [&] { return state.height() >= state.heightForWidth(state.width()); };
+        EXPECT_TRUE(inFull());
+        view.findChild<QAbstractButton*>(QStringLiteral("chkLayers"))->click();
+        Await(answer);
+        QCoreApplication::processEvents();
+        const QRect before = curves.geometry();
+        Keys(view, "txt_h2", "2");
+        Await(answer, AnswerState::Failed);
+        QCoreApplication::processEvents();
+        EXPECT_GT(state.heightForWidth(state.width()), 2 * state.fontMetrics().lineSpacing()) << "it is long";
+        EXPECT_TRUE(inFull());
+        EXPECT_EQ(curves.geometry(), before);
+        Keys(view, "txt_h2", form.Find("txt_h1")->Text.c_str());
+        Await(answer);
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(answer.findChild<QWidget*>(QStringLiteral("answerValues"))->isVisible());
+        EXPECT_EQ(curves.geometry(), before);
+    });
+}
+
 TEST_F(AnswerTest, AnUnfinishedNumberIsNotMarkedBeforeItIsLeft) {
     Open(kExamples[0], Language::English);
     OnWindow([&](PictureForm& form, FormView& view, AnswerView&) {

@@ -110,6 +110,23 @@ TEST(LanguageTableTest, GermanAndEnglishTextsHoldNoArabicLetter) {
     EXPECT_THAT(Failing(ColumnTitleTable(), latin), IsEmpty());
 }
 
+// "q = |1" as one piece from the left, or its number would stand before its sign.
+TEST(LanguageTableTest, FormulasInArabicTextsAreIsolated) {
+    const auto isolated = [](const LanguageRow& row) {
+        int open = 0;
+        const auto text = CodePoints(row.Arabic);
+        for (std::size_t i = 0; i < text.size(); ++i) {
+            if (text[i] == 0x2066) ++open;
+            if (text[i] == 0x2069) --open;
+            const bool equation = i > 1 && i + 2 < text.size() && text[i] == U'=' && text[i - 1] == U' ' &&
+                                  text[i + 1] == U' ' && text[i - 2] < 0x80 && text[i + 2] == U'|';
+            if (equation && open == 0) return false;
+        }
+        return open == 0;
+    };
+    EXPECT_THAT(Failing(LanguageTable(), isolated), IsEmpty());
+}
+
 // A blank at an end is easily lost, so the rows that need one are listed: 90 and 300074 go on behind it, the remarks of
 // a table's last column run on behind the column before.
 TEST(LanguageTableTest, OnlyTheListedTextsBeginOrEndWithABlank) {

@@ -29,6 +29,7 @@
 #include "desktop/ManualTopics.h"
 #include "desktop/ManualWindow.h"
 #include "desktop/Palettes.h"
+#include "desktop/Printing.h"
 #include "desktop/QtHost.h"
 #include "desktop/SaveReport.h"
 #include "desktop/SplashView.h"
@@ -37,6 +38,7 @@
 #include "desktop/study/PointsWindow.h"
 #include "desktop/study/StudyWindow.h"
 #include "kernels/RunKernel.h"
+#include "render/ChartDocument.h"
 #include "render/QtText.h"
 #include "report/Measured.h"
 #include "report/Notices.h"
@@ -397,6 +399,10 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
             host.ShowChart(chart);
         });
     }
+    gallery.TakeModal(QStringLiteral("print-preview-chart"), [&] {
+        PrintPicture(&window, QSize(kChartPageWidth, kChartPageHeight),
+                     [](QCPPainter& painter) { DrawChartPage(painter, BuildChart(), {}); });
+    });
     Session.CurveChoice = Session.ContourResult = "Tab6";
     frmContour contour;
     gallery.Take(contour, QStringLiteral("frmContour-settlement"), [&] { contour.Activate(); });
