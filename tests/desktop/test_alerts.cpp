@@ -12,16 +12,12 @@
 #include "EveryWindow.h"
 #include "ScreenRun.h"
 #include "desktop/Toast.h"
+#include "support/Matchers.h"
 #include "ui/frmNumberFormats.h"
 #include "ui/frmPreferences.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::SizeIs;
-using ::testing::StartsWith;
 
 struct Alert {
     std::string Object, Name, Description;
@@ -71,7 +67,7 @@ class AlertTest : public EveryWindow {
 TEST_F(AlertTest, AWrongBoxIsToldOnceAsItIsLeft) {
     for (const Language language : kLanguages) {
         StartIn(language);
-        Session.ProblemType = 2;
+        Session.ProblemType = Problem::SoilStrain;
         frmstress form;
         form.Load();
         FormView view(form, nullptr);
@@ -93,7 +89,7 @@ TEST_F(AlertTest, AWrongBoxIsToldOnceAsItIsLeft) {
 
 // An entry that is no number yet is told when it is left, and not to somebody who looks at another window.
 TEST_F(AlertTest, AnUnfinishedBoxIsToldAsItIsLeftForAnotherBox) {
-    Session.ProblemType = 1;
+    Session.ProblemType = Problem::SoilStress;
     frmstress form;
     form.Load();
     FormView view(form, nullptr);
@@ -137,7 +133,7 @@ TEST_F(AlertTest, EveryBoxOfEveryProblemTells) {
             if (mark.empty())
                 EXPECT_THAT(names, IsEmpty()) << form->Name << ": " << control->Name;
             else
-                EXPECT_THAT(names, ::testing::ElementsAre(mark)) << form->Name << ": " << control->Name;
+                EXPECT_THAT(names, ElementsAre(mark)) << form->Name << ": " << control->Name;
             boxes += mark.empty() ? 0 : 1;
             TypeInto(view, control->Name.c_str(), former);
         }
@@ -206,7 +202,7 @@ TEST_F(AlertTest, AWordThatComesAndGoesIsTold) {
 
 // A screen reader that hears every key of a box would be told of each of its neighbours too.
 TEST_F(AlertTest, AKeyTellsNoNamesAnew) {
-    Session.ProblemType = 1;
+    Session.ProblemType = Problem::SoilStress;
     frmstress form;
     form.Load();
     FormView view(form, nullptr);

@@ -281,7 +281,7 @@ TEST_F(AnswerTest, AWrongBoxLeadsToItself) {
 // A second layer too thin for the first: the kernel has much to say, and nothing below it moves.
 TEST_F(AnswerTest, ALongReasonIsReadInFull) {
     StartIn(Language::German);
-    Session.ProblemType = 5;
+    Session.ProblemType = Problem::ConsolidationRate;
     OnWindow([&](PictureForm& form, FormView& view, AnswerView& answer) {
         auto& state = *answer.findChild<QLabel*>(QStringLiteral("answerState"));
         auto& curves = *answer.findChild<QWidget*>(QStringLiteral("answerCurves"));

@@ -24,7 +24,7 @@ int ColumnOf(const QImage& image, Ink ink) {
 
 // Right under the load its numbers would stand on its arrow.
 TEST_F(NumbersOfDrawings, NumbersKeepOffTheArrowOfALoad) {
-    Session.ProblemType = 1;
+    Session.ProblemType = Problem::SoilStress;
     frmstress form;
     form.Load();
     form.SelectOption(form.optLoadType[0]);
@@ -46,7 +46,7 @@ TEST_F(NumbersOfDrawings, NumbersKeepOffTheArrowOfALoad) {
 
 // Values of the ground stay under each other and leave the vertical below the place free.
 TEST_F(NumbersOfDrawings, AStackOfNumbersKeepsOffALine) {
-    Session.ProblemType = 4;
+    Session.ProblemType = Problem::Consolidation;
     frmConsolidation form;
     form.Load();
     for (const char* x : {"0", "0.6", "1", "1.4", "2.5"}) {

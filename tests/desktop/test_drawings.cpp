@@ -23,7 +23,6 @@
 namespace lithmark::tests {
 namespace {
 
-
 TEST_F(DrawingTest, EveryProblemHasADrawing) {
     ForAllProblems([](PictureForm& form, const std::string& name) {
         EXPECT_NE(FindDrawing(form.PctInvertedT.Drawing), nullptr) << name;

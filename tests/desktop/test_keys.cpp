@@ -1,17 +1,14 @@
 // Keys that mean the same in every window, those that belong to no form too: Escape closes, Enter presses the button
 // that has the focus, Ctrl+S saves the data of every problem.
-#include <gmock/gmock.h>
-
 #include <QMainWindow>
 #include <QPushButton>
 #include <QTest>
 
 #include "EveryWindow.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::IsEmpty;
 
 class KeysTest : public EveryWindow {};
 

@@ -1,11 +1,10 @@
 // The dialog that asks where a document, a picture or a table goes: the folder that it offers.
-#include <gmock/gmock.h>
-
 #include <QFileDialog>
 #include <filesystem>
 
 #include "ScreenRun.h"
 #include "desktop/SaveDialog.h"
+#include "support/Matchers.h"
 
 namespace lithmark::tests {
 namespace {
@@ -63,7 +62,7 @@ TEST_F(SaveDialogTest, OffersTheFolderThatTheProjectsLastFileWentTo) {
     EXPECT_EQ(Offered("crane/two"), "crane/reports");
     EXPECT_EQ(Offered(), "crane");
     EXPECT_EQ(BesideTheProgram(), beside);
-    EXPECT_THAT(ReadBytes(folder_ / "settings/settings.json"), Not(::testing::HasSubstr("one.pdf")));
+    EXPECT_THAT(ReadBytes(folder_ / "settings/settings.json"), Not(HasSubstr("one.pdf")));
 }
 
 }  // namespace

@@ -3,12 +3,11 @@
 #include <filesystem>
 
 #include "FormTest.h"
+#include "support/Matchers.h"
 #include "ui/model/ExportFolder.h"
 
 namespace lithmark::tests {
 namespace {
-
-using ::testing::HasSubstr;
 
 class ExportFolders : public FormTest {
   protected:
