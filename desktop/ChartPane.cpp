@@ -46,10 +46,7 @@ QString CaptionOf(const ChartArguments& chart, int curve) {
 }  // namespace
 
 ChartPane::ChartPane(const ChartArguments& chart, QWidget* parent, int legendRoom, Marks marks)
-    : QWidget(parent),
-      legendRoom_(legendRoom),
-      marksAt_(marks),
-      column_(new QVBoxLayout(this)) {
+    : QWidget(parent), legendRoom_(legendRoom), marksAt_(marks), column_(new QVBoxLayout(this)) {
     column_->setContentsMargins(0, 0, 0, 0);
     column_->setSpacing(sizes::kRowGap);
     // In the order of the Tab key.
@@ -141,12 +138,16 @@ int ChartPane::MarksWidth() const {
 void ChartPane::ShowReading() {
     const ChartReading& reading = plot_->Reading();
     // The mark in front gives the line the direction of the language, whatever it begins with.
-    const QString direction = LanguageTexts().RightToLeft() ? QString(QChar(0x200F)) : QString();
+    const bool mirrored = LanguageTexts().RightToLeft();
+    const QString direction = mirrored ? QString(QChar(0x200F)) : QString();
     values_->setText(direction + Q(plot_->Row() ? reading.ValuesAt(*plot_->Row()) : Text(910009_text)));
     QString marks;
     const auto add = [&](const char* name, const std::string& text) {
         const QString parting = marksAt_ == Marks::Below ? QStringLiteral("     ") : QLatin1Char('\n') + direction;
-        marks += (marks.isEmpty() ? direction : parting) + QString::fromLatin1(name) + QStringLiteral(": ") + Q(text);
+        QString mark = QString::fromLatin1(name) + QStringLiteral(": ") + Q(text);
+        // Each for itself: the Latin names of neighbours would draw what stands between them to their direction.
+        if (mirrored) mark = QChar(0x2067) + mark + QChar(0x2069);
+        marks += (marks.isEmpty() ? direction : parting) + mark;
     };
     const auto &a = plot_->A(), &b = plot_->B();
     // Beside the plot the lines keep their places.

@@ -11,6 +11,7 @@
 #include "contour/CurveSets.h"
 #include "core/Catalogue.h"
 #include "core/StartSession.h"
+#include "desktop/ChartPane.h"
 #include "desktop/ChartView.h"
 #include "desktop/ChartWindow.h"
 #include "kernels/RunKernel.h"
@@ -199,6 +200,24 @@ TEST_F(ChartWindowTest, AnArabicAxisTitleReadsInOneDirection) {
     EXPECT_TRUE(title.startsWith(QChar(0x2067)));
     EXPECT_TRUE(title.contains(QChar(0x2066) + QStringLiteral("z [m]") + QChar(0x2069)));
     EXPECT_TRUE(title.endsWith(QChar(0x2069)));
+}
+
+// On one line each mark reads from the right for itself.
+TEST_F(ChartWindowTest, ArabicMarksOnOneLineKeepTogether) {
+    ChartPane pane(Chart(5, "Tab1", Language::Arabic), nullptr, ChartPane::kLegendRoom, ChartPane::Marks::Below);
+    pane.show();
+    ChartView& plot = pane.Plot();
+    plot.Walk(1);
+    plot.Mark(true);
+    plot.Walk(1);
+    plot.Mark(false);
+    const QString marks = Child<QLabel>(pane, "lblMarks").text();
+    const QChar begin(0x2067), end(0x2069);
+    for (const char* name : {"A: ", "B: ", "B - A: "})
+        EXPECT_EQ(marks.count(begin + QString::fromLatin1(name)), 1) << name;
+    EXPECT_EQ(marks.count(begin), 3);
+    EXPECT_TRUE(marks.endsWith(end));
+    EXPECT_EQ(marks.count(end + QStringLiteral("     ") + begin), 2);
 }
 
 TEST_F(ChartWindowTest, CopiesAPictureOrTheTable) {
