@@ -14,8 +14,8 @@ constexpr double kFocusWidth = 2.5, kGap = 5, kPlate = 3, kTick = 5, kIndexSize 
 // large as letters elsewhere is a part of the picture.
 constexpr double kLeastWidth = 260, kLeastHeight = 200, kPlainWidth = 180, kPlainHeight = 130;
 constexpr double kPlainLine = 1.0 / 14, kPlainHead = 0.55, kPlainDot = 0.6, kPlainPen = 1.8;
-// A number goes out of the way of lines as far as this, and gives a pixel of way for so many that it would hide.
-constexpr double kOutOfTheWay = 36, kHiddenForAWay = 0.7;
+// A number goes out of the way of lines as far as this, a pixel for each that it would hide; more for those of a load.
+constexpr double kOutOfTheWay = 60, kLoadWeight = 3;
 
 QPointF Across(const QPointF& from, const QPointF& to) {
     const QPointF way = to - from;
@@ -49,7 +49,7 @@ double Sketch::Steady(double fit) {
 }
 
 void Sketch::Line(const QPointF& from, const QPointF& to, const QPen& pen) {
-    lines_.emplace_back(from, to);
+    strokes_.push_back({{from, to}, 1});
     Painter.setPen(pen);
     Painter.drawLine(from, to);
 }
@@ -60,7 +60,8 @@ void Sketch::Arrow(const QPointF& from, const QPointF& to, const QPen& pen) {
     if (length < 1) return;
     const double size = std::min(length, (5 + 3 * pen.widthF()) * (plain_ ? kPlainHead : 1));
     const QPointF along = way / length * size, across = Across(from, to) * size * 0.38;
-    lines_.emplace_back(from, to);
+    // An axis may be hidden in part, the arrow of a load must be seen.
+    strokes_.push_back({{from, to}, pen.widthF() > 1 ? kLoadWeight : 1});
     Painter.setPen(pen);
     Painter.drawLine(from, to - along * 0.8);
     Painter.setPen(Qt::NoPen);
@@ -72,7 +73,7 @@ void Sketch::Polygon(const QPolygonF& polygon, const QPen& pen, const QBrush& br
     // The fine edges of the ground may run under a number.
     if (pen.style() != Qt::NoPen && pen.widthF() > 1)
         for (qsizetype i = 0; i < polygon.size(); ++i)
-            lines_.emplace_back(polygon[i], polygon[(i + 1) % polygon.size()]);
+            strokes_.push_back({{polygon[i], polygon[(i + 1) % polygon.size()]}, 1});
     Painter.setPen(pen);
     Painter.setBrush(brush);
     Painter.drawPolygon(polygon);
@@ -218,7 +219,7 @@ QRectF Sketch::PlaceOf(const Words& words, const QSizeF& size) const {
 
 double Sketch::Hidden(const QRectF& plate) const {
     double hidden = 0;
-    for (const QLineF& line : lines_) {
+    for (const auto& [line, weight] : strokes_) {
         if (std::max(line.x1(), line.x2()) <= plate.left() || std::min(line.x1(), line.x2()) >= plate.right() ||
             std::max(line.y1(), line.y2()) <= plate.top() || std::min(line.y1(), line.y2()) >= plate.bottom())
             continue;
@@ -235,7 +236,7 @@ double Sketch::Hidden(const QRectF& plate) const {
         };
         cut(line.x1(), line.dx(), plate.left(), plate.right());
         cut(line.y1(), line.dy(), plate.top(), plate.bottom());
-        if (end > begin) hidden += (end - begin) * line.length();
+        if (end > begin) hidden += (end - begin) * line.length() * weight;
     }
     return hidden;
 }
@@ -261,7 +262,7 @@ QRectF Sketch::FreePlace(QRectF wanted, std::size_t rows) const {
             double cost = std::hypot(place.left() - wanted.left(), place.top() - wanted.top());
             if (least >= 0 && cost >= least) continue;
             if (!free(place)) continue;
-            cost += std::min(kOutOfTheWay * static_cast<double>(rows), kHiddenForAWay * Hidden(place));
+            cost += std::min(kOutOfTheWay * static_cast<double>(rows), Hidden(place));
             if (least < 0 || cost < least) {
                 best = place;
                 least = cost;

@@ -90,7 +90,12 @@ class Sketch {
     int stacks_ = 0;
     std::vector<Words> words_;
     std::vector<QRectF> taken_;
-    std::vector<QLineF> lines_;
+    // What was drawn, and how much of it a number gives way to.
+    struct Stroke {
+        QLineF Line;
+        double Weight;
+    };
+    std::vector<Stroke> strokes_;
 };
 
 }  // namespace lithmark
