@@ -262,14 +262,16 @@ void AnswerView::FollowState() {
     // The button says it all.
     ask_->setVisible(live_.State() == AnswerState::OnRequest);
     state_->setVisible(ask_->isHidden());
-    MakeRoomForReason(mark == StateMark::Exclamation && live_.Shown() == nullptr);
+    const bool stopped = live_.State() == AnswerState::Stopped && live_.Shown() == nullptr;
+    MakeRoomForReason(stopped || live_.State() == AnswerState::Failed);
     if (ask_->isHidden()) return;
     const int seconds = std::max(1, static_cast<int>(std::ceil(live_.Size().Seconds)));
     ask_->setText(Q(Text(913011_text, {{"|1", NumberToText(live_.Size().Nodes)}, {"|2", NumberToText(seconds)}})));
     ask_->setToolTip(QStringLiteral("F5"));
 }
 
-// A reason of many words has the room of the values as long as there are none; what stands below does not move.
+// A reason of many words has the room of the values where there are none, or former ones; what stands below does not
+// move.
 void AnswerView::MakeRoomForReason(bool alone) {
     const int usual = kStateLines * state_->fontMetrics().lineSpacing();
     const bool wide = alone && state_->heightForWidth(state_->width()) > usual;
