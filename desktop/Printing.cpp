@@ -1,9 +1,6 @@
 #include "desktop/Printing.h"
 
 #include <QBoxLayout>
-#include <QImage>
-#include <QPaintEngine>
-#include <QPainter>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
@@ -18,22 +15,6 @@
 #include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
-
-namespace {
-
-// A preview plays words from right to left back as if they began at the left. There the picture is one of dots, as fine
-// as a screen shows.
-void DrawAsDots(QPaintDevice& device, const QSizeF& extent, const QSize& size, const Draw& draw) {
-    constexpr double kFine = 3;
-    QImage image(size * kFine, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    DrawAsVectors(image, image.size(), size, draw);
-    QPainter painter(&device);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(QRectF(QPointF(), QSizeF(size).scaled(extent, Qt::KeepAspectRatio)), image);
-}
-
-}  // namespace
 
 void PrintReport(QWidget* parent, const std::string& text, const std::string& fontName, int fontSize,
                  bool rightToLeft) {
@@ -86,11 +67,7 @@ void PrintPicture(QWidget* parent, const QSize& size, const Draw& draw) {
     preview.setObjectName(QStringLiteral("printPreview"));
     preview.resize(1000, 760);
     QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, &preview, [&](QPrinter* target) {
-        const QSizeF page = target->pageLayout().paintRectPixels(target->resolution()).size();
-        if (LanguageTexts().RightToLeft() && target->paintEngine()->type() == QPaintEngine::Picture)
-            DrawAsDots(*target, page, size, draw);
-        else
-            DrawAsVectors(*target, page, size, draw);
+        DrawAsVectors(*target, target->pageLayout().paintRectPixels(target->resolution()).size(), size, draw);
     });
     preview.exec();
 }

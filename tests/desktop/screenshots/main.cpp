@@ -29,7 +29,6 @@
 #include "desktop/ManualTopics.h"
 #include "desktop/ManualWindow.h"
 #include "desktop/Palettes.h"
-#include "desktop/Printing.h"
 #include "desktop/QtHost.h"
 #include "desktop/SaveReport.h"
 #include "desktop/SplashView.h"
@@ -38,7 +37,6 @@
 #include "desktop/study/PointsWindow.h"
 #include "desktop/study/StudyWindow.h"
 #include "kernels/RunKernel.h"
-#include "render/ChartDocument.h"
 #include "render/QtText.h"
 #include "report/Measured.h"
 #include "report/Notices.h"
@@ -399,10 +397,6 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
             host.ShowChart(chart);
         });
     }
-    gallery.TakeModal(QStringLiteral("print-preview-chart"), [&] {
-        PrintPicture(&window, QSize(kChartPageWidth, kChartPageHeight),
-                     [](QCPPainter& painter) { DrawChartPage(painter, BuildChart(), {}); });
-    });
     Session.CurveChoice = Session.ContourResult = "Tab6";
     frmContour contour;
     gallery.Take(contour, QStringLiteral("frmContour-settlement"), [&] { contour.Activate(); });
