@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "contour/AxisTicks.h"
 #include "contour/FieldColours.h"
@@ -44,6 +45,21 @@ FieldPlot::FieldPlot(const BasContour& plot) {
         triangles_.push_back(t);
     });
     for (int i = 1; i <= plot.NodeCount; ++i) nodes_.push_back({{plot.CtrX(i), plot.CtrY(i)}, plot.CtrZ(i) * factor});
+    Classify();
+}
+
+FieldPlot::FieldPlot(std::vector<Triangle> triangles) : triangles_(std::move(triangles)) {
+    for (const Triangle& t : triangles_) nodes_.insert(nodes_.end(), t.begin(), t.end());
+    const auto order = [](const Corner& a, const Corner& b) {
+        return std::pair(a.At.X, a.At.Y) < std::pair(b.At.X, b.At.Y);
+    };
+    std::sort(nodes_.begin(), nodes_.end(), order);
+    const auto same = [](const Corner& a, const Corner& b) { return a.At == b.At; };
+    nodes_.erase(std::unique(nodes_.begin(), nodes_.end(), same), nodes_.end());
+    Classify();
+}
+
+void FieldPlot::Classify() {
     if (nodes_.empty()) Fail(FailureKind::SubscriptRange);
     const auto byValue = [](const Corner& a, const Corner& b) { return a.Value < b.Value; };
     const auto [least, greatest] = std::minmax_element(nodes_.begin(), nodes_.end(), byValue);
@@ -122,6 +138,20 @@ std::vector<FieldLine> FieldPlot::LineAt(double level) const {
         if (ends.size() == 2 && !(ends[0] == ends[1])) lines.push_back({ends[0], ends[1]});
     }
     return lines;
+}
+
+std::optional<double> FieldPlot::ValueAt(const FieldPoint& at) const {
+    constexpr double kOnEdge = 1e-9;
+    for (const Triangle& t : triangles_) {
+        const double ax = t[1].At.X - t[0].At.X, ay = t[1].At.Y - t[0].At.Y;
+        const double bx = t[2].At.X - t[0].At.X, by = t[2].At.Y - t[0].At.Y, area = ax * by - ay * bx;
+        if (area == 0) continue;
+        const double px = at.X - t[0].At.X, py = at.Y - t[0].At.Y;
+        const double second = (px * by - py * bx) / area, third = (ax * py - ay * px) / area;
+        if (second < -kOnEdge || third < -kOnEdge || second + third > 1 + kOnEdge) continue;
+        return t[0].Value + second * (t[1].Value - t[0].Value) + third * (t[2].Value - t[0].Value);
+    }
+    return std::nullopt;
 }
 
 std::vector<FieldPlot::SectionPoint> FieldPlot::Section(const FieldLine& line) const {

@@ -24,8 +24,16 @@ struct FieldLine {
 
 class FieldPlot {
   public:
+    struct Corner {
+        FieldPoint At;
+        double Value;
+    };
+    using Triangle = std::array<Corner, 3>;
+
     // Of a plot whose data have been read.
     explicit FieldPlot(const BasContour& plot);
+    // Of triangles that turn against the clock, in any units; one at least.
+    explicit FieldPlot(std::vector<Triangle> triangles);
 
     // The limits of the classes, round numbers, one more than classes. A field that is even but for rounding has one
     // class around its value.
@@ -62,13 +70,12 @@ class FieldPlot {
     // the raft.
     std::vector<SectionPoint> Section(const FieldLine& line) const;
 
-  private:
-    struct Corner {
-        FieldPoint At;
-        double Value;
-    };
-    using Triangle = std::array<Corner, 3>;
+    // The value at a place; nothing beside the triangles.
+    std::optional<double> ValueAt(const FieldPoint& at) const;
 
+  private:
+    // Classes, least and greatest value of the nodes.
+    void Classify();
     std::vector<FieldPoint> NodesAt(double value) const;
 
     std::vector<Triangle> triangles_;

@@ -1,6 +1,7 @@
 #include "desktop/BoxMark.h"
 
 #include <QAction>
+#include <QEvent>
 #include <QIcon>
 #include <QLineEdit>
 #include <QPainter>
@@ -30,6 +31,36 @@ QIcon Exclamation(const QColor& colour, double ratio) {
     return QIcon(sign);
 }
 
+// The sign inside the box, and its frame, in the colour of errors of light or dark windows.
+class MarkSign : public QAction {
+  public:
+    explicit MarkSign(QLineEdit& box) : QAction(&box), box_(box) {
+        setObjectName(QString::fromLatin1(kSignName));
+        Paint();
+        box.addAction(this, QLineEdit::TrailingPosition);
+        box.installEventFilter(this);
+    }
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::PaletteChange) Paint();
+        return QAction::eventFilter(watched, event);
+    }
+
+  private:
+    // A frame that is set changes the palette again, to what it is.
+    void Paint() {
+        const QColor colour = ColourOf(Ink::Error, ThemeOf(box_.palette()));
+        if (colour == colour_) return;
+        colour_ = colour;
+        setIcon(Exclamation(colour, box_.devicePixelRatioF()));
+        box_.setStyleSheet(QStringLiteral("QLineEdit { border: 2px solid %1; }").arg(colour.name()));
+    }
+
+    QLineEdit& box_;
+    QColor colour_;
+};
+
 }  // namespace
 
 void ShowMark(QLineEdit& box, const std::string& reason) {
@@ -42,13 +73,7 @@ void ShowMark(QLineEdit& box, const std::string& reason) {
         box.setToolTip({});
         return;
     }
-    if (sign == nullptr) {
-        const QColor colour = ColourOf(Ink::Error, ThemeOf(box.palette()));
-        sign = new QAction(Exclamation(colour, box.devicePixelRatioF()), QString(), &box);
-        sign->setObjectName(QString::fromLatin1(kSignName));
-        box.addAction(sign, QLineEdit::TrailingPosition);
-        box.setStyleSheet(QStringLiteral("QLineEdit { border: 2px solid %1; }").arg(colour.name()));
-    }
+    if (sign == nullptr) new MarkSign(box);
     box.setToolTip(Q(reason));
 }
 

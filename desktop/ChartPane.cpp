@@ -115,6 +115,14 @@ void ChartPane::BuildLegend(const ChartArguments& chart) {
     setTabOrder(before, plot_);
 }
 
+// The samples have the colours of light or dark windows.
+void ChartPane::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange) return;
+    for (std::size_t i = 0; i < boxes_.size(); ++i)
+        boxes_[i]->setIcon(SampleOf(static_cast<int>(i) + 1, WindowInks(palette())));
+}
+
 void ChartPane::ShowChart(const ChartArguments& chart) {
     plot_->ShowChart(chart);
     bool same = boxes_.size() == static_cast<std::size_t>(chart.Curves);

@@ -26,6 +26,9 @@ class ChartPane : public QWidget {
     // Another chart in place of this one. Curves of the same names stay hidden.
     void ShowChart(const ChartArguments& chart);
 
+  protected:
+    void changeEvent(QEvent* event) override;
+
   private:
     void BuildLegend(const ChartArguments& chart);
     void ShowReading();

@@ -103,6 +103,16 @@ void EditGrid::Typed(int row, int column) {
     if (OnRows) OnRows();
 }
 
+// The marks are those of light or dark windows.
+void EditGrid::changeEvent(QEvent* event) {
+    QTableWidget::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange) return;
+    showing_ = true;
+    for (int r = 0; r < rowCount(); ++r)
+        for (int c = 0; c < rows_.Columns(); ++c) MarkCell(r, c);
+    showing_ = false;
+}
+
 template <typename Command>
 void EditGrid::Change(Command&& command, int row, int column) {
     command();

@@ -16,8 +16,8 @@
 #include "desktop/ScreenRoom.h"
 #include "desktop/Sizes.h"
 #include "desktop/SpokenAlert.h"
+#include "desktop/WidgetInk.h"
 #include "render/QtText.h"
-#include "render/drawings/Inks.h"
 #include "services/SharedServices.h"
 #include "services/texts/LanguageTexts.h"
 #include "ui/model/UnsavedInput.h"
@@ -149,9 +149,7 @@ void TableEditorDialog::ShowState() {
     if (fault && isVisible() && note_->text() != Q(note)) SpeakAlert(*note_, Q(note));
     note_->setText(Q(note));
     note_->setAccessibleName(Q(note));
-    QPalette ink = palette();
-    if (fault) ink.setColor(QPalette::WindowText, ColourOf(Ink::Error, ThemeOf(palette())));
-    note_->setPalette(ink);
+    SetInk(*note_, fault ? Ink::Error : Ink::Text);
     ok_->setEnabled(!fault);
     undo_->setEnabled(rows_.CanUndo());
     redo_->setEnabled(rows_.CanRedo());

@@ -14,6 +14,7 @@
 #include "contour/ChartReading.h"
 #include "services/host/Charting.h"
 
+class QCPAxis;
 class QCPPainter;
 class QCustomPlot;
 class QSize;
@@ -66,6 +67,8 @@ void FillPlot(QCustomPlot& plot, const ChartArguments& chart, const ChartLook& l
 QString AxisLabel(const std::string& title);
 // The colour and the dash of a curve, which tell it apart with and without colours.
 QPen CurvePen(int curve, const ChartInks& inks);
+// An axis with a title, round ticks in the digits of the language, and those colours; `whole` keeps its ticks whole.
+void StyleChartAxis(QCPAxis& axis, const std::string& title, const ChartInks& inks, bool whole = false);
 // True where the plot has the table's first column on its vertical axis: depths that point down.
 bool AxesChanged(const ChartArguments& chart);
 

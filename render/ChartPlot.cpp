@@ -116,20 +116,6 @@ void SetRanges(QCustomPlot& plot, const ChartArguments& chart, const ChartLook& 
     plot.yAxis->setRangeReversed(chart.SettlementsDown);
 }
 
-void StyleAxis(QCPAxis& axis, const std::string& title, bool whole, const ChartInks& inks) {
-    axis.setLabel(AxisLabel(title));
-    axis.setLabelFont(SansFont(kPlotTextPixels));
-    axis.setTickLabelFont(SansFont(kPlotTextPixels));
-    axis.setLabelColor(inks.Text);
-    axis.setTickLabelColor(inks.Text);
-    axis.setLabelPadding(6);
-    for (const auto set : {&QCPAxis::setBasePen, &QCPAxis::setTickPen}) (axis.*set)(QPen(inks.Axes));
-    axis.setSubTicks(false);
-    axis.grid()->setPen(QPen(inks.Grid, 1, Qt::SolidLine));
-    axis.grid()->setZeroLinePen(QPen(inks.Axes, 1));
-    axis.setTicker(QSharedPointer<RoundTicker>::create(axis, whole));
-}
-
 // The legend above the plot, where it covers no point; one entry a line if they do not fit side by side.
 void PlaceLegend(QCustomPlot& plot, const ChartInks& inks) {
     QCPLegend* legend = plot.legend;
@@ -171,6 +157,20 @@ bool AxesChanged(const ChartArguments& chart) {
     return chart.SettlementsDown && TurnOf(chart) == ChartTurn::Depth;
 }
 
+void StyleChartAxis(QCPAxis& axis, const std::string& title, const ChartInks& inks, bool whole) {
+    axis.setLabel(AxisLabel(title));
+    axis.setLabelFont(SansFont(kPlotTextPixels));
+    axis.setTickLabelFont(SansFont(kPlotTextPixels));
+    axis.setLabelColor(inks.Text);
+    axis.setTickLabelColor(inks.Text);
+    axis.setLabelPadding(6);
+    for (const auto set : {&QCPAxis::setBasePen, &QCPAxis::setTickPen}) (axis.*set)(QPen(inks.Axes));
+    axis.setSubTicks(false);
+    axis.grid()->setPen(QPen(inks.Grid, 1, Qt::SolidLine));
+    axis.grid()->setZeroLinePen(QPen(inks.Axes, 1));
+    axis.setTicker(QSharedPointer<RoundTicker>::create(axis, whole));
+}
+
 void FillPlot(QCustomPlot& plot, const ChartArguments& chart, const ChartLook& look) {
     plot.clearPlottables();
     plot.setBackground(QBrush(look.Inks.Ground));
@@ -182,8 +182,8 @@ void FillPlot(QCustomPlot& plot, const ChartArguments& chart, const ChartLook& l
         axis->setBasePen(QPen(look.Inks.Axes));
     }
     const bool changed = AxesChanged(chart), time = HasTimeAxis(chart);
-    StyleAxis(*plot.xAxis, changed ? chart.YTitle : chart.XTitle, time && !changed, look.Inks);
-    StyleAxis(*plot.yAxis, changed ? chart.XTitle : chart.YTitle, time && changed, look.Inks);
+    StyleChartAxis(*plot.xAxis, changed ? chart.YTitle : chart.XTitle, look.Inks, time && !changed);
+    StyleChartAxis(*plot.yAxis, changed ? chart.XTitle : chart.YTitle, look.Inks, time && changed);
     SetRanges(plot, chart, look);
     if (look.Legend && plot.legend->layout() == plot.axisRect()->insetLayout()) PlaceLegend(plot, look.Inks);
 }

@@ -7,6 +7,7 @@
 #include "contour/FieldSection.h"
 #include "core/Session.h"
 #include "render/ChartDocument.h"
+#include "render/FieldPainter.h"
 #include "render/PictureFile.h"
 #include "render/QtText.h"
 #include "render/SansFont.h"
@@ -32,103 +33,6 @@ class Map {
     const WorldWindow window_;
 };
 
-// One path, so that edges that two polygons share leave no seam between them.
-QPainterPath PathOf(const std::vector<std::vector<FieldPoint>>& polygons, const Map& map) {
-    QPainterPath path;
-    path.setFillRule(Qt::WindingFill);
-    for (const auto& polygon : polygons) {
-        path.moveTo(map(polygon.front()));
-        for (std::size_t i = 1; i < polygon.size(); ++i) path.lineTo(map(polygon[i]));
-        path.closeSubpath();
-    }
-    return path;
-}
-
-// From the whole raft in the lowest colour upwards, each class over the one below, so that no ground shows between.
-void FillClasses(QPainter& painter, const FieldPlot& field, const Map& map) {
-    painter.setPen(Qt::NoPen);
-    for (int cls = 1; cls <= field.Classes(); ++cls) {
-        const double level = field.Limits()[static_cast<std::size_t>(cls - 1)];
-        painter.setBrush(QColor::fromRgb(field.ColourOf(cls)));
-        painter.drawPath(PathOf(field.RegionAbove(cls == 1 ? std::min(level, field.Least()) : level), map));
-    }
-    painter.setBrush(Qt::NoBrush);
-}
-
-// Words on a ground of their own that keep inside the square and clear of each other; written over all that was drawn.
-class Words {
-  public:
-    Words(QPainter& painter, const QRectF& square, double pixels)
-        : painter_(painter), square_(square), font_(SansFont(std::max(7.0, pixels))) {}
-
-    // Above the place if there is room, below it otherwise. False where other words stand already.
-    bool Place(const QPointF& place, const std::string& text, bool must, double clear = 0) {
-        const QFontMetricsF metrics(font_, painter_.device());
-        const QSizeF size(metrics.horizontalAdvance(Q(text)) + 6, metrics.height() + 2);
-        for (const double dy : {-clear - size.height(), clear}) {
-            QRectF box(QPointF(place.x() - size.width() / 2, place.y() + (clear > 0 ? dy : -size.height() / 2)), size);
-            box.moveLeft(std::clamp(box.left(), square_.left() + 2, square_.right() - size.width() - 2));
-            const bool inside = box.top() >= square_.top() && box.bottom() <= square_.bottom();
-            const bool free = std::none_of(placed_.begin(), placed_.end(),
-                                           [&](const auto& other) { return other.At.intersects(box); });
-            if (!inside || (!free && !must)) continue;
-            placed_.push_back({box, Q(text)});
-            return true;
-        }
-        return false;
-    }
-    void Write() const {
-        painter_.setFont(font_);
-        painter_.setPen(QColor::fromRgb(kInk));
-        for (const Placed& words : placed_) {
-            painter_.fillRect(words.At, QColor(255, 255, 255, 220));
-            painter_.drawText(words.At, Qt::AlignCenter, words.Text);
-        }
-    }
-
-  private:
-    struct Placed {
-        QRectF At;
-        QString Text;
-    };
-    QPainter& painter_;
-    const QRectF square_;
-    const QFont font_;
-    std::vector<Placed> placed_;
-};
-
-void DrawLines(QPainter& painter, const FieldPicture& picture, const Map& map, Words& words) {
-    const FieldPlot& field = picture.Field;
-    for (std::size_t i = 1; i + 1 < field.Limits().size(); ++i) {
-        const auto lines = field.LineAt(field.Limits()[i]);
-        const QColor ink = picture.Options.ColorContours ? QColor::fromRgba(0xC01B2530)
-                                                         : QColor::fromRgb(field.ColourOf(static_cast<int>(i)));
-        painter.setPen(QPen(ink, picture.Options.ColorContours ? 0.8 : 1.6));
-        for (const FieldLine& line : lines) painter.drawLine(map(line.From), map(line.To));
-        if (!picture.Options.DisplayValues || lines.empty()) continue;
-        // Deliberate: a third along the pieces of the line, so that the numbers of neighbours do not stand in a row.
-        const FieldLine& piece = lines[lines.size() * (1 + i % 3) / 4];
-        words.Place(map(piece.From), field.LimitText(field.Limits()[i]), false);
-    }
-}
-
-// A triangle that points down at the least value and up at the greatest.
-void DrawExtreme(QPainter& painter, const std::vector<FieldPoint>& places, const std::string& text, bool up,
-                 const Map& map, const QRectF& square, Words& words) {
-    const double size = std::max(4.0, square.width() / 90);
-    const QPointF tip(0, up ? -size : size);
-    bool told = false;
-    for (const FieldPoint& place : places) {
-        const QPointF at = map(place);
-        if (!square.adjusted(-1, -1, 1, 1).contains(at)) continue;
-        painter.setPen(QPen(QColor::fromRgb(kInk), 1));
-        painter.setBrush(Qt::white);
-        painter.drawPolygon(QPolygonF() << at + tip << at + QPointF(-size, -tip.y()) << at + QPointF(size, -tip.y()));
-        painter.setBrush(Qt::NoBrush);
-        if (!told) told = words.Place(at, text, true, size + 3);
-    }
-}
-
 }  // namespace
 
 void DrawField(QPainter& painter, const QRectF& square, const FieldPicture& picture) {
@@ -138,7 +42,7 @@ void DrawField(QPainter& painter, const QRectF& square, const FieldPicture& pict
     painter.fillRect(square, Qt::white);
     painter.setClipRect(square);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (picture.Options.ColorContours) FillClasses(painter, field, map);
+    if (picture.Options.ColorContours) PaintClasses(painter, field, map);
     const BasContour& plot = picture.Plot;
     const auto node = [&](int i) { return map({plot.CtrX(i), plot.CtrY(i)}); };
     if (picture.Options.DrawGrid) {
@@ -149,16 +53,11 @@ void DrawField(QPainter& painter, const QRectF& square, const FieldPicture& pict
             painter.drawPolygon(element);
         }
     }
-    Words words(painter, square, std::max(11.0, square.width() / 48));
+    FieldWords words(painter, square, std::max(11.0, square.width() / 48));
     // The extremes first: their numbers must stand, those of the lines may give way.
-    if (picture.Options.DisplayValues && !field.Even()) {
-        DrawExtreme(painter, field.LeastAt(), Text(910023_text, {{"|1", field.ValueText(field.Least())}}), false, map,
-                    square, words);
-        DrawExtreme(painter, field.GreatestAt(), Text(910024_text, {{"|1", field.ValueText(field.Greatest())}}), true,
-                    map, square, words);
-    }
+    if (picture.Options.DisplayValues && !field.Even()) PaintExtremes(painter, field, map, square, words);
     if (picture.Options.Displaylines) {
-        DrawLines(painter, picture, map, words);
+        PaintClassLines(painter, field, picture.Options.ColorContours, picture.Options.DisplayValues, map, words);
         painter.setPen(QPen(QColor::fromRgb(kEdgeInk), 1.6));
         for (int e = 1; e <= plot.ElementCount; ++e)
             for (int j = 1; j <= plot.ElemNodeCount(e); ++j)

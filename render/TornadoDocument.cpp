@@ -5,17 +5,12 @@
 #include <algorithm>
 
 #include "render/ChartDocument.h"
-#include "render/PictureFile.h"
 #include "render/QtText.h"
 #include "render/SansFont.h"
 
 namespace lithmark {
 
 namespace {
-
-// A4 across without margins, in points of 1/96 inch.
-constexpr QSize kTornadoSize(1020, 680);
-constexpr int kTornadoMargin = 24, kTornadoTitle = 36;
 
 // One colour's bars; the uppermost has the greatest key.
 void AddBars(QCustomPlot& plot, const TornadoPicture& picture, const std::string& legend, QColor fill,
@@ -72,9 +67,7 @@ void FillTornado(QCustomPlot& plot, const TornadoPicture& picture, const ChartIn
     }
     plot.yAxis->grid()->setVisible(false);
     plot.yAxis->setTickLength(0);
-    plot.xAxis->setNumberFormat("gb");
-    plot.xAxis->setNumberPrecision(6);
-    plot.xAxis->setLabel(Q(picture.Axis));
+    StyleChartAxis(*plot.xAxis, picture.Axis, inks);
     plot.legend->setVisible(true);
     plot.legend->setFont(font);
     plot.legend->setTextColor(inks.Text);
@@ -83,36 +76,8 @@ void FillTornado(QCustomPlot& plot, const TornadoPicture& picture, const ChartIn
     plot.axisRect()->insetLayout()->setInsetAlignment(0, Qt::AlignRight | Qt::AlignBottom);
 }
 
-namespace {
-
-void DrawTornado(QCPPainter& painter, const TornadoPicture& picture) {
-    painter.fillRect(QRect(QPoint(0, 0), kTornadoSize), Qt::white);
-    painter.setPen(Qt::black);
-    painter.setFont(SansFont(18, true));
-    painter.drawText(QRect(kTornadoMargin, kTornadoMargin, kTornadoSize.width() - 2 * kTornadoMargin, kTornadoTitle),
-                     Qt::AlignCenter, Q(picture.Title));
-    QCustomPlot plot;
-    FillTornado(plot, picture, {});
-    painter.save();
-    painter.translate(kTornadoMargin, kTornadoMargin + kTornadoTitle);
-    plot.toPainter(&painter, kTornadoSize.width() - 2 * kTornadoMargin,
-                   kTornadoSize.height() - 2 * kTornadoMargin - kTornadoTitle);
-    painter.restore();
-}
-
-}  // namespace
-
-std::string TornadoSvg(const TornadoPicture& picture) {
-    return SvgOf(kTornadoSize, Q(picture.Title), [&](QCPPainter& painter) { DrawTornado(painter, picture); });
-}
-
-std::string TornadoPng(const TornadoPicture& picture) {
-    constexpr int kScale = 2;
-    return PngOf(kTornadoSize, kScale, [&](QCPPainter& painter) { DrawTornado(painter, picture); });
-}
-
-std::string TornadoPdf(const TornadoPicture& picture) {
-    return PdfOf(kTornadoSize, Q(picture.Title), [&](QCPPainter& painter) { DrawTornado(painter, picture); });
+std::string TornadoFile(PictureKind kind, const TornadoPicture& picture) {
+    return PlotPage(kind, picture.Title, [&](QCustomPlot& plot) { FillTornado(plot, picture, {}); });
 }
 
 }  // namespace lithmark

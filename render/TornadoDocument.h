@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "render/PlotPage.h"
+
 class QCustomPlot;
 
 namespace lithmark {
@@ -26,8 +28,6 @@ struct TornadoPicture {
 void FillTornado(QCustomPlot& plot, const TornadoPicture& picture, const ChartInks& inks);
 
 // The file's bytes. Names, axis and bars run from left to right in every language.
-std::string TornadoSvg(const TornadoPicture& picture);
-std::string TornadoPng(const TornadoPicture& picture);
-std::string TornadoPdf(const TornadoPicture& picture);
+std::string TornadoFile(PictureKind kind, const TornadoPicture& picture);
 
 }  // namespace lithmark

@@ -56,7 +56,8 @@ class RenderedDocuments : public DocumentWriter {
                 picture.Bars.push_back({influence.Field + "   " + influence.Low + " … " + influence.High,
                                         static_cast<double>(influence.AtLow), static_cast<double>(influence.AtHigh)});
         if (!std::isfinite(picture.Middle) && !picture.Bars.empty()) picture.Middle = picture.Bars.front().AtLow;
-        return format == "svg" ? TornadoSvg(picture) : format == "png" ? TornadoPng(picture) : TornadoPdf(picture);
+        const auto kind = format == "svg" ? PictureKind::Svg : format == "png" ? PictureKind::Png : PictureKind::Pdf;
+        return TornadoFile(kind, picture);
     }
 
     std::string StepTables(const std::vector<StepTable>& tables) const override { return StepTablesXlsx(tables); }

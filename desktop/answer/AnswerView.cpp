@@ -14,6 +14,7 @@
 #include "desktop/PageTools.h"
 #include "desktop/PaneKeys.h"
 #include "desktop/Sizes.h"
+#include "desktop/WidgetInk.h"
 #include "desktop/answer/AnswerCurveView.h"
 #include "desktop/answer/AnswerList.h"
 #include "desktop/answer/StateMark.h"
@@ -37,9 +38,7 @@ QPushButton* LinkButton(QWidget* parent, const char* name) {
     button->setAutoDefault(false);
     button->setFlat(true);
     button->setCursor(Qt::PointingHandCursor);
-    QPalette palette = button->palette();
-    palette.setColor(QPalette::ButtonText, palette.color(QPalette::Link));
-    button->setPalette(palette);
+    SetInk(*button, Ink::Link, QPalette::ButtonText);
     QSizePolicy policy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     policy.setRetainSizeWhenHidden(true);
     button->setSizePolicy(policy);
@@ -92,6 +91,13 @@ void AnswerView::Build() {
     keep_->setCheckable(true);
     keep_->setToolTip(Q(Text(913006_text)));
     connect(keep_, &QPushButton::clicked, this, [this](bool on) { live_.Keep(on); });
+    study_ = new QPushButton(Q(Text(913250_text, Styles::Button)), this);
+    study_->setObjectName(QStringLiteral("answerStudy"));
+    study_->setAutoDefault(false);
+    study_->setToolTip(Q(Text(913252_text)));
+    connect(study_, &QPushButton::clicked, this, [this] {
+        if (OnStudy) OnStudy();
+    });
     hide_ = new QToolButton(this);
     hide_->setObjectName(QStringLiteral("answerHide"));
     hide_->setArrowType(layoutDirection() == Qt::RightToLeft ? Qt::LeftArrow : Qt::RightArrow);
@@ -105,6 +111,7 @@ void AnswerView::Build() {
     head->addWidget(title);
     head->addStretch(1);
     head->addWidget(keep_);
+    head->addWidget(study_);
     head->addWidget(hide_);
     column->addLayout(head);
 
@@ -192,6 +199,12 @@ void AnswerView::showEvent(QShowEvent* event) {
     if (event->spontaneous() || !shown_ || live_.State() != AnswerState::None) return;
     live_.Chosen();
     Wait();
+}
+
+// The state, its mark and the values are in inks of light or dark windows.
+void AnswerView::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && curves_ != nullptr) Follow();
 }
 
 void AnswerView::Wait() {

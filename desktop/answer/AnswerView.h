@@ -32,13 +32,14 @@ class AnswerView : public QWidget {
     // Nobody sees it: nothing is worked out.
     void SetShown(bool shown);
 
-    std::function<void()> OnHide;                   // its button
+    std::function<void()> OnStudy, OnHide;          // its buttons
     std::function<void(const Control& box)> OnBox;  // the link to the box that stops it
 
     QSize sizeHint() const override;
 
   protected:
     void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
     void Build();
@@ -56,14 +57,14 @@ class AnswerView : public QWidget {
     QTimer timer_;
     bool shown_ = true, all_ = false;
 
-    QPushButton* keep_;
+    QPushButton *keep_, *study_;
     QToolButton* hide_;
     QLabel* state_;
     QLabel* mark_;
     QPushButton *ask_, *more_, *notices_;
     QProgressBar* progress_;
     AnswerList* list_;
-    AnswerCurveView* curves_;
+    AnswerCurveView* curves_ = nullptr;
 };
 
 }  // namespace lithmark

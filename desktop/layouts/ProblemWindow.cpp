@@ -11,12 +11,13 @@
 #include "desktop/ScrollColumn.h"
 #include "desktop/Sizes.h"
 #include "desktop/SpokenAlert.h"
+#include "desktop/WidgetInk.h"
 #include "desktop/answer/AnswerView.h"
 #include "desktop/answer/SidePanes.h"
 #include "desktop/layouts/LayoutTools.h"
+#include "desktop/study/ShowStudy.h"
 #include "desktop/study/StudyButtons.h"
 #include "render/QtText.h"
-#include "render/drawings/Inks.h"
 
 namespace lithmark {
 
@@ -53,9 +54,7 @@ QLabel* ReasonLine(FormView& view) {
     line->setTextFormat(Qt::PlainText);
     line->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     line->setMinimumHeight(line->fontMetrics().lineSpacing());
-    QPalette palette = line->palette();
-    palette.setColor(QPalette::WindowText, ColourOf(Ink::Error, ThemeOf(palette)));
-    line->setPalette(palette);
+    SetInk(*line, Ink::Error);
     return line;
 }
 
@@ -72,8 +71,9 @@ void ShowReason(const FormView& view, Form& form, QLabel& line) {
 }
 
 // The answer as a part of the window.
-void BindAnswer(FormView& view, PictureForm& form, AnswerView& answer, SidePanes& panes) {
-    const auto show = [&view, &form, &answer, &panes](bool shown) {
+void BindAnswer(FormView& view, PictureForm& form, AnswerView& answer, SidePanes& panes, QWidget& study) {
+    const auto show = [&view, &form, &answer, &panes, &study](bool shown) {
+        study.setVisible(!shown);
         form.ShowAnswer(shown);
         panes.ShowAnswer(shown);
         answer.SetShown(shown);
@@ -81,6 +81,8 @@ void BindAnswer(FormView& view, PictureForm& form, AnswerView& answer, SidePanes
     };
     answer.SetShown(form.AnswerShown());
     panes.ShowAnswer(form.AnswerShown());
+    study.setVisible(!form.AnswerShown());
+    answer.OnStudy = [&view, &form] { ShowStudy(form, &view); };
     answer.OnHide = [show] { show(false); };
     panes.OnShowAnswer = [show] { show(true); };
     answer.OnBox = [&view](const Control& box) { view.FocusOn(box); };
@@ -116,12 +118,11 @@ void LayoutProblem(FormView& view, PictureForm& form, std::initializer_list<Grou
     window->addLayout(columns, 1);
     QLabel* reason = ReasonLine(view);
     window->addWidget(reason);
-    QBoxLayout* buttons =
-        ButtonRow(view, {form.cmdSave, form.cmdSaveAs, form.cmdOpen, form.CmdMoreLess, form.cmdHelp},
-                  {form.cmdResult, form.cmdok});
-    AddStudyButtons(view, form, *buttons);
+    QBoxLayout* buttons = ButtonRow(view, {form.cmdSave, form.cmdSaveAs, form.cmdOpen, form.CmdMoreLess, form.cmdHelp},
+                                    {form.cmdResult, form.cmdok});
+    QWidget* study = AddStudyButtons(view, form, *buttons);
     window->addLayout(buttons);
-    BindAnswer(view, form, *answer, *panes);
+    BindAnswer(view, form, *answer, *panes, *study);
     view.AfterRefresh = [&view, &form, reason] { ShowReason(view, form, *reason); };
 }
 

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "desktop/ScreenRoom.h"
 #include "desktop/Sizes.h"
 #include "desktop/Toast.h"
 #include "desktop/study/AskTools.h"
@@ -23,23 +24,29 @@ CommandBar::CommandBar(QWidget* parent) : QWidget(parent), text_(new QLineEdit(t
     text_->setObjectName(QStringLiteral("txtCommand"));
     text_->setReadOnly(true);
     text_->setLayoutDirection(Qt::LeftToRight);
-    row->addWidget(AskLabel(this, Text(913234_text), text_));
+    QLabel* label = AskLabel(this, Text(913234_text), text_);
+    row->addWidget(label);
     row->addWidget(text_, 1);
-    auto* copy = new QPushButton(Q(Text(913259_text, Styles::Button)), this);
-    copy->setObjectName(QStringLiteral("cmdCopy"));
-    copy->setAutoDefault(false);
-    copy->setMinimumHeight(sizes::kClicked);
-    connect(copy, &QPushButton::clicked, this, [this] {
+    const bool small = OnSmallScreen(*this);
+    label->setHidden(small);
+    text_->setHidden(small);
+    copy_ = new QPushButton(Q(Text(913259_text, Styles::Button)), this);
+    copy_->setObjectName(QStringLiteral("cmdCopy"));
+    copy_->setAutoDefault(false);
+    copy_->setMinimumHeight(sizes::kClicked);
+    connect(copy_, &QPushButton::clicked, this, [this] {
         QApplication::clipboard()->setText(text_->text());
         ShowToast(*window(), Q(Text(913243_text)));
     });
-    row->addWidget(copy);
+    row->addWidget(copy_);
 }
 
 void CommandBar::Show(const std::vector<std::string>& words) {
     const QString text = words.empty() ? QString() : Q(CommandText(words));
     if (text_->text() == text) return;
     text_->setText(text);
+    copy_->setToolTip(text);
+    copy_->setEnabled(!text.isEmpty());
     text_->setCursorPosition(0);
 }
 

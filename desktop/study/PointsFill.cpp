@@ -10,9 +10,9 @@
 
 #include "desktop/BoxMark.h"
 #include "desktop/Sizes.h"
+#include "desktop/WidgetInk.h"
 #include "desktop/study/AskTools.h"
 #include "render/QtText.h"
-#include "render/drawings/Inks.h"
 #include "services/SharedServices.h"
 #include "services/texts/LanguageTexts.h"
 #include "study/window/ShortNumber.h"
@@ -64,9 +64,7 @@ PointsFill::PointsFill(PointsTable& points, Kind kind, QWidget* parent)
     note_->setObjectName(QStringLiteral("lblNote"));
     note_->setWordWrap(true);
     note_->setMinimumHeight(2 * note_->fontMetrics().height());
-    QPalette ink = note_->palette();
-    ink.setColor(QPalette::WindowText, ColourOf(Ink::Error, ThemeOf(palette())));
-    note_->setPalette(ink);
+    SetInk(*note_, Ink::Error);
     column->addWidget(note_);
     auto* row = new QHBoxLayout;
     row->addStretch(1);

@@ -13,9 +13,12 @@
 #include "desktop/ChartView.h"
 #include "desktop/EditGrid.h"
 #include "desktop/ManualTopics.h"
+#include "desktop/PaneKeys.h"
 #include "desktop/SaveChart.h"
 #include "desktop/SaveDialog.h"
+#include "desktop/ScreenRoom.h"
 #include "desktop/Sizes.h"
+#include "desktop/WidgetInk.h"
 #include "desktop/study/AskTools.h"
 #include "desktop/study/CommandBar.h"
 #include "desktop/study/SaveTable.h"
@@ -33,7 +36,7 @@ namespace lithmark {
 
 namespace {
 
-constexpr int kPointsRest = 300;  // ms after the last change until the points are worked
+constexpr int kPointsRest = 150;  // ms after the last change until the points are worked
 
 std::vector<FieldChoice> CoordinatesOf(const StudySubject& subject) {
     std::vector<FieldChoice> coordinates;
@@ -41,6 +44,11 @@ std::vector<FieldChoice> CoordinatesOf(const StudySubject& subject) {
         for (const FieldChoice& field : subject.Fields)
             if (field.Name == name) coordinates.push_back(field);
     return coordinates;
+}
+
+// "Sigma_z, kN/m2", for those who hear a cell.
+std::string InWords(const ResultChoice& result) {
+    return result.Symbol + (result.Unit.empty() ? "" : ", " + result.Unit);
 }
 
 }  // namespace
@@ -78,9 +86,14 @@ PointsWindow::PointsWindow(const StudySubject& subject, QWidget* parent)
     progress_ = new WorkRow(this, [this] { process_.Cancel(); });
     column->addWidget(progress_);
     command_ = new CommandBar(this);
-    column->addWidget(command_);
-    column->addLayout(Buttons());
+    QBoxLayout* buttons = Buttons();
+    if (OnSmallScreen(*this))
+        buttons->insertWidget(buttons->count() - 1, command_);
+    else
+        column->addWidget(command_);
+    column->addLayout(buttons);
     BindHelpKey(*this, [] { return std::string("studies"); });
+    new PaneKeys(*this);
     grid_->OnRows = [this] { Changed(); };
     grid_->OnSelection = [this] { ShowState(); };
     grid_->OnPasted = [this](const std::string& words) {
@@ -157,7 +170,7 @@ QWidget* PointsWindow::ChartTab() {
     return page;
 }
 
-QLayout* PointsWindow::Buttons() {
+QBoxLayout* PointsWindow::Buttons() {
     auto* row = new QHBoxLayout;
     row->setSpacing(sizes::kColumnGap);
     const QString dots = QStringLiteral("...");
@@ -171,6 +184,12 @@ QLayout* PointsWindow::Buttons() {
     row->addStretch(1);
     AskButton(this, *row, Q(Text(913247_text, Styles::Button)), "cmdok", [this] { accept(); });
     return row;
+}
+
+// The rows are marked in inks of light or dark windows.
+void PointsWindow::changeEvent(QEvent* event) {
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && save_ != nullptr) ShowResults(true);
 }
 
 // --- the points ---
@@ -299,6 +318,10 @@ void PointsWindow::ShowRow(int row) {
             if (!IsMissing(number)) text = points_.Results()[place].Shown(static_cast<double>(number));
         }
         item->setText(Q(text));
+        const std::string head =
+            column == last ? Text(913330_text) : InWords(points_.Results()[static_cast<std::size_t>(column - first)]);
+        item->setData(Qt::AccessibleTextRole,
+                      Q(Text(906538_text, {{"|1", std::to_string(row + 1)}, {"|2", head}}) + ", " + text));
         item->setForeground(wrong     ? QBrush(ColourOf(Ink::Error, theme))
                             : noticed ? QBrush(ColourOf(Ink::Warning, theme))
                                       : QBrush());

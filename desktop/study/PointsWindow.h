@@ -13,6 +13,7 @@
 #include "desktop/study/StudySubject.h"
 #include "ui/model/DraftProject.h"
 
+class QBoxLayout;
 class QComboBox;
 class QLabel;
 class QPushButton;
@@ -35,11 +36,14 @@ class PointsWindow : public QDialog {
     const StudyTable* Table() const noexcept { return table_.get(); }
     bool Working() const noexcept { return process_.Running(); }
 
+  protected:
+    void changeEvent(QEvent* event) override;
+
   private:
     QLayout* FillRow();
     QWidget* PointsTab();
     QWidget* ChartTab();
-    QLayout* Buttons();
+    QBoxLayout* Buttons();
 
     void Fill(PointsFill::Kind kind);
     // The points are other ones.

@@ -1,6 +1,7 @@
 #include "desktop/study/SaveTable.h"
 
 #include <QWidget>
+#include <functional>
 
 #include "core/Session.h"
 #include "desktop/SaveDialog.h"
@@ -19,15 +20,27 @@ void SaveSheetFile(QWidget& window, const std::vector<std::vector<std::string>>&
            [&](const QString&) { return TableXlsx(Session.ProjectName, table); });
 }
 
-void SaveTornadoFile(QWidget& window, const TornadoPicture& picture) {
+namespace {
+
+void SavePicture(QWidget& window, const std::function<std::string(PictureKind)>& file) {
     SaveAs(window,
            {{QStringLiteral("PDF"), QStringLiteral("pdf")},
             {QStringLiteral("PNG"), QStringLiteral("png")},
             {QStringLiteral("SVG"), QStringLiteral("svg")}},
            [&](const QString& ending) {
-               if (ending == QStringLiteral("svg")) return TornadoSvg(picture);
-               return ending == QStringLiteral("png") ? TornadoPng(picture) : TornadoPdf(picture);
+               if (ending == QStringLiteral("svg")) return file(PictureKind::Svg);
+               return file(ending == QStringLiteral("png") ? PictureKind::Png : PictureKind::Pdf);
            });
+}
+
+}  // namespace
+
+void SaveFieldChartFile(QWidget& window, const FieldChart& chart) {
+    SavePicture(window, [&](PictureKind kind) { return FieldChartFile(kind, chart); });
+}
+
+void SaveTornadoFile(QWidget& window, const TornadoPicture& picture) {
+    SavePicture(window, [&](PictureKind kind) { return TornadoFile(kind, picture); });
 }
 
 }  // namespace lithmark

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "render/FieldChartDocument.h"
 #include "render/TornadoDocument.h"
 
 class QWidget;
@@ -15,6 +16,7 @@ void SaveCsvFile(QWidget& window, const std::string& csv);
 // A table with its head as a spreadsheet.
 void SaveSheetFile(QWidget& window, const std::vector<std::vector<std::string>>& table);
 // PDF, PNG or SVG.
+void SaveFieldChartFile(QWidget& window, const FieldChart& chart);
 void SaveTornadoFile(QWidget& window, const TornadoPicture& picture);
 
 }  // namespace lithmark

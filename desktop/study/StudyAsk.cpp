@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <algorithm>
 
 #include "desktop/BoxMark.h"
@@ -47,9 +48,27 @@ StudyAsk::StudyAsk(StudyQuestion& question, QWidget* parent) : QWidget(parent), 
 QGroupBox* StudyAsk::VaryGroup() {
     auto* group = new QGroupBox(Q(Text(913200_text)), this);
     QVBoxLayout* column = GroupColumn(group);
-    for (int line = 0; line < StudyQuestion::kVaryLines; ++line)
-        column->addWidget(new VaryBoxes(
-            question_, line, [this] { Changed(); }, group));
+    for (std::size_t line = 0; line < vary_.size(); ++line) {
+        vary_[line] = new VaryBoxes(
+            question_, static_cast<int>(line), [this] { Changed(); }, group);
+        column->addWidget(vary_[line]);
+    }
+    family_ = new QRadioButton(Q(Text(913255_text)), group);
+    family_->setObjectName(NumberedName("optDraw", 1));
+    contour_ = new QRadioButton(Q(Text(913256_text)), group);
+    contour_->setObjectName(NumberedName("optDraw", 2));
+    (question_.ContourAsked() ? contour_ : family_)->setChecked(true);
+    connect(contour_, &QRadioButton::toggled, this, [this](bool on) {
+        question_.DrawContour(on);
+        vary_[1]->Show();
+        Changed();
+    });
+    auto* row = new QHBoxLayout;
+    row->setSpacing(sizes::kColumnGap);
+    row->addWidget(family_);
+    row->addWidget(contour_);
+    row->addStretch(1);
+    column->addLayout(row);
     return group;
 }
 
@@ -158,6 +177,7 @@ void StudyAsk::ShowLines() {
         random_[line]->setVisible(former || set);
         former = set;
     }
+    for (QRadioButton* option : {family_, contour_}) option->setVisible(question_.SecondVaried() != nullptr);
     const bool random = question_.IsRandom();
     for (QWidget* widget : std::initializer_list<QWidget*>{samplesLabel_, samples_, shareLabel_, share_})
         if (widget != nullptr) widget->setVisible(random);

@@ -13,6 +13,7 @@ class QComboBox;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
+class QRadioButton;
 class QPushButton;
 
 namespace lithmark {
@@ -40,6 +41,8 @@ class StudyAsk : public QWidget {
     void ShowLimit();
 
     StudyQuestion& question_;
+    std::array<VaryBoxes*, StudyQuestion::kVaryLines> vary_{};
+    QRadioButton *family_ = nullptr, *contour_ = nullptr;
     std::array<RandomBoxes*, StudyQuestion::kRandomLines> random_{};
     QLineEdit *samples_ = nullptr, *limit_ = nullptr, *share_ = nullptr;
     QLabel *samplesLabel_ = nullptr, *limitUnit_ = nullptr, *shareLabel_ = nullptr;

@@ -28,7 +28,7 @@ QPushButton* AddButton(FormView& view, const char* name, TextId caption, TextId 
 
 }  // namespace
 
-void AddStudyButtons(FormView& view, ProblemForm& form, QBoxLayout& row) {
+QWidget* AddStudyButtons(FormView& view, ProblemForm& form, QBoxLayout& row) {
     QWidget* results = view.WidgetOf(form.cmdResult);
     QWidget* before = nullptr;
     for (int i = 0; i < row.indexOf(results); ++i)
@@ -44,6 +44,7 @@ void AddStudyButtons(FormView& view, ProblemForm& form, QBoxLayout& row) {
         before = button;
     }
     QWidget::setTabOrder(before, results);
+    return buttons.front();
 }
 
 }  // namespace lithmark

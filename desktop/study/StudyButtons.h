@@ -2,6 +2,7 @@
 #pragma once
 
 class QBoxLayout;
+class QWidget;
 
 namespace lithmark {
 
@@ -9,7 +10,7 @@ class FormView;
 class ProblemForm;
 
 // Puts them into a row of buttons, ahead of the form's results, on the way of the Tab key too. The form lives as long
-// as the view.
-void AddStudyButtons(FormView& view, ProblemForm& form, QBoxLayout& row);
+// as the view. Returns the button of the study, which is for windows whose answer, with a button of its own, is hidden.
+QWidget* AddStudyButtons(FormView& view, ProblemForm& form, QBoxLayout& row);
 
 }  // namespace lithmark

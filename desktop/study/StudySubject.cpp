@@ -3,8 +3,8 @@
 #include <QLabel>
 
 #include "core/Session.h"
+#include "desktop/WidgetInk.h"
 #include "render/QtText.h"
-#include "render/drawings/Inks.h"
 #include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
@@ -23,12 +23,6 @@ QLabel* WordsLabel(QWidget* parent, const char* name, int lines) {
     label->setAlignment((LanguageTexts().RightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute |
                         Qt::AlignVCenter);
     return label;
-}
-
-void SetInk(QLabel& label, Ink ink) {
-    QPalette palette = label.palette();
-    palette.setColor(QPalette::WindowText, ColourOf(ink, ThemeOf(palette)));
-    label.setPalette(palette);
 }
 
 QLabel* InputLabel(QWidget* parent, const StudySubject& subject) {

@@ -27,7 +27,5 @@ std::string SavedProject();
 QLabel* InputLabel(QWidget* parent, const StudySubject& subject);
 // A label for words of so many lines, at the side where the language begins.
 QLabel* WordsLabel(QWidget* parent, const char* name, int lines);
-enum class Ink;
-void SetInk(QLabel& label, Ink ink);
 
 }  // namespace lithmark

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QStackedWidget>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTableWidget>
@@ -12,11 +13,15 @@
 #include "desktop/ChartPane.h"
 #include "desktop/ChartView.h"
 #include "desktop/ManualTopics.h"
+#include "desktop/PaneKeys.h"
 #include "desktop/SaveChart.h"
+#include "desktop/ScreenRoom.h"
 #include "desktop/ScrollColumn.h"
 #include "desktop/Sizes.h"
+#include "desktop/WidgetInk.h"
 #include "desktop/study/AskTools.h"
 #include "desktop/study/CommandBar.h"
+#include "desktop/study/FieldChartView.h"
 #include "desktop/study/SaveTable.h"
 #include "desktop/study/StudyAsk.h"
 #include "desktop/study/TornadoTab.h"
@@ -28,13 +33,14 @@
 #include "services/texts/LanguageTexts.h"
 #include "study/window/ShortNumber.h"
 #include "study/window/StudyCharts.h"
+#include "study/window/StudyContour.h"
 #include "study/window/StudyMemory.h"
 
 namespace lithmark {
 
 namespace {
 
-constexpr int kStudyRest = 300;  // ms after the last change until the study begins
+constexpr int kStudyRest = 150;  // ms after the last change until the study begins
 constexpr std::size_t kMostRowsShown = 2000;
 
 const std::string kStudySection = "Study";
@@ -73,9 +79,14 @@ StudyWindow::StudyWindow(const StudySubject& subject, QWidget* parent)
     run_->setToolTip(QKeySequence(Qt::Key_F5).toString(QKeySequence::NativeText));
     column->addWidget(progress_);
     command_ = new CommandBar(this);
-    column->addWidget(command_);
-    column->addLayout(Buttons());
+    QBoxLayout* buttons = Buttons();
+    if (OnSmallScreen(*this))
+        buttons->insertWidget(buttons->count() - 1, command_);
+    else
+        column->addWidget(command_);
+    column->addLayout(buttons);
     BindHelpKey(*this, [] { return std::string("studies"); });
+    new PaneKeys(*this);
 
     ask_->OnChange = tornado_->OnChange = [this] { Asked(); };
     ask_->OnFind = [this] { Find(); };
@@ -102,9 +113,14 @@ QWidget* StudyWindow::Tabs() {
         tabs_->addTab(page, Q(Text(text)));
     };
     constexpr int kLegendRoom = 560, kLeastPlot = 150;
-    curve_ = new ChartPane(chart(), tabs_, kLegendRoom);
+    drawn_ = new QStackedWidget(tabs_);
+    curve_ = new ChartPane(chart(), drawn_, kLegendRoom);
     curve_->setObjectName(QStringLiteral("curve"));
-    add(curve_, 913227_text);
+    contour_ = new FieldChartView(drawn_);
+    contour_->setObjectName(QStringLiteral("contour"));
+    drawn_->addWidget(curve_);
+    drawn_->addWidget(contour_);
+    add(drawn_, 913227_text);
     add(TableTab(), 913228_text);
     histogram_ = new ChartPane(HistogramChart(question_, {}), tabs_, kLegendRoom);
     histogram_->setObjectName(QStringLiteral("histogram"));
@@ -130,7 +146,7 @@ QWidget* StudyWindow::TableTab() {
     return page;
 }
 
-QLayout* StudyWindow::Buttons() {
+QBoxLayout* StudyWindow::Buttons() {
     auto* row = new QHBoxLayout;
     row->setSpacing(sizes::kColumnGap);
     const QString dots = QStringLiteral("...");
@@ -147,6 +163,12 @@ QLayout* StudyWindow::Buttons() {
 void StudyWindow::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_F5) return Run();
     QDialog::keyPressEvent(event);
+}
+
+// The rows are marked in inks of light or dark windows.
+void StudyWindow::changeEvent(QEvent* event) {
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && work_.Rows() != nullptr) ShowTable();
 }
 
 void StudyWindow::done(int result) {
@@ -237,7 +259,7 @@ void StudyWindow::ShowRows() {
     std::string answer;
     if (asked.FirstVaried() != nullptr) {
         const StudyCurves curves = CurvesOf(asked, *work_.Rows(), work_.Present());
-        curve_->ShowChart(CurveChart(asked, curves));
+        ShowCurves(asked, curves);
         if (work_.Doing() != StudyWork::Job::Rows) answer = CrossingText(asked, curves);
     }
     if (asked.IsRandom()) {
@@ -253,6 +275,16 @@ void StudyWindow::ShowRows() {
     if (!question_.Faults().empty() && tabs_->currentIndex() != kTornado) return;
     answer_->setText((LanguageTexts().RightToLeft() ? QString(QChar(0x200F)) : QString()) + Q(answer));
     SetInk(*answer_, work_.Trouble().empty() ? Ink::Text : Ink::Error);
+}
+
+void StudyWindow::ShowCurves(const StudyQuestion& asked, const StudyCurves& curves) {
+    const bool contour = asked.DrawsContour();
+    tabs_->setTabText(kCurve, Q(Text(contour ? 140017_text : 913227_text)));
+    drawn_->setCurrentWidget(contour ? static_cast<QWidget*>(contour_) : curve_);
+    if (!contour) return curve_->ShowChart(CurveChart(asked, curves));
+    const std::optional<FieldChart> chart = ContourOf(asked, curves);
+    contour_->Show(chart, chart ? ContourWords(asked, *chart) : std::string(),
+                   [asked, chart](const FieldPoint& at) { return UnderContour(asked, *chart, at); });
 }
 
 void StudyWindow::ShowTable() {
@@ -279,6 +311,10 @@ void StudyWindow::ShowTable() {
                           Q(row.Cells[static_cast<std::size_t>(c)]));
             item->setTextAlignment(words ? Qt::Alignment(Qt::AlignVCenter | Qt::AlignLeading)
                                          : Qt::AlignRight | Qt::AlignVCenter | Qt::AlignAbsolute);
+            item->setData(
+                Qt::AccessibleTextRole,
+                Q(Text(906538_text, {{"|1", std::to_string(r + 1)}, {"|2", rows.Heads[static_cast<std::size_t>(c)]}}) +
+                  ", " + row.Cells[static_cast<std::size_t>(c)]));
             QFont font = table_->font();
             font.setBold(row.Crossed);
             item->setFont(font);
@@ -335,7 +371,9 @@ void StudyWindow::ShowProgress() {
     const bool any = done > 0 && work_.Doing() != Job::Rows;
     csv_->setEnabled(any);
     sheet_->setEnabled(any);
-    chart_->setEnabled(tabs_->currentIndex() == kTornado ? !tornado_->Picture().Bars.empty() : any);
+    const bool contour = tabs_->currentIndex() == kCurve && drawn_->currentWidget() == contour_;
+    chart_->setEnabled(tabs_->currentIndex() == kTornado ? !tornado_->Picture().Bars.empty()
+                                                         : any && (!contour || contour_->Chart().has_value()));
 }
 
 void StudyWindow::ShowCommand() {
@@ -353,6 +391,8 @@ void StudyWindow::ShowCommand() {
 
 void StudyWindow::SaveShown() {
     if (tabs_->currentIndex() == kTornado) return SaveTornadoFile(*this, tornado_->Picture());
+    if (tabs_->currentIndex() == kCurve && drawn_->currentWidget() == contour_)
+        return SaveFieldChartFile(*this, *contour_->Chart());
     ChartView& plot = (tabs_->currentIndex() == kHistogram ? histogram_ : curve_)->Plot();
     SaveChart(this, plot.Chart(), plot.Look());
 }

@@ -9,8 +9,10 @@
 #include "desktop/study/StudySubject.h"
 #include "desktop/study/StudyWork.h"
 
+class QBoxLayout;
 class QLabel;
 class QPushButton;
+class QStackedWidget;
 class QTabWidget;
 class QTableWidget;
 
@@ -18,6 +20,7 @@ namespace lithmark {
 
 class ChartPane;
 class CommandBar;
+class FieldChartView;
 class StudyAsk;
 class TornadoTab;
 class WorkRow;
@@ -32,13 +35,14 @@ class StudyWindow : public QDialog {
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
     enum Tab { kCurve, kTable, kHistogram, kTornado };
 
     QWidget* Tabs();
     QWidget* TableTab();
-    QLayout* Buttons();
+    QBoxLayout* Buttons();
 
     // After a change of what is asked, and as the former one has rested for a moment.
     void Asked();
@@ -49,6 +53,7 @@ class StudyWindow : public QDialog {
     void Came();
     void ShowWork();
     void ShowRows();
+    void ShowCurves(const StudyQuestion& asked, const StudyCurves& curves);
     void ShowTable();
     void ShowTornado();
     void ShowProgress();
@@ -69,7 +74,9 @@ class StudyWindow : public QDialog {
 
     StudyAsk* ask_ = nullptr;
     QTabWidget* tabs_ = nullptr;
+    QStackedWidget* drawn_ = nullptr;  // curves or a contour
     ChartPane *curve_ = nullptr, *histogram_ = nullptr;
+    FieldChartView* contour_ = nullptr;
     TornadoTab* tornado_ = nullptr;
     QTableWidget* table_ = nullptr;
     QLabel *answer_ = nullptr, *tableNote_ = nullptr;

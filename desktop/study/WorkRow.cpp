@@ -6,10 +6,10 @@
 #include <QPushButton>
 
 #include "desktop/Sizes.h"
+#include "desktop/WidgetInk.h"
 #include "desktop/study/AskTools.h"
 #include "desktop/study/StudySubject.h"
 #include "render/QtText.h"
-#include "render/drawings/Inks.h"
 #include "services/texts/LanguageTexts.h"
 
 namespace lithmark {

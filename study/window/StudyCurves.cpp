@@ -83,7 +83,7 @@ StudyCurves CurvesOf(const StudyQuestion& asked, const StudyTable& table, const 
     if (first == nullptr) return curves;
     const FieldValues across(first, table), family(second, table);
     curves.X = across.All();
-    const std::vector<double> members = family.All();
+    const std::vector<double>& members = curves.Family = family.All();
     const auto gaps = [&] { return std::vector<double>(curves.X.size(), kGap); };
     // By the member of the family and the place across.
     std::vector<std::vector<std::vector<float>>> samples(members.size());
@@ -145,8 +145,12 @@ std::string CrossingText(const StudyQuestion& asked, const StudyCurves& curves) 
         return curves.Curves.size() == 1 ? where : where + " (" + curves.Curves[crossing.Curve].Name + ")";
     };
     std::string places;
-    for (const CurveCrossing& crossing : curves.Crossings)
-        places += (places.empty() ? "" : Text(913314_text) + " ") + at(crossing);
+    if (asked.DrawsContour() && curves.Crossings.size() > 2) {
+        places = at(curves.Crossings.front()) + " ... " + at(curves.Crossings.back());
+    } else {
+        for (const CurveCrossing& crossing : curves.Crossings)
+            places += (places.empty() ? "" : Text(913314_text) + " ") + at(crossing);
+    }
     const std::string what = drawn.Symbol + " = " + limit;
     if (places.empty()) return Text(913316_text, {{"|1", what}});
     return Text(913315_text, {{"|1", what}, {"|2", places}});

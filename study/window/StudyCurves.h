@@ -25,7 +25,8 @@ struct CurveCrossing {
 
 // All in the units of the windows.
 struct StudyCurves {
-    std::vector<double> X;  // ascending
+    std::vector<double> X;       // ascending
+    std::vector<double> Family;  // of the second field, a curve each; one without a meaning where there is none
     std::vector<StudyCurve> Curves;
     std::vector<CurveCrossing> Crossings;
     std::optional<double> Limit;
@@ -42,8 +43,8 @@ StudyCurves CurvesOf(const StudyQuestion& asked, const StudyTable& table, const 
 // The rows of a table between which the limit is crossed, by their places among its lines; for curves of single rows.
 std::vector<std::size_t> CrossedRows(const StudyQuestion& asked, const StudyTable& table);
 
-// "s = 5.00 cm at a = 3.42 m", for each crossing and each curve; that there is none where rows are on one side alone;
-// empty without a limit.
+// "s = 5.00 cm at a = 3.42 m", for each crossing and each curve, of a contour for the outermost ones; that there is
+// none where rows are on one side alone; empty without a limit.
 std::string CrossingText(const StudyQuestion& asked, const StudyCurves& curves);
 
 }  // namespace lithmark

@@ -36,6 +36,7 @@ std::string MemoryOf(const StudyQuestion& question) {
     std::string memory = "first=" + StepsText(question.Vary[0]);
     if (const FieldChoice* second = question.Varied(1))
         memory += "|second=" + second->Name + ";" + StepsText(question.Vary[1]);
+    if (question.ContourAsked()) memory += "|as=contour";
     memory += "|draw=" + question.Drawn().Take;
     for (std::size_t i = 0; i < question.Taken.size(); ++i)
         if (question.Taken[i]) memory += "|take=" + question.Results()[i].Take;
@@ -45,6 +46,7 @@ std::string MemoryOf(const StudyQuestion& question) {
 void Recall(StudyQuestion& question, const std::string& memory) {
     if (memory.empty()) return;
     question.Taken.assign(question.Taken.size(), false);
+    question.DrawContour(memory.find("|as=contour") != std::string::npos);
     for (const std::string& part : Split(memory, '|')) {
         const std::size_t equals = std::min(part.find('='), part.size());
         const std::string what = part.substr(0, equals), value = part.substr(std::min(equals + 1, part.size()));

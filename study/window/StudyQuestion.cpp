@@ -97,7 +97,7 @@ void StudyQuestion::ChooseVaried(int line, int field) {
     const FieldRange range = ProposedRange(*choice);
     vary.From = ShortNumber(range.From);
     vary.To = ShortNumber(range.To);
-    const int values = line == 0 ? kValues : kFamily;
+    const int values = line == 0 ? kValues : contour_ ? kContour : kFamily;
     const int whole = static_cast<int>(std::min<double>(values, range.To - range.From + 1));
     vary.Count = std::to_string(choice->Whole ? std::max(2, whole) : values);
     vary.List = vary.From + "; " + vary.To;
@@ -124,6 +124,13 @@ void StudyQuestion::ProposeTexts(int randomLine) {
         random.Texts = {from, to, ""};
     else
         random.Texts = {from, choice->Value == 0 ? from : mean, to};
+}
+
+void StudyQuestion::DrawContour(bool on) {
+    std::string& count = Vary[1].Count;
+    const std::string former = std::to_string(contour_ ? kContour : kFamily);
+    contour_ = on;
+    if (count == former) count = std::to_string(on ? kContour : kFamily);
 }
 
 bool StudyQuestion::IsRandom() const {
@@ -155,7 +162,11 @@ void StudyQuestion::AddVaryFaults(std::vector<AskFault>& faults, int line) const
     const std::size_t before = faults.size();
     check("txtFrom", vary.From, kind, field->Greatest, field->Least, field->Label);
     check("txtTo", vary.To, kind, field->Greatest, field->Least, field->Label);
-    check("txtCount", vary.Count, kWhole, line == 0 ? kMostValues : kMostFamily, 2, Text(913301_text));
+    check("txtCount", vary.Count, kWhole,
+          line == 0  ? kMostValues
+          : contour_ ? kMostContour
+                     : kMostFamily,
+          2, Text(913301_text));
     if (faults.size() > before) return;
     const double from = NumberOf(vary.From), to = NumberOf(vary.To);
     if (from == to) faults.push_back({BoxOf("txtTo", line), Text(913302_text, {{"|1", field->Label}})});

@@ -45,7 +45,7 @@ struct AskFault {
 class StudyQuestion {
   public:
     static constexpr int kVaryLines = 2, kRandomLines = 3;
-    static constexpr int kValues = 21, kFamily = 7, kMostFamily = 12;
+    static constexpr int kValues = 21, kFamily = 7, kMostFamily = 12, kContour = 15, kMostContour = 60;
 
     // Begins with the field `first` and the result that is looked for most often.
     StudyQuestion(std::vector<FieldChoice> fields, std::vector<ResultChoice> results, int first);
@@ -67,6 +67,13 @@ class StudyQuestion {
     void ChooseVaried(int line, int field);
     void ChooseRandom(int line, int field);
     void ProposeTexts(int randomLine);
+
+    // Draws the result over both varied fields instead of a family of curves; its number of values follows as long as
+    // it is the proposed one.
+    void DrawContour(bool on);
+    // There is a second field, and a contour is asked for.
+    bool DrawsContour() const { return contour_ && SecondVaried() != nullptr; }
+    bool ContourAsked() const noexcept { return contour_; }
 
     bool IsRandom() const;
     // The field of a line of `Vary`; null where there is none.
@@ -107,6 +114,7 @@ class StudyQuestion {
 
     std::vector<FieldChoice> fields_;
     std::vector<ResultChoice> results_;
+    bool contour_ = false;
 };
 
 }  // namespace lithmark

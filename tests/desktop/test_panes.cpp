@@ -33,7 +33,7 @@ TEST_F(PaneTest, OfADialogAreItsFieldsItsAnswerAndItsButtons) {
     FormView view(form, nullptr);
     Open(view);
     Child<QWidget>(view, "txt_A").setFocus();
-    EXPECT_EQ(After(), "answerHide");
+    EXPECT_EQ(After(), "answerStudy");
     EXPECT_EQ(After(), "cmdSave");
     Child<QWidget>(view, "cmdHelp").setFocus();
     EXPECT_EQ(After(), "txt_A") << "where the focus was";
@@ -41,7 +41,7 @@ TEST_F(PaneTest, OfADialogAreItsFieldsItsAnswerAndItsButtons) {
     EXPECT_EQ(After(Qt::ShiftModifier), "cmdHelp");
     // A box that is gone does not get the focus back.
     EXPECT_EQ(After(), "txt_A");
-    EXPECT_EQ(After(), "answerHide");
+    EXPECT_EQ(After(), "answerStudy");
     EXPECT_EQ(After(), "cmdHelp");
     form.SelectOption(form.optLoadType[0]);
     form.optLoadType_Click();

@@ -20,6 +20,7 @@
 #include "desktop/ChartPane.h"
 #include "desktop/ChartView.h"
 #include "desktop/FormView.h"
+#include "desktop/study/FieldChartView.h"
 #include "desktop/study/StudyWindow.h"
 #include "study/window/CommandWords.h"
 #include "support/Matchers.h"
@@ -239,6 +240,45 @@ TEST_F(StudyWindowTest, CancelKeepsTheRowsSoFarAndSaysHowManyAreMissing) {
               std::to_string(rows) + " of 70000 rows, " + std::to_string(70000 - rows) + " missing");
 }
 
+TEST_F(StudyWindowTest, TwoQuantitiesAreDrawnAsContourLines) {
+    const auto window = Open();
+    AwaitRows(*window);
+    const auto& second = Child<QComboBox>(*window, "cboField(2)");
+    Choose(*window, "cboField(2)", second.findText(QStringLiteral("z  "), Qt::MatchStartsWith));
+    ClickOn(*window, "optDraw(2)");
+    EXPECT_EQ(Child<QLineEdit>(*window, "txtCount(2)").text().toStdString(), "15");
+    TypeInto(*window, "txtCount(1)", "6");
+    TypeInto(*window, "txtCount(2)", "5");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->Work().Rows()->Wanted() == 30; }, kPatience));
+    AwaitRows(*window);
+    auto& view = dynamic_cast<FieldChartView&>(Child<QWidget>(*window, "contour"));
+    EXPECT_TRUE(view.isVisible());
+    EXPECT_EQ(Child<QTabWidget>(*window, "tabs").tabText(0).toStdString(), "Contour lines");
+    ASSERT_TRUE(view.Chart());
+    const StudyTable& rows = *window->Work().Rows();
+    const int h = rows.PlaceOfField("h"), z = rows.PlaceOfField("z");
+    for (const StudyLine& line : rows.Lines()) {
+        const FieldPoint at{std::stod(line.Values[static_cast<std::size_t>(h)]),
+                            std::stod(line.Values[static_cast<std::size_t>(z)])};
+        const auto value = view.Chart()->Field.ValueAt(at);
+        ASSERT_TRUE(value) << at.X << " " << at.Y;
+        EXPECT_NEAR(*value, static_cast<double>(line.Numbers[0]), 1e-5 * *value);
+    }
+    auto& plot = Child<QWidget>(view, "fieldChart");
+    EXPECT_THAT(plot.accessibleDescription().toStdString(), HasSubstr("; h from "));
+    // By the keys: first the present value, then a step to the right.
+    const auto& under = Child<QLabel>(view, "lblUnder");
+    QTest::keyClick(&plot, Qt::Key_Right);
+    EXPECT_THAT(under.text().toStdString(), StartsWith("h = "));
+    const QString first = under.text();
+    QTest::keyClick(&plot, Qt::Key_Right);
+    EXPECT_NE(under.text(), first);
+    EXPECT_THAT(under.text().toStdString(), HasSubstr(" m: s = "));
+    // As curves again, and the same rows.
+    ClickOn(*window, "optDraw(1)");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Child<QWidget>(*window, "curve").isVisible(); }, kPatience));
+}
+
 TEST_F(StudyWindowTest, TheCommandIsCopied) {
     const auto window = Open();
     AwaitRows(*window);
@@ -262,6 +302,14 @@ TEST_F(StudyWindowTest, TheDialogsButtonOpensTheStudyOfTheBoxThatHadTheFocus) {
     FormView view(*form_, nullptr);
     view.show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&view));
+    // One of two buttons: in the head of the answer, and in its absence among those of the dialog.
+    auto& head = Child<QPushButton>(view, "answerStudy");
+    const auto& below = Child<QPushButton>(view, "cmdStudy");
+    EXPECT_TRUE(head.isVisible() && !below.isVisible());
+    QTest::keyClick(&view, Qt::Key_F8);
+    EXPECT_TRUE(!head.isVisible() && below.isVisible());
+    QTest::keyClick(&view, Qt::Key_F8);
+    EXPECT_TRUE(head.isVisible() && !below.isVisible());
     form_->Focus = form_->Find("txt_h");
     std::string first;
     QTimer::singleShot(0, &view, [&] {
@@ -272,7 +320,7 @@ TEST_F(StudyWindowTest, TheDialogsButtonOpensTheStudyOfTheBoxThatHadTheFocus) {
         first = Child<QComboBox>(*modal, "cboField(1)").currentText().toStdString();
         ClickOn(*modal, "cmdok");
     });
-    ClickOn(view, "cmdStudy");
+    ClickOn(view, "answerStudy");
     EXPECT_THAT(first, StartsWith("h  "));
     // A box that is wrong is told, and there is no study.
     form_->Find("txt_h")->Text = "x";
@@ -283,7 +331,7 @@ TEST_F(StudyWindowTest, TheDialogsButtonOpensTheStudyOfTheBoxThatHadTheFocus) {
         told = QApplication::activeModalWidget()->objectName().toStdString();
         QApplication::activeModalWidget()->close();
     });
-    ClickOn(view, "cmdStudy");
+    ClickOn(view, "answerStudy");
     EXPECT_EQ(told, "messageBox");
     SetCurrentHost(&host);
 }

@@ -1,6 +1,8 @@
 // All windows of the program in three languages as pictures, for people to look at:
 //
-//     QT_QPA_PLATFORM=offscreen screenshots OUTDIR [dark]
+//     QT_QPA_PLATFORM=offscreen screenshots OUTDIR [dark] [studies]
+//
+// studies: the windows of studies and points alone.
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
@@ -251,6 +253,9 @@ void TakeStudies(Gallery& gallery) {
     choose(study, "cboField(2)", 1);
     rows(147);
     gallery.Take(study, QStringLiteral("study-family"));
+    study.findChild<QAbstractButton*>(QStringLiteral("optDraw(2)"))->click();
+    rows(315);
+    gallery.Take(study, QStringLiteral("study-contour"));
     choose(study, "cboField(1)", 0);
     choose(study, "cboField(2)", 0);
     choose(study, "cboRandom(1)", 4);
@@ -271,7 +276,7 @@ void TakeStudies(Gallery& gallery) {
                       [&] { points.findChild<QAbstractButton*>(QStringLiteral("cmdGrid"))->click(); });
 }
 
-bool TakeAll(const QString& folder, Language language, const QString& code) {
+bool TakeAll(const QString& folder, Language language, const QString& code, bool studies) {
     const QTemporaryDir place;
     const std::string settings = place.path().toStdString() + "/";
     SharedServices().UseSettingsDirectory(settings);
@@ -301,6 +306,17 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
     window.resize(1280, 800);
     frame.OpenFromCommandLine(settings + "Crane.PO3");
     window.hide();
+    const auto end = [&] {
+        frame.SetWindow(nullptr);
+        SetCurrentHost(nullptr);
+        SharedServices().UseSettingsDirectory("");
+        ResetSession();
+        return !gallery.Failed();
+    };
+    if (studies) {
+        TakeStudies(gallery);
+        return end();
+    }
 
     frmSplash splash([] { return 0LL; });
     splash.Load();
@@ -425,14 +441,8 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
     gallery.TakeModal(QStringLiteral("table-loads"), [&] { oedometer.cmdTimeLoad_Click(); });
     gallery.TakeModal(QStringLiteral("table-oedometer"), [&] { oedometer.CmdOdomterSettlement_Click(); });
     TakeStudies(gallery);
-
     TakeComparison(settings, [&](QWidget& window, const QString& name) { gallery.Take(window, name); });
-
-    frame.SetWindow(nullptr);
-    SetCurrentHost(nullptr);
-    SharedServices().UseSettingsDirectory("");
-    ResetSession();
-    return !gallery.Failed();
+    return end();
 }
 
 }  // namespace
@@ -440,9 +450,11 @@ bool TakeAll(const QString& folder, Language language, const QString& code) {
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
-    const bool dark = argc == 3 && QString::fromLocal8Bit(argv[2]) == QStringLiteral("dark");
-    if ((argc != 2 && !dark) || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
-        QTextStream(stderr) << "screenshots OUTDIR [dark]\n";
+    QStringList words;
+    for (int i = 2; i < argc; ++i) words.append(QString::fromLocal8Bit(argv[i]));
+    const bool dark = words.removeOne(QStringLiteral("dark")), studies = words.removeOne(QStringLiteral("studies"));
+    if (argc < 2 || !words.isEmpty() || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
+        QTextStream(stderr) << "screenshots OUTDIR [dark] [studies]\n";
         return 2;
     }
     lithmark::PrepareApplication(application);
@@ -453,6 +465,6 @@ int main(int argc, char** argv) {
     bool good = true;
     for (const auto& [language, code] :
          {std::pair(Language::German, "de"), std::pair(Language::English, "en"), std::pair(Language::Arabic, "ar")})
-        good = lithmark::TakeAll(folder, language, QString::fromLatin1(code)) && good;
+        good = lithmark::TakeAll(folder, language, QString::fromLatin1(code), studies) && good;
     return good ? 0 : 1;
 }
