@@ -76,7 +76,7 @@ void FieldChartView::Leave() {
 
 // From where the user stands, or from the middle.
 bool FieldChartView::Walk(int key) {
-    constexpr double kSteps = 20;
+    constexpr double kWalkSteps = 20;
     const bool across = key == Qt::Key_Left || key == Qt::Key_Right, up = key == Qt::Key_Up || key == Qt::Key_Down;
     if (!across && !up) return false;
     const FieldChart& chart = *chart_;
@@ -84,8 +84,9 @@ bool FieldChartView::Walk(int key) {
                     : chart.Present ? *chart.Present
                                     : FieldPoint{(chart.Left + chart.Right) / 2, (chart.Bottom + chart.Top) / 2};
     const double way = key == Qt::Key_Right || key == Qt::Key_Up ? 1 : -1;
-    if (place_ && across) at.X = std::clamp(at.X + way * (chart.Right - chart.Left) / kSteps, chart.Left, chart.Right);
-    if (place_ && up) at.Y = std::clamp(at.Y + way * (chart.Top - chart.Bottom) / kSteps, chart.Bottom, chart.Top);
+    if (place_ && across)
+        at.X = std::clamp(at.X + way * (chart.Right - chart.Left) / kWalkSteps, chart.Left, chart.Right);
+    if (place_ && up) at.Y = std::clamp(at.Y + way * (chart.Top - chart.Bottom) / kWalkSteps, chart.Bottom, chart.Top);
     GoTo(at);
     return true;
 }

@@ -190,12 +190,10 @@ void StudyAsk::ShowLimit() {
 void StudyAsk::Mark(const std::vector<AskFault>& faults) {
     for (QLineEdit* box : findChildren<QLineEdit*>()) {
         const auto fault = std::ranges::find(faults, box->objectName().toStdString(), &AskFault::Box);
-        ShowMark(*box, fault == faults.end() ? std::string() : fault->Reason);
+        const std::string reason = fault == faults.end() ? std::string() : fault->Reason;
+        ShowMark(*box, reason);
+        box->setAccessibleDescription(Q(reason));
     }
-}
-
-void StudyAsk::EnableFind(bool on) {
-    find_->setEnabled(on);
 }
 
 }  // namespace lithmark

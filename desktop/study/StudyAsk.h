@@ -30,7 +30,6 @@ class StudyAsk : public QWidget {
 
     // Marks the boxes of faults, and no others.
     void Mark(const std::vector<AskFault>& faults);
-    void EnableFind(bool on);
 
   private:
     QGroupBox* VaryGroup();

@@ -1,14 +1,14 @@
 #include "desktop/study/StudyWindow.h"
 
+#include <QApplication>
 #include <QBoxLayout>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QTableWidget>
 
 #include "desktop/ChartPane.h"
 #include "desktop/ChartView.h"
@@ -22,26 +22,27 @@
 #include "desktop/study/AskTools.h"
 #include "desktop/study/CommandBar.h"
 #include "desktop/study/FieldChartView.h"
+#include "desktop/study/RowsTab.h"
 #include "desktop/study/SaveTable.h"
 #include "desktop/study/StudyAsk.h"
 #include "desktop/study/TornadoTab.h"
 #include "desktop/study/WorkRow.h"
 #include "files/CommonStep.h"
 #include "render/QtText.h"
-#include "render/drawings/Inks.h"
 #include "services/SharedServices.h"
 #include "services/texts/LanguageTexts.h"
 #include "study/window/ShortNumber.h"
 #include "study/window/StudyCharts.h"
 #include "study/window/StudyContour.h"
 #include "study/window/StudyMemory.h"
+#include "ui/model/BoxMarks.h"
 
 namespace lithmark {
 
 namespace {
 
-constexpr int kStudyRest = 150;  // ms after the last change until the study begins
-constexpr std::size_t kMostRowsShown = 2000;
+constexpr int kStudyRest = 150;          // ms after the last change until the study begins
+constexpr int kUnfinishedNumber = 1000;  // ms until it is an error
 
 const std::string kStudySection = "Study";
 
@@ -94,6 +95,13 @@ StudyWindow::StudyWindow(const StudySubject& subject, QWidget* parent)
     rest_.setSingleShot(true);
     rest_.setInterval(kStudyRest);
     connect(&rest_, &QTimer::timeout, this, [this] { Work(false); });
+    // A number that is left is finished.
+    patience_.setSingleShot(true);
+    patience_.setInterval(kUnfinishedNumber);
+    connect(&patience_, &QTimer::timeout, this, [this] { ShowFaults(); });
+    connect(qApp, &QApplication::focusChanged, this, [this] {
+        if (patience_.isActive()) ShowFaults();
+    });
     connect(tabs_, &QTabWidget::currentChanged, this, [this] { Asked(); });
     resize(1080, 720);
     Asked();
@@ -121,7 +129,8 @@ QWidget* StudyWindow::Tabs() {
     drawn_->addWidget(curve_);
     drawn_->addWidget(contour_);
     add(drawn_, 913227_text);
-    add(TableTab(), 913228_text);
+    table_ = new RowsTab(tabs_);
+    add(table_, 913228_text);
     histogram_ = new ChartPane(HistogramChart(question_, {}), tabs_, kLegendRoom);
     histogram_->setObjectName(QStringLiteral("histogram"));
     add(histogram_, 913229_text);
@@ -129,21 +138,6 @@ QWidget* StudyWindow::Tabs() {
     tornado_ = new TornadoTab(question_, tabs_);
     add(tornado_, 913230_text);
     return tabs_;
-}
-
-QWidget* StudyWindow::TableTab() {
-    auto* page = new QWidget(tabs_);
-    auto* column = new QVBoxLayout(page);
-    tableNote_ = WordsLabel(page, "lblTable", 1);
-    tableNote_->hide();
-    column->addWidget(tableNote_);
-    table_ = new QTableWidget(page);
-    table_->setObjectName(QStringLiteral("rows"));
-    table_->setAccessibleName(Q(Text(913228_text)));
-    table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table_->verticalHeader()->hide();
-    column->addWidget(table_, 1);
-    return page;
 }
 
 QBoxLayout* StudyWindow::Buttons() {
@@ -165,12 +159,6 @@ void StudyWindow::keyPressEvent(QKeyEvent* event) {
     QDialog::keyPressEvent(event);
 }
 
-// The rows are marked in inks of light or dark windows.
-void StudyWindow::changeEvent(QEvent* event) {
-    QDialog::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange && work_.Rows() != nullptr) ShowTable();
-}
-
 void StudyWindow::done(int result) {
     UnderCommonStep(
         [&] { SharedServices().SaveSetting(kApplicationTitle, kStudySection, MemoryKey(), MemoryOf(question_)); });
@@ -181,19 +169,30 @@ void StudyWindow::done(int result) {
 
 void StudyWindow::Asked() {
     findShown_ = false;
-    ShowFaults(tabs_->currentIndex() == kTornado ? question_.TornadoFaults() : question_.Faults());
+    const auto* typed = qobject_cast<const QLineEdit*>(focusWidget());
+    if (const bool faulty = !Faults().empty(); faulty && typed != nullptr && IsUnfinished(typed->text().toStdString()))
+        patience_.start();
+    else
+        ShowFaults();
+    run_->setEnabled(Faults().empty());
     ShowCommand();
     ShowProgress();
     rest_.start();
 }
 
-void StudyWindow::ShowFaults(const std::vector<AskFault>& faults) {
+std::vector<AskFault> StudyWindow::Faults() const {
+    return tabs_->currentIndex() == kTornado ? question_.TornadoFaults() : question_.Faults();
+}
+
+void StudyWindow::ShowFaults() {
+    patience_.stop();
     ask_->Mark(question_.Faults());
     tornado_->Mark(question_.TornadoFaults());
-    ask_->EnableFind(true);
-    run_->setEnabled(faults.empty());
-    if (faults.empty()) return;
-    answer_->setText(Q(faults.front().Reason));
+    if (const auto faults = Faults(); !faults.empty()) ShowFault(faults.front().Reason);
+}
+
+void StudyWindow::ShowFault(const std::string& reason) {
+    answer_->setText(Q(reason));
     SetInk(*answer_, Ink::Error);
 }
 
@@ -224,9 +223,7 @@ void StudyWindow::Find() {
     const std::vector<AskFault> faults = question_.FindFaults();
     if (!faults.empty()) {
         ask_->Mark(faults);
-        answer_->setText(Q(faults.front().Reason));
-        SetInk(*answer_, Ink::Error);
-        return;
+        return ShowFault(faults.front().Reason);
     }
     rest_.stop();
     findShown_ = true;
@@ -268,7 +265,7 @@ void StudyWindow::ShowRows() {
     }
     tabs_->setTabEnabled(kCurve, asked.FirstVaried() != nullptr);
     tabs_->setTabEnabled(kHistogram, asked.IsRandom());
-    ShowTable();
+    table_->ShowRows(asked, *work_.Rows());
     if (!work_.Found().empty()) answer = Text(913248_text, {{"|1", work_.Found()}});
     if (work_.Doing() == StudyWork::Job::Find) answer = Text(903005_text);
     if (!work_.Trouble().empty()) answer = work_.Trouble();
@@ -285,47 +282,6 @@ void StudyWindow::ShowCurves(const StudyQuestion& asked, const StudyCurves& curv
     const std::optional<FieldChart> chart = ContourOf(asked, curves);
     contour_->Show(chart, chart ? ContourWords(asked, *chart) : std::string(),
                    [asked, chart](const FieldPoint& at) { return UnderContour(asked, *chart, at); });
-}
-
-void StudyWindow::ShowTable() {
-    const ShownRows rows = RowsOf(*work_.Question(), *work_.Rows(), kMostRowsShown);
-    const std::size_t all = work_.Rows()->Lines().size();
-    tableNote_->setText(Q(Text(913254_text, {{"|1", std::to_string(kMostRowsShown)}, {"|2", std::to_string(all)}})));
-    tableNote_->setVisible(all > kMostRowsShown);
-    const Theme theme = ThemeOf(palette());
-    QStringList heads;
-    for (const std::string& head : rows.Heads) heads.append(Q(head));
-    table_->setColumnCount(static_cast<int>(rows.Heads.size()));
-    table_->setHorizontalHeaderLabels(heads);
-    table_->setRowCount(static_cast<int>(rows.Rows.size()));
-    for (int r = 0; r < table_->rowCount(); ++r) {
-        const ShownRows::Row& row = rows.Rows[static_cast<std::size_t>(r)];
-        for (int c = 0; c < table_->columnCount(); ++c) {
-            const bool words = c >= table_->columnCount() - 2;
-            QTableWidgetItem* item = table_->item(r, c);
-            if (item == nullptr) {
-                item = new QTableWidgetItem;
-                table_->setItem(r, c, item);
-            }
-            item->setText((c == 0 && row.Crossed ? QStringLiteral("× ") : QString()) +
-                          Q(row.Cells[static_cast<std::size_t>(c)]));
-            item->setTextAlignment(words ? Qt::Alignment(Qt::AlignVCenter | Qt::AlignLeading)
-                                         : Qt::AlignRight | Qt::AlignVCenter | Qt::AlignAbsolute);
-            item->setData(
-                Qt::AccessibleTextRole,
-                Q(Text(906538_text, {{"|1", std::to_string(r + 1)}, {"|2", rows.Heads[static_cast<std::size_t>(c)]}}) +
-                  ", " + row.Cells[static_cast<std::size_t>(c)]));
-            QFont font = table_->font();
-            font.setBold(row.Crossed);
-            item->setFont(font);
-            const bool aborted = row.Is == ShownRows::Kind::Aborted, noticed = row.Is == ShownRows::Kind::Noticed;
-            item->setForeground(aborted   ? QBrush(ColourOf(Ink::Error, theme))
-                                : noticed ? QBrush(ColourOf(Ink::Warning, theme))
-                                          : QBrush());
-            item->setToolTip(words ? item->text() : QString());
-        }
-    }
-    table_->resizeColumnsToContents();
 }
 
 void StudyWindow::ShowTornado() {

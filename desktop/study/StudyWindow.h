@@ -14,13 +14,13 @@ class QLabel;
 class QPushButton;
 class QStackedWidget;
 class QTabWidget;
-class QTableWidget;
 
 namespace lithmark {
 
 class ChartPane;
 class CommandBar;
 class FieldChartView;
+class RowsTab;
 class StudyAsk;
 class TornadoTab;
 class WorkRow;
@@ -35,13 +35,11 @@ class StudyWindow : public QDialog {
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
   private:
     enum Tab { kCurve, kTable, kHistogram, kTornado };
 
     QWidget* Tabs();
-    QWidget* TableTab();
     QBoxLayout* Buttons();
 
     // After a change of what is asked, and as the former one has rested for a moment.
@@ -54,11 +52,12 @@ class StudyWindow : public QDialog {
     void ShowWork();
     void ShowRows();
     void ShowCurves(const StudyQuestion& asked, const StudyCurves& curves);
-    void ShowTable();
     void ShowTornado();
     void ShowProgress();
     void ShowCommand();
-    void ShowFaults(const std::vector<AskFault>& faults);
+    std::vector<AskFault> Faults() const;  // of what is looked at
+    void ShowFaults();
+    void ShowFault(const std::string& reason);
     bool RowsAreOld() const;
 
     void SaveShown();
@@ -66,7 +65,7 @@ class StudyWindow : public QDialog {
     const StudySubject subject_;
     StudyQuestion question_;
     StudyWork work_;
-    QTimer rest_;
+    QTimer rest_, patience_;
     ShowTimer shown_;
     std::vector<std::string> rowsWords_;     // of the rows that are shown
     std::vector<std::string> tornadoWords_;  // of the tornado that is shown
@@ -78,8 +77,8 @@ class StudyWindow : public QDialog {
     ChartPane *curve_ = nullptr, *histogram_ = nullptr;
     FieldChartView* contour_ = nullptr;
     TornadoTab* tornado_ = nullptr;
-    QTableWidget* table_ = nullptr;
-    QLabel *answer_ = nullptr, *tableNote_ = nullptr;
+    RowsTab* table_ = nullptr;
+    QLabel* answer_ = nullptr;
     WorkRow* progress_ = nullptr;
     CommandBar* command_ = nullptr;
     QPushButton *run_ = nullptr, *csv_ = nullptr, *sheet_ = nullptr, *chart_ = nullptr;

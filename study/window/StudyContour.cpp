@@ -9,14 +9,14 @@ namespace lithmark {
 
 namespace {
 
-constexpr int kDigits = 4;
+constexpr int kContourDigits = 4;
 
 std::string AxisOf(const FieldChoice& field) {
     return AxisTitle(field.Label, field.Short(), field.Unit);
 }
 
 std::string Named(const FieldChoice& field, double value) {
-    return field.Short() + " = " + WithUnit(ShortNumber(value, kDigits), field.Unit);
+    return field.Short() + " = " + WithUnit(ShortNumber(value, kContourDigits), field.Unit);
 }
 
 }  // namespace
@@ -46,7 +46,8 @@ std::optional<FieldChart> ContourOf(const StudyQuestion& asked, const StudyCurve
     if (curves.PresentX && inside(*curves.PresentX, chart.Left, chart.Right) &&
         inside(second->Value, chart.Bottom, chart.Top)) {
         chart.Present = FieldPoint{*curves.PresentX, second->Value};
-        chart.PresentName = Text(913318_text) + ": " + WithUnit(ShortNumber(*curves.PresentY, kDigits), drawn.Unit);
+        chart.PresentName =
+            Text(913318_text) + ": " + WithUnit(ShortNumber(*curves.PresentY, kContourDigits), drawn.Unit);
     }
     return chart;
 }
@@ -55,16 +56,16 @@ std::string UnderContour(const StudyQuestion& asked, const FieldChart& chart, co
     std::string text = Named(*asked.FirstVaried(), at.X) + ", " + Named(*asked.SecondVaried(), at.Y);
     const ResultChoice& drawn = asked.Drawn();
     if (const auto value = chart.Field.ValueAt(at))
-        text += ": " + drawn.Symbol + " = " + WithUnit(ShortNumber(*value, kDigits), drawn.Unit);
+        text += ": " + drawn.Symbol + " = " + WithUnit(ShortNumber(*value, kContourDigits), drawn.Unit);
     return text;
 }
 
 std::string ContourWords(const StudyQuestion& asked, const FieldChart& chart) {
     const ResultChoice& drawn = asked.Drawn();
     const auto range = [](const std::string& what, double from, double to, const std::string& unit) {
-        return Text(
-            913257_text,
-            {{"|1", what}, {"|2", ShortNumber(from, kDigits)}, {"|3", WithUnit(ShortNumber(to, kDigits), unit)}});
+        return Text(913257_text, {{"|1", what},
+                                  {"|2", ShortNumber(from, kContourDigits)},
+                                  {"|3", WithUnit(ShortNumber(to, kContourDigits), unit)}});
     };
     const FieldChoice &first = *asked.FirstVaried(), &second = *asked.SecondVaried();
     return range(drawn.Symbol, chart.Field.Least(), chart.Field.Greatest(), drawn.Unit) + "; " +
