@@ -189,6 +189,21 @@ TEST_F(StudyWindowTest, WhatCannotBeTakenIsMarkedAndTold) {
     EXPECT_EQ(Child<QLabel>(*window, "lblProgress").text().toStdString(), "5 of 5 rows");
 }
 
+TEST_F(StudyWindowTest, ANumberThatIsBeingTypedIsNoErrorUntilItIsLeft) {
+    const auto window = Open();
+    AwaitRows(*window);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    auto& box = Child<QLineEdit>(*window, "txtTo(1)");
+    box.setFocus();
+    box.selectAll();
+    QTest::keyClick(&box, Qt::Key_Minus);
+    EXPECT_TRUE(box.toolTip().isEmpty());
+    EXPECT_FALSE(Child<QPushButton>(*window, "cmdRun").isEnabled());
+    Child<QLineEdit>(*window, "txtFrom(1)").setFocus();
+    EXPECT_FALSE(box.toolTip().isEmpty());
+    EXPECT_EQ(box.accessibleDescription(), box.toolTip());
+}
+
 TEST_F(StudyWindowTest, RandomSamplesGiveAHistogram) {
     const auto window = Open();
     AwaitRows(*window);
