@@ -24,6 +24,7 @@ FieldChartView::FieldChartView(QWidget* parent)
       plot_(new QCustomPlot(this)),
       cross_(new QCPItemTracer(plot_)),
       under_(WordsLabel(this, "lblUnder", 1)) {
+    MakeGraphic(*plot_, Q(Text(140017_text)));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(sizes::kRowGap);
@@ -44,7 +45,7 @@ void FieldChartView::Show(std::optional<FieldChart> chart, const std::string& wo
     words_ = words;
     wordsUnder_ = std::move(under);
     plot_->setVisible(chart_.has_value());
-    if (chart_) MakeGraphic(*plot_, Q(chart_->Title));
+    if (chart_) plot_->setAccessibleName(Q(chart_->Title));
     Leave();
     Draw();
 }

@@ -18,6 +18,7 @@
 #include "desktop/ScreenRoom.h"
 #include "desktop/ScrollColumn.h"
 #include "desktop/Sizes.h"
+#include "desktop/SpokenAlert.h"
 #include "desktop/WidgetInk.h"
 #include "desktop/study/AskTools.h"
 #include "desktop/study/CommandBar.h"
@@ -74,6 +75,7 @@ StudyWindow::StudyWindow(const StudySubject& subject, QWidget* parent)
     columns->addWidget(Tabs(), 1);
     column->addLayout(columns, 1);
     answer_ = WordsLabel(this, "lblAnswer", 2);
+    MakeAlert(*answer_);
     column->addWidget(answer_);
     progress_ = new WorkRow(this, [this] { work_.Cancel(); });
     run_ = AskButton(progress_, progress_->Row(), Q(Text(913233_text, Styles::Button)), "cmdRun", [this] { Run(); });
@@ -192,6 +194,7 @@ void StudyWindow::ShowFaults() {
 }
 
 void StudyWindow::ShowFault(const std::string& reason) {
+    if (isVisible() && answer_->text() != Q(reason)) SpeakAlert(*answer_, Q(reason));
     answer_->setText(Q(reason));
     SetInk(*answer_, Ink::Error);
 }

@@ -11,6 +11,7 @@
 #include "core/Session.h"
 #include "desktop/BoxMark.h"
 #include "desktop/ChartView.h"
+#include "desktop/GraphicWords.h"
 #include "desktop/Sizes.h"
 #include "desktop/study/AskTools.h"
 #include "render/QtText.h"
@@ -51,7 +52,7 @@ TornadoTab::TornadoTab(StudyQuestion& question, QWidget* parent)
     plot_->setObjectName(QStringLiteral("tornado"));
     plot_->setLayoutDirection(Qt::LeftToRight);
     plot_->setMinimumHeight(160);
-    plot_->setAccessibleName(Q(Text(913230_text)));
+    MakeGraphic(*plot_, Q(Text(913230_text)));
     column->addWidget(plot_, 1);
     setTabOrder(all_, swing_);
     setTabOrder(swing_, own_);
@@ -73,7 +74,7 @@ void TornadoTab::ShowBars(const TornadoPicture& picture, const QString& note) {
     for (const TornadoPicture::Bar& bar : picture.Bars)
         words += Q(bar.Name + ": " + ShortNumber(bar.AtLow, 4) + " ... " + ShortNumber(bar.AtHigh, 4)) +
                  QStringLiteral("\n");
-    plot_->setAccessibleDescription(words);
+    TellGraphic(*plot_, words);
     Draw();
 }
 
