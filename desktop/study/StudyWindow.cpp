@@ -195,8 +195,13 @@ void StudyWindow::ShowFaults() {
 
 void StudyWindow::ShowFault(const std::string& reason) {
     if (isVisible() && answer_->text() != Q(reason)) SpeakAlert(*answer_, Q(reason));
-    answer_->setText(Q(reason));
-    SetInk(*answer_, Ink::Error);
+    Say(Q(reason), Ink::Error);
+}
+
+void StudyWindow::Say(const QString& words, Ink ink) {
+    answer_->setText(words);
+    answer_->setAccessibleName(words);
+    SetInk(*answer_, ink);
 }
 
 // The rows as soon as what is asked rests, unless they are there already; the tornado where it is looked at.
@@ -273,8 +278,8 @@ void StudyWindow::ShowRows() {
     if (work_.Doing() == StudyWork::Job::Find) answer = Text(903005_text);
     if (!work_.Trouble().empty()) answer = work_.Trouble();
     if (!question_.Faults().empty() && tabs_->currentIndex() != kTornado) return;
-    answer_->setText((LanguageTexts().RightToLeft() ? QString(QChar(0x200F)) : QString()) + Q(answer));
-    SetInk(*answer_, work_.Trouble().empty() ? Ink::Text : Ink::Error);
+    const QString direction = LanguageTexts().RightToLeft() ? QString(QChar(0x200F)) : QString();
+    Say(direction + Q(answer), work_.Trouble().empty() ? Ink::Text : Ink::Error);
 }
 
 void StudyWindow::ShowCurves(const StudyQuestion& asked, const StudyCurves& curves) {

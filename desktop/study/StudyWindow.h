@@ -8,6 +8,7 @@
 #include "desktop/study/ShowTimer.h"
 #include "desktop/study/StudySubject.h"
 #include "desktop/study/StudyWork.h"
+#include "render/drawings/Inks.h"
 
 class QBoxLayout;
 class QLabel;
@@ -58,6 +59,7 @@ class StudyWindow : public QDialog {
     std::vector<AskFault> Faults() const;  // of what is looked at
     void ShowFaults();
     void ShowFault(const std::string& reason);
+    void Say(const QString& words, Ink ink);
     bool RowsAreOld() const;
 
     void SaveShown();
