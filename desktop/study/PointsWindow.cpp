@@ -103,7 +103,7 @@ PointsWindow::PointsWindow(const StudySubject& subject, QWidget* parent)
     grid_->ShowRows();
     grid_->resizeColumnsToContents();
     grid_->setCurrentCell(0, 0);
-    resize(1000, 640);
+    resize(1180, 640);
 }
 
 QLayout* PointsWindow::FillRow() {
@@ -141,6 +141,7 @@ QWidget* PointsWindow::PointsTab() {
         grid_->horizontalHeaderItem(static_cast<int>(points_.Coordinates().size() + i))
             ->setToolTip(Q(points_.Results()[i].Label));
     grid_->horizontalHeader()->setStretchLastSection(true);
+    grid_->horizontalHeaderItem(grid_->columnCount() - 1)->setTextAlignment(Qt::AlignLeading | Qt::AlignVCenter);
     return grid_;
 }
 
@@ -322,9 +323,9 @@ void PointsWindow::ShowRow(int row) {
             column == last ? Text(913330_text) : InWords(points_.Results()[static_cast<std::size_t>(column - first)]);
         item->setData(Qt::AccessibleTextRole,
                       Q(Text(906538_text, {{"|1", std::to_string(row + 1)}, {"|2", head}}) + ", " + text));
-        item->setForeground(wrong     ? QBrush(ColourOf(Ink::Error, theme))
-                            : noticed ? QBrush(ColourOf(Ink::Warning, theme))
-                                      : QBrush());
+        item->setForeground(wrong                       ? QBrush(ColourOf(Ink::Error, theme))
+                            : noticed && column == last ? QBrush(ColourOf(Ink::Warning, theme))
+                                                        : QBrush());
         item->setToolTip(column == last ? Q(text) : QString());
     }
 }

@@ -239,7 +239,7 @@ void TakeStudies(Gallery& gallery) {
         });
     };
     rows(21);
-    type(study, "txtLimit", QStringLiteral("20"));
+    type(study, "txtLimit", QStringLiteral("6.5"));
     Wait([&] { return study.Work().Question()->LimitNumber().has_value(); });
     rows(21);
     gallery.Take(study, QStringLiteral("study"));
