@@ -264,7 +264,7 @@ TEST_F(StudyWindowTest, TwoQuantitiesAreDrawnAsContourLines) {
     EXPECT_EQ(Child<QLineEdit>(*window, "txtCount(2)").text().toStdString(), "15");
     TypeInto(*window, "txtCount(1)", "6");
     TypeInto(*window, "txtCount(2)", "5");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window->Work().Rows()->Wanted() == 30; }, kPatience));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->Work().Rows()->Wanted() == 30; }, kStudyPatience));
     AwaitRows(*window);
     auto& view = dynamic_cast<FieldChartView&>(Child<QWidget>(*window, "contour"));
     EXPECT_TRUE(view.isVisible());
@@ -291,7 +291,7 @@ TEST_F(StudyWindowTest, TwoQuantitiesAreDrawnAsContourLines) {
     EXPECT_THAT(under.text().toStdString(), HasSubstr(" m: s = "));
     // As curves again, and the same rows.
     ClickOn(*window, "optDraw(1)");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return Child<QWidget>(*window, "curve").isVisible(); }, kPatience));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Child<QWidget>(*window, "curve").isVisible(); }, kStudyPatience));
 }
 
 TEST_F(StudyWindowTest, TheCommandIsCopied) {
