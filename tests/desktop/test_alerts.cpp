@@ -1,6 +1,5 @@
 // What is said at once to people who hear the program: a wrong entry as it is left, a cell that cannot be taken, a word
 // that comes and goes.
-#include <gmock/gmock.h>
 #include <private/qguiapplication_p.h>
 #include <qpa/qplatformaccessibility.h>
 #include <qpa/qplatformintegration.h>
