@@ -182,7 +182,7 @@ void StudyWork::End(const CliEnd& end) {
                 break;
             }
             if (!middleRow_->Lines().empty()) {
-                const float number = DrawnNumber(*tornadoQuestion_, *middleRow_, middleRow_->Lines().front());
+                const float number = PlottedNumber(*tornadoQuestion_, *middleRow_, middleRow_->Lines().front());
                 if (!IsMissing(number)) middle_ = static_cast<double>(number) * tornadoQuestion_->Drawn().Factor;
             }
             return Start(Job::Tornado, TornadoWords(*tornadoQuestion_, project_.ProjectFile()));

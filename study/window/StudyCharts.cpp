@@ -73,7 +73,7 @@ std::vector<const StudyLine*> SampledLines(const StudyQuestion& asked, const Stu
 std::vector<float> SampledNumbers(const StudyQuestion& asked, const StudyTable& table) {
     std::vector<float> numbers;
     for (const StudyLine* line : SampledLines(asked, table))
-        if (const float number = DrawnNumber(asked, table, *line); !IsMissing(number)) numbers.push_back(number);
+        if (const float number = PlottedNumber(asked, table, *line); !IsMissing(number)) numbers.push_back(number);
     std::ranges::sort(numbers);
     return numbers;
 }

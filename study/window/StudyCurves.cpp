@@ -71,7 +71,7 @@ void AddCrossings(StudyCurves& curves) {
 
 }  // namespace
 
-float DrawnNumber(const StudyQuestion& asked, const StudyTable& table, const StudyLine& line) {
+float PlottedNumber(const StudyQuestion& asked, const StudyTable& table, const StudyLine& line) {
     const int place = table.PlaceOfTake(asked.Drawn().Take);
     return place < 0 || line.Aborted() ? kMissing : line.Numbers[static_cast<std::size_t>(place)];
 }
@@ -89,7 +89,7 @@ StudyCurves CurvesOf(const StudyQuestion& asked, const StudyTable& table, const 
     std::vector<std::vector<std::vector<float>>> samples(members.size());
     for (auto& of : samples) of.resize(curves.X.size());
     for (const StudyLine& line : table.Lines()) {
-        const float number = DrawnNumber(asked, table, line);
+        const float number = PlottedNumber(asked, table, line);
         if (!IsMissing(number)) samples[family.PlaceOf(line)][across.PlaceOf(line)].push_back(number);
     }
     const auto nameOf = [&](std::size_t member) {
@@ -108,7 +108,7 @@ StudyCurves CurvesOf(const StudyQuestion& asked, const StudyTable& table, const 
     }
     AddCrossings(curves);
     if (present != nullptr && !present->Lines().empty()) {
-        const float number = DrawnNumber(asked, *present, present->Lines().front());
+        const float number = PlottedNumber(asked, *present, present->Lines().front());
         if (!IsMissing(number)) {
             curves.PresentX = first->Value;
             curves.PresentY = static_cast<double>(number) * asked.Drawn().Factor;

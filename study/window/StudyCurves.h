@@ -35,7 +35,7 @@ struct StudyCurves {
 };
 
 // The number of the drawn result in a row, in base units; kMissing where the row aborted or has none.
-float DrawnNumber(const StudyQuestion& asked, const StudyTable& table, const StudyLine& line);
+float PlottedNumber(const StudyQuestion& asked, const StudyTable& table, const StudyLine& line);
 
 // `present` has the one row of the values that the dialog holds; null while there is none.
 StudyCurves CurvesOf(const StudyQuestion& asked, const StudyTable& table, const StudyTable* present);
