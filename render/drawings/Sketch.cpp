@@ -49,7 +49,8 @@ double Sketch::Steady(double fit) {
 }
 
 void Sketch::Line(const QPointF& from, const QPointF& to, const QPen& pen) {
-    strokes_.push_back({{from, to}, 1});
+    // Faint lines may run under a number.
+    if (pen.color().alpha() == 255) strokes_.push_back({{from, to}, 1});
     Painter.setPen(pen);
     Painter.drawLine(from, to);
 }
