@@ -1,6 +1,8 @@
 // The numbers in the drawings and what is drawn: lines that matter stay in sight.
 #include <gmock/gmock.h>
 
+#include <cstdlib>
+
 #include "DrawingCase.h"
 
 namespace lithmark::tests {
