@@ -16,8 +16,8 @@
 
 namespace lithmark {
 
-// Two projects of a problem beside each other: its tabs, and more charts than one.
-inline void TakeComparison(const std::string& folder,
+// Two projects of a problem beside each other: its tabs, and more charts than one. False where that failed.
+inline bool TakeComparison(const std::string& folder,
                            const std::function<void(QWidget& window, const QString& name)>& take) {
     struct Changed {
         const char *Example, *Ending, *From, *To;
@@ -38,16 +38,17 @@ inline void TakeComparison(const std::string& folder,
             WriteWholeFile(folder + "Variant" + end, data);
         }
         const PairReading reading = ReadPair(folder + example + ".PO3", folder + "Variant.PO3");
-        if (!reading.Pair) continue;
+        if (!reading.Pair) return false;
         CompareWindow window(*reading.Pair, nullptr);
         window.show();
-        QTest::qWaitFor([&] { return window.Worked(); }, 60000);
+        if (!QTest::qWaitFor([&] { return window.Worked(); }, 60000)) return false;
         auto& tabs = *window.findChild<QTabWidget*>();
         for (int tab = 0; tab < tabs.count(); ++tab) {
             tabs.setCurrentIndex(tab);
             take(window, QStringLiteral("compare-%1-%2").arg(Q(std::string(example))).arg(tab));
         }
     }
+    return true;
 }
 
 }  // namespace lithmark

@@ -441,8 +441,9 @@ bool TakeAll(const QString& folder, Language language, const QString& code, bool
     gallery.TakeModal(QStringLiteral("table-loads"), [&] { oedometer.cmdTimeLoad_Click(); });
     gallery.TakeModal(QStringLiteral("table-oedometer"), [&] { oedometer.CmdOdomterSettlement_Click(); });
     TakeStudies(gallery);
-    TakeComparison(settings, [&](QWidget& window, const QString& name) { gallery.Take(window, name); });
-    return end();
+    const bool compared = TakeComparison(
+        settings, [&gallery](QWidget& comparison, const QString& name) { gallery.Take(comparison, name); });
+    return end() && compared;
 }
 
 }  // namespace
