@@ -1,6 +1,7 @@
 #include "desktop/BoxMark.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QEvent>
 #include <QIcon>
 #include <QLineEdit>
@@ -43,14 +44,14 @@ class MarkSign : public QAction {
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::PaletteChange) Paint();
+        if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange) Paint();
         return QAction::eventFilter(watched, event);
     }
 
   private:
-    // A frame that is set changes the palette again, to what it is.
+    // A frame that is set changes the palette again, to what it is; the box's own does not follow the program's then.
     void Paint() {
-        const QColor colour = ColourOf(Ink::Error, ThemeOf(box_.palette()));
+        const QColor colour = ColourOf(Ink::Error, ThemeOf(QApplication::palette()));
         if (colour == colour_) return;
         colour_ = colour;
         setIcon(Exclamation(colour, box_.devicePixelRatioF()));

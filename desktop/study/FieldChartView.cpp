@@ -12,9 +12,9 @@
 #include "desktop/PaneKeys.h"
 #include "desktop/Sizes.h"
 #include "desktop/study/StudySubject.h"
-#include "render/FieldChartDocument.h"
 #include "render/QtText.h"
 #include "render/drawings/Inks.h"
+#include "render/figures/FieldChartDocument.h"
 #include "services/texts/LanguageTexts.h"
 
 namespace lithmark {

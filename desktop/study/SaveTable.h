@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "render/FieldChartDocument.h"
 #include "render/TornadoDocument.h"
+#include "render/figures/FieldChartDocument.h"
 
 class QWidget;
 

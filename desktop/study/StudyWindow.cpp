@@ -260,7 +260,8 @@ void StudyWindow::ShowWork() {
 
 void StudyWindow::ShowRows() {
     if (work_.Question() == nullptr || work_.Rows() == nullptr) return;
-    const StudyQuestion& asked = *work_.Question();
+    // Of the same rows, what is drawn is as it is asked now.
+    const StudyQuestion& asked = RowsAreOld() ? *work_.Question() : question_;
     std::string answer;
     if (asked.FirstVaried() != nullptr) {
         const StudyCurves curves = CurvesOf(asked, *work_.Rows(), work_.Present());

@@ -131,6 +131,7 @@ void Sketch::Number(const std::string& name, const QPointF& at, Side side, Ink i
 }
 
 void Sketch::Numbers(std::initializer_list<const char*> boxes, const QPointF& middle, Ink ink) {
+    if (plain_) return;
     std::vector<const char*> reached;
     for (const char* box : boxes)
         if (Form.Has(box)) reached.push_back(box);

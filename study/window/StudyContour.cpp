@@ -15,7 +15,7 @@ std::string AxisOf(const FieldChoice& field) {
     return AxisTitle(field.Label, field.Short(), field.Unit);
 }
 
-std::string Named(const FieldChoice& field, double value) {
+std::string FieldAndValue(const FieldChoice& field, double value) {
     return field.Short() + " = " + WithUnit(ShortNumber(value, kContourDigits), field.Unit);
 }
 
@@ -53,7 +53,7 @@ std::optional<FieldChart> ContourOf(const StudyQuestion& asked, const StudyCurve
 }
 
 std::string UnderContour(const StudyQuestion& asked, const FieldChart& chart, const FieldPoint& at) {
-    std::string text = Named(*asked.FirstVaried(), at.X) + ", " + Named(*asked.SecondVaried(), at.Y);
+    std::string text = FieldAndValue(*asked.FirstVaried(), at.X) + ", " + FieldAndValue(*asked.SecondVaried(), at.Y);
     const ResultChoice& drawn = asked.Drawn();
     if (const auto value = chart.Field.ValueAt(at))
         text += ": " + drawn.Symbol + " = " + WithUnit(ShortNumber(*value, kContourDigits), drawn.Unit);

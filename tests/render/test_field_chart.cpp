@@ -1,6 +1,6 @@
 // A value over two quantities as a picture.
 #include "RenderCase.h"
-#include "render/FieldChartDocument.h"
+#include "render/figures/FieldChartDocument.h"
 #include "support/Matchers.h"
 
 namespace lithmark::tests {

@@ -1,4 +1,4 @@
-#include "render/FieldChartDocument.h"
+#include "render/figures/FieldChartDocument.h"
 
 #include <qcustomplot.h>
 
