@@ -39,17 +39,17 @@ class MarkSign : public QAction {
         setObjectName(QString::fromLatin1(kSignName));
         Paint();
         box.addAction(this, QLineEdit::TrailingPosition);
-        box.installEventFilter(this);
+        qApp->installEventFilter(this);
     }
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange) Paint();
+        if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange) Paint();
         return QAction::eventFilter(watched, event);
     }
 
   private:
-    // A frame that is set changes the palette again, to what it is; the box's own does not follow the program's then.
+    // A box with a frame of its own is told of no change of colours: the program is.
     void Paint() {
         const QColor colour = ColourOf(Ink::Error, ThemeOf(QApplication::palette()));
         if (colour == colour_) return;
