@@ -123,7 +123,7 @@ std::string Excerpt(std::string_view text) {
 
 std::string PathExcerpt(std::string_view path) {
     constexpr std::size_t kBegin = 100, kEnd = 200;
-    const std::string shown = PrintableText(path);
+    std::string shown = PrintableText(path);
     const std::vector<char32_t> letters = CodePoints(shown);
     if (letters.size() <= kBegin + kEnd) return shown;
     std::string excerpt = FirstCharacters(shown, kBegin) + "...";

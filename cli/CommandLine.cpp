@@ -26,6 +26,7 @@ constexpr char kField[] = "FIELD=VALUE", kFile[] = "FILE", kFolder[] = "DIR", kC
 
 std::vector<std::string> LanguageChoices() {
     std::vector<std::string> codes;
+    codes.reserve(std::size(kLanguageCodes));
     for (const LanguageCodeRow& row : kLanguageCodes) codes.emplace_back(row.Code);
     return codes;
 }

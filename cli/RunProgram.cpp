@@ -24,6 +24,7 @@ int RunProgram(int argc, char** argv) {
     platform::UseBytesForStandardStreams();
     std::vector<std::string> arguments = platform::Arguments(argc, argv);
     std::vector<char*> words;
+    words.reserve(arguments.size() + 1);
     for (std::string& argument : arguments) words.push_back(argument.data());
     const int count = static_cast<int>(words.size());
     words.push_back(nullptr);

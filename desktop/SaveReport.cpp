@@ -36,7 +36,7 @@ bool IsThere(const Kind& kind) {
 }
 
 std::string BytesOf(const QString& ending) {
-    const std::string report = ReportWith(PartsChosen());
+    std::string report = ReportWith(PartsChosen());
     for (const Kind& kind : kKinds) {
         if (ending != QLatin1String(kind.Ending)) continue;
         if (kind.Document != nullptr) return kind.Document(report, PaperChosen());

@@ -20,13 +20,14 @@ namespace {
 // The generator writes each run of a text by itself and leaves out its direction; viewers take it to be from left to
 // right, and put blanks and colons at the wrong end of Arabic words. Marks at both ends of such a run hold them.
 std::string WithDirections(const std::string& svg) {
-    static const std::string kMark = "\u200F", kEnd = "</text>";
+    static const std::string kMark = "\u200F", kNone, kEnd = "</text>";
     std::string marked;
     std::size_t at = 0;
     for (std::size_t end = svg.find(kEnd); end != std::string::npos; end = svg.find(kEnd, at)) {
         const std::size_t begin = svg.rfind('>', end - 1) + 1;
         const std::string run = svg.substr(begin, end - begin);
-        marked += svg.substr(at, begin - at) + (HasArabic(run) ? kMark + run + kMark : run) + kEnd;
+        const std::string& mark = HasArabic(run) ? kMark : kNone;
+        marked.append(svg, at, begin - at).append(mark).append(run).append(mark).append(kEnd);
         at = end + kEnd.size();
     }
     return marked + svg.substr(at);

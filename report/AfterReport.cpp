@@ -148,7 +148,7 @@ std::string NoticeBox() {
     std::string box = kLineEnd + Ruler() + kLineEnd + Text(907200_text, Style{4}) + kLineEnd + Ruler() + kLineEnd;
     for (const Notice& notice : Notices().All()) {
         std::string id(NoticeName(notice.Id));
-        if (LanguageTexts().RightToLeft()) id = "\u2066" + id + "\u2069";
+        if (LanguageTexts().RightToLeft()) id.insert(0, "\u2066").append("\u2069");
         for (const std::string& line : Wrapped(id + ": " + NoticeText(notice), kReportWidth)) box += line + kLineEnd;
     }
     return box + Ruler() + kLineEnd;

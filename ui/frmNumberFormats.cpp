@@ -45,7 +45,7 @@ std::string DefaultOf(std::string R::*field) {
 
 std::string Preview(const UsedFormat& format, const std::string& pattern) {
     if (FormatFault(pattern)) return Text(913474_text);
-    const std::string number = FormatValue(format.Value * FactorOf(format.In), pattern);
+    std::string number = FormatValue(format.Value * FactorOf(format.In), pattern);
     if (format.In == Unit::None) return number;
     std::string unit = LabelOf(format.In);
     return number + " " + unit.substr(1, unit.size() - 2);

@@ -23,7 +23,7 @@ void Fill(ComboBox& list, std::span<const UnitRow> units, const std::string& lab
     const bool mirrored = LanguageTexts().RightToLeft();
     const std::string before = mirrored ? "\u2066" : "", after = mirrored ? "\u2069" : "";
     for (const UnitRow& unit : units)
-        list.Items.push_back(Text(unit.Name) + ", " + before + Text(unit.UnitLabel) + after);
+        list.Items.push_back(Text(unit.Name).append(", ").append(before).append(Text(unit.UnitLabel)).append(after));
     const auto row = std::find_if(list.Items.begin(), list.Items.end(),
                                   [&](const std::string& item) { return item.find(label) != std::string::npos; });
     if (row != list.Items.end()) SelectRow(list, static_cast<int>(row - list.Items.begin()));

@@ -14,7 +14,7 @@ void ReadResults(const QJsonObject& results, CommandOutput& output) {
         if (it->isDouble()) output.Numbers[name] = it->toDouble();
         if (!it->isArray()) continue;
         std::vector<double>& list = output.Lists[name];
-        for (const QJsonValue& value : it->toArray()) list.push_back(value.toDouble());
+        for (const auto& value : it->toArray()) list.push_back(value.toDouble());
     }
 }
 
@@ -25,7 +25,7 @@ AnswerTable ReadTable(const QJsonObject& json) {
     for (qsizetype i = 0; i < columns.size(); ++i) {
         std::vector<double>& values = table[columns[i].toObject()[QStringLiteral("symbol")].toString().toStdString()];
         values.clear();
-        for (const QJsonValue& row : rows) values.push_back(row.toArray()[i].toDouble());
+        for (const auto& row : rows) values.push_back(row.toArray()[i].toDouble());
     }
     return table;
 }
@@ -36,12 +36,12 @@ std::string TextOf(const QJsonValue& value, const char* key) {
 
 void ReadReport(const QJsonObject& json, CommandOutput& output) {
     output.Aborted = json[QStringLiteral("aborted")].toBool();
-    for (const QJsonValue& message : json[QStringLiteral("messages")].toArray())
+    for (const auto& message : json[QStringLiteral("messages")].toArray())
         output.Messages.push_back(TextOf(message, "text"));
-    for (const QJsonValue& notice : json[QStringLiteral("notices")].toArray())
+    for (const auto& notice : json[QStringLiteral("notices")].toArray())
         output.Notices.push_back({TextOf(notice, "id"), TextOf(notice, "text")});
     ReadResults(json[QStringLiteral("results")].toObject(), output);
-    for (const QJsonValue& table : json[QStringLiteral("tables")].toArray())
+    for (const auto& table : json[QStringLiteral("tables")].toArray())
         output.Tables.push_back(ReadTable(table.toObject()));
 }
 
@@ -51,7 +51,7 @@ CommandOutput ReadCommandOutput(const QByteArray& json) {
     CommandOutput output;
     const QJsonDocument document = QJsonDocument::fromJson(json);
     if (document.isObject()) ReadReport(document.object(), output);
-    for (const QJsonValue& row : document.array()) {
+    for (const auto& row : document.array()) {
         auto& values = output.Rows.emplace_back();
         const QJsonObject object = row.toObject();
         for (auto it = object.begin(); it != object.end(); ++it)

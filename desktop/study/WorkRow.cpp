@@ -48,9 +48,9 @@ void WorkRow::Rest() {
 }
 
 void WorkRow::Run(std::uint64_t done, std::uint64_t wanted) {
-    constexpr int kWhole = 1000;
-    bar_->setRange(0, wanted == 0 ? 0 : kWhole);
-    if (wanted > 0) bar_->setValue(static_cast<int>(kWhole * done / wanted));
+    constexpr int kBarEnd = 1000;
+    bar_->setRange(0, wanted == 0 ? 0 : kBarEnd);
+    if (wanted > 0) bar_->setValue(static_cast<int>(kBarEnd * done / wanted));
     bar_->show();
     cancel_->setEnabled(true);
 }

@@ -34,6 +34,7 @@ TableEdit EditOf(const std::vector<FieldChoice>& coordinates) {
 std::vector<double> EvenValues::All() const {
     std::vector<double> values;
     const int count = From == To ? 1 : std::max(1, Count);
+    values.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
         values.push_back(count == 1 ? From : From + (To - From) * i / static_cast<double>(count - 1));
     return values;

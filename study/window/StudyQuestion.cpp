@@ -258,7 +258,7 @@ std::string StudyQuestion::VaryText(int line) const {
     // Counts are whole numbers, each of them once.
     const double from = NumberOf(vary.From), to = NumberOf(vary.To), steps = std::max(1.0, NumberOf(vary.Count) - 1);
     std::string former;
-    for (double i = 0; i <= steps; ++i) {
+    for (int i = 0; i <= steps; ++i) {
         const double value =
             vary.Steps == StepKind::Factors ? from * std::pow(to / from, i / steps) : from + (to - from) * i / steps;
         const std::string text = BaseText(field, std::round(value));

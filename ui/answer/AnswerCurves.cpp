@@ -14,6 +14,7 @@ namespace {
 
 std::vector<double> Times(const std::vector<double>& values, double factor) {
     std::vector<double> all;
+    all.reserve(values.size());
     for (const double value : values) all.push_back(value * factor);
     return all;
 }

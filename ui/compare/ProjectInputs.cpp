@@ -85,7 +85,8 @@ void AddTable(std::vector<ProjectInput>& inputs, const std::string& key, TextId 
     for (int row = 1; row <= rows; ++row) {
         const std::string number = std::to_string(row);
         ProjectInput input;
-        input.Key = key + "(" + number + ")";
+        input.Key = key;
+        input.Key.append("(").append(number).append(")");
         input.Label = Text(913538_text, {{"|1", Text(title)}, {"|2", number}});
         input.Text = FormatValue(times(row), "") + ": " + FormatValue(values(row), "");
         inputs.push_back(std::move(input));

@@ -45,12 +45,16 @@ class QuietHost : public Host {
     Host& before_;
 };
 
+std::string WithExtension(std::string stem, const std::string& extension) {
+    return stem.append(".").append(extension);
+}
+
 // The files of a project in a folder of their own.
 class ScratchFiles {
   public:
     ScratchFiles(const std::string& name, const ProjectFiles& files) {
         for (const auto& [extension, bytes] : files) {
-            const std::string path = folder_.Announce(name + "." + extension);
+            const std::string path = folder_.Announce(WithExtension(name, extension));
             std::ofstream file(path, std::ios::binary);
             file << bytes;
             file.close();
@@ -68,7 +72,7 @@ ProjectFiles PlainFiles(const std::string& file, const std::string& stem) {
     ProjectFiles files{{kProject, ReadWholeFile(file)}};
     const ProblemRow* problem = FindProblem(GlanceAt(file).ProblemType);
     for (const std::string& extension : {kHeading, std::string(problem != nullptr ? problem->Extension : kHeading)}) {
-        const std::string path = MappedFileName(stem + "." + extension);
+        const std::string path = MappedFileName(WithExtension(stem, extension));
         SharedServices().SetCurrentFile(path);
         if (PathExists(path)) files[extension] = ReadWholeFile(path);
     }
@@ -85,7 +89,7 @@ ProjectFiles FilesOf(const std::string& file, const std::string& stem) {
         const auto before = MarkOf(file);
         const bool last = tries == kTries;
         try {
-            const ProjectFiles files =
+            ProjectFiles files =
                 IsArchiveFile(file) ? ReadArchive(ReadWholeFile(file, kMostArchiveFile)) : PlainFiles(file, stem);
             if (last || MarkOf(file) == before) return files;
         } catch (const Failure&) {
@@ -114,9 +118,9 @@ void Take(StoredProject& project, const std::string& scratch, const QuietHost& h
     if (data == ReadOutcome::Failed) Refuse(host.Last);
     form->ShowInForce();
     project.Inputs = InputsOf(*form);
-    FormDraft draft = form->Draft();
+    const FormDraft draft = form->Draft();
     if (!draft.Valid()) project.Stopped = draft.Faults.front().Reason;
-    project.Record = draft.Valid() ? std::move(draft.Record) : Session;
+    project.Record = draft.Valid() ? draft.Record : Session;
 }
 
 // What is said of a file in the folder is said of the project's own.
