@@ -41,6 +41,14 @@ CommandBar::CommandBar(QWidget* parent) : QWidget(parent), text_(new QLineEdit(t
     row->addWidget(copy_);
 }
 
+void CommandBar::PlaceWith(QBoxLayout& column, QBoxLayout* buttons) {
+    if (OnSmallScreen(*this))
+        buttons->insertWidget(buttons->count() - 1, this);
+    else
+        column.addWidget(this);
+    column.addLayout(buttons);
+}
+
 void CommandBar::Show(const std::vector<std::string>& words) {
     const QString text = words.empty() ? QString() : Q(CommandText(words));
     if (text_->text() == text) return;

@@ -16,7 +16,6 @@
 #include "desktop/PaneKeys.h"
 #include "desktop/SaveChart.h"
 #include "desktop/SaveDialog.h"
-#include "desktop/ScreenRoom.h"
 #include "desktop/Sizes.h"
 #include "desktop/WidgetInk.h"
 #include "desktop/study/AskTools.h"
@@ -86,12 +85,7 @@ PointsWindow::PointsWindow(const StudySubject& subject, QWidget* parent)
     progress_ = new WorkRow(this, [this] { process_.Cancel(); });
     column->addWidget(progress_);
     command_ = new CommandBar(this);
-    QBoxLayout* buttons = Buttons();
-    if (OnSmallScreen(*this))
-        buttons->insertWidget(buttons->count() - 1, command_);
-    else
-        column->addWidget(command_);
-    column->addLayout(buttons);
+    command_->PlaceWith(*column, Buttons());
     BindHelpKey(*this, [] { return std::string("studies"); });
     new PaneKeys(*this);
     grid_->OnRows = [this] { Changed(); };

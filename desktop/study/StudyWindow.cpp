@@ -15,7 +15,6 @@
 #include "desktop/ManualTopics.h"
 #include "desktop/PaneKeys.h"
 #include "desktop/SaveChart.h"
-#include "desktop/ScreenRoom.h"
 #include "desktop/ScrollColumn.h"
 #include "desktop/Sizes.h"
 #include "desktop/SpokenAlert.h"
@@ -82,12 +81,7 @@ StudyWindow::StudyWindow(const StudySubject& subject, QWidget* parent)
     run_->setToolTip(QKeySequence(Qt::Key_F5).toString(QKeySequence::NativeText));
     column->addWidget(progress_);
     command_ = new CommandBar(this);
-    QBoxLayout* buttons = Buttons();
-    if (OnSmallScreen(*this))
-        buttons->insertWidget(buttons->count() - 1, command_);
-    else
-        column->addWidget(command_);
-    column->addLayout(buttons);
+    command_->PlaceWith(*column, Buttons());
     BindHelpKey(*this, [] { return std::string("studies"); });
     new PaneKeys(*this);
 

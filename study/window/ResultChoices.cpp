@@ -1,5 +1,7 @@
 #include "study/window/ResultChoices.h"
 
+#include <initializer_list>
+
 #include "core/Catalogue.h"
 #include "core/Units.h"
 #include "services/texts/LanguageTexts.h"
@@ -68,24 +70,30 @@ struct Named {
     TextId Label;
 };
 
+void AddNamed(Choices& choices, std::initializer_list<Named> all, const Quantity& in) {
+    for (const auto& [name, label] : all) choices.push_back(Of(name, name, Text(label), in));
+}
+
 void AddStresses(Choices& choices) {
     AddComponents(choices, "Sigma", 140179_text, "Tau", 140180_text, Stress());
-    for (const auto& [name, label] : {Named{"max_Tau", 80008_text},
-                                      {"max_Sigma", 80009_text},
-                                      {"min_Sigma", 80010_text},
-                                      {"p", 80012_text},
-                                      {"q", 80011_text}})
-        choices.push_back(Of(name, name, Text(label), Stress()));
+    AddNamed(choices,
+             {{"max_Tau", 80008_text},
+              {"max_Sigma", 80009_text},
+              {"min_Sigma", 80010_text},
+              {"p", 80012_text},
+              {"q", 80011_text}},
+             Stress());
 }
 
 void AddStrains(Choices& choices) {
     AddComponents(choices, "Varepsilon", 140181_text, "Gamma", 140182_text, Strain());
-    for (const auto& [name, label] : {Named{"max_Gamma", 80013_text},
-                                      {"max_Epsilon", 80014_text},
-                                      {"min_Epsilon", 80015_text},
-                                      {"Epsilon_p", 80017_text},
-                                      {"Epsilon_q", 80016_text}})
-        choices.push_back(Of(name, name, Text(label), Strain()));
+    AddNamed(choices,
+             {{"max_Gamma", 80013_text},
+              {"max_Epsilon", 80014_text},
+              {"min_Epsilon", 80015_text},
+              {"Epsilon_p", 80017_text},
+              {"Epsilon_q", 80016_text}},
+             Strain());
 }
 
 void AddDisplacements(Choices& choices) {
