@@ -162,7 +162,7 @@ ExitStatus StudyCommand(const CommonOptions& options, const StudyOptions& study,
     if (!study.Resume.empty() && study.Resume != output && !fs::exists(PathOf(study.Resume)))
         throw CommandFailure(ExitStatus::FileTrouble, Text(902005_text, {{"|1", study.Resume}}));
     StudyHead head{!plan.Cases().empty(), plan.Fields(), TakesOf(request), {}};
-    head.Study = StudyIdentity(request, plan, head.Takes);
+    head.Study = StudyIdentity(plan, head.Takes, limits);
 
     StudyRun run(plan, head);
     if (!study.Shard.empty()) run.Part = Shard::Parse(study.Shard);

@@ -31,6 +31,12 @@ std::size_t Distance(std::string_view a, std::string_view b) {
     return row.back();
 }
 
+// Without leading zeros, so that an element has one name.
+std::string_view PlainIndex(std::string_view digits) {
+    while (digits.size() > 1 && digits.front() == '0') digits.remove_prefix(1);
+    return digits;
+}
+
 }  // namespace
 
 std::optional<std::string> FieldNameOf(int problemType, std::string_view word) {
@@ -39,7 +45,7 @@ std::optional<std::string> FieldNameOf(int problemType, std::string_view word) {
     const std::string_view name = element ? word.substr(0, open) : word;
     if (FindSessionField(name)) {
         if (!element) return std::string(name);
-        return std::string(name) + "(" + std::string(word.substr(open + 1, word.size() - open - 2)) + ")";
+        return std::string(name) + "(" + std::string(PlainIndex(word.substr(open + 1, word.size() - open - 2))) + ")";
     }
     if (word.empty()) return std::nullopt;
     const auto rows = MeaningsOf(problemType);

@@ -93,6 +93,15 @@ Distribution Distribution::Parse(const std::string& text) {
     return result;
 }
 
+std::string Distribution::Plain() const {
+    std::vector<double> numbers = {a_, b_};
+    if (kind_ == Kind::Triangular) numbers.push_back(mode_);
+    if (cut_) numbers.insert(numbers.end(), {least_, greatest_});
+    std::string text = std::to_string(static_cast<int>(kind_));
+    for (const double number : numbers) text += ":" + JsonNumber(number);
+    return text;
+}
+
 void Distribution::Cut(double least, double greatest) {
     cutLow_ = PointOf(least);
     cutHigh_ = PointOf(greatest);

@@ -28,6 +28,9 @@ class Distribution {
     // The value that a share of all values does not exceed.
     double Quantile(double share) const { return Value(NormalPoint::At(share)); }
 
+    // The same text for all ways to write the same distribution.
+    std::string Plain() const;
+
     double Least() const noexcept { return least_; }
     double Greatest() const noexcept { return greatest_; }
 

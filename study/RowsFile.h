@@ -19,8 +19,6 @@ class RowsFile {
     std::uint64_t Count() const noexcept { return starts_.size(); }
     // A cell each; an empty one leaves the project's value.
     std::vector<std::string> Values(std::uint64_t row) const;
-    // All that was read, for those who tell one study from another.
-    const std::string& Content() const noexcept { return text_; }
 
   private:
     std::string text_;

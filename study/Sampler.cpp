@@ -6,8 +6,10 @@
 #include <bit>
 #include <boost/random/sobol.hpp>
 #include <cmath>
+#include <map>
 #include <numeric>
 #include <optional>
+#include <utility>
 
 #include "base/NumberText.h"
 #include "base/Utf8.h"
@@ -112,6 +114,7 @@ std::size_t Sampler::IndexOf(const std::string& word, const std::string& text) c
 void Sampler::ReadCorrelations(const std::vector<std::string>& texts) {
     if (texts.empty()) return;
     const std::size_t n = fields_.size();
+    std::map<std::pair<std::size_t, std::size_t>, double> pairs;  // by places among the sorted names
     std::vector<std::vector<double>> matrix(n, std::vector<double>(n, 0));
     std::vector<std::size_t> fieldAt(n);
     for (std::size_t i = 0; i < n; ++i) {
@@ -125,7 +128,12 @@ void Sampler::ReadCorrelations(const std::vector<std::string>& texts) {
         const std::size_t b = dimension_[IndexOf(text.substr(comma + 1, equals - comma - 1), text)];
         const auto value = ParseNumber(text.substr(equals + 1));
         if (a == b || !value || !(std::abs(*value) <= 1)) FailRandom(908015_text, text);
+        if (!pairs.emplace(std::minmax(a, b), *value).second) FailRandom(908034_text, text);
         matrix[a][b] = matrix[b][a] = *value;
+    }
+    for (const auto& [pair, value] : pairs) {
+        const auto name = [&](std::size_t place) { return fields_[fieldAt[place]].Name; };
+        if (value != 0) correlations_.push_back(name(pair.first) + "," + name(pair.second) + "=" + JsonNumber(value));
     }
     constexpr double kLeastPivot = 1e-12;
     for (std::size_t i = 0; i < n; ++i) {
@@ -144,6 +152,14 @@ void Sampler::ReadCorrelations(const std::vector<std::string>& texts) {
             if (matrix[i][j] != 0) shares.push_back({fieldAt[j], matrix[i][j]});
         if (shares.size() > 1) mixture_[fieldAt[i]] = std::move(shares);
     }
+}
+
+std::vector<std::string> Sampler::Plain() const {
+    std::vector<std::string> texts;
+    for (std::size_t i = 0; i < fields_.size(); ++i) texts.push_back(fields_[i].Name + "=" + distributions_[i].Plain());
+    texts.insert(texts.end(), correlations_.begin(), correlations_.end());
+    texts.insert(texts.end(), {std::to_string(count_), std::to_string(seed_), Sobol() ? "sobol" : "random"});
+    return texts;
 }
 
 double Sampler::UniformOf(std::uint64_t sample, std::size_t field) const {

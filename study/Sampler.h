@@ -38,6 +38,9 @@ class Sampler {
     const std::vector<StudyField>& Fields() const noexcept { return fields_; }
     const Distribution& DistributionOf(std::size_t field) const { return distributions_[field]; }
 
+    // The same texts for all ways to ask for the same samples.
+    std::vector<std::string> Plain() const;
+
     // The values of a sample, a field each, from sample 0 on.
     std::vector<double> Values(std::uint64_t sample) const;
 
@@ -53,6 +56,7 @@ class Sampler {
 
     std::vector<StudyField> fields_;
     std::vector<Distribution> distributions_;
+    std::vector<std::string> correlations_;    // by the fields' names, each pair once
     std::vector<std::uint64_t> keys_;          // of the fields' names
     std::vector<std::vector<Share>> mixture_;  // of a correlated field: its normal value from independent ones
     std::vector<std::size_t> dimension_;       // of a field in Sobol's sequence: its place among the sorted names

@@ -13,6 +13,20 @@ constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
 // The standard normal value that 2.5 % exceed.
 constexpr double kZ = 1.959963984540054;
 
+// Between which of sorted values a share ends, and how far from the lower one.
+struct Place {
+    Place(double share, std::uint64_t count) {
+        const double place = share * static_cast<double>(count - 1);
+        Below = static_cast<std::uint64_t>(place);
+        Above = std::min(Below + 1, count - 1);
+        Part = place - static_cast<double>(Below);
+    }
+    double Between(double low, double high) const { return low + Part * (high - low); }
+
+    std::uint64_t Below, Above;
+    double Part;
+};
+
 }  // namespace
 
 Interval WilsonInterval(std::uint64_t beyond, std::uint64_t count) {
@@ -48,13 +62,39 @@ MeanAndDeviation MeanAndDeviationOf(const std::vector<float>& values) {
     return {mean, values.size() > 1 ? std::sqrt(squares / (n - 1)) : kNoNumber};
 }
 
+MeanAndDeviation MeanAndDeviationOf(SortedNumbers& numbers, double sum) {
+    if (numbers.Count() == 0) return {kNoNumber, kNoNumber};
+    const auto n = static_cast<double>(numbers.Count());
+    const double mean = sum / n;
+    double squares = 0;
+    numbers.ForEach([&](double number, std::uint64_t times) {
+        squares += static_cast<double>(times) * ((number - mean) * (number - mean));
+    });
+    return {mean, numbers.Count() > 1 ? std::sqrt(squares / (n - 1)) : kNoNumber};
+}
+
 double SortedQuantile(const std::vector<float>& sorted, double share) {
     if (sorted.empty()) return kNoNumber;
-    const double place = share * static_cast<double>(sorted.size() - 1);
-    const auto below = static_cast<std::size_t>(place);
-    const std::size_t above = std::min(below + 1, sorted.size() - 1);
-    const double low = sorted[below], high = sorted[above];
-    return low + (place - static_cast<double>(below)) * (high - low);
+    const Place place(share, sorted.size());
+    return place.Between(sorted[place.Below], sorted[place.Above]);
+}
+
+std::vector<double> SortedQuantiles(SortedNumbers& numbers, const std::vector<double>& shares) {
+    std::vector<double> quantiles(shares.size(), kNoNumber);
+    if (numbers.Count() == 0) return quantiles;
+    std::vector<Place> places;
+    for (const double share : shares) places.emplace_back(share, numbers.Count());
+    std::uint64_t passed = 0;
+    std::vector<double> lower(shares.size());
+    numbers.ForEach([&](double number, std::uint64_t times) {
+        const auto here = [&](std::uint64_t at) { return passed <= at && at < passed + times; };
+        for (std::size_t i = 0; i < places.size(); ++i) {
+            if (here(places[i].Below)) lower[i] = number;
+            if (here(places[i].Above)) quantiles[i] = places[i].Between(lower[i], number);
+        }
+        passed += times;
+    });
+    return quantiles;
 }
 
 ShareBeyond ShareOfSamples(std::uint64_t beyond, std::uint64_t count) {

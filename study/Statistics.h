@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <vector>
 
+#include "study/SortedNumbers.h"
+
 namespace lithmark {
 
 struct Interval {
@@ -25,9 +27,13 @@ struct MeanAndDeviation {
     double Mean, Deviation;
 };
 MeanAndDeviation MeanAndDeviationOf(const std::vector<float>& values);
+// Of numbers whose sum is known.
+MeanAndDeviation MeanAndDeviationOf(SortedNumbers& numbers, double sum);
 
 // The value that a share of sorted values does not exceed, linear between two.
 double SortedQuantile(const std::vector<float>& sorted, double share);
+// One for each share.
+std::vector<double> SortedQuantiles(SortedNumbers& numbers, const std::vector<double>& shares);
 
 // A share of samples beyond a limit.
 struct ShareBeyond {

@@ -1,5 +1,6 @@
 #include "study/StudyIdentity.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstdint>
@@ -8,6 +9,7 @@
 #include "base/NumberText.h"
 #include "core/Session.h"
 #include "core/SessionFields.h"
+#include "core/TimeUnits.h"
 
 namespace lithmark {
 
@@ -39,12 +41,18 @@ class Digest {
     std::uint64_t sum_ = 0xcbf29ce484222325U;
 };
 
+// The word is that of the language in force; what it stands for is the same in all of them.
+std::string TimeUnitOfAnyLanguage() {
+    const Single seconds = SecondsPerTimeUnit(Session.TimeUnit);
+    return seconds > 0 ? NumberToText(seconds) : Session.TimeUnit;
+}
+
 void AddProject(Digest& digest) {
     const std::set<std::string_view> heading = {"Auftr", "Datum", "Proj"};
     for (const SessionField& field : SessionFields()) {
         if (heading.contains(field.Name)) continue;
         digest.Add(field.Name);
-        digest.Add(SessionFieldText(field.Ref));
+        digest.Add(field.Name == "TimeUnit" ? TimeUnitOfAnyLanguage() : SessionFieldText(field.Ref));
     }
 }
 
@@ -59,25 +67,32 @@ void AddSettings(Digest& digest) {
         digest.Add(format);
 }
 
+// Everything as the rows show it, whatever words it was asked for by.
+void AddPlan(Digest& digest, const StudyPlan& plan) {
+    for (const StudyField& field : plan.Fields()) digest.Add(field.Name);
+    for (const StudyCase& each : plan.Cases()) {
+        digest.Add(each.Name);
+        for (const FieldChange& change : each.Changes) digest.Add(std::vector<std::string>{change.Name, change.Value});
+    }
+    for (std::uint64_t row = 0; plan.Rows() && row < plan.Rows()->Count(); ++row) digest.Add(plan.Rows()->Values(row));
+    for (const Variation& variation : plan.Variations()) digest.Add(variation.Plain());
+    if (plan.Samples()) digest.Add(plan.Samples()->Plain());
+}
+
 }  // namespace
 
-std::string StudyIdentity(const StudyRequest& request, const StudyPlan& plan, const std::vector<Take>& takes) {
+std::string StudyIdentity(const StudyPlan& plan, const std::vector<Take>& takes, std::vector<ResultLimit> limits) {
     Digest digest;
     digest.Add(LITHMARK_VERSION);
     AddProject(digest);
     AddSettings(digest);
-    digest.Add(request.Vary);
-    digest.Add(plan.Rows() ? plan.Rows()->Content() : std::string());
-    digest.Add(request.Cases);
-    digest.Add(request.Random);
-    if (!request.Random.empty()) {
-        digest.Add(request.Correlate);
-        digest.Add(std::to_string(plan.Samples()->Count()));
-        digest.Add(std::to_string(request.Seed));
-        digest.Add(request.Sobol ? "sobol" : "random");
-    }
+    AddPlan(digest, plan);
     for (const Take& take : takes) digest.Add(take.Name);
-    digest.Add(request.Limit);
+    std::ranges::sort(limits, {}, &ResultLimit::Result);
+    for (const ResultLimit& limit : limits) {
+        digest.Add(limit.Result);
+        digest.Add(JsonNumber(static_cast<double>(limit.Value)));
+    }
     return digest.Hex();
 }
 

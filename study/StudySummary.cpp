@@ -74,13 +74,9 @@ void StudySummary::BeginGroup(const StudyLine& line) {
     begun_ = true;
     group_ = GroupOf(line.Row);
     aborted_ = noticed_ = 0;
+    figures_.clear();
     figures_.resize(head_.Takes.size());
     for (Figures& figures : figures_) {
-        std::vector<float> values = std::move(figures.Values);
-        values.clear();
-        if (sampled_) values.reserve(groupSize_);
-        figures = {};
-        figures.Values = std::move(values);
         figures.Copies.resize(groupSize_ / copySize_);
         figures.CopySums.resize(groupSize_ / copySize_);
     }
@@ -97,7 +93,8 @@ void StudySummary::AddNumber(Figures& figures, float number, const ResultLimit* 
     if (!(figures.Least <= number)) figures.Least = number;
     if (!(figures.Greatest >= number)) figures.Greatest = number;
     if (!sampled_) return;
-    figures.Values.push_back(number);
+    figures.Values.Add(number);
+    figures.Sum += static_cast<double>(number);
     ++figures.Copies[copy].Count;
     figures.Copies[copy].Beyond += beyond ? 1 : 0;
     figures.CopySums[copy] += static_cast<double>(number);
@@ -115,13 +112,12 @@ void StudySummary::Add(const StudyLine& line) {
 }
 
 void StudySummary::AddSampled(Cells& cells, Figures& figures) const {
-    const MeanAndDeviation moments = MeanAndDeviationOf(figures.Values);
+    const MeanAndDeviation moments = MeanAndDeviationOf(figures.Values, figures.Sum);
     const double error = sobol_ ? ErrorOfMeans(figures.Copies, figures.CopySums)
                                 : moments.Deviation / std::sqrt(static_cast<double>(figures.Count));
-    std::ranges::sort(figures.Values);
     for (const std::uint64_t count : {figures.Count, aborted_, noticed_}) cells.push_back(TableCell::OfCount(count));
     AddNumbers(cells, {moments.Mean, error, moments.Deviation, static_cast<double>(figures.Least)});
-    for (const double share : {0.05, 0.5, 0.95}) AddNumbers(cells, {SortedQuantile(figures.Values, share)});
+    for (const double quantile : SortedQuantiles(figures.Values, {0.05, 0.5, 0.95})) AddNumbers(cells, {quantile});
     AddNumbers(cells, {static_cast<double>(figures.Greatest)});
 }
 

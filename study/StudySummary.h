@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "study/SortedNumbers.h"
 #include "study/Statistics.h"
 #include "study/StudyLine.h"
 #include "study/StudyPlan.h"
@@ -22,14 +23,15 @@ class StudySummary {
   public:
     StudySummary(const StudyPlan& plan, const StudyHead& head, std::vector<ResultLimit> limits);
 
-    // All rows of the study in their order. Of one group the values are held, 4 bytes each.
+    // All rows of the study in their order. Of one group the values are held, a byte or two each.
     void Add(const StudyLine& line);
     // When the last row has been added.
     TextTable Table();
 
   private:
     struct Figures {
-        std::vector<float> Values;      // of the group, where there are samples
+        SortedNumbers Values;           // of the group, where there are samples
+        double Sum = 0;                 // of the values, in order of rows
         std::vector<CopyCount> Copies;  // of the limit
         std::vector<double> CopySums;   // of the values, by copy
         std::uint64_t Count = 0, Beyond = 0;

@@ -81,6 +81,12 @@ std::string Variation::Value(std::uint64_t i) const {
     return steps_ == Steps::List ? list_[i] : ValueText(field_, NumberAt(i));
 }
 
+std::vector<std::string> Variation::Plain() const {
+    if (steps_ == Steps::List) return list_;
+    const char* kind = steps_ == Steps::Factors ? "^" : bothEnds_ ? "*" : ":";
+    return {kind, JsonNumber(from_), JsonNumber(to_), JsonNumber(step_)};
+}
+
 double Variation::Extreme(bool greatest) const {
     if (!field_.Numeric()) FailRequest(908018_text, text_);
     if (steps_ != Steps::List) {

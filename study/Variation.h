@@ -20,6 +20,8 @@ class Variation {
     std::uint64_t Count() const noexcept { return count_; }
     // Value 0 to Count() - 1.
     std::string Value(std::uint64_t i) const;
+    // The same texts for all ways to write the same steps between the same ends, or the same list.
+    std::vector<std::string> Plain() const;
     // The least and the greatest of all values; StudyFailure where they are no numbers.
     double Least() const;
     double Greatest() const;

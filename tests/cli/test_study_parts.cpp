@@ -46,6 +46,47 @@ TEST_F(CliParts, JoinedShardsAreTheWholeStudyByteForByte) {
     }
 }
 
+// Samples depend on neither workers nor shards, and a shard that was asked for by symbols is a part all the same.
+TEST_F(CliParts, RandomRowsAreTheSameForAnyWorkersAndShards) {
+    for (const std::string design : {"random", "sobol"}) {
+        const auto words = [&](const std::string& es, const std::string& nue) {
+            return std::vector<std::string>{"study",       project,
+                                            "--random",    es + "=lognormal:8000:30%",
+                                            "--random",    nue + "=uniform:0:0.4",
+                                            "--correlate", "Es,Nue=0.5",
+                                            "--samples",   "64",
+                                            "--design",    design,
+                                            "--take",      "s"};
+        };
+        const auto byName = words("Es", "Nue"), bySymbol = words("Es", "Nue_s");
+        const std::string whole = Run(With(byName, {"--jobs", "1"})).Out;
+        EXPECT_EQ(LinesOf(whole).size(), 65u);
+        EXPECT_EQ(Run(With(byName, {"--jobs", "5"})).Out, whole);
+        for (int k = 1; k <= 3; ++k)
+            EXPECT_EQ(Run(With(k == 2 ? bySymbol : byName, {"--shard", std::to_string(k) + "/3", "--output", Part(k)}))
+                          .Status,
+                      0);
+        EXPECT_EQ(Run(With(byName, JoinWords(3))).Out, whole);
+        WriteBytes(work / "begun.csv", whole.substr(0, whole.size() / 2));
+        EXPECT_EQ(Run(With(bySymbol, {"--resume", work / "begun.csv"})).Status, 0);
+        EXPECT_EQ(ReadBytes(work / "begun.csv"), whole);
+    }
+}
+
+// What a whole study ends with: good rows 0, aborted ones 3. A shard of nothing but aborted rows is done too.
+TEST_F(CliParts, JoiningEndsAsTheWholeStudyDoes) {
+    for (const auto& [es, status] : {std::pair<std::string, int>{"1,2", 0}, {"0,0", 3}}) {
+        const std::vector<std::string> words = {"study", project, "--vary", "Es=" + es, "--take", "s"};
+        for (const int k : {1, 2})
+            EXPECT_EQ(Run(With(words, {"--shard", std::to_string(k) + "/2", "--output", Part(k)})).Status, 0);
+        const CliResult joined = Run(With(words, JoinWords(2))), whole = Run(words);
+        EXPECT_EQ(joined.Status, status);
+        EXPECT_EQ(whole.Status, status);
+        EXPECT_EQ(joined.Out, whole.Out);
+        EXPECT_EQ(joined.Err, whole.Err);
+    }
+}
+
 TEST_F(CliParts, PartsMayHaveAnyFormOfRows) {
     Shards(2, "json");
     const CliResult csv = Run(Words(JoinWords(2, "json")));

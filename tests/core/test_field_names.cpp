@@ -16,6 +16,9 @@ TEST(FieldNames, NamesAndSymbolsNameAField) {
     EXPECT_EQ(FieldNameOf(5, "Tc"), "T");
     EXPECT_EQ(FieldNameOf(5, "h2"), "hLayer(2)");
     EXPECT_EQ(FieldNameOf(5, "hLayer[2]"), "hLayer(2)");
+    EXPECT_EQ(FieldNameOf(5, "hLayer(02)"), "hLayer(2)");
+    EXPECT_EQ(FieldNameOf(6, "LoadTime(00)"), "LoadTime(0)");
+    EXPECT_EQ(FieldNameOf(5, "hLayer()"), "hLayer()") << "no element, told as none where it is looked for";
     EXPECT_EQ(FieldNameOf(9, "e"), "Exz_x");
     EXPECT_EQ(FieldNameOf(9, "LoadValue"), "LoadValue");
     // A symbol belongs to its problem.

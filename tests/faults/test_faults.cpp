@@ -188,6 +188,28 @@ TEST_P(Faults, NeverLoseOrBendAFile) {
     EXPECT_FALSE(Thorough()) << "no end of operations";
 }
 
+// All files of a raft's run are brought to the disk before the first takes its place: a disk that fails any one of them
+// leaves the old ones, all of them.
+class RaftFiles : public Faults {};
+
+TEST_P(RaftFiles, AreAllOnTheDiskBeforeTheFirstTakesItsPlace) {
+    ASSERT_EQ(Save(0).Status, 0);
+    std::size_t written = 0;
+    for (const auto& [name, bytes] : Content()) written += !before_.contains(name) || before_.at(name) != bytes;
+    EXPECT_GE(written, 11u);
+    for (std::size_t n = 1; n <= written; ++n) {
+        SCOPED_TRACE("n = " + std::to_string(n));
+        Prepare();
+        const Outcome outcome = Save(static_cast<int>(n));
+        EXPECT_TRUE(outcome.Struck);
+        EXPECT_NE(outcome.Status, 0);
+        EXPECT_EQ(Content(), before_);
+    }
+    Prepare();
+    EXPECT_FALSE(Save(static_cast<int>(written) + 1).Struck) << "each file once";
+}
+
+INSTANTIATE_TEST_SUITE_P(OneSync, RaftFiles, testing::Values(Fault{"raft", "sync", "fail"}), NameOf);
 INSTANTIATE_TEST_SUITE_P(EverySave, Faults, testing::ValuesIn(AllFaults()), NameOf);
 
 }  // namespace
