@@ -1,6 +1,8 @@
 // Consolidation settlement by sublayers under a circle, off its axis: sublayers times nodes of the mesh.
 #include <benchmark/benchmark.h>
 
+#include <array>
+
 #include "core/Session.h"
 #include "core/StartSession.h"
 #include "kernels/consolidation/BasConsolidation.h"
@@ -35,23 +37,28 @@ void CircleInSublayers(benchmark::State& state) {
 }
 BENCHMARK(CircleInSublayers)->Arg(12)->Arg(24)->Arg(100)->Unit(benchmark::kMillisecond);
 
-// The innermost calls of the rafts.
+// The innermost calls of the rafts, one after the other at places of which none waits for another.
+template <typename Factor>
+void Factors(benchmark::State& state, const Factor& factor) {
+    constexpr int kPlaces = 512;
+    std::array<Single, kPlaces> places;
+    for (int i = 0; i < kPlaces; ++i) places[static_cast<std::size_t>(i)] = 0.25 + i * 0.01;
+    for (auto _ : state)
+        for (const Single place : places) benchmark::DoNotOptimize(factor(place));
+    state.SetItemsProcessed(state.iterations() * kPlaces);
+}
+
 void PointFactor(benchmark::State& state) {
-    Single x = 3;
-    for (auto _ : state) benchmark::DoNotOptimize(x = 3 + MeanPointFactor(x, 1.5, 2, 4));
+    Factors(state, [](Single x) { return MeanPointFactor(x, 1.5, 2, 4); });
+}
+void CornerFactor(benchmark::State& state) {
+    Factors(state, [](Single a) { return MeanCornerFactor(a, 0.25, 2, 4); });
+}
+void SectorFactor(benchmark::State& state) {
+    Factors(state, [](Single r) { return MeanSectorFactor(r, r + 1, 0.26, 2, 4); });
 }
 BENCHMARK(PointFactor);
-
-void CornerFactor(benchmark::State& state) {
-    Single a = 0.25;
-    for (auto _ : state) benchmark::DoNotOptimize(a = 0.25 + MeanCornerFactor(a, 0.25, 2, 4));
-}
 BENCHMARK(CornerFactor);
-
-void SectorFactor(benchmark::State& state) {
-    Single r = 2;
-    for (auto _ : state) benchmark::DoNotOptimize(r = 2 + MeanSectorFactor(r, 3, 0.26, 2, 4));
-}
 BENCHMARK(SectorFactor);
 
 }  // namespace

@@ -59,8 +59,11 @@ void WrittenRows(benchmark::State& state) {
     const PlannedRow planned = plan.Row(0);
     RowOutcome outcome;
     outcome.Aborted = false;
-    outcome.Numbers = {123.456F};
+    outcome.Numbers = {0};
+    int at = 0;
     for (auto _ : state) {
+        at = (at + 7919) % 65536;
+        outcome.Numbers[0] = 100 + static_cast<float>(at) * 0.001F;
         const StudyLine line = LineOf(1, planned, outcome, head);
         benchmark::DoNotOptimize(CsvRecord(CellsOf(head, line)));
         summary.Add(line);

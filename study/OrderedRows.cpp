@@ -1,5 +1,6 @@
 #include "study/OrderedRows.h"
 
+#include <algorithm>
 #include <chrono>
 #include <deque>
 #include <optional>
@@ -12,7 +13,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds kAskEvery{50};
-// Answers that may wait for an earlier row, in rows that keep the workers busy.
+// Answers that may wait for an earlier row, in rows that keep the workers busy; few where rows are short and many.
 constexpr std::uint64_t kAhead = 64;
 
 }  // namespace
@@ -24,7 +25,8 @@ std::uint64_t WorkInOrder(WorkerPool& pool, const OrderedRows& rows) {
     Clock::time_point asked{};
     while (given < rows.Count) {
         const std::uint64_t appetite = pool.Appetite();
-        while (added < rows.Count && pool.Unanswered() < appetite && added - given < kAhead * appetite) {
+        const std::uint64_t ahead = std::max(2 * appetite, std::min(kAhead * appetite, kMostRowsAhead));
+        while (added < rows.Count && pool.Unanswered() < appetite && added - given < ahead) {
             pool.Add(added, rows.Input(added));
             window.emplace_back();
             ++added;

@@ -15,8 +15,12 @@ struct OrderedRows {
     std::function<bool(std::uint64_t done)> GoOn;  // asked some twenty times a second; false ends the study
 };
 
+// So many rows at most are worked ahead of one that is late, so that what waits for it takes little memory; more only
+// where very many workers would run dry.
+inline constexpr std::uint64_t kMostRowsAhead = 16384;
+
 // Works all rows and gives them in order; of an ended study those ahead of the first that is missing. The count of rows
-// that were given. Few rows are held at any time, however many there are.
+// that were given.
 std::uint64_t WorkInOrder(WorkerPool& pool, const OrderedRows& rows);
 
 }  // namespace lithmark
