@@ -61,7 +61,9 @@ constexpr int kChains = 12, kTurns = 512;
 
 template <int Bytes>
 [[gnu::always_inline]] inline float MultiplyAndAdd(float factor, float term) {
-    typename Lanes<Bytes>::Vector sum[kChains] = {};
+    typename Lanes<Bytes>::Vector sum[kChains];
+    float start = factor;
+    for (auto& each : sum) each = (start += 1) - typename Lanes<Bytes>::Vector{};
     for (int turn = 0; turn < kTurns; ++turn)
 #pragma GCC unroll 16
         for (auto& each : sum) each = each * factor + term;
@@ -76,7 +78,11 @@ void CountOperations(benchmark::State& state) {
 }
 
 void MultiplyAdds16Bytes(benchmark::State& state) {
-    for (auto _ : state) benchmark::DoNotOptimize(MultiplyAndAdd<16>(0.5F, 1));
+    float factor = 0.5F;
+    for (auto _ : state) {
+        Hide(factor);
+        benchmark::DoNotOptimize(MultiplyAndAdd<16>(factor, 1));
+    }
     CountOperations<16>(state);
 }
 BENCHMARK(MultiplyAdds16Bytes);
@@ -91,14 +97,22 @@ BENCHMARK(MultiplyAdds16Bytes);
 
 void MultiplyAdds32Bytes(benchmark::State& state) {
     if (!__builtin_cpu_supports("avx2")) return state.SkipWithError("no AVX2");
-    for (auto _ : state) benchmark::DoNotOptimize(Wide(0.5F));
+    float factor = 0.5F;
+    for (auto _ : state) {
+        Hide(factor);
+        benchmark::DoNotOptimize(Wide(factor));
+    }
     CountOperations<32>(state);
 }
 BENCHMARK(MultiplyAdds32Bytes);
 
 void MultiplyAdds64Bytes(benchmark::State& state) {
     if (!__builtin_cpu_supports("avx512f")) return state.SkipWithError("no AVX-512");
-    for (auto _ : state) benchmark::DoNotOptimize(Widest(0.5F));
+    float factor = 0.5F;
+    for (auto _ : state) {
+        Hide(factor);
+        benchmark::DoNotOptimize(Widest(factor));
+    }
     CountOperations<64>(state);
 }
 BENCHMARK(MultiplyAdds64Bytes);

@@ -83,6 +83,7 @@ std::vector<double> SortedQuantiles(SortedNumbers& numbers, const std::vector<do
     std::vector<double> quantiles(shares.size(), kNoNumber);
     if (numbers.Count() == 0) return quantiles;
     std::vector<Place> places;
+    places.reserve(shares.size());
     for (const double share : shares) places.emplace_back(share, numbers.Count());
     std::uint64_t passed = 0;
     std::vector<double> lower(shares.size());

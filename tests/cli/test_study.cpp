@@ -94,10 +94,10 @@ TEST_F(CliStudy, StepsOfATenthMeetTheirEnd) {
 }
 
 TEST_F(CliStudy, ValuesAreEvenlyOrByEvenFactorsBetweenBothEnds) {
+    const std::string project = Example("PointLoad");
     const auto values = [&](const std::string& vary) {
         std::vector<double> numbers;
-        for (const Json& row : Study(Example("PointLoad"), {"--vary", vary, "--take", "s"}))
-            numbers.push_back(row["x"]);
+        for (const Json& row : Study(project, {"--vary", vary, "--take", "s"})) numbers.push_back(row["x"]);
         return numbers;
     };
     EXPECT_THAT(values("x=1:3:*5"), ElementsAre(1, 1.5, 2, 2.5, 3));

@@ -131,13 +131,13 @@ TEST_F(CliSign, AFileOfRowsIsToldByItsCells) {
 
 // The word of the project's time unit is that of the language in force.
 TEST_F(CliSign, NoLanguageTakesPart) {
-    for (const std::string project : {Example("OneClayLayer"), Example("OfficeBuilding"), Example("WaterTower")}) {
+    for (const int problem : {5, 6, 7, 8}) {
+        const std::string project = New("Clay" + std::to_string(problem), problem);
         std::set<std::string> signs;
-        for (const char* lang : {"de", "en", "ar"})
-            signs.insert(Sign(project, {"--lang", lang, "--vary", "TimePeriod=1,2"}));
+        for (const char* lang : {"de", "en", "ar"}) signs.insert(Sign(project, {"--lang", lang, "--vary", "Cc=1,2"}));
         EXPECT_EQ(signs.size(), 1u) << project;
     }
-    const std::string tower = Example("WaterTower");
+    const std::string tower = New("Tower", 8);
     const auto unit = [&](const std::string& word) {
         return Sign(tower, {"--lang", "en", "--vary", "TimePeriod=1", "--set", "TimeUnit=" + word});
     };
