@@ -1,5 +1,6 @@
 #include "desktop/ChartView.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "render/QtText.h"
@@ -11,6 +12,20 @@ namespace {
 
 constexpr double kZoomStep = 1.25;
 constexpr int kClickTravel = 4;  // pixels; farther is a pan
+
+template <typename List>
+bool SameItems(const List& one, const List& other) {
+    return std::ranges::equal(one.Items(), other.Items());
+}
+
+// What is drawn; the table's head and what a command would show besides are left out.
+bool SameCurves(const ChartArguments& one, const ChartArguments& other) {
+    return one.Curves == other.Curves && one.LastRow == other.LastRow && one.LastColumn == other.LastColumn &&
+           one.XTitle == other.XTitle && one.YTitle == other.YTitle && one.ChartTitle == other.ChartTitle &&
+           one.SettlementsDown == other.SettlementsDown && one.XStart == other.XStart && one.XEnd == other.XEnd &&
+           SameItems(one.Legends, other.Legends) && SameItems(one.LineStyles, other.LineStyles) &&
+           SameItems(one.Cells, other.Cells);
+}
 
 }  // namespace
 
@@ -28,6 +43,8 @@ ChartView::ChartView(const ChartArguments& chart, QWidget* parent)
 }
 
 void ChartView::ShowChart(const ChartArguments& chart) {
+    // The same curves keep their marks and their zoom.
+    if (SameCurves(chart, chart_)) return;
     chart_ = chart;
     reading_ = std::make_unique<ChartReading>(chart);
     look_.Hidden.clear();

@@ -18,6 +18,7 @@
 #include "desktop/ScreenRoom.h"
 #include "desktop/ScrollColumn.h"
 #include "desktop/Sizes.h"
+#include "desktop/Toast.h"
 #include "files/CommonStep.h"
 #include "render/QtText.h"
 #include "services/SharedServices.h"
@@ -137,11 +138,13 @@ void ChartWindow::CopyPicture() {
     UnderCommonStep([this] {
         QApplication::clipboard()->setImage(
             QImage::fromData(QByteArray::fromStdString(ChartPng(plot_->Chart(), plot_->Look())), "PNG"));
+        ShowToast(*this, Q(Text(910214_text)));
     });
 }
 
 void ChartWindow::CopyTable() {
     QApplication::clipboard()->setText(Q(ChartTabs(chart_)));
+    ShowToast(*this, Q(Text(910214_text)));
 }
 
 void ChartWindow::Print() {

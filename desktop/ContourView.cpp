@@ -3,12 +3,15 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
+#include <utility>
 
 #include "desktop/GraphicWords.h"
+#include "desktop/PaneKeys.h"
 #include "render/ContourDocument.h"
 #include "render/FieldDocument.h"
 #include "render/QtText.h"
 #include "render/SansFont.h"
+#include "render/drawings/Inks.h"
 
 namespace lithmark {
 
@@ -26,6 +29,10 @@ ContourView::ContourView(frmContour& form, Shows shows, QWidget* parent) : QWidg
     setMinimumSize(shows == Shows::Plot ? kLeast : kLegendWidth, kLeast);
     setObjectName(shows == Shows::Plot ? QStringLiteral("plot") : QStringLiteral("legend"));
     if (shows == Shows::Legend) setMaximumHeight(kLegendHeight);
+    if (shows == Shows::Plot) {
+        setFocusPolicy(Qt::StrongFocus);
+        PaneKeys::MakePane(*this);
+    }
     MakeGraphic(*this, shows == Shows::Legend ? Q(Text(913604_text)) : QString());
 }
 
@@ -111,8 +118,27 @@ void ContourView::paintEvent(QPaintEvent*) {
     painter.drawImage(area.topLeft(), image_);
     if (shows_ == Shows::Legend) return;
     if (const auto section = form_.Section()) DrawSection(painter, area, form_.Plot.Window, *section);
-    painter.setPen(palette().color(QPalette::Mid));
+    DrawCross(painter);
+    painter.setPen(hasFocus() ? QPen(ColourOf(Ink::Selection, ThemeOf(palette())), 2)
+                              : QPen(palette().color(QPalette::Mid)));
     painter.drawRect(area.adjusted(0, 0, -1, -1));
+}
+
+// Where the keys have led: on the light sheet of the plot in any window.
+void ContourView::DrawCross(QPainter& painter) const {
+    if (!walked_) return;
+    const QRect area = Area();
+    const WorldWindow& window = form_.Plot.Window;
+    const double x = area.left() + (walked_->X - window.XMin) / (window.XMax - window.XMin) * area.width();
+    const double y = area.top() + (window.YMax - walked_->Y) / (window.YMax - window.YMin) * area.height();
+    painter.save();
+    painter.setClipRect(area);
+    for (const auto& [ink, width] : {std::pair(Ink::Base, 3), {Ink::Text, 1}}) {
+        painter.setPen(QPen(ColourOf(ink, Theme::Light), width));
+        painter.drawLine(QPointF(x, area.top()), QPointF(x, area.bottom()));
+        painter.drawLine(QPointF(area.left(), y), QPointF(area.right(), y));
+    }
+    painter.restore();
 }
 
 std::optional<FieldPoint> ContourView::PlaceAt(const QPointF& at) const {
@@ -130,20 +156,70 @@ void ContourView::mousePressEvent(QMouseEvent* event) {
 void ContourView::mouseMoveEvent(QMouseEvent* event) {
     const auto place = PlaceAt(event->position());
     if (!place) return leaveEvent(nullptr);
-    if (sectionFrom_) {
-        form_.SetSection({*sectionFrom_, *place});
-        update();
-        if (SectionLaid) SectionLaid();
-    }
+    if (std::exchange(walked_, std::nullopt)) update();
+    if (sectionFrom_) Lay({*sectionFrom_, *place});
     if (Over) Over(place->X, place->Y);
+}
+
+void ContourView::Lay(const FieldLine& section) {
+    form_.SetSection(section);
+    update();
+    if (SectionLaid) SectionLaid();
 }
 
 void ContourView::mouseReleaseEvent(QMouseEvent*) {
     sectionFrom_.reset();
 }
 
+// What the keys have led to stays until the focus goes.
 void ContourView::leaveEvent(QEvent*) {
+    if (Left && !walked_) Left();
+}
+
+// From the middle of what is seen, in steps of a twentieth of it.
+bool ContourView::Walk(int key) {
+    constexpr double kSteps = 20;
+    const bool across = key == Qt::Key_Left || key == Qt::Key_Right, up = key == Qt::Key_Up || key == Qt::Key_Down;
+    if (!across && !up) return false;
+    const WorldWindow& window = form_.Plot.Window;
+    const double width = window.XMax - window.XMin, height = window.YMax - window.YMin;
+    const double way = key == Qt::Key_Right || key == Qt::Key_Up ? 1 : -1;
+    FieldPoint at = walked_.value_or(FieldPoint{window.XMin + width / 2, window.YMin + height / 2});
+    if (walked_ && across) at.X += way * width / kSteps;
+    if (walked_ && up) at.Y += way * height / kSteps;
+    walked_ = FieldPoint{std::clamp<double>(at.X, window.XMin, window.XMax),
+                         std::clamp<double>(at.Y, window.YMin, window.YMax)};
+    update();
+    if (Over) Over(walked_->X, walked_->Y);
+    return true;
+}
+
+bool ContourView::SetEnd(bool first) {
+    const auto section = form_.Section();
+    if (!walked_ || !section) return false;
+    Lay(first ? FieldLine{*walked_, section->To} : FieldLine{section->From, *walked_});
+    return true;
+}
+
+void ContourView::keyPressEvent(QKeyEvent* event) {
+    const bool plain = (event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == Qt::NoModifier;
+    const int key = plain && form_.Ready() ? event->key() : 0;
+    if (Walk(key)) return;
+    if ((key == Qt::Key_A || key == Qt::Key_B) && SetEnd(key == Qt::Key_A)) return;
+    QWidget::keyPressEvent(event);
+}
+
+void ContourView::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    update();
+}
+
+void ContourView::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
+    update();
+    if (!std::exchange(walked_, std::nullopt)) return;
     if (Left) Left();
+    Tell();
 }
 
 }  // namespace lithmark

@@ -1,5 +1,6 @@
 #include "desktop/EditGrid.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
 #include <QKeyEvent>
@@ -23,21 +24,30 @@ EditGrid::EditGrid(TableEditing& rows, QWidget* parent) : QTableWidget(parent), 
     });
 }
 
-void EditGrid::BindKeys() {
-    const auto bind = [this](const QKeySequence& keys, void (EditGrid::*slot)()) {
-        auto* shortcut = new QShortcut(keys, window());
-        connect(shortcut, &QShortcut::activated, this, slot);
+const std::vector<EditGrid::Command>& EditGrid::Commands() {
+    static const std::vector<Command> commands = {
+        {nullptr, QKeySequence(QKeySequence::Copy), &EditGrid::Copy},
+        {"cmdPaste", QKeySequence(QKeySequence::Paste), &EditGrid::Paste},
+        {"cmdUndo", QKeySequence(QKeySequence::Undo), &EditGrid::Undo},
+        {"cmdRedo", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), &EditGrid::Redo},
+        {"cmdAddRow", QKeySequence(Qt::CTRL | Qt::Key_Plus), &EditGrid::InsertRow},
+        {"cmdDeleteRow", QKeySequence(Qt::CTRL | Qt::Key_Minus), &EditGrid::DeleteRows},
+        {"cmdUp", QKeySequence(Qt::ALT | Qt::Key_Up), &EditGrid::MoveUp},
+        {"cmdDown", QKeySequence(Qt::ALT | Qt::Key_Down), &EditGrid::MoveDown},
     };
-    bind(QKeySequence::Copy, &EditGrid::Copy);
-    bind(QKeySequence::Paste, &EditGrid::Paste);
-    bind(QKeySequence::Undo, &EditGrid::Undo);
-    bind(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), &EditGrid::Redo);
-    bind(QKeySequence(Qt::CTRL | Qt::Key_Plus), &EditGrid::InsertRow);
-    bind(QKeySequence(Qt::CTRL | Qt::Key_Minus), &EditGrid::DeleteRows);
-    for (const auto& [key, by] : {std::pair(Qt::Key_Up, -1), {Qt::Key_Down, 1}}) {
-        auto* shortcut = new QShortcut(QKeySequence(Qt::ALT | key), window());
-        connect(shortcut, &QShortcut::activated, this, [this, by = by] { MoveRows(by); });
-    }
+    return commands;
+}
+
+void EditGrid::BindKeys() {
+    for (const Command& command : Commands())
+        connect(new QShortcut(command.Keys, window()), &QShortcut::activated, this, command.Do);
+}
+
+void EditGrid::TellKeys(QWidget& window) {
+    for (const Command& command : Commands())
+        if (auto* button =
+                command.Button == nullptr ? nullptr : window.findChild<QAbstractButton*>(QLatin1String(command.Button)))
+            button->setToolTip(command.Keys.toString(QKeySequence::NativeText));
 }
 
 EditGrid::Selection EditGrid::Selected() const {
@@ -113,9 +123,9 @@ void EditGrid::changeEvent(QEvent* event) {
     showing_ = false;
 }
 
-template <typename Command>
-void EditGrid::Change(Command&& command, int row, int column) {
-    command();
+template <typename Step>
+void EditGrid::Change(Step&& step, int row, int column) {
+    step();
     ShowRows();
     setCurrentCell(std::clamp(row, 0, rows_.Rows() - 1), std::clamp(column, 0, rows_.Columns() - 1));
     if (OnSelection) OnSelection();

@@ -2,9 +2,11 @@
 // rows that come, go and move, undo. Its owner may have further columns behind, which are read only.
 #pragma once
 
+#include <QKeySequence>
 #include <QTableWidget>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "ui/model/TableEditing.h"
 
@@ -38,18 +40,29 @@ class EditGrid : public QTableWidget {
     bool CanDelete() const;
     bool CanMove(int by) const;
 
+    // The buttons of a window that do what keys do in its grid, by their names: they tell the keys.
+    static void TellKeys(QWidget& window);
+
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
 
   private:
+    struct Command {
+        const char* Button;  // where a window has one; null for none
+        QKeySequence Keys;
+        void (EditGrid::*Do)();
+    };
+    static const std::vector<Command>& Commands();
     void BindKeys();
+    void MoveUp() { MoveRows(-1); }
+    void MoveDown() { MoveRows(1); }
     void MarkCell(int row, int column);
     QString InWords(int row, int column) const;
     void Typed(int row, int column);
     // Runs a command on the rows, shows them, and selects a cell.
-    template <typename Command>
-    void Change(Command&& command, int row, int column);
+    template <typename Step>
+    void Change(Step&& step, int row, int column);
 
     TableEditing& rows_;
     bool showing_ = false;

@@ -4,11 +4,11 @@
 #include <QWidget>
 
 #include "core/Units.h"
+#include "desktop/BoxWords.h"
 #include "desktop/FormView.h"
 #include "desktop/PageTools.h"
 #include "render/QtText.h"
-#include "render/drawings/Symbols.h"
-#include "services/texts/LanguageTexts.h"
+#include "ui/model/BoxMarks.h"
 #include "ui/model/FindField.h"
 
 namespace lithmark {
@@ -36,31 +36,21 @@ QString NameOf(const std::string& caption) {
     return name;
 }
 
-std::string Number(double value) {
-    return PlainNumber(value).toStdString();
-}
-
-// "0 to 0.5"; empty where every number will do.
-QString RangeOf(const FieldRow& row) {
-    const double factor = FactorOf(row.In.In);
-    const double lower = row.Limits.Lower.Shown(factor, -kNoLimit), upper = row.Limits.Upper.Shown(factor, kNoLimit);
-    const bool below = lower > -kNoLimit, above = upper < kNoLimit;
-    if (below && above) return Q(Text(910201_text, {{"|1", Number(lower)}, {"|2", Number(upper)}}));
-    if (below) return Q(Text(910202_text, {{"|1", Number(lower)}}));
-    return above ? Q(Text(910203_text, {{"|1", Number(upper)}})) : QString();
-}
-
 QString DescriptionOf(const FieldRow& row) {
+    const double factor = FactorOf(row.In.In);
+    const BoxWords box{row.Symbol.On != nullptr ? row.Symbol.On->Caption : std::string(),
+                       row.In.On != nullptr ? row.In.On->Caption : std::string(),
+                       row.Limits.Lower.Shown(factor, -kNoLimit), row.Limits.Upper.Shown(factor, kNoLimit)};
+    return Description(box, row.Fault().value_or(""));
+}
+
+// Of a box of words: what its text gives, where that stands beside it, and what is wrong with it.
+QString DescriptionOfWords(const FieldRow& row, const std::string& mark) {
     QStringList words;
-    if (row.Symbol.On != nullptr && !row.Symbol.On->Caption.empty()) words.append(SpokenSymbol(row.Symbol.On->Caption));
-    QString unit = row.In.On != nullptr ? Q(row.In.On->Caption) : QString();
-    unit.remove(QLatin1Char('[')).remove(QLatin1Char(']'));
-    if (unit.isEmpty() || unit == QLatin1String("-")) unit = Q(Text(910200_text));
-    words.append(unit);
-    if (const QString range = RangeOf(row); !range.isEmpty()) words.append(range);
-    QString all = words.join(QStringLiteral(", "));
-    if (const auto fault = row.Fault()) all += QStringLiteral("; ") + Q(Text(910204_text, {{"|1", *fault}}));
-    return all;
+    const bool shows = row.Beside != nullptr && row.Beside->Kind == ControlKind::TextLabel;
+    if (shows && !row.Beside->Caption.empty()) words.append(Q(row.Beside->Caption));
+    if (!mark.empty()) words.append(FaultInWords(mark));
+    return words.join(QStringLiteral("; "));
 }
 
 // A screen reader hears of a change, and of nothing else.
@@ -72,6 +62,7 @@ void TellDescription(QWidget& widget, const QString& words) {
 
 void NameFields(FormView& view) {
     Form& form = view.Model();
+    const auto* marks = dynamic_cast<const BoxMarks*>(&form);
     QString before = NameOf(form.Caption);
     for (const Control* control : form.Controls()) {
         const bool heading = control->Kind == ControlKind::TextLabel || control->Kind == ControlKind::Frame;
@@ -83,7 +74,10 @@ void NameFields(FormView& view) {
         const bool labelled = row != nullptr && row->Label.On != nullptr && !row->Label.On->Caption.empty();
         const QString name = labelled ? NameOf(row->Label.On->Caption) : before;
         if (widget.accessibleName() != name) widget.setAccessibleName(name);
-        if (row != nullptr && row->Field.Exists()) TellDescription(widget, DescriptionOf(*row));
+        if (row == nullptr) continue;
+        TellDescription(widget, row->Field.Exists()
+                                    ? DescriptionOf(*row)
+                                    : DescriptionOfWords(*row, marks != nullptr ? marks->MarkOf(*control) : ""));
     }
 }
 

@@ -33,7 +33,6 @@
 #include "desktop/layouts/Layouts.h"
 #include "render/QtText.h"
 #include "render/drawings/Symbols.h"
-#include "services/SharedServices.h"
 #include "services/TextTools.h"
 #include "ui/model/BoxMarks.h"
 #include "ui/model/FindField.h"
@@ -257,16 +256,10 @@ void FormView::Left(const Control& box) {
     if (!mark.empty()) SpeakAlert(Alert != nullptr ? *Alert : *WidgetOf(box), Q(mark));
 }
 
-// Up and Down step the digit left of the cursor by one, the page keys by ten.
-bool FormView::StepsNumber(Control& control, QLineEdit& box, int key) {
+bool FormView::StepsNumber(Control& control, QLineEdit& box, const QKeyEvent& key) {
     const FieldRow* row = FindField(form_, control);
-    if (row == nullptr || !row->Field.Exists()) return false;
-    const int steps = key == Qt::Key_Up ? 1 : key == Qt::Key_Down ? -1 : key == Qt::Key_PageUp ? 10 : -10;
-    const auto stepped = StepNumber(box.text(), box.cursorPosition(), steps, QLatin1Char(SharedServices().DecimalSign));
-    if (!stepped) return false;
-    box.setText(stepped->Text);
-    Edited(control, stepped->Text);
-    box.setCursorPosition(stepped->Cursor);
+    if (row == nullptr || !row->Field.Exists() || !StepByKey(box, key)) return false;
+    Edited(control, box.text());
     return true;
 }
 
@@ -424,11 +417,11 @@ bool FormView::eventFilter(QObject* watched, QEvent* event) {
         if (why != Qt::ActiveWindowFocusReason && why != Qt::PopupFocusReason && why != Qt::MenuBarFocusReason)
             if (const Control* box = form_.Find(watched->objectName().toStdString())) Left(*box);
     } else if (event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        const bool steps = key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown;
-        if (auto* box = qobject_cast<QLineEdit*>(watched); box != nullptr && steps)
+        const auto& pressed = static_cast<const QKeyEvent&>(*event);
+        const int key = pressed.key();
+        if (auto* box = qobject_cast<QLineEdit*>(watched))
             if (Control* control = form_.Find(box->objectName().toStdString()))
-                if (StepsNumber(*control, *box, key)) return true;
+                if (StepsNumber(*control, *box, pressed)) return true;
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {
             Control* const from = form_.Find(watched->objectName().toStdString());
             if (from && from->OnEnter) {

@@ -10,6 +10,7 @@
 #include "desktop/OptionGroups.h"
 #include "services/host/Form.h"
 
+class QKeyEvent;
 class QLineEdit;
 class QWidget;
 
@@ -68,7 +69,7 @@ class FormView : public QDialog {
   private:
     QWidget* Make(Control& control);
     void Edited(Control& control, const QString& text);
-    bool StepsNumber(Control& control, QLineEdit& box, int key);
+    bool StepsNumber(Control& control, QLineEdit& box, const QKeyEvent& key);
     void Show(Control& control, QWidget& widget);
     // The window grows and shrinks with its pictures, and grows with the fields that an event brings into sight, as far
     // as the screen goes.

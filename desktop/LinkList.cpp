@@ -45,6 +45,13 @@ void LinkList::ShowItems(const std::vector<std::string>& items) {
     updateGeometry();
 }
 
+// Links have the ink of light or dark windows.
+void LinkList::changeEvent(QEvent* event) {
+    QListWidget::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange) return;
+    for (int i = 0; i < count(); ++i) item(i)->setForeground(palette().link());
+}
+
 // As high as its lines, up to some; then it scrolls.
 QSize LinkList::sizeHint() const {
     int height = 2 * frameWidth();

@@ -20,6 +20,7 @@ class LinkList : public QListWidget {
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 };
 
 }  // namespace lithmark

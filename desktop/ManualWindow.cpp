@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSvgRenderer>
 #include <QTextBlock>
 #include <QTextBrowser>
@@ -110,8 +111,17 @@ ManualWindow::ManualWindow(QWidget* parent, const std::string& page, bool opensE
     connect(browser_, &QTextBrowser::anchorClicked, this,
             [this](const QUrl& link) { Follow(link.toString().toStdString()); });
     auto* buttons = new QDialogButtonBox(this);
+    back_ = buttons->addButton(Q(Text(913654_text, Styles::Button)), QDialogButtonBox::ActionRole);
+    back_->setObjectName(QStringLiteral("cmdBack"));
+    back_->setAutoDefault(false);
+    back_->setEnabled(false);
+    back_->setToolTip(QKeySequence(QKeySequence::Back).toString(QKeySequence::NativeText));
+    connect(back_, &QPushButton::clicked, this, [this] { GoBack(); });
+    for (const QKeySequence& keys : {QKeySequence(QKeySequence::Back), QKeySequence(Qt::Key_Backspace)})
+        connect(new QShortcut(keys, this), &QShortcut::activated, back_, &QPushButton::click);
     QPushButton* ok = buttons->addButton(Q(Text(6_text, Styles::Button)), QDialogButtonBox::AcceptRole);
     ok->setObjectName(QStringLiteral("cmdok"));
+    ok->setDefault(true);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     auto* column = new QVBoxLayout(this);
     column->addWidget(browser_, 1);
@@ -121,7 +131,11 @@ ManualWindow::ManualWindow(QWidget* parent, const std::string& page, bool opensE
 }
 
 void ManualWindow::Follow(const std::string& link) {
-    if (const std::string page = PageOfLink(page_, link); !page.empty()) return Open(page);
+    if (const std::string page = PageOfLink(page_, link); !page.empty()) {
+        former_.push_back({page_, browser_->verticalScrollBar()->value()});
+        back_->setEnabled(true);
+        return Open(page);
+    }
     const std::string example = ExampleOfLink(page_, link);
     if (example.empty()) return;
     if (!opensExamples_)
@@ -147,6 +161,17 @@ void ManualWindow::Open(const std::string& page) {
         PlaceHeadings(*browser_->document(), direction);
     }
     ScrollToSection();
+}
+
+void ManualWindow::GoBack() {
+    if (former_.empty()) return;
+    const Former to = former_.back();
+    former_.pop_back();
+    Open(to.Page);
+    browser_->verticalScrollBar()->setValue(to.Scrolled);
+    back_->setEnabled(!former_.empty());
+    // A button that goes off takes the focus with it.
+    if (former_.empty()) browser_->setFocus();
 }
 
 void ManualWindow::showEvent(QShowEvent* event) {

@@ -3,7 +3,9 @@
 
 #include <QDialog>
 #include <string>
+#include <vector>
 
+class QPushButton;
 class QTextBrowser;
 
 namespace lithmark {
@@ -24,8 +26,15 @@ class ManualWindow : public QDialog {
     void Open(const std::string& page);
     void Follow(const std::string& link);
     void ScrollToSection();
+    void GoBack();
 
+    struct Former {
+        std::string Page;
+        int Scrolled;
+    };
     QTextBrowser* browser_;
+    QPushButton* back_;
+    std::vector<Former> former_;
     const bool opensExamples_;
     std::string page_, section_, example_;
 };

@@ -1,6 +1,10 @@
 #include "desktop/NumberSteps.h"
 
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <algorithm>
+
+#include "services/SharedServices.h"
 
 namespace lithmark {
 
@@ -37,6 +41,21 @@ std::optional<SteppedNumber> StepNumber(const QString& text, int cursor, int ste
     const int behind = static_cast<int>(text.size()) - std::max(cursor, negative ? 2 : 1);
     return SteppedNumber{stepped,
                          std::clamp(static_cast<int>(stepped.size()) - behind, 0, static_cast<int>(stepped.size()))};
+}
+
+bool StepByKey(QLineEdit& box, const QKeyEvent& key) {
+    const int pressed = key.key();
+    const int steps = pressed == Qt::Key_Up         ? 1
+                      : pressed == Qt::Key_Down     ? -1
+                      : pressed == Qt::Key_PageUp   ? 10
+                      : pressed == Qt::Key_PageDown ? -10
+                                                    : 0;
+    if (steps == 0 || box.isReadOnly()) return false;
+    const auto stepped = StepNumber(box.text(), box.cursorPosition(), steps, QLatin1Char(SharedServices().DecimalSign));
+    if (!stepped) return false;
+    box.setText(stepped->Text);
+    box.setCursorPosition(stepped->Cursor);
+    return true;
 }
 
 }  // namespace lithmark

@@ -2,7 +2,9 @@
 
 #include <QBoxLayout>
 #include <QLabel>
+#include <cmath>
 
+#include "desktop/Sizes.h"
 #include "services/SharedServices.h"
 #include "services/texts/LanguageTexts.h"
 
@@ -25,13 +27,13 @@ PageButton::PageButton(QWidget* parent, int height, bool centred)
     : QPushButton(parent),
       picture_(new QLabel(this)),
       caption_(PageLabel(this, {}, 1, false)),
-      detail_(PageLabel(this, {}, 0.9, false)),
+      detail_(PageLabel(this, {}, 1, false)),
       size_(height / 2) {
     setMinimumHeight(height);
     setFlat(!centred);
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(12, 4, 12, 4);
-    row->setSpacing(10);
+    row->setContentsMargins(sizes::kEdge, 4, sizes::kEdge, 4);
+    row->setSpacing(sizes::kColumnGap);
     if (centred) row->addStretch(1);
     row->addWidget(picture_);
     auto* words = new QVBoxLayout;
@@ -79,6 +81,8 @@ QString PlainCaption(const std::string& caption) {
 
 QString PlainNumber(double value) {
     constexpr int kDigits = 6;
+    constexpr double kCounted = 1e9;  // a count up to here has all its digits
+    if (value == std::round(value) && std::fabs(value) < kCounted) return QString::number(std::llround(value));
     return QString::number(value, 'g', kDigits).replace(QLatin1Char('.'), QLatin1Char(SharedServices().DecimalSign));
 }
 

@@ -19,7 +19,7 @@ namespace {
 constexpr int kProjectWidth = 680;
 
 QLabel* ValueLabel(QWidget* parent, const char* name) {
-    QLabel* label = PageLabel(parent, {}, 1.05, false);
+    QLabel* label = PageLabel(parent, {}, 1, false);
     label->setObjectName(QString::fromLatin1(name));
     label->setWordWrap(true);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -40,7 +40,7 @@ ProjectView::ProjectView(QWidget* parent) : QWidget(parent) {
     column->setContentsMargins(sizes::kPagePad, sizes::kPagePad, sizes::kPagePad, sizes::kPagePad);
     column->setSpacing(sizes::kColumnGap);
 
-    name_ = PageLabel(content, {}, 2.2, true);
+    name_ = PageLabel(content, {}, 1.6, true);
     name_->setObjectName(QStringLiteral("projectName"));
     directory_ = PageLabel(content, {}, 1, false);
     directory_->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -48,31 +48,31 @@ ProjectView::ProjectView(QWidget* parent) : QWidget(parent) {
     MakeQuiet(*directory_);
     column->addWidget(name_);
     column->addWidget(directory_);
-    column->addSpacing(16);
+    column->addSpacing(sizes::kGroupGap);
 
     auto* card = new QFrame(content);
     card->setFrameShape(QFrame::StyledPanel);
     card->setBackgroundRole(QPalette::Base);
     card->setAutoFillBackground(true);
     auto* inside = new QVBoxLayout(card);
-    inside->setContentsMargins(20, 18, 20, 18);
+    inside->setContentsMargins(sizes::kGroupGap, sizes::kGroupGap, sizes::kGroupGap, sizes::kGroupGap);
     inside->setSpacing(sizes::kEdge);
     auto* head = new QHBoxLayout;
-    head->setSpacing(14);
+    head->setSpacing(sizes::kEdge);
     problemIcon_ = new QLabel(card);
     head->addWidget(problemIcon_);
-    problem_ = PageLabel(card, {}, 1.3, true);
+    problem_ = PageLabel(card, {}, 1.2, true);
     problem_->setObjectName(QStringLiteral("projectProblem"));
     problem_->setWordWrap(true);
     head->addWidget(problem_, 1);
     inside->addLayout(head);
 
     auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(18);
-    grid->setVerticalSpacing(6);
+    grid->setHorizontalSpacing(sizes::kGroupGap);
+    grid->setVerticalSpacing(sizes::kRowGap);
     grid->setColumnStretch(1, 1);
     const auto row = [&](int line, const std::string& caption, QLabel*& value, const char* name) {
-        QLabel* label = PageLabel(card, Q(caption), 1.05, false);
+        QLabel* label = PageLabel(card, Q(caption), 1, false);
         MakeQuiet(*label);
         grid->addWidget(label, line, 0, Qt::AlignTop);
         value = ValueLabel(card, name);
@@ -93,7 +93,7 @@ ProjectView::ProjectView(QWidget* parent) : QWidget(parent) {
     state->addWidget(state_, 1);
     inside->addLayout(state);
     column->addWidget(card);
-    column->addSpacing(12);
+    column->addSpacing(sizes::kEdge);
 
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(sizes::kEdge);
@@ -106,7 +106,6 @@ ProjectView::ProjectView(QWidget* parent) : QWidget(parent) {
     calculate_ = button("projectCalculate");
     calculateCaption_ = Q(Text(903020_text));
     data_ = button("projectData");
-    data_->Show(IconOf(ProblemKey(0)), Q(Text(400009_text)));
     connect(calculate_, &QPushButton::clicked, this, [this] {
         if (OnCommand) OnCommand(ProblemKey(entry_));
     });
@@ -141,6 +140,7 @@ void ProjectView::Show(const ProjectSummary& summary) {
     const QIcon icon = IconOfProblem(summary.ProblemType);
     problemIcon_->setPixmap(icon.pixmap(40));
     calculate_->Show(icon, calculateCaption_);
+    data_->Show(IconOf(ProblemKey(0)), Q(Text(400009_text)));
     calculate_->setEnabled(MDITools::DialogExists(entry_));
 }
 

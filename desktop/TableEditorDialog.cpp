@@ -126,6 +126,7 @@ QWidget* TableEditorDialog::Buttons() {
     down_ = add(Text(906535_text), "cmdDown", [this] { grid_->MoveRows(1); });
     undo_ = add(Text(906536_text), "cmdUndo", [this] { grid_->Undo(); });
     redo_ = add(Text(906537_text), "cmdRedo", [this] { grid_->Redo(); });
+    EditGrid::TellKeys(*this);
     buttons->addStretch(1);
     add(Text(8_text, Styles::Button), "cmdHelp", [this] {
         SharedServices().SetHelpText(table_.Help);

@@ -4,6 +4,7 @@
 #include <QStyleFactory>
 #include <QStyleOption>
 
+#include "desktop/Sizes.h"
 #include "render/drawings/Inks.h"
 
 namespace lithmark {
@@ -29,6 +30,25 @@ void WindowStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
     else
         painter->drawRoundedRect(line, 2, 2);
     painter->restore();
+}
+
+// A hand that is not steady meets it too.
+QSize WindowStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                                    const QWidget* widget) const {
+    const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    switch (type) {
+        case CT_PushButton:
+        case CT_CheckBox:
+        case CT_RadioButton:
+        case CT_ToolButton:
+        case CT_ComboBox:
+        case CT_LineEdit:
+        case CT_SpinBox:
+        case CT_TabBarTab:
+            return size.expandedTo(QSize(sizes::kClicked, sizes::kClicked));
+        default:
+            return size;
+    }
 }
 
 }  // namespace lithmark

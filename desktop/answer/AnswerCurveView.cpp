@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "contour/AxisTicks.h"
+#include "desktop/GraphicWords.h"
 #include "desktop/PageTools.h"
 #include "desktop/Sizes.h"
 #include "desktop/answer/SymbolPainter.h"
@@ -261,7 +262,7 @@ AnswerCurveView::AnswerCurveView(QWidget* parent) : QWidget(parent) {
     setObjectName(QStringLiteral("answerCurves"));
     setLayoutDirection(Qt::LeftToRight);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    setAccessibleName(Q(Text(913034_text)));
+    MakeGraphic(*this, Q(Text(913034_text)));
 }
 
 void AnswerCurveView::Show(const std::vector<AnswerCurve>& curves, const std::vector<AnswerCurve>& kept, bool present) {
@@ -270,7 +271,8 @@ void AnswerCurveView::Show(const std::vector<AnswerCurve>& curves, const std::ve
     present_ = present;
     QStringList words;
     for (const AnswerCurve& curve : curves) words.append(InWords(curve));
-    setAccessibleDescription(words.join(QStringLiteral("; ")));
+    if (!present && !words.empty()) words.append(Q(Text(913002_text)));
+    TellGraphic(*this, words.join(QStringLiteral("; ")));
     update();
 }
 

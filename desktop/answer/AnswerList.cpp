@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "desktop/Sizes.h"
+#include "desktop/answer/StateMark.h"
 #include "desktop/answer/SymbolPainter.h"
 #include "render/QtText.h"
 #include "render/drawings/Inks.h"
@@ -85,10 +86,11 @@ class LinePainter : public QStyledItemDelegate {
     const AnswerList& list_;
 };
 
-// The words above the columns, which stay while the lines scroll.
+// The words above the columns, which stay while the lines scroll. Values that are not of the present input are called
+// former ones, whatever is told of the present one.
 class AnswerHead : public QWidget {
   public:
-    explicit AnswerHead(AnswerList* list) : QWidget(list), list_(*list) {}
+    explicit AnswerHead(AnswerList* list) : QWidget(list), list_(*list) { setObjectName(QStringLiteral("answerHead")); }
 
   protected:
     void paintEvent(QPaintEvent*) override {
@@ -96,14 +98,28 @@ class AnswerHead : public QWidget {
         const QColor quiet = ColourOf(Ink::Quiet, ThemeOf(palette()));
         PaintCells(painter, rect(), list_.Columns(), layoutDirection(), [&](Role role, const QRect& place) {
             painter.setPen(quiet);
-            const QString text = role == kNow && list_.Columns().Kept > 0 ? Q(Text(913001_text))
-                                 : role == kKept                          ? Q(Text(913003_text))
-                                                                          : QString();
+            if (role == kSymbol && !list_.Present()) PaintClock(painter, place, quiet);
+            const QString text = role == kKept              ? Q(Text(913003_text))
+                                 : role != kNow             ? QString()
+                                 : !list_.Present()         ? Q(Text(913650_text))
+                                 : list_.Columns().Kept > 0 ? Q(Text(913001_text))
+                                                            : QString();
             painter.drawText(place, Qt::AlignVCenter | Qt::AlignRight | Qt::AlignAbsolute, text);
         });
     }
 
   private:
+    void PaintClock(QPainter& painter, const QRect& place, const QColor& ink) const {
+        const QPixmap clock = PixmapOf(StateMark::Clock, ink, kMarkSize, devicePixelRatioF());
+        QRect sign(0, 0, kMarkSize, kMarkSize);
+        sign.moveCenter(place.center());
+        if (layoutDirection() == Qt::RightToLeft)
+            sign.moveRight(place.right());
+        else
+            sign.moveLeft(place.left());
+        painter.drawPixmap(sign, clock);
+    }
+
     const AnswerList& list_;
 };
 
@@ -120,6 +136,7 @@ AnswerList::AnswerList(QWidget* parent) : QListWidget(parent), head_(new AnswerH
 }
 
 void AnswerList::ShowAnswer(const Answer* answer, const Answer* kept, bool present, bool all) {
+    present_ = present;
     std::vector<const AnswerValue*> lines;
     if (answer != nullptr)
         for (const AnswerValue& value : answer->Values)
@@ -144,6 +161,7 @@ void AnswerList::ShowAnswer(const Answer* answer, const Answer* kept, bool prese
         line.setData(Qt::AccessibleTextRole, words);
         line.setData(Qt::AccessibleDescriptionRole, line.toolTip());
     }
+    head_->setAccessibleName(Present() ? QString() : Q(Text(913002_text)));
     FitColumns();
     updateGeometry();
     viewport()->update();
@@ -172,7 +190,8 @@ void AnswerList::FitColumns() {
     for (int i = 0; i < count(); ++i) kept = kept || !item(i)->data(kKept).toString().isEmpty();
     const auto headed = [&](TextId head) { return metrics.horizontalAdvance(Q(Text(head))) + 2 * kPad; };
     columns_.Symbol = widest(kSymbol, sizes::kSymbolWidth);
-    columns_.Now = widest(kNow, std::max(metrics.horizontalAdvance(QStringLiteral("-0000.00")), headed(913001_text)));
+    columns_.Now = widest(kNow, std::max({metrics.horizontalAdvance(QStringLiteral("-0000.00")), headed(913001_text),
+                                          headed(913650_text)}));
     columns_.Kept = kept ? widest(kKept, headed(913003_text)) : 0;
     columns_.Change = kept ? widest(kChange, metrics.horizontalAdvance(QStringLiteral("+10.0 %")) + 2 * kPad) : 0;
     columns_.Unit = widest(kUnit, 0);

@@ -20,6 +20,8 @@ class AnswerList : public QListWidget {
     // too.
     void ShowAnswer(const Answer* answer, const Answer* kept, bool present, bool all);
     const AnswerColumns& Columns() const noexcept { return columns_; }
+    // The lines are of the present input; without lines there is nothing that could be of another.
+    bool Present() const noexcept { return present_ || count() == 0; }
     // "σ z, 63.5 kN/m²; ..."
     QString Words() const;
 
@@ -36,6 +38,7 @@ class AnswerList : public QListWidget {
 
     QWidget* head_;
     AnswerColumns columns_;
+    bool present_ = true;
 };
 
 }  // namespace lithmark

@@ -1,6 +1,5 @@
 #include "desktop/answer/AnswerView.h"
 
-#include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
@@ -14,6 +13,7 @@
 #include "desktop/PageTools.h"
 #include "desktop/PaneKeys.h"
 #include "desktop/Sizes.h"
+#include "desktop/SpokenAlert.h"
 #include "desktop/WidgetInk.h"
 #include "desktop/answer/AnswerCurveView.h"
 #include "desktop/answer/AnswerList.h"
@@ -63,6 +63,7 @@ QLabel* StateLabel(QWidget* parent) {
 AnswerView::AnswerView(const ProblemForm& form, QWidget* parent)
     : QWidget(parent), live_(form, worker_, [this] { return clock_.elapsed(); }) {
     setObjectName(QStringLiteral("answer"));
+    setAccessibleName(Q(Text(913000_text)));
     PaneKeys::MakePane(*this);
     clock_.start();
     Build();
@@ -118,6 +119,8 @@ void AnswerView::Build() {
     auto* state = new QHBoxLayout;
     state->setSpacing(kRowGap);
     mark_ = new QLabel(this);
+    mark_->setObjectName(QStringLiteral("answerMark"));
+    MakeAlert(*mark_);
     mark_->setFixedSize(kMarkSize, kMarkSize);
     state_ = StateLabel(this);
     connect(state_, &QLabel::linkActivated, this, [this] {
@@ -215,7 +218,8 @@ void AnswerView::Wait() {
 }
 
 void AnswerView::Follow() {
-    setAccessibleName(Q(Text(913000_text)));
+    // What was said is of a former state.
+    mark_->setAccessibleName({});
     const Answer* answer = live_.Shown();
     const bool present = live_.State() == AnswerState::Now;
     list_->ShowAnswer(answer, live_.Kept(), present, all_);
@@ -303,6 +307,10 @@ void AnswerView::FollowNotices() {
     notices_->setText(Q(count == 1 ? Text(913009_text) : Text(913014_text, {{"|1", NumberToText(count)}})));
     QStringList texts;
     for (const AnswerNotice& notice : notices) texts.append(Q(notice.Text));
+    // Those of a former answer are as quiet as its values.
+    const bool present = live_.State() == AnswerState::Now;
+    SetInk(*notices_, present ? Ink::Link : Ink::Quiet, QPalette::ButtonText);
+    if (!present) texts.append(Q(Text(913002_text)));
     notices_->setToolTip(
         QStringLiteral("<p>") +
         texts.join(QStringLiteral("\n")).toHtmlEscaped().replace(QLatin1Char('\n'), QStringLiteral("</p><p>")) +
@@ -333,9 +341,7 @@ void AnswerView::ShowNotice(int index) {
 // Only when it was asked for.
 void AnswerView::Speak() {
     const bool values = live_.State() == AnswerState::Now;
-    setAccessibleName(values ? list_->Words() : state_->accessibleName());
-    QAccessibleEvent event(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
+    SpeakAlert(*mark_, values ? list_->Words() : state_->accessibleName());
 }
 
 QSize AnswerView::sizeHint() const {

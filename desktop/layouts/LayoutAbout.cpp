@@ -20,8 +20,9 @@ static const LayoutOf<frmAbout> kLayoutAbout([](FormView& view, frmAbout& form) 
         words->addWidget(&label);
     }
     QWidget* title = view.WidgetOf(form.lblTitle);
+    constexpr double kPageTitle = 1.6;
     QFont font = title->font();
-    font.setPointSizeF(font.pointSizeF() * 2);
+    font.setPointSizeF(font.pointSizeF() * kPageTitle);
     font.setBold(true);
     title->setFont(font);
     words->addStretch(1);

@@ -20,6 +20,7 @@
 #include "desktop/SaveDialog.h"
 #include "desktop/ScreenRoom.h"
 #include "desktop/Sizes.h"
+#include "desktop/Toast.h"
 #include "desktop/layouts/LayoutTools.h"
 #include "desktop/layouts/Layouts.h"
 #include "files/CommonStep.h"
@@ -30,6 +31,7 @@
 #include "render/QtText.h"
 #include "services/SharedServices.h"
 #include "services/storage/WrittenFile.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 
@@ -98,11 +100,12 @@ void Print(FormView& view, frmContour& form) {
 }
 
 // The whole page as a picture, with title and legend.
-void Copy(frmContour& form) {
+void Copy(FormView& view, frmContour& form) {
     if (!form.Ready()) return;
     UnderCommonStep([&] {
         const std::string png = form.ShowsField() ? FieldPng(FieldOf(form), 0) : ContourPng(form.Plot, 0);
         QApplication::clipboard()->setImage(QImage::fromData(QByteArray::fromStdString(png), "PNG"));
+        ShowToast(view, Q(Text(910214_text)));
     });
 }
 
@@ -169,7 +172,10 @@ const LayoutOf<frmContour> kLayoutContour([](FormView& view, frmContour& form) {
     auto* under = new QLabel(&view);
     under->setObjectName(QStringLiteral("lblUnder"));
     under->setMinimumHeight(under->sizeHint().height());
-    plot->Over = [&form, under](double x, double y) { under->setText(Under(form, x, y)); };
+    plot->Over = [&form, under, plot](double x, double y) {
+        under->setText(Under(form, x, y));
+        if (plot->Walks()) TellGraphic(*plot, under->text());
+    };
     plot->Left = [under] { under->clear(); };
 
     auto* curve = new QCustomPlot(&view);
@@ -178,6 +184,7 @@ const LayoutOf<frmContour> kLayoutContour([](FormView& view, frmContour& form) {
     curve->setFixedHeight(kCurve);
     MakeGraphic(*curve, Q(Text(910022_text)));
     curve->setToolTip(Q(Text(910027_text)));
+    plot->setToolTip(Q(Text(913652_text)));
     plot->SectionLaid = [&form, curve] { ShowCurve(*curve, form); };
     auto* drawn = new QVBoxLayout(view.Place(form.fraResult));
     drawn->addWidget(view.Place(form.picBox), 1);
@@ -210,7 +217,7 @@ const LayoutOf<frmContour> kLayoutContour([](FormView& view, frmContour& form) {
     window->addLayout(columns, 1);
 
     auto* copy = OwnButton(view, Text(906521_text, Styles::Button), "cmdCopy");
-    QObject::connect(copy, &QPushButton::clicked, &view, [&form] { Copy(form); });
+    QObject::connect(copy, &QPushButton::clicked, &view, [&view, &form] { Copy(view, form); });
     auto* print = OwnButton(view, Text(910003_text, Styles::Button), "cmdPrint");
     QObject::connect(print, &QPushButton::clicked, &view, [&view, &form] { Print(view, form); });
     auto* save = OwnButton(view, Text(9_text, Styles::DialogButton), "cmdSaveAs");

@@ -8,9 +8,9 @@
 #include "desktop/ScrollColumn.h"
 #include "desktop/Sizes.h"
 #include "desktop/SpokenAlert.h"
+#include "desktop/WidgetInk.h"
 #include "desktop/layouts/LayoutTools.h"
 #include "desktop/layouts/Layouts.h"
-#include "render/drawings/Inks.h"
 #include "ui/frmNumberFormats.h"
 
 namespace lithmark {
@@ -46,9 +46,7 @@ static const LayoutOf<frmNumberFormats> kLayout([](FormView& view, frmNumberForm
     MakeAlert(fault);
     view.Alert = &fault;
     fault.setWordWrap(true);
-    QPalette ink = fault.palette();
-    ink.setColor(QPalette::WindowText, ColourOf(Ink::Error, ThemeOf(ink)));
-    fault.setPalette(ink);
+    SetInk(fault, Ink::Error);
     window->addWidget(&fault);
     window->addLayout(ButtonRow(view, {form.cmdDefault, form.cmdHelp}, {form.cmdSave, form.CmdCancel}));
 });

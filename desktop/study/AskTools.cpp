@@ -1,11 +1,15 @@
 #include "desktop/study/AskTools.h"
 
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShortcut>
 
+#include "desktop/BoxMark.h"
+#include "desktop/NumberSteps.h"
 #include "desktop/Sizes.h"
 #include "render/QtText.h"
 #include "services/texts/LanguageTexts.h"
@@ -15,6 +19,23 @@ namespace lithmark {
 namespace {
 
 constexpr int kNumberWidth = 84;
+constexpr const char* kAbout = "about";
+
+// The number in a box is stepped by the keys that step one in a dialog.
+class StepKeys : public QObject {
+  public:
+    explicit StepKeys(QLineEdit& box) : QObject(&box), box_(box) { box.installEventFilter(this); }
+
+  protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress || !StepByKey(box_, static_cast<const QKeyEvent&>(*event))) return false;
+        emit box_.textEdited(box_.text());
+        return true;
+    }
+
+  private:
+    QLineEdit& box_;
+};
 
 }  // namespace
 
@@ -36,8 +57,21 @@ QLineEdit* NumberBox(QWidget* parent, const QString& name, std::function<void()>
     box->setLayoutDirection(Qt::LeftToRight);
     box->setMinimumWidth(kNumberWidth);
     box->setMinimumHeight(sizes::kClicked);
+    new StepKeys(*box);
     QObject::connect(box, &QLineEdit::textEdited, box, [changed = std::move(changed)] { changed(); });
     return box;
+}
+
+void Describe(QLineEdit& box, const BoxWords& words) {
+    box.setProperty(kAbout, Description(words, ""));
+    MarkBox(box, box.toolTip().toStdString());
+}
+
+void MarkBox(QLineEdit& box, const std::string& fault) {
+    ShowMark(box, fault);
+    QString words = box.property(kAbout).toString();
+    if (!fault.empty()) words += (words.isEmpty() ? QString() : QStringLiteral("; ")) + FaultInWords(fault);
+    if (box.accessibleDescription() != words) box.setAccessibleDescription(words);
 }
 
 QComboBox* AskList(QWidget* parent, const QString& name, const std::vector<QString>& items,
@@ -60,6 +94,13 @@ QPushButton* AskButton(QWidget* parent, QLayout& row, const QString& caption, co
     QObject::connect(button, &QPushButton::clicked, parent, [pressed = std::move(pressed)] { pressed(); });
     row.addWidget(button);
     return button;
+}
+
+void BindSaveKey(QWidget& window, QPushButton& table, QPushButton& drawn, std::function<bool()> seesTable) {
+    const QKeySequence keys(QKeySequence::Save);
+    for (QPushButton* button : {&table, &drawn}) button->setToolTip(keys.toString(QKeySequence::NativeText));
+    QObject::connect(new QShortcut(keys, &window), &QShortcut::activated, &window,
+                     [&table, &drawn, seesTable = std::move(seesTable)] { (seesTable() ? table : drawn).click(); });
 }
 
 QString SymbolAndWords(const std::string& symbol, const std::string& label) {

@@ -8,20 +8,24 @@
 #include <QPushButton>
 #include <cmath>
 
-#include "desktop/BoxMark.h"
+#include "desktop/ManualTopics.h"
+#include "desktop/PaneKeys.h"
 #include "desktop/Sizes.h"
+#include "desktop/SpokenAlert.h"
 #include "desktop/WidgetInk.h"
 #include "desktop/study/AskTools.h"
 #include "render/QtText.h"
 #include "services/SharedServices.h"
 #include "services/texts/LanguageTexts.h"
 #include "study/window/ShortNumber.h"
+#include "ui/model/BoxMarks.h"
 
 namespace lithmark {
 
 namespace {
 
 constexpr int kWhole = 1, kReal = 2, kUsualCount = 11;
+constexpr int kUnfinishedFor = 1000;  // ms until a number that is not ended is an error
 
 TextId TitleOf(PointsFill::Kind kind) {
     switch (kind) {
@@ -61,6 +65,7 @@ PointsFill::PointsFill(PointsTable& points, Kind kind, QWidget* parent)
     replace_->setChecked(true);
     column->addWidget(replace_);
     note_ = new QLabel(this);
+    MakeAlert(*note_);
     note_->setObjectName(QStringLiteral("lblNote"));
     note_->setWordWrap(true);
     note_->setMinimumHeight(2 * note_->fontMetrics().height());
@@ -79,6 +84,15 @@ PointsFill::PointsFill(PointsTable& points, Kind kind, QWidget* parent)
     add(Text(6_text, Styles::Button), "cmdok", &QDialog::accept)->setDefault(true);
     add(Text(7_text, Styles::Button), "CmdCancel", &QDialog::reject);
     column->addLayout(row);
+    BindHelpKey(*this, [] { return std::string("studies"); });
+    new PaneKeys(*this);
+    // A number that is not ended is an error after a while.
+    patience_.setSingleShot(true);
+    patience_.setInterval(kUnfinishedFor);
+    connect(&patience_, &QTimer::timeout, this, [this] {
+        typed_ = nullptr;
+        Check();
+    });
 }
 
 // From, to and count, as far as the kind has them: a line has one count, depths have one x and one y.
@@ -89,44 +103,70 @@ void PointsFill::AddLine(QGridLayout& grid, int coordinate) {
     Line& line = lines_[static_cast<std::size_t>(coordinate)];
     const int row = coordinate + 1;
     const std::string name = field.Short() + (field.Unit.empty() ? "" : " [" + field.Unit + "]");
-    const auto box = [&](const char* boxName, int column, const std::string& text, TextId part) {
-        auto* edit = NumberBox(this, NumberedName(boxName, row), [this] { Check(); });
+    const auto box = [&](const char* boxName, int column, const std::string& text, TextId part, const BoxWords& words) {
+        auto* edit = NumberBox(this, NumberedName(boxName, row), [this] { Typed(); });
+        connect(edit, &QLineEdit::editingFinished, this, [this] { Left(); });
         edit->setText(Q(text));
         edit->setAccessibleName(Q(name + ", " + Text(part)));
+        Describe(*edit, words);
         grid.addWidget(edit, row, column);
         return edit;
     };
     auto* label = new QLabel(Q(name), this);
     grid.addWidget(label, row, 0);
-    line.From = box("txtFrom", 1, ShortNumber(value), 913203_text);
+    const BoxWords place{field.Symbol, field.Unit, field.Least, field.Greatest};
+    const BoxWords count{{}, {}, static_cast<double>(LeastCount()), PointsTable::kMostPoints};
+    line.From = box("txtFrom", 1, ShortNumber(value), 913203_text, place);
     label->setBuddy(line.From);
     if (kind_ != Kind::Depths || depth) {
         const double to = depth ? (value == 0 ? 1 : 2 * value) : value;
-        line.To = box("txtTo", 2, ShortNumber(to), 913204_text);
+        line.To = box("txtTo", 2, ShortNumber(to), 913204_text, place);
     }
     if (kind_ == Kind::Grid || depth)
-        line.Count = box("txtCount", 3, std::to_string(depth ? kUsualCount : 1), 913274_text);
+        line.Count = box("txtCount", 3, std::to_string(depth ? kUsualCount : 1), 913274_text, count);
 }
 
 bool PointsFill::Mark(QLineEdit* box, int kind, double upper, double lower, const std::string& name) {
     if (box == nullptr) return true;
     const auto fault = SharedServices().TextFault(box->text().toStdString(), kind, upper, lower, name);
-    ShowMark(*box, fault.value_or(""));
-    if (fault && note_->text().isEmpty()) note_->setText(Q(*fault));
+    if (fault && box == typed_ && IsUnfinished(box->text().toStdString())) {
+        MarkBox(*box, "");
+        return false;
+    }
+    MarkBox(*box, fault.value_or(""));
+    if (fault && wrong_.isEmpty()) wrong_ = Q(*fault);
     return !fault;
 }
 
+void PointsFill::Typed() {
+    typed_ = qobject_cast<QLineEdit*>(focusWidget());
+    Check();
+    patience_.start();
+}
+
+void PointsFill::Left() {
+    typed_ = nullptr;
+    patience_.stop();
+    Check();
+    if (!wrong_.isEmpty() && wrong_ != told_) SpeakAlert(*note_, wrong_);
+    told_ = wrong_;
+}
+
+void PointsFill::Say(const QString& words) {
+    note_->setText(words);
+    note_->setAccessibleName(words);
+}
+
 bool PointsFill::Check() {
-    note_->clear();
+    wrong_.clear();
     bool good = true;
     for (std::size_t i = 0; i < lines_.size(); ++i) {
         const FieldChoice& field = points_.Coordinates()[i];
         good = Mark(lines_[i].From, kReal, field.Greatest, field.Least, field.Label) && good;
         good = Mark(lines_[i].To, kReal, field.Greatest, field.Least, field.Label) && good;
-        good =
-            Mark(lines_[i].Count, kWhole, PointsTable::kMostPoints, kind_ == Kind::Line ? 2 : 1, Text(913301_text)) &&
-            good;
+        good = Mark(lines_[i].Count, kWhole, PointsTable::kMostPoints, LeastCount(), Text(913301_text)) && good;
     }
+    Say(wrong_);
     return good;
 }
 
@@ -137,6 +177,7 @@ EvenValues PointsFill::ValuesOf(const Line& line) const {
 }
 
 void PointsFill::accept() {
+    Left();
     if (!Check()) return;
     bool put = false;
     if (kind_ == Kind::Line) {
@@ -151,7 +192,9 @@ void PointsFill::accept() {
         put = points_.AddGrid({ValuesOf(lines_[0]), ValuesOf(lines_[1]), ValuesOf(lines_[2])}, replace_->isChecked());
     }
     if (put) return QDialog::accept();
-    note_->setText(Q(Text(913277_text, {{"|1", std::to_string(PointsTable::kMostPoints)}})));
+    const QString tooMany = Q(Text(913277_text, {{"|1", std::to_string(PointsTable::kMostPoints)}}));
+    Say(tooMany);
+    SpeakAlert(*note_, tooMany);
 }
 
 }  // namespace lithmark

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QDialog>
+#include <QString>
+#include <QTimer>
 #include <array>
 
 #include "study/window/Points.h"
@@ -25,7 +27,12 @@ class PointsFill : public QDialog {
         QLineEdit *From = nullptr, *To = nullptr, *Count = nullptr;
     };
     void AddLine(class QGridLayout& grid, int coordinate);
+    // What is typed; what is wrong is told when a box is left.
+    void Typed();
+    void Left();
     bool Check();
+    void Say(const QString& words);
+    int LeastCount() const { return kind_ == Kind::Line ? 2 : 1; }
     bool Mark(QLineEdit* box, int kind, double upper, double lower, const std::string& name);
     EvenValues ValuesOf(const Line& line) const;
 
@@ -34,6 +41,9 @@ class PointsFill : public QDialog {
     std::array<Line, 3> lines_;
     QCheckBox* replace_;
     QLabel* note_;
+    QLineEdit* typed_ = nullptr;  // the box that is typed into, as long as the number in it may be unfinished
+    QString wrong_, told_;
+    QTimer patience_;
 };
 
 }  // namespace lithmark

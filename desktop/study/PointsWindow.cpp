@@ -17,6 +17,7 @@
 #include "desktop/SaveChart.h"
 #include "desktop/SaveDialog.h"
 #include "desktop/Sizes.h"
+#include "desktop/SpokenAlert.h"
 #include "desktop/WidgetInk.h"
 #include "desktop/study/AskTools.h"
 #include "desktop/study/CommandBar.h"
@@ -30,6 +31,8 @@
 #include "study/StudyFailure.h"
 #include "study/window/CommandWords.h"
 #include "study/window/PointsChart.h"
+#include "ui/model/UnsavedInput.h"
+#include "ui/model/UnsavedTable.h"
 
 namespace lithmark {
 
@@ -68,6 +71,9 @@ PointsWindow::PointsWindow(const StudySubject& subject, QWidget* parent)
     rest_.setSingleShot(true);
     rest_.setInterval(kPointsRest);
     connect(&rest_, &QTimer::timeout, this, [this] { Start(); });
+    keep_.setSingleShot(true);
+    keep_.setInterval(kKeepAfter);
+    connect(&keep_, &QTimer::timeout, this, [this] { Keep(); });
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(sizes::kEdge, sizes::kEdge, sizes::kEdge, sizes::kEdge);
@@ -81,6 +87,7 @@ PointsWindow::PointsWindow(const StudySubject& subject, QWidget* parent)
     tabs_->addTab(ChartTab(), Q(Text(913246_text)));
     column->addWidget(tabs_, 1);
     note_ = WordsLabel(this, "lblNote", 1);
+    MakeAlert(*note_);
     column->addWidget(note_);
     progress_ = new WorkRow(this, [this] { process_.Cancel(); });
     column->addWidget(progress_);
@@ -88,6 +95,7 @@ PointsWindow::PointsWindow(const StudySubject& subject, QWidget* parent)
     command_->PlaceWith(*column, Buttons());
     BindHelpKey(*this, [] { return std::string("studies"); });
     new PaneKeys(*this);
+    BindSaveKey(*this, *sheet_, *saveChart_, [this] { return tabs_->currentIndex() == 0; });
     grid_->OnRows = [this] { Changed(); };
     grid_->OnSelection = [this] { ShowState(); };
     grid_->OnPasted = [this](const std::string& words) {
@@ -95,6 +103,7 @@ PointsWindow::PointsWindow(const StudySubject& subject, QWidget* parent)
         ShowState();
     };
     grid_->ShowRows();
+    Recall();
     grid_->resizeColumnsToContents();
     grid_->setCurrentCell(0, 0);
     resize(1180, 640);
@@ -112,6 +121,7 @@ QLayout* PointsWindow::FillRow() {
     delete_ = AskButton(this, *row, Q(Text(903014_text)), "cmdDeleteRow", [this] { grid_->DeleteRows(); });
     undo_ = AskButton(this, *row, Q(Text(906536_text, Styles::Button)), "cmdUndo", [this] { grid_->Undo(); });
     redo_ = AskButton(this, *row, Q(Text(906537_text, Styles::Button)), "cmdRedo", [this] { grid_->Redo(); });
+    EditGrid::TellKeys(*this);
     row->addStretch(1);
     count_ = new QLabel(this);
     count_->setObjectName(QStringLiteral("lblCount"));
@@ -172,8 +182,8 @@ QBoxLayout* PointsWindow::Buttons() {
     csv_ = AskButton(this, *row, QStringLiteral("CSV") + dots, "cmdCsv", [this] { SaveCsvFile(*this, table_->Csv()); });
     sheet_ = AskButton(this, *row, Q(Text(910007_text)) + dots, "cmdSheet",
                        [this] { SaveSheetFile(*this, table_->Cells()); });
-    AskButton(this, *row, Q(Text(913246_text)) + dots, "cmdChart",
-              [this] { SaveChart(this, chart_->Plot().Chart(), chart_->Plot().Look()); });
+    saveChart_ = AskButton(this, *row, Q(Text(913246_text)) + dots, "cmdChart",
+                           [this] { SaveChart(this, chart_->Plot().Chart(), chart_->Plot().Look()); });
     save_ = AskButton(this, *row, Q(Text(913281_text)) + dots, "cmdSavePoints", [this] { SavePoints(); });
     save_->setToolTip(Q(Text(913282_text)));
     row->addStretch(1);
@@ -196,7 +206,33 @@ void PointsWindow::Fill(PointsFill::Kind kind) {
     grid_->setCurrentCell(0, 0);
 }
 
+// One step back leads to the point of the dialog.
+void PointsWindow::Recall() {
+    const auto kept = KeptRows(points_.Opened());
+    if (!kept || kept->Rows.empty() || kept->Rows == points_.Opened().Rows) return;
+    points_.Editing().AppendRows(kept->Rows, true);
+    grid_->ShowRows();
+    keep_.stop();
+    pasted_ = Text(913653_text);
+    ShowState();
+}
+
+void PointsWindow::Keep() {
+    keep_.stop();
+    const TableTexts rows = points_.Editing().Texts();
+    if (rows == points_.Opened().Rows)
+        DropUnsavedRows(points_.Opened());
+    else
+        KeepRows(points_.Opened(), rows);
+}
+
+void PointsWindow::done(int result) {
+    if (keep_.isActive()) Keep();
+    QDialog::done(result);
+}
+
 void PointsWindow::Changed() {
+    if (points_.Editing().CanUndo() || points_.Editing().CanRedo()) keep_.start();
     pasted_.clear();
     stale_ = true;
     faults_.clear();
@@ -345,7 +381,10 @@ void PointsWindow::ShowState() {
                     {{"|1", std::to_string(fault->Row + 1)}, {"|2", points_.Editing().Title(fault->Column)}}) +
                " - " + points_.Editing().Fault(fault->Row, fault->Column).value_or("");
     if (!trouble_.empty()) note = trouble_;
+    // What has become wrong, or is wrong otherwise, is told at once.
+    if ((fault || !trouble_.empty()) && isVisible() && note_->text() != Q(note)) SpeakAlert(*note_, Q(note));
     note_->setText(Q(note));
+    note_->setAccessibleName(Q(note));
     SetInk(*note_, fault || !trouble_.empty() ? Ink::Error : Ink::Text);
     count_->setText(Q(Text(913283_text, {{"|1", std::to_string(rows)}})));
 

@@ -36,6 +36,9 @@ class PointsWindow : public QDialog {
     const StudyTable* Table() const noexcept { return table_.get(); }
     bool Working() const noexcept { return process_.Running(); }
 
+    // The points are there again when the window opens anew.
+    void done(int result) override;
+
   protected:
     void changeEvent(QEvent* event) override;
 
@@ -46,6 +49,9 @@ class PointsWindow : public QDialog {
     QBoxLayout* Buttons();
 
     void Fill(PointsFill::Kind kind);
+    // The points of the last time, as long as they are of the same project, units and language.
+    void Recall();
+    void Keep();
     // The points are other ones.
     void Changed();
     void Start();
@@ -71,7 +77,7 @@ class PointsWindow : public QDialog {
     std::size_t linesShown_ = 0;
     bool stale_ = false, cancelled_ = false;
     std::string trouble_, pasted_, pointsFile_ = "points.csv";
-    QTimer rest_;
+    QTimer rest_, keep_;
     ShowTimer shown_;
 
     EditGrid* grid_ = nullptr;
@@ -82,7 +88,7 @@ class PointsWindow : public QDialog {
     WorkRow* progress_ = nullptr;
     CommandBar* command_ = nullptr;
     QPushButton *delete_ = nullptr, *undo_ = nullptr, *redo_ = nullptr, *csv_ = nullptr, *sheet_ = nullptr,
-                *save_ = nullptr;
+                *save_ = nullptr, *saveChart_ = nullptr;
 };
 
 }  // namespace lithmark

@@ -86,6 +86,10 @@ void RandomBoxes::Show() {
         labels_[i]->setVisible(used);
         boxes_[i]->setVisible(used);
     }
+    if (on) {
+        const FieldChoice& field = question_.Fields()[static_cast<std::size_t>(line.Field)];
+        for (QLineEdit* box : boxes_) Describe(*box, {field.Symbol, field.Unit, -kNoLimit, kNoLimit});
+    }
     unit_->setText(on ? Q(question_.Fields()[static_cast<std::size_t>(line.Field)].Unit) : QString());
     for (QWidget* widget : std::initializer_list<QWidget*>{kindLabel_, kind_, unit_}) widget->setVisible(on);
 }

@@ -1,11 +1,15 @@
 #include "desktop/study/RowsTab.h"
 
+#include <QApplication>
 #include <QBoxLayout>
+#include <QClipboard>
 #include <QEvent>
 #include <QHeaderView>
 #include <QLabel>
+#include <QShortcut>
 #include <QTableWidget>
 
+#include "desktop/Toast.h"
 #include "desktop/study/StudySubject.h"
 #include "render/QtText.h"
 #include "render/drawings/Inks.h"
@@ -16,6 +20,7 @@ namespace lithmark {
 namespace {
 
 constexpr std::size_t kMostRowsShown = 2000;
+constexpr int kPlain = Qt::UserRole;  // what a cell holds, without the sign of a crossing
 
 }  // namespace
 
@@ -28,6 +33,12 @@ RowsTab::RowsTab(QWidget* parent)
     rows_->setAccessibleName(Q(Text(913228_text)));
     rows_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     rows_->verticalHeader()->hide();
+    rows_->setSelectionMode(QAbstractItemView::ContiguousSelection);
+    // The Tab key goes on to the buttons, and does not walk through the cells.
+    rows_->setTabKeyNavigation(false);
+    auto* copy = new QShortcut(QKeySequence::Copy, rows_);
+    copy->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(copy, &QShortcut::activated, this, [this] { Copy(); });
     column->addWidget(rows_, 1);
 }
 
@@ -60,15 +71,34 @@ void RowsTab::ShowRow(int row, const ShownRows& rows) {
             item = new QTableWidgetItem;
             rows_->setItem(row, column, item);
         }
+        item->setData(kPlain, Q(shown.Cells[place]));
         item->setText((column == 0 && shown.Crossed ? QStringLiteral("× ") : QString()) + Q(shown.Cells[place]));
         item->setTextAlignment(words ? Qt::Alignment(Qt::AlignVCenter | Qt::AlignLeading)
                                      : Qt::AlignRight | Qt::AlignVCenter | Qt::AlignAbsolute);
         item->setFont(font);
-        item->setToolTip(words ? item->text() : QString());
-        item->setData(Qt::AccessibleTextRole,
-                      Q(Text(906538_text, {{"|1", std::to_string(row + 1)}, {"|2", rows.Heads[place]}}) + ", " +
-                        shown.Cells[place]));
+        const QString crossed = shown.Crossed ? Q(Text(913651_text)) : QString();
+        item->setToolTip(words ? item->text() : crossed);
+        const QString said = Q(Text(906538_text, {{"|1", std::to_string(row + 1)}, {"|2", rows.Heads[place]}}) + ", " +
+                               shown.Cells[place]);
+        item->setData(Qt::AccessibleTextRole, crossed.isEmpty() ? said : said + QStringLiteral(", ") + crossed);
     }
+}
+
+// As a spreadsheet takes it; several rows with their heads.
+void RowsTab::Copy() {
+    const auto ranges = rows_->selectedRanges();
+    if (ranges.isEmpty()) return;
+    const QTableWidgetSelectionRange& at = ranges.front();
+    QString text;
+    const auto add = [&](const auto& cell) {
+        for (int column = at.leftColumn(); column <= at.rightColumn(); ++column)
+            text += cell(column) + QLatin1Char(column < at.rightColumn() ? '\t' : '\n');
+    };
+    if (at.rowCount() > 1) add([this](int column) { return rows_->horizontalHeaderItem(column)->text(); });
+    for (int row = at.topRow(); row <= at.bottomRow(); ++row)
+        add([this, row](int column) { return rows_->item(row, column)->data(kPlain).toString(); });
+    QApplication::clipboard()->setText(text);
+    ShowToast(*window(), Q(Text(910214_text)));
 }
 
 void RowsTab::ShowInks() {

@@ -21,6 +21,7 @@ class RowsTab : public QWidget {
     void changeEvent(QEvent* event) override;
 
   private:
+    void Copy();
     void ShowRow(int row, const ShownRows& rows);
     // In inks of light or dark windows.
     void ShowInks();

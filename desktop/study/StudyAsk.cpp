@@ -11,7 +11,6 @@
 #include <QRadioButton>
 #include <algorithm>
 
-#include "desktop/BoxMark.h"
 #include "desktop/PageTools.h"
 #include "desktop/Sizes.h"
 #include "desktop/study/AskTools.h"
@@ -86,6 +85,7 @@ QGroupBox* StudyAsk::RandomGroup() {
         Changed();
     });
     samples_->setText(Q(question_.Samples));
+    Describe(*samples_, {{}, {}, StudyQuestion::kLeastSamples, StudyQuestion::kMostSamples});
     samplesLabel_ = AskLabel(group, Text(913221_text), samples_);
     row->addWidget(samplesLabel_);
     row->addWidget(samples_);
@@ -120,7 +120,9 @@ QGroupBox* StudyAsk::ResultGroup() {
         auto* box = new QCheckBox(Q(result.Symbol), group);
         box->setObjectName(NumberedName("chkTake", static_cast<int>(i) + 1));
         box->setToolTip(Q(result.Label));
-        box->setAccessibleDescription(Q(result.Label));
+        // "σ z, vertical stress"
+        box->setAccessibleName(Q(result.Symbol).replace(QLatin1Char('_'), QLatin1Char(' ')) + QStringLiteral(", ") +
+                               Q(result.Label));
         box->setChecked(question_.Taken[i]);
         connect(box, &QCheckBox::toggled, this, [this, i](bool on) {
             question_.Taken[i] = on;
@@ -156,6 +158,7 @@ QGroupBox* StudyAsk::ResultGroup() {
         Changed();
     });
     share_->setText(Q(question_.Share));
+    Describe(*share_, {{}, "%", 0, 100});
     shareLabel_ = AskLabel(group, Text(913226_text), share_);
     limit->addWidget(shareLabel_, 1, 0);
     limit->addWidget(share_, 1, 1);
@@ -184,15 +187,15 @@ void StudyAsk::ShowLines() {
 }
 
 void StudyAsk::ShowLimit() {
-    limitUnit_->setText(Q(question_.Drawn().Unit));
+    const ResultChoice& drawn = question_.Drawn();
+    limitUnit_->setText(Q(drawn.Unit));
+    Describe(*limit_, {drawn.Symbol, drawn.Unit, -kNoLimit, kNoLimit});
 }
 
 void StudyAsk::Mark(const std::vector<AskFault>& faults) {
     for (QLineEdit* box : findChildren<QLineEdit*>()) {
         const auto fault = std::ranges::find(faults, box->objectName().toStdString(), &AskFault::Box);
-        const std::string reason = fault == faults.end() ? std::string() : fault->Reason;
-        ShowMark(*box, reason);
-        box->setAccessibleDescription(Q(reason));
+        MarkBox(*box, fault == faults.end() ? std::string() : fault->Reason);
     }
 }
 

@@ -84,6 +84,7 @@ StudyWindow::StudyWindow(const StudySubject& subject, QWidget* parent)
     command_->PlaceWith(*column, Buttons());
     BindHelpKey(*this, [] { return std::string("studies"); });
     new PaneKeys(*this);
+    BindSaveKey(*this, *sheet_, *chart_, [this] { return tabs_->currentIndex() == kTable; });
 
     ask_->OnChange = tornado_->OnChange = [this] { Asked(); };
     ask_->OnFind = [this] { Find(); };
@@ -96,7 +97,9 @@ StudyWindow::StudyWindow(const StudySubject& subject, QWidget* parent)
     patience_.setInterval(kUnfinishedNumber);
     connect(&patience_, &QTimer::timeout, this, [this] { ShowFaults(); });
     connect(qApp, &QApplication::focusChanged, this, [this] {
-        if (patience_.isActive()) ShowFaults();
+        typing_ = false;
+        if (patience_.isActive()) return ShowFaults();
+        TellFault();
     });
     connect(tabs_, &QTabWidget::currentChanged, this, [this] { Asked(); });
     resize(1080, 720);
@@ -166,6 +169,7 @@ void StudyWindow::done(int result) {
 void StudyWindow::Asked() {
     findShown_ = false;
     const auto* typed = qobject_cast<const QLineEdit*>(focusWidget());
+    typing_ = typed != nullptr;
     if (const bool faulty = !Faults().empty(); faulty && typed != nullptr && IsUnfinished(typed->text().toStdString()))
         patience_.start();
     else
@@ -188,8 +192,16 @@ void StudyWindow::ShowFaults() {
 }
 
 void StudyWindow::ShowFault(const std::string& reason) {
-    if (isVisible() && answer_->text() != Q(reason)) SpeakAlert(*answer_, Q(reason));
+    if (isVisible() && answer_->text() != Q(reason)) untold_ = Q(reason);
     Say(Q(reason), Ink::Error);
+    TellFault();
+}
+
+// Nothing is said as one types: what is wrong is told as its box is left.
+void StudyWindow::TellFault() {
+    if (typing_ || untold_.isEmpty()) return;
+    if (answer_->text() == untold_) SpeakAlert(*answer_, untold_);
+    untold_.clear();
 }
 
 void StudyWindow::Say(const QString& words, Ink ink) {
@@ -236,6 +248,11 @@ void StudyWindow::Find() {
 bool StudyWindow::RowsAreOld() const {
     return work_.Rows() != nullptr &&
            (!question_.Faults().empty() || StudyWork::RowsWords(question_, SavedProject()) != rowsWords_);
+}
+
+bool StudyWindow::BarsAreOld() const {
+    return !work_.Bars().empty() &&
+           (!question_.TornadoFaults().empty() || StudyWork::TornadoWords(question_, SavedProject()) != tornadoWords_);
 }
 
 // --- what has come ---
@@ -320,11 +337,11 @@ void StudyWindow::ShowProgress() {
             text += Text(913240_text, {{"|1", ShortNumber(work_.PromisedSeconds(), 2)}});
             warning = true;
         }
-        // What belongs to former boxes says so.
-        if (RowsAreOld()) {
-            text = "! " + Text(913241_text) + " - " + text;
-            warning = true;
-        }
+    }
+    // What belongs to former boxes says so.
+    if (tabs_->currentIndex() == kTornado ? BarsAreOld() : RowsAreOld()) {
+        text = "! " + Text(913241_text) + (text.empty() ? "" : " - " + text);
+        warning = true;
     }
     progress_->Say(text, warning);
     const bool any = done > 0 && work_.Doing() != Job::Rows;

@@ -58,9 +58,11 @@ class StudyWindow : public QDialog {
     void ShowCommand();
     std::vector<AskFault> Faults() const;  // of what is looked at
     void ShowFaults();
+    void TellFault();
     void ShowFault(const std::string& reason);
     void Say(const QString& words, Ink ink);
     bool RowsAreOld() const;
+    bool BarsAreOld() const;
 
     void SaveShown();
 
@@ -68,6 +70,8 @@ class StudyWindow : public QDialog {
     StudyQuestion question_;
     StudyWork work_;
     QTimer rest_, patience_;
+    bool typing_ = false;  // the last change came from a box that has the focus
+    QString untold_;       // what is wrong and has not been said yet
     ShowTimer shown_;
     std::vector<std::string> rowsWords_;     // of the rows that are shown
     std::vector<std::string> tornadoWords_;  // of the tornado that is shown

@@ -9,7 +9,6 @@
 #include <QRadioButton>
 
 #include "core/Session.h"
-#include "desktop/BoxMark.h"
 #include "desktop/ChartView.h"
 #include "desktop/GraphicWords.h"
 #include "desktop/Sizes.h"
@@ -39,6 +38,7 @@ TornadoTab::TornadoTab(StudyQuestion& question, QWidget* parent)
     connect(all_, &QRadioButton::toggled, this, [this] { Read(); });
     swing_->setText(Q(question.TornadoSwing));
     swing_->setAccessibleName(Q(Text(913311_text)));
+    Describe(*swing_, {{}, "%", 0, StudyQuestion::kMostSwing});
     swing_->setFixedWidth(sizes::kBoxWidth / 2);
     row->addWidget(all_);
     row->addWidget(swing_);
@@ -91,7 +91,7 @@ void TornadoTab::changeEvent(QEvent* event) {
 
 void TornadoTab::Mark(const std::vector<AskFault>& faults) {
     const bool wrong = !faults.empty() && faults.front().Box == swing_->objectName().toStdString();
-    ShowMark(*swing_, wrong ? faults.front().Reason : std::string());
+    MarkBox(*swing_, wrong ? faults.front().Reason : std::string());
 }
 
 TornadoPicture TornadoPictureOf(const StudyQuestion& question, const std::vector<TornadoBar>& bars, double middle) {

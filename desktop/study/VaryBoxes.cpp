@@ -72,6 +72,10 @@ void VaryBoxes::Show() {
         if (box->text() != Q(*text)) box->setText(Q(*text));
     const FieldChoice* field = question_.Varied(line_);
     unit_->setText(field == nullptr ? QString() : Q(field->Unit));
+    if (field != nullptr)
+        for (QLineEdit* box : {from_, to_, list_})
+            Describe(*box, {field->Symbol, field->Unit, field->Least, field->Greatest});
+    Describe(*count_, {{}, {}, 2, static_cast<double>(question_.MostValues(line_))});
     ShowLines();
 }
 

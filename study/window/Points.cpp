@@ -41,7 +41,10 @@ std::vector<double> EvenValues::All() const {
 }
 
 PointsTable::PointsTable(std::vector<FieldChoice> coordinates, std::vector<ResultChoice> results)
-    : coordinates_(std::move(coordinates)), results_(std::move(results)), editing_(EditOf(coordinates_)) {}
+    : coordinates_(std::move(coordinates)),
+      results_(std::move(results)),
+      opened_(EditOf(coordinates_)),
+      editing_(opened_) {}
 
 bool PointsTable::Put(const std::vector<std::array<double, 3>>& points, bool replace) {
     const std::size_t present = replace ? 0 : static_cast<std::size_t>(editing_.Rows());

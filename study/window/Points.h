@@ -30,6 +30,8 @@ class PointsTable {
     // The fields x, y and z of the dialog, whose point is the first one.
     PointsTable(std::vector<FieldChoice> coordinates, std::vector<ResultChoice> results);
 
+    // What is edited, as it was opened: the dialog's point.
+    const TableEdit& Opened() const noexcept { return opened_; }
     TableEditing& Editing() noexcept { return editing_; }
     const TableEditing& Editing() const noexcept { return editing_; }
     const std::vector<FieldChoice>& Coordinates() const noexcept { return coordinates_; }
@@ -58,6 +60,7 @@ class PointsTable {
 
     std::vector<FieldChoice> coordinates_;
     std::vector<ResultChoice> results_;
+    TableEdit opened_;
     TableEditing editing_;
 };
 

@@ -17,7 +17,7 @@ namespace lithmark {
 namespace {
 
 constexpr int kWhole = 1, kReal = 2;
-constexpr double kMostValues = 10000, kMostSamples = 1000000;
+constexpr int kMostValues = 10000;
 
 std::string BoxOf(const char* name, int line) {
     return std::string(name) + "(" + std::to_string(line + 1) + ")";
@@ -133,6 +133,11 @@ void StudyQuestion::DrawContour(bool on) {
     if (count == former) count = std::to_string(on ? kContour : kFamily);
 }
 
+int StudyQuestion::MostValues(int line) const {
+    if (line == 0) return kMostValues;
+    return contour_ ? kMostContour : kMostFamily;
+}
+
 bool StudyQuestion::IsRandom() const {
     return std::ranges::any_of(Random, [&](const RandomLine& line) { return Choice(line.Field) != nullptr; });
 }
@@ -162,11 +167,7 @@ void StudyQuestion::AddVaryFaults(std::vector<AskFault>& faults, int line) const
     const std::size_t before = faults.size();
     check("txtFrom", vary.From, kind, field->Greatest, field->Least, field->Label);
     check("txtTo", vary.To, kind, field->Greatest, field->Least, field->Label);
-    check("txtCount", vary.Count, kWhole,
-          line == 0  ? kMostValues
-          : contour_ ? kMostContour
-                     : kMostFamily,
-          2, Text(913301_text));
+    check("txtCount", vary.Count, kWhole, MostValues(line), 2, Text(913301_text));
     if (faults.size() > before) return;
     const double from = NumberOf(vary.From), to = NumberOf(vary.To);
     if (from == to) faults.push_back({BoxOf("txtTo", line), Text(913302_text, {{"|1", field->Label}})});
@@ -217,7 +218,7 @@ std::vector<AskFault> StudyQuestion::Faults() const {
         faults.push_back({BoxOf("cboField", 1), Text(913304_text, {{"|1", Varied(1)->Label}})});
     for (int line = 0; line < kRandomLines; ++line) AddRandomFaults(faults, line);
     if (IsRandom())
-        if (auto reason = SharedServices().TextFault(Samples, kWhole, kMostSamples, 2, Text(913306_text)))
+        if (auto reason = SharedServices().TextFault(Samples, kWhole, kMostSamples, kLeastSamples, Text(913306_text)))
             faults.push_back({"txtSamples", *reason});
     AddLimitFault(faults);
     if (Varied(0) == nullptr && Varied(1) == nullptr && !IsRandom())
@@ -238,7 +239,7 @@ std::vector<AskFault> StudyQuestion::FindFaults() const {
 std::vector<AskFault> StudyQuestion::TornadoFaults() const {
     if (!TornadoOfAll) return Faults();
     std::vector<AskFault> faults;
-    if (auto reason = SharedServices().TextFault(TornadoSwing, kReal, 99, 0, Text(913311_text)))
+    if (auto reason = SharedServices().TextFault(TornadoSwing, kReal, kMostSwing, 0, Text(913311_text)))
         faults.push_back({"txtSwing", *reason});
     return faults;
 }

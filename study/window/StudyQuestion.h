@@ -46,6 +46,8 @@ class StudyQuestion {
   public:
     static constexpr int kVaryLines = 2, kRandomLines = 3;
     static constexpr int kValues = 21, kFamily = 7, kMostFamily = 12, kContour = 15, kMostContour = 60;
+    static constexpr int kLeastSamples = 2, kMostSamples = 1000000;
+    static constexpr int kMostSwing = 99;  // per cent
 
     // Begins with the field `first` and the result that is looked for most often.
     StudyQuestion(std::vector<FieldChoice> fields, std::vector<ResultChoice> results, int first);
@@ -74,6 +76,9 @@ class StudyQuestion {
     // There is a second field, and a contour is asked for.
     bool DrawsContour() const { return contour_ && SecondVaried() != nullptr; }
     bool ContourAsked() const noexcept { return contour_; }
+
+    // How many values a line may have at most.
+    int MostValues(int line) const;
 
     bool IsRandom() const;
     // The field of a line of `Vary`; null where there is none.

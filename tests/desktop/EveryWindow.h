@@ -22,6 +22,7 @@
 #include "desktop/QtHost.h"
 #include "desktop/TableEditorDialog.h"
 #include "desktop/compare/CompareWindow.h"
+#include "desktop/study/PointsFill.h"
 #include "desktop/study/PointsWindow.h"
 #include "desktop/study/StudyWindow.h"
 #include "kernels/RunKernel.h"
@@ -108,6 +109,13 @@ class EveryWindow : public FormTest {
         LookAt(study, look, "study" + in);
         PointsWindow points(SubjectOf(*stress, "z"), nullptr);
         LookAt(points, look, "points" + in);
+        PointsTable many = points.Points();
+        for (const auto& [kind, name] : {std::pair(PointsFill::Kind::Grid, "grid of points"),
+                                         {PointsFill::Kind::Line, "line of points"},
+                                         {PointsFill::Kind::Depths, "depths of points"}}) {
+            PointsFill fill(many, kind, nullptr);
+            LookAt(fill, look, name + in);
+        }
         LookAtComparison(look, in);
     }
 

@@ -11,6 +11,7 @@
 #include "EveryWindow.h"
 #include "ScreenRun.h"
 #include "desktop/Toast.h"
+#include "desktop/answer/AnswerView.h"
 #include "support/Matchers.h"
 #include "ui/frmNumberFormats.h"
 #include "ui/frmPreferences.h"
@@ -167,6 +168,10 @@ TEST_F(AlertTest, APatternThatIsNoneIsTold) {
     EXPECT_EQ(told[0].Object, "lblFault");
     EXPECT_EQ(told[0].Role, QAccessible::AlertMessage);
     EXPECT_EQ(told[0].Name, formats.MarkOf(formats.txtFormat[5]));
+    EXPECT_THAT(Child<QLineEdit>(view, "txtFormat(5)").accessibleDescription().toStdString(),
+                EndsWith("; error: " + told[0].Name));
+    TypeInto(view, "txtFormat(5)", "0.00");
+    EXPECT_EQ(Child<QLineEdit>(view, "txtFormat(5)").accessibleDescription().toStdString(), "5.00 m");
 }
 
 TEST_F(AlertTest, ACellThatCannotBeTakenIsTold) {
@@ -197,6 +202,78 @@ TEST_F(AlertTest, AWordThatComesAndGoesIsTold) {
     ASSERT_THAT(told, SizeIs(1));
     EXPECT_EQ(told[0].Role, QAccessible::AlertMessage);
     EXPECT_EQ(told[0].Name, "Copied");
+}
+
+// In the windows of studies too: not while one types, once as the box is left.
+TEST_F(AlertTest, ABoxOfAStudyIsToldAsItIsLeft) {
+    const auto form = LoadedDialog(Problem::SoilStress);
+    StudyWindow study(SubjectOf(*form, "z"), nullptr);
+    Await(study);
+    TypeInto(study, "txtCount(1)", "0");
+    EXPECT_THAT(Taken(), IsEmpty()) << "while one types";
+    QTest::keyClick(&Child<QLineEdit>(study, "txtCount(1)"), Qt::Key_Tab);
+    const std::vector<Alert> told = Taken();
+    ASSERT_THAT(told, SizeIs(1));
+    EXPECT_EQ(told[0].Object, "lblAnswer");
+    EXPECT_EQ(told[0].Name, Child<QLineEdit>(study, "txtCount(1)").toolTip().toStdString());
+    TypeInto(study, "txtCount(1)", "5");
+    QTest::keyClick(&Child<QLineEdit>(study, "txtCount(1)"), Qt::Key_Tab);
+    EXPECT_THAT(Taken(), IsEmpty());
+}
+
+TEST_F(AlertTest, APointThatCannotBeTakenIsTold) {
+    const auto form = LoadedDialog(Problem::SoilStress);
+    PointsWindow points(SubjectOf(*form, "z"), nullptr);
+    Await(points);
+    auto& grid = Child<QTableWidget>(points, "grid");
+    grid.item(0, 0)->setText("1.5");
+    EXPECT_THAT(Taken(), IsEmpty());
+    grid.item(0, 2)->setText("ab");
+    const std::vector<Alert> told = Taken();
+    ASSERT_THAT(told, SizeIs(1));
+    EXPECT_EQ(told[0].Object, "lblNote");
+    EXPECT_THAT(told[0].Name, StartsWith("Row 1, z - "));
+
+    PointsTable table = points.Points();
+    PointsFill fill(table, PointsFill::Kind::Grid, nullptr);
+    Await(fill);
+    TypeInto(fill, "txtFrom(3)", "-");
+    auto& box = Child<QLineEdit>(fill, "txtFrom(3)");
+    EXPECT_TRUE(box.toolTip().isEmpty()) << "not ended";
+    TypeInto(fill, "txtFrom(3)", "-1");
+    EXPECT_FALSE(box.toolTip().isEmpty());
+    EXPECT_THAT(Taken(), IsEmpty()) << "while one types";
+    QTest::keyClick(&box, Qt::Key_Tab);
+    const std::vector<Alert> said = Taken();
+    ASSERT_THAT(said, SizeIs(1));
+    EXPECT_EQ(said[0].Name, box.toolTip().toStdString());
+    EXPECT_THAT(box.accessibleDescription().toStdString(), StartsWith("z, m, 0 or more; error: "));
+}
+
+// The answer that was asked for is told, and no other one.
+TEST_F(AlertTest, TheAnswerThatWasAskedForIsTold) {
+    Session.ProblemType = Problem::SoilStress;
+    frmstress form;
+    form.Load();
+    FormView view(form, nullptr);
+    Await(view);
+    auto& answer = dynamic_cast<AnswerView&>(Child<QWidget>(view, "answer"));
+    constexpr int kPatience = 60000;
+    const auto there = [&] { return answer.Model().State() == AnswerState::Now && answer.Model().Settled(); };
+    ASSERT_TRUE(QTest::qWaitFor(there, kPatience));
+    EXPECT_THAT(Taken(), IsEmpty());
+    QTest::keyClick(&view, Qt::Key_F5);
+    ASSERT_TRUE(QTest::qWaitFor([] { return !Heard().empty(); }, kPatience));
+    const std::vector<Alert> told = Taken();
+    ASSERT_THAT(told, SizeIs(1));
+    EXPECT_EQ(told[0].Object, "answerMark");
+    EXPECT_EQ(told[0].Role, QAccessible::AlertMessage);
+    EXPECT_THAT(told[0].Name, StartsWith("σ z, "));
+    // It is not read as the present answer later on.
+    TypeInto(view, "txt_P", "130");
+    ASSERT_TRUE(QTest::qWaitFor(there, kPatience));
+    EXPECT_THAT(Taken(), IsEmpty());
+    EXPECT_EQ(Child<QLabel>(answer, "answerMark").accessibleName(), QString());
 }
 
 // A screen reader that hears every key of a box would be told of each of its neighbours too.

@@ -24,6 +24,7 @@
 #include "files/ProblemData.h"
 #include "files/SettingsFiles.h"
 #include "kernels/RunKernel.h"
+#include "render/drawings/Inks.h"
 #include "report/Notices.h"
 #include "support/Matchers.h"
 #include "support/Places.h"
@@ -268,6 +269,14 @@ TEST_F(AnswerTest, AWrongBoxLeadsToItself) {
         Await(answer, AnswerState::Stopped);
         auto& reason = *view.findChild<QLabel*>(QStringLiteral("reason"));
         EXPECT_THAT(reason.toolTip().toStdString(), HasSubstr("0.5"));
+        // The values that still stand say that they are of the former input; the reason has the line that said so.
+        auto& head = *answer.findChild<QWidget*>(QStringLiteral("answerHead"));
+        auto& curves = *answer.findChild<QWidget*>(QStringLiteral("answerCurves"));
+        EXPECT_EQ(head.accessibleName().toStdString(), "for the former input");
+        EXPECT_THAT(curves.accessibleDescription().toStdString(), EndsWith("; for the former input"));
+        auto& notices = *answer.findChild<QWidget*>(QStringLiteral("answerNotices"));
+        EXPECT_THAT(notices.accessibleDescription().toStdString(), EndsWith("for the former input"));
+        EXPECT_EQ(notices.palette().color(QPalette::ButtonText), ColourOf(Ink::Quiet, Theme::Light));
         view.FocusOn(form.cmdResult);
         auto& link = *answer.findChild<QLabel*>(QStringLiteral("answerState"));
         emit link.linkActivated(QStringLiteral("box"));
@@ -275,6 +284,9 @@ TEST_F(AnswerTest, AWrongBoxLeadsToItself) {
         Keys(view, "txt_Nue", "0.2");
         Await(answer);
         EXPECT_EQ(reason.toolTip(), QString());
+        EXPECT_EQ(head.accessibleName(), QString());
+        EXPECT_THAT(curves.accessibleDescription().toStdString(), Not(HasSubstr("former")));
+        EXPECT_EQ(notices.palette().color(QPalette::ButtonText), ColourOf(Ink::Link, Theme::Light));
     });
 }
 
@@ -380,6 +392,7 @@ TEST_F(AnswerTest, IsAListInWords) {
             EXPECT_THAT(words->child(0)->text(QAccessible::Name).toStdString(), ::testing::StartsWith("σ z, 126"));
             auto& curves = *answer.findChild<QWidget*>(QStringLiteral("answerCurves"));
             EXPECT_THAT(curves.accessibleDescription().toStdString(), HasSubstr("σ z"));
+            EXPECT_EQ(QAccessible::queryAccessibleInterface(&curves)->role(), QAccessible::Graphic);
             for (const char* name : {"answerHide", "answerKeep", "answerNotices"}) {
                 auto& button = *answer.findChild<QAbstractButton*>(QString::fromLatin1(name));
                 QAccessibleInterface* said = QAccessible::queryAccessibleInterface(&button);

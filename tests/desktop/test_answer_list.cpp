@@ -64,5 +64,35 @@ TEST_F(AnswerListTest, TheSignOfANegativeNumberStandsInFrontOfItInEveryLanguage)
     }
 }
 
+// Above former values stand a word and a sign, with kept values beside them and without, and nothing moves for them.
+TEST_F(AnswerListTest, FormerValuesAreCalledSo) {
+    const Answer answer{{{"Sigma_z", "Stress", "63.5", "[kN/m²]", 63.5}}, {}, {}};
+    for (const Answer* kept : {static_cast<const Answer*>(nullptr), &answer}) {
+        AnswerList list(nullptr);
+        list.resize(400, 120);
+        list.show();
+        const auto* head = list.findChild<QWidget*>(QStringLiteral("answerHead"));
+        ASSERT_NE(head, nullptr);
+        const auto shown = [&](bool present) {
+            list.ShowAnswer(&answer, kept, present, true);
+            QApplication::processEvents();
+            return list.grab(head->geometry()).toImage();
+        };
+        const QImage now = shown(true);
+        const AnswerColumns before = list.Columns();
+        const QImage former = shown(false);
+        const AnswerColumns& after = list.Columns();
+        EXPECT_EQ(after.Now, before.Now);
+        EXPECT_EQ(after.Symbol, before.Symbol);
+        // The sign over the symbols, the word over the values.
+        const QRect sign(0, 0, before.Symbol, head->height()), word(before.Symbol, 0, before.Now, head->height());
+        EXPECT_NE(former.copy(sign), now.copy(sign));
+        EXPECT_NE(former.copy(word), now.copy(word));
+        EXPECT_EQ(shown(true), now);
+        list.ShowAnswer(nullptr, nullptr, false, true);
+        EXPECT_TRUE(list.Present()) << "nothing is of another input";
+    }
+}
+
 }  // namespace
 }  // namespace lithmark::tests

@@ -226,6 +226,7 @@ TEST_F(ChartWindowTest, CopiesAPictureOrTheTable) {
     ChartView& plot = Shown(window);
     QTest::keyClick(&plot, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QApplication::clipboard()->image().width(), 2040);
+    EXPECT_EQ(Child<QLabel>(window, "toast").text().toStdString(), "Copied");
     QTest::keyClick(&plot, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(QApplication::clipboard()->text().toStdString(), ChartTabs(chart));
 }

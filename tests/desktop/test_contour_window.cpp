@@ -12,6 +12,7 @@
 #include "desktop/ContourView.h"
 #include "desktop/FormView.h"
 #include "kernels/RunKernel.h"
+#include "support/Matchers.h"
 #include "ui/frmContour.h"
 
 namespace lithmark::tests {
@@ -85,6 +86,53 @@ TEST_F(ContourWindowTest, TheFieldAndItsSectionFollowTheMouse) {
     EXPECT_FALSE(curve.isVisible());
 }
 
+// What the mouse reads and lays, the keys do too.
+TEST_F(ContourWindowTest, KeysWalkThroughThePlotAndLayTheSection) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(view_.get()));
+    ContourView& plot = View("plot");
+    const auto& under = Child<QLabel>(*view_, "lblUnder");
+    plot.setFocus();
+    const std::string whole = plot.accessibleDescription().toStdString();
+    QTest::keyClick(&plot, Qt::Key_Right);
+    const std::string first = under.text().toStdString();
+    EXPECT_THAT(first, HasSubstr("q = "));
+    EXPECT_EQ(plot.accessibleDescription().toStdString(), first);
+    QTest::keyClick(&plot, Qt::Key_Right);
+    EXPECT_NE(under.text().toStdString(), first);
+    QTest::keyClick(&plot, Qt::Key_Left);
+    EXPECT_EQ(under.text().toStdString(), first);
+    // Without a section its keys do nothing.
+    QTest::keyClick(&plot, Qt::Key_A);
+    EXPECT_FALSE(form_.Section());
+    ClickOn(*view_, "optView(1)");
+    ClickOn(*view_, "chkSection");
+    EXPECT_TRUE(under.text().isEmpty()) << "the focus has gone";
+    plot.setFocus();
+    const FieldLine before = form_.Section().value();
+    for (const auto& [key, end] : {std::pair(Qt::Key_Left, Qt::Key_A), {Qt::Key_Up, Qt::Key_B}}) {
+        for (int i = 0; i < 5; ++i) QTest::keyClick(&plot, key);
+        QTest::keyClick(&plot, end);
+    }
+    const FieldLine after = form_.Section().value();
+    EXPECT_NE(after.From, before.From);
+    // Four steps from the middle to the left, and five upward from there; the first key is the middle.
+    const WorldWindow& window = form_.Plot.Window;
+    const double step = (window.XMax - window.XMin) / 20.0, middle = window.XMin + 10 * step;
+    EXPECT_NEAR(after.From.X, middle - 4 * step, 1e-6);
+    EXPECT_NEAR(after.To.X, after.From.X, 1e-6);
+    EXPECT_NEAR(after.To.Y - after.From.Y, 5 * step, 1e-6);
+    // At the end of the plot it stays.
+    for (int i = 0; i < 40; ++i) QTest::keyClick(&plot, Qt::Key_Down);
+    const QString bottom = under.text();
+    QTest::keyClick(&plot, Qt::Key_Down);
+    EXPECT_EQ(under.text(), bottom);
+    QTest::keyClick(&plot, Qt::Key_Tab);
+    EXPECT_TRUE(under.text().isEmpty());
+    EXPECT_THAT(plot.accessibleDescription().toStdString(), Not(HasSubstr("x = ")));
+    ClickOn(*view_, "optView(0)");
+    EXPECT_EQ(plot.accessibleDescription().toStdString(), whole);
+}
+
 TEST_F(ContourWindowTest, KeysGoBackAndToTheOriginalWindow) {
     ClickOn(*view_, "cmdULeft");
     const double zoomed = form_.Plot.Window.XMax;
@@ -101,6 +149,7 @@ TEST_F(ContourWindowTest, CopiesThePageWithTitleAndLegend) {
     ClickOn(*view_, "cmdCopy");
     const QImage plot = QApplication::clipboard()->image();
     EXPECT_GT(plot.width(), plot.height() / 2);
+    EXPECT_EQ(Child<QLabel>(*view_, "toast").text().toStdString(), "Copied");
     ClickOn(*view_, "optView(1)");
     ClickOn(*view_, "cmdCopy");
     EXPECT_NE(QApplication::clipboard()->image(), plot);

@@ -10,6 +10,7 @@
 
 #include "ScreenRun.h"
 #include "desktop/SplashView.h"
+#include "desktop/TableEditorDialog.h"
 #include "support/Matchers.h"
 #include "ui/frmSplash.h"
 #include "ui/model/UnsavedTable.h"
@@ -155,6 +156,34 @@ TEST_F(FrameViewTest, TheTableEditorTakesWhatIsTypedAndRefusesWhatIsNoNumber) {
     run.In("tableEditor", [](QWidget& editor) { ClickOn(editor, "CmdCancel"); });
     EXPECT_FALSE(CurrentHost().EditTable(table));
     EXPECT_EQ(table.Rows, expected);
+}
+
+// A column is typed number by number, as in a spreadsheet.
+TEST_F(FrameViewTest, EnterGoesToTheCellBelow) {
+    TableEdit table;
+    table.Columns = {{"n", TableEdit::Kind::Whole, 10, 1}, {"p", TableEdit::Kind::Real, 100, 0}};
+    table.Rows = {{"1", "19"}, {"2", "42"}, {"3", "70"}};
+    TableEditorDialog editor(table, nullptr);
+    editor.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&editor));
+    auto& grid = Child<QTableWidget>(editor, "grid");
+    grid.setCurrentCell(0, 1);
+    grid.setFocus();
+    for (const char* number : {"20", "43", "71"}) {
+        QTest::keyClick(&grid, static_cast<char>(number[0]));
+        auto* box = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+        ASSERT_NE(box, nullptr) << number;
+        QTest::keyClick(box, static_cast<char>(number[1]));
+        QTest::keyClick(box, Qt::Key_Return);
+        QCoreApplication::processEvents();
+    }
+    std::string column;
+    for (int row = 0; row < 3; ++row) column += grid.item(row, 1)->text().toStdString() + " ";
+    EXPECT_EQ(column, "20 43 71 ");
+    EXPECT_EQ(grid.currentRow(), 2);
+    EXPECT_TRUE(editor.isVisible());
+    EXPECT_EQ(Child<QPushButton>(editor, "cmdUp").toolTip().toStdString(), "Alt+Up");
+    EXPECT_EQ(Child<QPushButton>(editor, "cmdAddRow").toolTip().toStdString(), "Ctrl++");
 }
 
 TEST_F(FrameViewTest, WhatWasTypedIntoTheTableEditorOutlivesItsWindow) {

@@ -1,5 +1,7 @@
 // The manual in the program: F1 shows the page in the language, with its pictures, and every link leads somewhere.
 #include <QMessageBox>
+#include <QPushButton>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTextTable>
@@ -160,6 +162,31 @@ TEST_F(ManualOnScreen, EveryLinkLeadsSomewhere) {
     EXPECT_EQ(ExampleOfLink("manual/en/problem-4", "../../../examples/ClayUnderTank"), "ClayUnderTank");
     EXPECT_EQ(ExampleOfLink("manual/en/problem-4", "../../../examples/README.md"), "");
     EXPECT_EQ(ExampleOfLink("manual/en/problem-4", "../examples/ClayUnderTank"), "");
+}
+
+// From where a link has led, a key leads back to the line where one was.
+TEST_F(ManualOnScreen, AKeyLeadsBackToTheFormerPage) {
+    ManualWindow manual(nullptr, PageOfTopic("problem-4"));
+    manual.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&manual));
+    auto& browser = Child<QTextBrowser>(manual, "manualPage");
+    auto& back = Child<QPushButton>(manual, "cmdBack");
+    const std::string first = manual.Page();
+    EXPECT_FALSE(back.isEnabled());
+    QScrollBar& bar = *browser.verticalScrollBar();
+    bar.setValue(bar.maximum() / 2);
+    const int scrolled = bar.value();
+    ASSERT_GT(scrolled, 0);
+    emit browser.anchorClicked(QUrl(QStringLiteral("problem-3.md")));
+    EXPECT_EQ(manual.Page(), "manual/en/problem-3");
+    emit browser.anchorClicked(QUrl(QStringLiteral("problem-1.md")));
+    QTest::keyClick(&browser, Qt::Key_Backspace);
+    EXPECT_EQ(manual.Page(), "manual/en/problem-3");
+    QTest::keyClick(&browser, Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(manual.Page(), first);
+    EXPECT_EQ(bar.value(), scrolled);
+    EXPECT_FALSE(back.isEnabled());
+    EXPECT_TRUE(manual.isVisible());
 }
 
 TEST_F(ManualOnScreen, WordsOfALinkThatLeadsOutStay) {

@@ -130,5 +130,38 @@ TEST_F(PointsWindowTest, UndoTakesAPasteBackAtOnce) {
     EXPECT_FALSE(form_->Modified());
 }
 
+TEST_F(PointsWindowTest, PointsAreThereAgainWhenTheWindowOpensAnew) {
+    QApplication::clipboard()->setText(QStringLiteral("0\t0\t1\n0\tab\t2\n"));
+    const std::string own = Cell(0, 2);
+    ClickOn(*window_, "cmdPaste");
+    QTest::keyClick(window_.get(), Qt::Key_Escape);
+    EXPECT_FALSE(window_->isVisible());
+    window_ = std::make_unique<PointsWindow>(SubjectOf(*form_, "z"), nullptr);
+    window_->show();
+    EXPECT_EQ(Grid().rowCount(), 2);
+    EXPECT_EQ(Cell(1, 1), "ab");
+    EXPECT_THAT(Cell(1, Status()), HasSubstr("y"));
+    ClickOn(*window_, "cmdUndo");
+    EXPECT_EQ(Grid().rowCount(), 1);
+    EXPECT_EQ(Cell(0, 2), own);
+    ClickOn(*window_, "cmdRedo");
+    QTest::keyClick(window_.get(), Qt::Key_Escape);
+    // Of another project they are none.
+    const auto rowsOf = [this](const char* project) {
+        Session.ProjectName = project;
+        window_ = std::make_unique<PointsWindow>(SubjectOf(*form_, "z"), nullptr);
+        return Grid().rowCount();
+    };
+    EXPECT_EQ(rowsOf("P2"), 1);
+    EXPECT_EQ(rowsOf("P1"), 2);
+    // The dialog's point alone is nothing to keep.
+    window_->show();
+    ClickOn(*window_, "cmdUndo");
+    QTest::keyClick(window_.get(), Qt::Key_Escape);
+    EXPECT_EQ(rowsOf("P1"), 1);
+    EXPECT_FALSE(form_->Modified());
+    EXPECT_THAT(DataFiles(), IsEmpty());
+}
+
 }  // namespace
 }  // namespace lithmark::tests

@@ -5,12 +5,14 @@
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTableWidget>
+#include <set>
 
 #include "EveryWindow.h"
 #include "desktop/ContourView.h"
@@ -76,6 +78,30 @@ TEST_F(RoomTest, EveryWindowFitsItsScreenWithEverythingInsideAndInFull) {
         }
     });
     EXPECT_THAT(failing, IsEmpty());
+}
+
+// 24 x 24 at least; a line of a list and the parts of the toolkit's own bars are another matter.
+TEST_F(RoomTest, WhatIsClickedIsLargeEnough) {
+    std::set<std::string> failing;
+    int seen = 0;
+    ForAllWindows([&](QWidget& window, const std::string& name) {
+        for (const QWidget* widget : window.findChildren<QWidget*>()) {
+            const bool clicked = qobject_cast<const QAbstractButton*>(widget) != nullptr ||
+                                 qobject_cast<const QComboBox*>(widget) != nullptr ||
+                                 qobject_cast<const QLineEdit*>(widget) != nullptr ||
+                                 qobject_cast<const QTabBar*>(widget) != nullptr;
+            // Without a name: the corner of a table, the arrows of a bar that is too narrow.
+            if (!clicked || !widget->isVisibleTo(&window) || widget->window() != &window ||
+                widget->objectName().isEmpty() || widget->objectName().startsWith(QLatin1String("qt_")))
+                continue;
+            ++seen;
+            if (widget->width() < sizes::kClicked || widget->height() < sizes::kClicked)
+                failing.insert(name + ": " + widget->objectName().toStdString() + " " +
+                               std::to_string(widget->width()) + " x " + std::to_string(widget->height()));
+        }
+    });
+    EXPECT_THAT(failing, IsEmpty());
+    EXPECT_GT(seen, 3 * 300);
 }
 
 TEST_F(RoomTest, ButtonsNeverScroll) {

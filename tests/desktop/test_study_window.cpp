@@ -159,7 +159,11 @@ TEST_F(StudyWindowTest, ALimitIsFoundBetweenTwoRowsAndByTheSearch) {
     const auto& table = Child<QTableWidget>(*window, "rows");
     int marked = 0;
     for (int row = 0; row < table.rowCount(); ++row)
-        marked += table.item(row, 0)->text().startsWith(QChar(0xD7)) ? 1 : 0;
+        if (table.item(row, 0)->text().startsWith(QChar(0xD7))) {
+            ++marked;
+            EXPECT_THAT(table.item(row, 2)->data(Qt::AccessibleTextRole).toString().toStdString(),
+                        EndsWith(", the limit is crossed here"));
+        }
     EXPECT_EQ(marked, 2);
     ClickOn(*window, "cmdFind");
     EXPECT_THAT(Command(*window), HasSubstr(" --find h="));
@@ -201,7 +205,121 @@ TEST_F(StudyWindowTest, ANumberThatIsBeingTypedIsNoErrorUntilItIsLeft) {
     EXPECT_FALSE(Child<QPushButton>(*window, "cmdRun").isEnabled());
     Child<QLineEdit>(*window, "txtFrom(1)").setFocus();
     EXPECT_FALSE(box.toolTip().isEmpty());
-    EXPECT_EQ(box.accessibleDescription(), box.toolTip());
+    EXPECT_EQ(box.accessibleDescription().toStdString(), "h, m, 0 or more; error: " + box.toolTip().toStdString());
+}
+
+TEST_F(StudyWindowTest, BoxesSayTheirUnitAndTheirRange) {
+    const auto window = Open();
+    AwaitRows(*window);
+    const auto said = [&](const char* box) {
+        return Child<QLineEdit>(*window, box).accessibleDescription().toStdString();
+    };
+    EXPECT_EQ(said("txtFrom(1)"), "h, m, 0 or more");
+    EXPECT_EQ(said("txtCount(1)"), "no unit, 2 to 10000");
+    EXPECT_EQ(said("txtLimit"), "s, cm");
+    EXPECT_EQ(said("txtSwing"), "%, 0 to 99");
+    EXPECT_EQ(said("txtSamples"), "no unit, 2 to 1000000");
+    Choose(*window, "cboField(2)", 1);
+    EXPECT_EQ(said("txtCount(2)"), "no unit, 2 to 12");
+    ClickOn(*window, "optDraw(2)");
+    EXPECT_EQ(said("txtCount(2)"), "no unit, 2 to 60");
+    EXPECT_THAT(Child<QCheckBox>(*window, "chkTake(1)").accessibleName().toStdString(), StartsWith("s, "));
+}
+
+TEST_F(StudyWindowTest, KeysStepANumber) {
+    const auto window = Open();
+    AwaitRows(*window);
+    auto& count = Child<QLineEdit>(*window, "txtCount(1)");
+    count.setFocus();
+    count.end(false);
+    QTest::keyClick(&count, Qt::Key_Up);
+    EXPECT_EQ(count.text().toStdString(), "22");
+    QTest::keyClick(&count, Qt::Key_PageDown);
+    EXPECT_EQ(count.text().toStdString(), "12");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->Work().Rows()->Wanted() == 12; }, kStudyPatience));
+    AwaitRows(*window);
+    EXPECT_THAT(Command(*window), HasSubstr(":*12"));
+    // The command is read and not stepped.
+    auto& command = Child<QLineEdit>(*window, "txtCommand");
+    const QString before = command.text();
+    QTest::keyClick(&command, Qt::Key_Up);
+    EXPECT_EQ(command.text(), before);
+}
+
+// What was marked and zoomed in a chart is there again behind another tab.
+TEST_F(StudyWindowTest, AChartOfTheSameRowsStaysAsItWasLeft) {
+    const auto window = Open();
+    AwaitRows(*window);
+    auto& plot = static_cast<ChartPane&>(Child<QWidget>(*window, "curve")).Plot();
+    plot.setFocus();
+    QTest::keyClick(&plot, Qt::Key_Right);
+    QTest::keyClick(&plot, Qt::Key_A);
+    QTest::keyClick(&plot, Qt::Key_Plus);
+    const auto range = plot.xAxis->range();
+    ASSERT_TRUE(plot.A());
+    auto& tabs = Child<QTabWidget>(*window, "tabs");
+    constexpr int kRested = 400;  // ms, more than the window waits before it works
+    for (const int tab : {StudyWindow::kTable, StudyWindow::kCurve}) {
+        tabs.setCurrentIndex(tab);
+        QTest::qWait(kRested);
+        AwaitRows(*window);
+    }
+    EXPECT_TRUE(plot.A());
+    EXPECT_EQ(plot.xAxis->range(), range);
+    // Other rows are another chart.
+    TypeInto(*window, "txtCount(1)", "5");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return plot.Reading().Rows() <= 6; }, kStudyPatience));
+    EXPECT_FALSE(plot.A());
+}
+
+TEST_F(StudyWindowTest, RowsAreCopiedAndLeftByTheTabKey) {
+    const auto window = Open();
+    AwaitRows(*window);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    Child<QTabWidget>(*window, "tabs").setCurrentIndex(StudyWindow::kTable);
+    auto& rows = Child<QTableWidget>(*window, "rows");
+    rows.setFocus();
+    rows.setRangeSelected({1, 1, 2, 2}, true);
+    QTest::keyClick(&rows, Qt::Key_C, Qt::ControlModifier);
+    const auto cell = [&](int row, int column) { return rows.item(row, column)->text(); };
+    EXPECT_EQ(QApplication::clipboard()->text(),
+              QStringLiteral("h [m]\ts [cm]\n%1\t%2\n%3\t%4\n").arg(cell(1, 1), cell(1, 2), cell(2, 1), cell(2, 2)));
+    EXPECT_EQ(Child<QLabel>(*window, "toast").text().toStdString(), "Copied");
+    QTest::keyClick(&rows, Qt::Key_Tab);
+    EXPECT_FALSE(rows.hasFocus());
+}
+
+TEST_F(StudyWindowTest, AKeySavesWhatIsSeen) {
+    const auto window = Open();
+    AwaitRows(*window);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    std::string pressed;
+    for (const char* name : {"cmdSheet", "cmdChart"}) {
+        auto& button = Child<QPushButton>(*window, name);
+        button.disconnect();
+        QObject::connect(&button, &QPushButton::clicked, [&pressed, name] { pressed += name; });
+    }
+    for (const int tab : {StudyWindow::kTable, StudyWindow::kCurve}) {
+        Child<QTabWidget>(*window, "tabs").setCurrentIndex(tab);
+        QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier);
+    }
+    EXPECT_EQ(pressed, "cmdSheetcmdChart");
+}
+
+TEST_F(StudyWindowTest, BarsOfFormerBoxesSaySo) {
+    const auto window = Open();
+    AwaitRows(*window);
+    Child<QTabWidget>(*window, "tabs").setCurrentIndex(StudyWindow::kTornado);
+    const auto done = [&] { return !window->Work().Bars().empty() && window->Work().Doing() == StudyWork::Job::None; };
+    ASSERT_TRUE(QTest::qWaitFor(done, kStudyPatience));
+    const auto& state = Child<QLabel>(*window, "lblProgress");
+    EXPECT_THAT(state.text().toStdString(), Not(HasSubstr("former")));
+    TypeInto(*window, "txtSwing", "120");
+    EXPECT_THAT(state.text().toStdString(), StartsWith("! for the former input"));
+    EXPECT_TRUE(Child<QWidget>(*window, "tornado").isVisible());
+    TypeInto(*window, "txtSwing", "20");
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return done() && !state.text().contains(QLatin1String("former")); }, kStudyPatience));
 }
 
 TEST_F(StudyWindowTest, RandomSamplesGiveAHistogram) {

@@ -11,8 +11,10 @@
 #include "desktop/BoxMark.h"
 #include "desktop/EditGrid.h"
 #include "desktop/FormView.h"
+#include "desktop/LinkList.h"
 #include "desktop/Palettes.h"
 #include "desktop/WidgetInk.h"
+#include "ui/frmNumberFormats.h"
 #include "ui/frmstress.h"
 
 namespace lithmark::tests {
@@ -96,6 +98,28 @@ TEST_F(ThemeChangeTest, ACellInError) {
         EXPECT_EQ(grid.item(0, 1)->foreground(), QBrush());
     }
     EXPECT_FALSE(rows.CanUndo()) << "a mark is no change";
+}
+
+TEST_F(ThemeChangeTest, LinksOfAList) {
+    LinkList list(nullptr);
+    list.ShowItems({"one", "two"});
+    Show(list);
+    for (const Theme theme : {Theme::Dark, Theme::Light}) {
+        Turn(theme);
+        for (int i = 0; i < list.count(); ++i)
+            EXPECT_EQ(list.item(i)->foreground().color().name().toStdString(), InkOf(Ink::Link, theme));
+    }
+}
+
+TEST_F(ThemeChangeTest, WhatIsWrongWithAPattern) {
+    frmNumberFormats formats;
+    formats.Load();
+    FormView view(formats, nullptr);
+    Show(view);
+    for (const Theme theme : {Theme::Dark, Theme::Light}) {
+        Turn(theme);
+        EXPECT_EQ(WordsInk(Child<QLabel>(view, "lblFault")), InkOf(Ink::Error, theme));
+    }
 }
 
 }  // namespace

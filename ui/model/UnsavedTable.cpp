@@ -57,15 +57,20 @@ TableTexts DigitsOf(const TableTexts& rows, const TableEdit& opened) {
 
 }  // namespace
 
-void OfferUnsavedRows(TableEdit& table) {
+std::optional<KeptTable> KeptRows(const TableEdit& table) {
     const auto draft = ReadDraft(DraftFolder(), Project(), table.Title);
-    if (!draft || draft->Shown != ShownAs(table) || table.Columns.empty()) return;
-    const TableTexts rows = RowsOf(draft->Texts, table.Columns.size());
-    const bool wanted = !rows.empty() && rows != table.Rows &&
-                        CurrentHost().AskYesNo(table.Title, Text(906550_text, {{"|1", draft->When}}));
+    if (!draft || draft->Shown != ShownAs(table) || table.Columns.empty()) return std::nullopt;
+    return KeptTable{RowsOf(draft->Texts, table.Columns.size()), draft->When};
+}
+
+void OfferUnsavedRows(TableEdit& table) {
+    const auto kept = KeptRows(table);
+    if (!kept) return;
+    const bool wanted = !kept->Rows.empty() && kept->Rows != table.Rows &&
+                        CurrentHost().AskYesNo(table.Title, Text(906550_text, {{"|1", kept->When}}));
     if (!wanted) return DropUnsavedRows(table);
-    table.Digits = DigitsOf(rows, table);
-    table.Rows = rows;
+    table.Digits = DigitsOf(kept->Rows, table);
+    table.Rows = kept->Rows;
 }
 
 void KeepRows(const TableEdit& table, const TableTexts& rows) {
