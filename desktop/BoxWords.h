@@ -7,9 +7,9 @@
 namespace lithmark {
 
 struct BoxWords {
-    std::string Symbol = {};  // plain, as a report prints it; none where it is empty
-    std::string Unit = {};    // with brackets or without; none where it is empty or "-"
-    double Least, Greatest;   // kNoLimit (ui/model/FieldRow.h) where there is none
+    std::string Symbol = {};         // plain, as a report prints it; none where it is empty
+    std::string Unit = {};           // with brackets or without; none where it is empty or "-"
+    double Least = 0, Greatest = 0;  // kNoLimit (ui/model/FieldRow.h) where there is none
 };
 
 // "nu s, no unit, 0 to 0.5; error: more than 0.5"

@@ -105,7 +105,8 @@ void PointsFill::AddLine(QGridLayout& grid, int coordinate) {
     const std::string name = field.Short() + (field.Unit.empty() ? "" : " [" + field.Unit + "]");
     const auto box = [&](const char* boxName, int column, const std::string& text, TextId part, const BoxWords& words) {
         auto* edit = NumberBox(this, NumberedName(boxName, row), [this] { Typed(); });
-        connect(edit, &QLineEdit::editingFinished, this, [this] { Left(); });
+        // Not of a window that is going.
+        connect(edit, &QLineEdit::editingFinished, &patience_, [this] { Left(); });
         edit->setText(Q(text));
         edit->setAccessibleName(Q(name + ", " + Text(part)));
         Describe(*edit, words);

@@ -96,7 +96,7 @@ StudyWindow::StudyWindow(const StudySubject& subject, QWidget* parent)
     patience_.setSingleShot(true);
     patience_.setInterval(kUnfinishedNumber);
     connect(&patience_, &QTimer::timeout, this, [this] { ShowFaults(); });
-    connect(qApp, &QApplication::focusChanged, this, [this] {
+    connect(qApp, &QApplication::focusChanged, &patience_, [this] {
         typing_ = false;
         if (patience_.isActive()) return ShowFaults();
         TellFault();

@@ -258,12 +258,12 @@ TEST_F(AlertTest, TheAnswerThatWasAskedForIsTold) {
     FormView view(form, nullptr);
     Await(view);
     auto& answer = dynamic_cast<AnswerView&>(Child<QWidget>(view, "answer"));
-    constexpr int kPatience = 60000;
+    constexpr int kAnswerThere = 60000;  // ms
     const auto there = [&] { return answer.Model().State() == AnswerState::Now && answer.Model().Settled(); };
-    ASSERT_TRUE(QTest::qWaitFor(there, kPatience));
+    ASSERT_TRUE(QTest::qWaitFor(there, kAnswerThere));
     EXPECT_THAT(Taken(), IsEmpty());
     QTest::keyClick(&view, Qt::Key_F5);
-    ASSERT_TRUE(QTest::qWaitFor([] { return !Heard().empty(); }, kPatience));
+    ASSERT_TRUE(QTest::qWaitFor([] { return !Heard().empty(); }, kAnswerThere));
     const std::vector<Alert> told = Taken();
     ASSERT_THAT(told, SizeIs(1));
     EXPECT_EQ(told[0].Object, "answerMark");
@@ -271,7 +271,7 @@ TEST_F(AlertTest, TheAnswerThatWasAskedForIsTold) {
     EXPECT_THAT(told[0].Name, StartsWith("σ z, "));
     // It is not read as the present answer later on.
     TypeInto(view, "txt_P", "130");
-    ASSERT_TRUE(QTest::qWaitFor(there, kPatience));
+    ASSERT_TRUE(QTest::qWaitFor(there, kAnswerThere));
     EXPECT_THAT(Taken(), IsEmpty());
     EXPECT_EQ(Child<QLabel>(answer, "answerMark").accessibleName(), QString());
 }

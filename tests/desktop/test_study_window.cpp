@@ -29,6 +29,7 @@ namespace lithmark::tests {
 namespace {
 
 constexpr int kStudyPatience = 60000;
+constexpr int kCurveTab = 0, kTableTab = 1, kTornadoTab = 3;
 
 class StudyWindowTest : public FormTest {
   protected:
@@ -259,7 +260,7 @@ TEST_F(StudyWindowTest, AChartOfTheSameRowsStaysAsItWasLeft) {
     ASSERT_TRUE(plot.A());
     auto& tabs = Child<QTabWidget>(*window, "tabs");
     constexpr int kRested = 400;  // ms, more than the window waits before it works
-    for (const int tab : {StudyWindow::kTable, StudyWindow::kCurve}) {
+    for (const int tab : {kTableTab, kCurveTab}) {
         tabs.setCurrentIndex(tab);
         QTest::qWait(kRested);
         AwaitRows(*window);
@@ -276,7 +277,7 @@ TEST_F(StudyWindowTest, RowsAreCopiedAndLeftByTheTabKey) {
     const auto window = Open();
     AwaitRows(*window);
     EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
-    Child<QTabWidget>(*window, "tabs").setCurrentIndex(StudyWindow::kTable);
+    Child<QTabWidget>(*window, "tabs").setCurrentIndex(kTableTab);
     auto& rows = Child<QTableWidget>(*window, "rows");
     rows.setFocus();
     rows.setRangeSelected({1, 1, 2, 2}, true);
@@ -299,7 +300,7 @@ TEST_F(StudyWindowTest, AKeySavesWhatIsSeen) {
         button.disconnect();
         QObject::connect(&button, &QPushButton::clicked, [&pressed, name] { pressed += name; });
     }
-    for (const int tab : {StudyWindow::kTable, StudyWindow::kCurve}) {
+    for (const int tab : {kTableTab, kCurveTab}) {
         Child<QTabWidget>(*window, "tabs").setCurrentIndex(tab);
         QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier);
     }
@@ -309,7 +310,7 @@ TEST_F(StudyWindowTest, AKeySavesWhatIsSeen) {
 TEST_F(StudyWindowTest, BarsOfFormerBoxesSaySo) {
     const auto window = Open();
     AwaitRows(*window);
-    Child<QTabWidget>(*window, "tabs").setCurrentIndex(StudyWindow::kTornado);
+    Child<QTabWidget>(*window, "tabs").setCurrentIndex(kTornadoTab);
     const auto done = [&] { return !window->Work().Bars().empty() && window->Work().Doing() == StudyWork::Job::None; };
     ASSERT_TRUE(QTest::qWaitFor(done, kStudyPatience));
     const auto& state = Child<QLabel>(*window, "lblProgress");
