@@ -4,7 +4,6 @@
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QLabel>
-#include <QPainter>
 #include <algorithm>
 
 #include "desktop/ChartView.h"
@@ -18,14 +17,29 @@ namespace lithmark {
 
 namespace {
 
-// What a curve looks like, for the box that shows and hides it.
-QIcon SampleOf(int curve, const ChartInks& inks) {
-    QPixmap picture(30, 12);
+constexpr QSize kSampleSize(30, 12);
+
+// What a curve looks like, for the box that shows and hides it: its dash and its marker in inks of light or dark
+// windows.
+QIcon SampleOf(const QCPCurve& drawn, int curve, const ChartInks& inks, double ratio) {
+    QPixmap picture(kSampleSize * ratio);
+    picture.setDevicePixelRatio(ratio);
     picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(CurvePen(curve, inks));
-    painter.drawLine(1, 6, 29, 6);
+    QCPPainter painter(&picture);
+    painter.setAntialiasing(true);
+    const QPen pen = CurvePen(curve, inks);
+    const QPointF middle(kSampleSize.width() / 2.0, kSampleSize.height() / 2.0);
+    if (drawn.lineStyle() != QCPCurve::lsNone) {
+        painter.setPen(pen);
+        painter.drawLine(QPointF(1, middle.y()), QPointF(kSampleSize.width() - 1, middle.y()));
+    }
+    QCPScatterStyle marker = drawn.scatterStyle();
+    if (marker.isNone()) return picture;
+    const bool filled = marker.brush().color() == marker.pen().color();
+    marker.setPen(QPen(pen.color(), marker.pen().widthF()));
+    marker.setBrush(filled ? pen.color() : inks.Ground);
+    marker.applyTo(&painter, pen);
+    marker.drawShape(&painter, middle);
     return picture;
 }
 
@@ -52,6 +66,7 @@ ChartPane::ChartPane(const ChartArguments& chart, QWidget* parent, int legendRoo
     // In the order of the Tab key.
     BuildLegend(chart);
     plot_ = new ChartView(chart, this);
+    ShowSamples();
     values_ = ReadingLabel(this, "lblValues");
     marks_ = ReadingLabel(this, "lblMarks");
     auto* drawn = new QHBoxLayout;
@@ -95,8 +110,7 @@ void ChartPane::BuildLegend(const ChartArguments& chart) {
     for (int i = 1; i <= chart.Curves; ++i) {
         auto* box = new QCheckBox(CaptionOf(chart, i), legend_);
         box->setObjectName(QStringLiteral("chkCurve(%1)").arg(i));
-        box->setIcon(SampleOf(i, WindowInks(palette())));
-        box->setIconSize(QSize(30, 12));
+        box->setIconSize(kSampleSize);
         box->setChecked(true);
         connect(box, &QCheckBox::toggled, this, [this, i](bool on) { plot_->ShowCurve(i, on); });
         grid->addWidget(box, (i - 1) / columns, (i - 1) % columns);
@@ -105,6 +119,7 @@ void ChartPane::BuildLegend(const ChartArguments& chart) {
     grid->setColumnStretch(columns, 1);
     column_->insertWidget(0, legend_);
     if (plot_ == nullptr) return;
+    ShowSamples();
     // Boxes that come later stand above the plot too, on the way of the Tab key.
     QWidget* before = plot_->previousInFocusChain();
     while (before != plot_ && before->focusPolicy() == Qt::NoFocus) before = before->previousInFocusChain();
@@ -118,9 +133,14 @@ void ChartPane::BuildLegend(const ChartArguments& chart) {
 // The samples have the colours of light or dark windows.
 void ChartPane::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
-    if (event->type() != QEvent::PaletteChange) return;
-    for (std::size_t i = 0; i < boxes_.size(); ++i)
-        boxes_[i]->setIcon(SampleOf(static_cast<int>(i) + 1, WindowInks(palette())));
+    if (event->type() == QEvent::PaletteChange && plot_ != nullptr) ShowSamples();
+}
+
+void ChartPane::ShowSamples() {
+    const ChartInks inks = WindowInks(palette());
+    for (int i = 1; i <= static_cast<int>(boxes_.size()); ++i)
+        if (const auto* curve = qobject_cast<const QCPCurve*>(plot_->plottable(i - 1)))
+            boxes_[static_cast<std::size_t>(i - 1)]->setIcon(SampleOf(*curve, i, inks, devicePixelRatioF()));
 }
 
 void ChartPane::ShowChart(const ChartArguments& chart) {
@@ -129,6 +149,7 @@ void ChartPane::ShowChart(const ChartArguments& chart) {
     for (int i = 1; same && i <= chart.Curves; ++i)
         same = boxes_[static_cast<std::size_t>(i - 1)]->text() == CaptionOf(chart, i);
     if (!same) return BuildLegend(chart);
+    ShowSamples();
     for (int i = 1; i <= chart.Curves; ++i)
         if (!boxes_[static_cast<std::size_t>(i - 1)]->isChecked()) plot_->ShowCurve(i, false);
 }

@@ -31,6 +31,8 @@ class ChartPane : public QWidget {
 
   private:
     void BuildLegend(const ChartArguments& chart);
+    // The boxes bear what their curves look like.
+    void ShowSamples();
     void ShowReading();
     // As wide as the longest mark, so that the plot keeps its width.
     int MarksWidth() const;

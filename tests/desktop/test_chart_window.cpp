@@ -220,6 +220,34 @@ TEST_F(ChartWindowTest, ArabicMarksOnOneLineKeepTogether) {
     EXPECT_EQ(marks.count(end + QStringLiteral("     ") + begin), 2);
 }
 
+// The boxes bear what is drawn: measured points have no line, a line of few places has a marker, one of many has none.
+TEST_F(ChartWindowTest, ABoxBearsTheDashAndTheMarkerOfItsCurve) {
+    const auto inked = [](QWidget& window, int curve) {
+        const auto& box = Child<QCheckBox>(window, ("chkCurve(" + std::to_string(curve) + ")").c_str());
+        const QImage sample = box.icon().pixmap(box.iconSize(), 1.0).toImage();
+        int line = 0, above = 0;
+        for (int x = 0; x < sample.width(); ++x) {
+            line += sample.pixelColor(x, 6).alpha() > 0 ? 1 : 0;
+            above += sample.pixelColor(x, 3).alpha() > 0 ? 1 : 0;
+        }
+        return std::pair(line, above);
+    };
+    ChartArguments chart = Chart(8, "Tab3");
+    for (const LineStyle style : {LineStyle::Points, LineStyle::LinesNoMarkers, LineStyle::Solid}) {
+        chart.LineStyles(1) = style;
+        ChartWindow window(chart, nullptr);
+        Shown(window);
+        const auto [line, above] = inked(window, 1);
+        if (style == LineStyle::Points)
+            EXPECT_LT(line, 12);
+        else
+            EXPECT_GT(line, 25);
+        const bool marked = style == LineStyle::Points ||
+                            (style == LineStyle::Solid && Child<ChartView>(window, "plot").Reading().Rows() <= 40);
+        EXPECT_EQ(above > 0, marked) << static_cast<int>(style);
+    }
+}
+
 TEST_F(ChartWindowTest, CopiesAPictureOrTheTable) {
     const ChartArguments chart = Chart(8, "Tab3");
     ChartWindow window(chart, nullptr);
