@@ -206,7 +206,7 @@ TEST_F(StudyWindowTest, ANumberThatIsBeingTypedIsNoErrorUntilItIsLeft) {
     EXPECT_FALSE(Child<QPushButton>(*window, "cmdRun").isEnabled());
     Child<QLineEdit>(*window, "txtFrom(1)").setFocus();
     EXPECT_FALSE(box.toolTip().isEmpty());
-    EXPECT_EQ(box.accessibleDescription().toStdString(), "h, m, 0 or more; error: " + box.toolTip().toStdString());
+    EXPECT_EQ(box.accessibleDescription().toStdString(), "h, m, 0.25 or more; error: " + box.toolTip().toStdString());
 }
 
 TEST_F(StudyWindowTest, BoxesSayTheirUnitAndTheirRange) {
@@ -215,7 +215,7 @@ TEST_F(StudyWindowTest, BoxesSayTheirUnitAndTheirRange) {
     const auto said = [&](const char* box) {
         return Child<QLineEdit>(*window, box).accessibleDescription().toStdString();
     };
-    EXPECT_EQ(said("txtFrom(1)"), "h, m, 0 or more");
+    EXPECT_EQ(said("txtFrom(1)"), "h, m, 0.25 or more");
     EXPECT_EQ(said("txtCount(1)"), "no unit, 2 to 10000");
     EXPECT_EQ(said("txtLimit"), "s, cm");
     EXPECT_EQ(said("txtSwing"), "%, 0 to 99");
