@@ -46,6 +46,12 @@ bool IsPrintable(char32_t c) {
     return !control && !noCharacter;
 }
 
+// Nearly all of a report: where the letters, digits and signs of ASCII from `position` on end.
+std::size_t EndOfPlain(std::string_view text, std::size_t position) {
+    while (position < text.size() && text[position] >= ' ' && text[position] <= '~') ++position;
+    return position;
+}
+
 std::string MapAscii(std::string_view text, char first, char last, int shift) {
     std::string result(text);
     for (char& c : result)
@@ -58,8 +64,13 @@ std::string MapAscii(std::string_view text, char first, char last, int shift) {
 std::size_t CharacterCount(std::string_view text) {
     std::size_t count = 0;
     bool valid = true;
-    for (std::size_t position = 0; position < text.size(); ++count) Decode(text, position, valid);
-    return count;
+    for (std::size_t position = 0;; ++count) {
+        const std::size_t end = EndOfPlain(text, position);
+        count += end - position;
+        position = end;
+        if (position == text.size()) return count;
+        Decode(text, position, valid);
+    }
 }
 
 std::string FirstCharacters(std::string_view text, std::size_t count) {
@@ -105,11 +116,14 @@ std::string PrintableText(std::string_view text) {
     std::string result;
     result.reserve(text.size());
     bool valid = true;
-    for (std::size_t position = 0; position < text.size();) {
+    for (std::size_t position = 0;;) {
+        const std::size_t end = EndOfPlain(text, position);
+        result.append(text.substr(position, end - position));
+        position = end;
+        if (position == text.size()) return result;
         const char32_t c = Decode(text, position, valid);
         AppendCodePoint(result, IsPrintable(c) ? c : kReplacement);
     }
-    return result;
 }
 
 std::string Excerpt(std::string_view text) {

@@ -33,6 +33,7 @@ std::string WithoutMnemonic(std::string_view text) {
 
 // All replacements in one pass, so that a place-holder inside a replacement stays what it is.
 std::string Replaced(std::string_view text, const Replacements& replacements) {
+    if (replacements.empty()) return std::string(text);
     std::string result;
     for (std::size_t i = 0; i < text.size();) {
         const auto fits = std::find_if(replacements.begin(), replacements.end(), [&](const auto& replacement) {
