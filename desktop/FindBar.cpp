@@ -9,6 +9,7 @@
 #include "desktop/PageTools.h"
 #include "desktop/ReportView.h"
 #include "desktop/Sizes.h"
+#include "desktop/SpokenAlert.h"
 #include "render/QtText.h"
 #include "services/texts/LanguageTexts.h"
 
@@ -29,6 +30,7 @@ FindBar::FindBar(QWidget* window) : QWidget(window), box_(new QLineEdit(this)), 
     connect(box_, &QLineEdit::returnPressed, this, [this] { Go(false); });
     row->addWidget(box_, 1);
     place_->setObjectName(QStringLiteral("lblFound"));
+    MakeAlert(*place_);
     MakeQuiet(*place_);
     row->addWidget(place_);
     const auto add = [&](const char* name, Qt::ArrowType arrow, const std::string& words, const QKeySequence& keys,
@@ -59,14 +61,20 @@ void FindBar::Go(bool backwards) {
     if (box_->text().isEmpty() || report_ == nullptr) return box_->setFocus();
     report_->FindNext(box_->text(), backwards);
     ShowPlace();
+    // By a key that goes on; nothing is said as one types.
+    SpeakAlert(*place_, place_->text());
 }
 
 void FindBar::ShowPlace() {
     const QString words = box_->text();
-    if (words.isEmpty() || report_ == nullptr) return place_->clear();
-    const auto [place, all] = report_->PlaceOf(words);
-    place_->setText(all == 0 ? Q(Text(910213_text))
-                             : Q(Text(910212_text, {{"|1", std::to_string(place)}, {"|2", std::to_string(all)}})));
+    QString where;
+    if (!words.isEmpty() && report_ != nullptr) {
+        const auto [place, all] = report_->PlaceOf(words);
+        where = Q(all == 0 ? Text(910213_text)
+                           : Text(910212_text, {{"|1", std::to_string(place)}, {"|2", std::to_string(all)}}));
+    }
+    place_->setText(where);
+    place_->setAccessibleName(where);
 }
 
 }  // namespace lithmark

@@ -9,6 +9,7 @@
 #include "study/window/Points.h"
 
 class QCheckBox;
+class QGridLayout;
 class QLabel;
 class QLineEdit;
 
@@ -26,7 +27,7 @@ class PointsFill : public QDialog {
     struct Line {
         QLineEdit *From = nullptr, *To = nullptr, *Count = nullptr;
     };
-    void AddLine(class QGridLayout& grid, int coordinate);
+    void AddLine(QGridLayout& grid, int coordinate);
     // What is typed; what is wrong is told when a box is left.
     void Typed();
     void Left();

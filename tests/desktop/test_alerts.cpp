@@ -15,6 +15,7 @@
 #include "support/Matchers.h"
 #include "ui/frmNumberFormats.h"
 #include "ui/frmPreferences.h"
+#include "ui/frmResultTools.h"
 
 namespace lithmark::tests {
 namespace {
@@ -202,6 +203,25 @@ TEST_F(AlertTest, AWordThatComesAndGoesIsTold) {
     ASSERT_THAT(told, SizeIs(1));
     EXPECT_EQ(told[0].Role, QAccessible::AlertMessage);
     EXPECT_EQ(told[0].Name, "Copied");
+}
+
+// "2 of 3", by the keys that go on.
+TEST_F(AlertTest, ThePlaceThatIsFoundIsTold) {
+    Session.ProblemType = Problem::SoilStress;
+    Session.ResultText = "Sigma_z = 1\r\nSigma_x = 2\r\nSigma_y = 3\r\n";
+    frmResultTools form;
+    form.Load();
+    FormView view(form, nullptr);
+    Await(view);
+    TypeInto(view, "txtFind", "Sigma");
+    EXPECT_THAT(Taken(), IsEmpty()) << "while one types";
+    QTest::keyClick(&view, Qt::Key_F3);
+    const std::vector<Alert> told = Taken();
+    ASSERT_THAT(told, SizeIs(1));
+    EXPECT_EQ(told[0].Object, "lblFound");
+    EXPECT_EQ(told[0].Role, QAccessible::AlertMessage);
+    EXPECT_EQ(told[0].Name, "2 of 3");
+    Session.ResultText.clear();
 }
 
 // In the windows of studies too: not while one types, once as the box is left.

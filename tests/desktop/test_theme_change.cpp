@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTableWidget>
 
 #include "../ui/FormTest.h"
@@ -13,6 +14,7 @@
 #include "desktop/FormView.h"
 #include "desktop/LinkList.h"
 #include "desktop/Palettes.h"
+#include "desktop/ProjectView.h"
 #include "desktop/WidgetInk.h"
 #include "ui/frmNumberFormats.h"
 #include "ui/frmstress.h"
@@ -108,6 +110,22 @@ TEST_F(ThemeChangeTest, LinksOfAList) {
         Turn(theme);
         for (int i = 0; i < list.count(); ++i)
             EXPECT_EQ(list.item(i)->foreground().color().name().toStdString(), InkOf(Ink::Link, theme));
+    }
+}
+
+TEST_F(ThemeChangeTest, PicturesOfTheProjectPage) {
+    ProjectView page(nullptr);
+    ProjectSummary summary;
+    summary.ProblemEntry = summary.ProblemType = 1;
+    const auto picture = [&](const char* button) {
+        page.Show(summary);
+        return Child<QPushButton>(page, button).findChild<QLabel*>()->pixmap().toImage();
+    };
+    for (const char* button : {"projectCalculate", "projectData"}) {
+        Turn(Theme::Light);
+        const QImage light = picture(button);
+        Turn(Theme::Dark);
+        EXPECT_NE(picture(button), light) << button;
     }
 }
 
