@@ -257,7 +257,7 @@ TEST_F(ReachTest, TheViewersReportIsSavedByItsKeys) {
     view.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
     auto* save = view.findChild<QPushButton*>("cmdSaveAs");
-    save->disconnect();
+    QObject::disconnect(save, &QPushButton::clicked, nullptr, nullptr);
     int saved = 0;
     QObject::connect(save, &QPushButton::clicked, [&saved] { ++saved; });
     auto* report = view.findChild<QPlainTextEdit*>("txtResult");

@@ -297,7 +297,7 @@ TEST_F(StudyWindowTest, AKeySavesWhatIsSeen) {
     std::string pressed;
     for (const char* name : {"cmdSheet", "cmdChart"}) {
         auto& button = Child<QPushButton>(*window, name);
-        button.disconnect();
+        QObject::disconnect(&button, &QPushButton::clicked, nullptr, nullptr);
         QObject::connect(&button, &QPushButton::clicked, [&pressed, name] { pressed += name; });
     }
     for (const int tab : {kTableTab, kCurveTab}) {
