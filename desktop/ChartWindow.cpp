@@ -11,6 +11,7 @@
 #include "contour/ChartTable.h"
 #include "desktop/ChartPane.h"
 #include "desktop/ChartView.h"
+#include "desktop/KeptSize.h"
 #include "desktop/ManualTopics.h"
 #include "desktop/PaneKeys.h"
 #include "desktop/Printing.h"
@@ -21,6 +22,7 @@
 #include "desktop/Toast.h"
 #include "files/CommonStep.h"
 #include "render/QtText.h"
+#include "render/figures/ChartSymbols.h"
 #include "services/SharedServices.h"
 #include "services/texts/LanguageTexts.h"
 
@@ -36,7 +38,7 @@ ChartWindow::ChartWindow(const ChartArguments& chart, QWidget* parent)
     : QDialog(parent),
       chart_(chart),
       small_(OnSmallScreen(*this)),
-      pane_(new ChartPane(chart, this, ChartPane::kLegendRoom,
+      pane_(new ChartPane(WithSymbolsInPrint(chart), this, ChartPane::kLegendRoom,
                           small_ ? ChartPane::Marks::Below : ChartPane::Marks::Beside)),
       plot_(&pane_->Plot()) {
     setObjectName(QStringLiteral("chartWindow"));
@@ -50,6 +52,7 @@ ChartWindow::ChartWindow(const ChartArguments& chart, QWidget* parent)
     BindHelpKey(*this, TopicOfProblem);
     plot_->setFocus();
     resize(960, 640);
+    KeepSize(*this);
 }
 
 void ChartWindow::Arrange(QBoxLayout& window) {
@@ -153,7 +156,7 @@ void ChartWindow::Print() {
 }
 
 void ChartWindow::Save() {
-    SaveChart(this, plot_->Chart(), plot_->Look());
+    SaveChart(this, plot_->Chart(), plot_->Look(), chart_);
 }
 
 void ChartWindow::Original() {

@@ -16,8 +16,10 @@
 #include <algorithm>
 
 #include "core/Session.h"
+#include "desktop/ChosenPath.h"
 #include "desktop/FindBar.h"
 #include "desktop/Icons.h"
+#include "desktop/KeptSize.h"
 #include "desktop/ManualTopics.h"
 #include "desktop/ManualWindow.h"
 #include "desktop/PaneKeys.h"
@@ -90,8 +92,10 @@ class LogoRow : public QWidget {
             row->addWidget(button);
         };
         add(911006_text, "cmdChooseLogo", [this] {
-            const QString chosen = QFileDialog::getOpenFileName(
-                this, Q(Text(911005_text)), {}, QStringLiteral("PNG, JPEG, SVG (*.png *.jpg *.jpeg *.svg)"));
+            QFileDialog files(this, Q(Text(911005_text)), {},
+                              QStringLiteral("PNG, JPEG, SVG (*.png *.jpg *.jpeg *.svg)"));
+            files.setFileMode(QFileDialog::ExistingFile);
+            const QString chosen = ChosenPath(files);
             if (chosen.isEmpty()) return;
             if (LogoSize(chosen.toStdString()).isEmpty())
                 SharedServices().ShowMessageBox(Text(160030_text), Text(911301_text, {{"|1", chosen.toStdString()}}),
@@ -230,6 +234,7 @@ QString ShowFilesOfFolder(QWidget* parent, const QString& folder, const QString&
     QObject::connect(table, &QTableWidget::cellDoubleClicked, &dialog, &QDialog::accept);
     table->setCurrentCell(0, 0);
     table->setFocus();
+    KeepSize(dialog);
     if (!dialog.Run() || table->currentRow() < 0) return {};
     return files[table->currentRow()].filePath();
 }
@@ -244,6 +249,8 @@ void ShowReportWindow(QWidget* parent, const std::string& report) {
     dialog.Content->addWidget(find);
     dialog.Content->addWidget(view, 1);
     dialog.resize(760, 700);
+    dialog.setObjectName(QStringLiteral("reportWindow"));
+    KeepSize(dialog);
     dialog.Run();
 }
 

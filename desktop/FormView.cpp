@@ -22,6 +22,7 @@
 #include "desktop/BoxMark.h"
 #include "desktop/FieldNames.h"
 #include "desktop/FormKeys.h"
+#include "desktop/KeptSize.h"
 #include "desktop/LinkList.h"
 #include "desktop/ManualTopics.h"
 #include "desktop/NumberSteps.h"
@@ -76,6 +77,7 @@ FormView::FormView(Form& form, QWidget* parent) : QDialog(parent), form_(form) {
     BindHelpKey(*this, [&form] { return TopicOfForm(form); });
     // All words in full, as far as the screen goes; a layout may have chosen a size of its own.
     if (!testAttribute(Qt::WA_Resized)) resize(sizeHint().boundedTo(ScreenRoom(*this)));
+    KeepSize(*this);
 }
 
 FormView::~FormView() {

@@ -13,6 +13,7 @@
 #include <QTextTable>
 #include <QVBoxLayout>
 
+#include "desktop/KeptSize.h"
 #include "desktop/ManualTopics.h"
 #include "render/QtText.h"
 #include "services/SharedServices.h"
@@ -127,6 +128,7 @@ ManualWindow::ManualWindow(QWidget* parent, const std::string& page, bool opensE
     column->addWidget(browser_, 1);
     column->addWidget(buttons);
     resize(860, 640);
+    KeepSize(*this);
     Open(page);
 }
 

@@ -7,6 +7,7 @@
 #include <QToolBar>
 
 #include "desktop/DocumentChoices.h"
+#include "desktop/KeptSize.h"
 #include "desktop/SaveReport.h"
 #include "files/CommonStep.h"
 #include "render/QtText.h"
@@ -26,6 +27,7 @@ void PrintReport(QWidget* parent, const std::string& text, const std::string& fo
     QPrintPreviewDialog preview(&printer, parent);
     preview.setObjectName(QStringLiteral("printPreview"));
     preview.resize(900, 760);
+    KeepSize(preview);
     QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, &preview,
                      [&](QPrinter* target) { PaintReport(*target, shown, paper, fontName, fontSize, rightToLeft); });
 
@@ -66,6 +68,7 @@ void PrintPicture(QWidget* parent, const QSize& size, const Draw& draw) {
     QPrintPreviewDialog preview(&printer, parent);
     preview.setObjectName(QStringLiteral("printPreview"));
     preview.resize(1000, 760);
+    KeepSize(preview);
     QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, &preview, [&](QPrinter* target) {
         DrawAsVectors(*target, target->pageLayout().paintRectPixels(target->resolution()).size(), size, draw);
     });

@@ -16,6 +16,7 @@
 #include <limits>
 
 #include "desktop/ChartWindow.h"
+#include "desktop/ChosenPath.h"
 #include "desktop/Dialogs.h"
 #include "desktop/DocumentChoices.h"
 #include "desktop/FormView.h"
@@ -69,6 +70,12 @@ bool HasWordProcessor() {
         if (!question.readAllStandardOutput().trimmed().isEmpty()) return true;
     }
     return false;
+}
+
+std::optional<std::string> Chosen(QFileDialog& dialog) {
+    const QString path = ChosenPath(dialog);
+    if (path.isEmpty()) return std::nullopt;
+    return path.toStdString();
 }
 
 }  // namespace
@@ -209,9 +216,9 @@ std::optional<std::string> QtHost::ChooseFileToOpen(const std::string& title, co
     const PlainPointer plain;
     // Letter case does not tell files apart: "*.po3" is found as well.
     const QString filter = Q(pattern) + QLatin1Char(' ') + Q(pattern).toLower();
-    const QString file = QFileDialog::getOpenFileName(Parent(), Q(title), Q(startDir), filter);
-    if (file.isEmpty()) return std::nullopt;
-    return file.toStdString();
+    QFileDialog dialog(Parent(), Q(title), Q(startDir), filter);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return Chosen(dialog);
 }
 
 std::optional<std::string> QtHost::ChooseFileToSave(const std::string& title, const std::string& startDir,
@@ -223,14 +230,14 @@ std::optional<std::string> QtHost::ChooseFileToSave(const std::string& title, co
     // A name without its ending is the file with it: the question before an old file is replaced must name that one.
     dialog.setDefaultSuffix(Q(extension));
     if (!name.empty()) dialog.selectFile(Q(name));
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-    return dialog.selectedFiles().front().toStdString();
+    return Chosen(dialog);
 }
 
 std::optional<std::string> QtHost::BrowseFolder(const std::string& start) {
-    const QString folder = QFileDialog::getExistingDirectory(Parent(), Q(Text(140161_text)), Q(start));
-    if (folder.isEmpty()) return std::nullopt;
-    return folder.toStdString();
+    QFileDialog dialog(Parent(), Q(Text(140161_text)), Q(start));
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    return Chosen(dialog);
 }
 
 std::optional<CompanyLines> QtHost::EditCompanyLines(const CompanyLines& lines) {

@@ -9,7 +9,9 @@
 
 namespace lithmark {
 
-void SaveChart(QWidget* window, const ChartArguments& chart, const ChartLook& look) {
+void SaveChart(QWidget* window, const ChartArguments& shown, const ChartLook& look, const ChartArguments& table) {
+    ChartArguments plain = table;
+    plain.SettlementsDown = shown.SettlementsDown;
     SaveAs(*window,
            {{QStringLiteral("PDF"), QStringLiteral("pdf")},
             {QStringLiteral("PNG"), QStringLiteral("png")},
@@ -17,11 +19,11 @@ void SaveChart(QWidget* window, const ChartArguments& chart, const ChartLook& lo
             {Q(Text(910007_text)), QStringLiteral("xlsx")},
             {Q(Text(910008_text)), QStringLiteral("csv")}},
            [&](const QString& ending) {
-               return ending == QStringLiteral("pdf")   ? ChartPdf(chart, look)
-                      : ending == QStringLiteral("svg") ? ChartSvg(chart, look)
-                      : ending == QStringLiteral("png") ? ChartPng(chart, look)
-                      : ending == QStringLiteral("csv") ? ChartCsv(chart)
-                                                        : ChartXlsx(chart);
+               return ending == QStringLiteral("pdf")   ? ChartPdf(shown, look)
+                      : ending == QStringLiteral("svg") ? ChartSvg(shown, look)
+                      : ending == QStringLiteral("png") ? ChartPng(shown, look)
+                      : ending == QStringLiteral("csv") ? ChartCsv(plain)
+                                                        : ChartXlsx(plain);
            });
 }
 

@@ -7,7 +7,8 @@ class QWidget;
 
 namespace lithmark {
 
-// PDF, PNG, SVG, spreadsheet, comma-separated values.
-void SaveChart(QWidget* window, const ChartArguments& chart, const ChartLook& look);
+// PDF, PNG and SVG of the chart as it is shown; spreadsheet and comma-separated values of `table`, the same chart in
+// the symbols of reports.
+void SaveChart(QWidget* window, const ChartArguments& shown, const ChartLook& look, const ChartArguments& table);
 
 }  // namespace lithmark

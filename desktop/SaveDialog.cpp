@@ -4,6 +4,7 @@
 #include <QGridLayout>
 
 #include "core/Session.h"
+#include "desktop/ChosenPath.h"
 #include "files/CommonStep.h"
 #include "render/QtText.h"
 #include "services/SharedServices.h"
@@ -45,10 +46,9 @@ std::optional<ChosenFile> AskForFile(QWidget* parent, const QString& title, cons
     follow();
     dialog.selectFile(Q(Session.WorkName));
     if (choices != nullptr) ShowUnderFiles(dialog, *choices);
-    const int answer = dialog.exec();
+    const QString file = ChosenPath(dialog);
     if (choices != nullptr) choices->setParent(nullptr);
-    if (answer != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-    const QString file = dialog.selectedFiles().front();
+    if (file.isEmpty()) return std::nullopt;
     const QFileInfo folder(QFileInfo(file).path());
     if (folder.isDir() && folder.isWritable()) RememberExportFolder(folder.filePath().toStdString());
     QString ending = chosen().Ending;

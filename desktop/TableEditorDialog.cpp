@@ -9,6 +9,7 @@
 
 #include "base/Utf8.h"
 #include "desktop/EditGrid.h"
+#include "desktop/KeptSize.h"
 #include "desktop/ManualTopics.h"
 #include "desktop/PageTools.h"
 #include "desktop/PaneKeys.h"
@@ -85,6 +86,7 @@ TableEditorDialog::TableEditorDialog(TableEdit& table, QWidget* parent)
     ShowState();
     grid_->setCurrentCell(0, 0);
     resize(820, 520);
+    KeepSize(*this);
 }
 
 QWidget* TableEditorDialog::RowsAndChart() {

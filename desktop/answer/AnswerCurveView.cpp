@@ -74,9 +74,11 @@ class FigurePainter {
         area_ = place.adjusted(left, above, -2 * metrics.horizontalAdvance(QLatin1Char('0')), -below);
     }
 
+    // A title without a curve says nothing.
+    bool HasRoom() const { return area_.width() >= kFewPixels / 2.0 && area_.height() >= kFewPixels / 2.0; }
+
     void Paint() {
         Words();
-        if (area_.width() < kFewPixels / 2.0 || area_.height() < kFewPixels / 2.0) return;
         Axes();
         painter_.save();
         painter_.setClipRect(area_.adjusted(-kPointSize, -kPointSize, kPointSize, kPointSize));
@@ -284,15 +286,25 @@ void AnswerCurveView::paintEvent(QPaintEvent*) {
     constexpr double kSmall = 0.9;
     small.setPointSizeF(small.pointSizeF() * kSmall);
     painter.setFont(small);
-    const std::size_t count = curves_.size();
+    // The way in which they are meant to stand, or the other one; where there is no room for all, the first ones.
+    for (std::size_t count = curves_.size(); count > 0; --count)
+        for (const bool beside : {curves_.front().Beside, !curves_.front().Beside})
+            if (PaintFigures(painter, count, beside)) return;
+}
+
+bool AnswerCurveView::PaintFigures(QPainter& painter, std::size_t count, bool beside) const {
+    std::vector<FigurePainter> figures;
+    const double part = (beside ? width() : height()) / static_cast<double>(count);
     for (std::size_t i = 0; i < count; ++i) {
         const AnswerCurve* kept = i < kept_.size() && kept_[i].XSymbol == curves_[i].XSymbol ? &kept_[i] : nullptr;
-        const double part = (curves_[i].Beside ? width() : height()) / static_cast<double>(count);
         const double from = static_cast<double>(i) * part;
         const QRectF place =
-            curves_[i].Beside ? QRectF(from, 0, part - 4 * kPad, height()) : QRectF(0, from, width(), part - 3 * kPad);
-        FigurePainter(painter, ThemeOf(palette()), place, curves_[i], kept, present_).Paint();
+            beside ? QRectF(from, 0, part - 4 * kPad, height()) : QRectF(0, from, width(), part - 3 * kPad);
+        figures.emplace_back(painter, ThemeOf(palette()), place, curves_[i], kept, present_);
+        if (!figures.back().HasRoom()) return false;
     }
+    for (FigurePainter& figure : figures) figure.Paint();
+    return true;
 }
 
 QSize AnswerCurveView::sizeHint() const {

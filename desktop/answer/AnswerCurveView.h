@@ -7,6 +7,8 @@
 
 #include "ui/answer/Answer.h"
 
+class QPainter;
+
 namespace lithmark {
 
 class AnswerCurveView : public QWidget {
@@ -23,6 +25,9 @@ class AnswerCurveView : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    // The first curves, beside or below each other; false, and nothing painted, where one has no room.
+    bool PaintFigures(QPainter& painter, std::size_t count, bool beside) const;
+
     std::vector<AnswerCurve> curves_, kept_;
     bool present_ = true;
 };

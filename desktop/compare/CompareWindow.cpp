@@ -13,9 +13,9 @@
 #include <QVBoxLayout>
 #include <utility>
 
-#include "contour/ChartReading.h"
 #include "desktop/ChartPane.h"
 #include "desktop/ChartView.h"
+#include "desktop/KeptSize.h"
 #include "desktop/ManualTopics.h"
 #include "desktop/PaneKeys.h"
 #include "desktop/SaveChart.h"
@@ -27,6 +27,7 @@
 #include "render/ChartDocument.h"
 #include "render/QtText.h"
 #include "render/drawings/Symbols.h"
+#include "render/figures/ChartSymbols.h"
 #include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
@@ -46,20 +47,6 @@ enum ComparedColumn {
 // What is written from left to right, kept together in a line of any direction.
 QString KeptTogether(const std::string& text) {
     return text.empty() ? QString() : QChar(0x2066) + Q(text) + QChar(0x2069);
-}
-
-// "Depth z [m]": the symbol as engineers write it.
-std::string InPrint(const std::string& title) {
-    const AxisWords words = WordsOf(title);
-    if (words.Symbol.empty()) return title;
-    const std::size_t at = words.Title.size() + 1;
-    return words.Title + " " + SymbolWords(words.Symbol).toStdString() + title.substr(at + words.Symbol.size());
-}
-
-ChartArguments WithSymbolsInPrint(ChartArguments chart) {
-    chart.XTitle = InPrint(chart.XTitle);
-    chart.YTitle = InPrint(chart.YTitle);
-    return chart;
 }
 
 }  // namespace
@@ -94,6 +81,7 @@ CompareWindow::CompareWindow(ComparedPair pair, QWidget* parent)
     new PaneKeys(*this);
     BindHelpKey(*this, [] { return std::string("compare"); });
     resize(QSize(940, 600).boundedTo(ScreenRoom(*this)));
+    KeepSize(*this);
     ShowState();
     tabs_->setCurrentWidget(inputs_.empty() ? results_ : differing_);
     tabs_->currentWidget()->setFocus();
@@ -226,9 +214,13 @@ void CompareWindow::ShowResults() {
     ShowCurve();
 }
 
+const ChartArguments& CompareWindow::ChosenChart() const {
+    return charts_[static_cast<std::size_t>(choice_->currentIndex())];
+}
+
 void CompareWindow::ShowCurve() {
     if (choice_->currentIndex() < 0) return;
-    const ChartArguments chart = WithSymbolsInPrint(charts_[static_cast<std::size_t>(choice_->currentIndex())]);
+    const ChartArguments chart = WithSymbolsInPrint(ChosenChart());
     if (pane_ != nullptr) return pane_->ShowChart(chart);
     pane_ = new ChartPane(chart, curves_);
     pane_->setObjectName(QStringLiteral("pane"));
@@ -238,7 +230,7 @@ void CompareWindow::ShowCurve() {
 // The curve that is seen, or both tables.
 void CompareWindow::Save() {
     if (tabs_->currentWidget() == curves_ && pane_ != nullptr)
-        return SaveChart(this, pane_->Plot().Chart(), pane_->Plot().Look());
+        return SaveChart(this, pane_->Plot().Chart(), pane_->Plot().Look(), ChosenChart());
     const std::vector<std::vector<std::string>> table = ComparisonTable(pair_, inputs_, compared_);
     SaveAs(*this, {{Q(Text(910007_text)), QStringLiteral("xlsx")}, {Q(Text(910008_text)), QStringLiteral("csv")}},
            [&](const QString& ending) {

@@ -41,6 +41,7 @@ class CompareWindow : public QDialog {
     void ShowState();
     void ShowResults();
     void ShowCurve();
+    const ChartArguments& ChosenChart() const;
     void Save();
     void Copy();
 

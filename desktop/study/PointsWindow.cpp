@@ -12,6 +12,7 @@
 #include "desktop/ChartPane.h"
 #include "desktop/ChartView.h"
 #include "desktop/EditGrid.h"
+#include "desktop/KeptSize.h"
 #include "desktop/ManualTopics.h"
 #include "desktop/PaneKeys.h"
 #include "desktop/SaveChart.h"
@@ -26,10 +27,12 @@
 #include "files/CommonStep.h"
 #include "render/QtText.h"
 #include "render/drawings/Inks.h"
+#include "render/drawings/Symbols.h"
 #include "services/storage/WrittenFile.h"
 #include "services/texts/LanguageTexts.h"
 #include "study/StudyFailure.h"
 #include "study/window/CommandWords.h"
+#include "study/window/NoticeWords.h"
 #include "study/window/PointsChart.h"
 #include "ui/model/UnsavedInput.h"
 #include "ui/model/UnsavedTable.h"
@@ -48,9 +51,9 @@ std::vector<FieldChoice> CoordinatesOf(const StudySubject& subject) {
     return coordinates;
 }
 
-// "Sigma_z, kN/m2", for those who hear a cell.
+// "sigma z, kN/m2", for those who hear a cell.
 std::string InWords(const ResultChoice& result) {
-    return result.Symbol + (result.Unit.empty() ? "" : ", " + result.Unit);
+    return SpokenSymbol(result.Symbol).toStdString() + (result.Unit.empty() ? "" : ", " + result.Unit);
 }
 
 }  // namespace
@@ -107,6 +110,7 @@ PointsWindow::PointsWindow(const StudySubject& subject, QWidget* parent)
     grid_->resizeColumnsToContents();
     grid_->setCurrentCell(0, 0);
     resize(1180, 640);
+    KeepSize(*this);
 }
 
 QLayout* PointsWindow::FillRow() {
@@ -137,7 +141,7 @@ QWidget* PointsWindow::PointsTab() {
         heads.append(Q(symbol + "\n[" + (unit.empty() ? "-" : unit) + "]"));
     };
     for (const FieldChoice& field : points_.Coordinates()) add(field.Short(), field.Unit);
-    for (const ResultChoice& result : points_.Results()) add(result.Symbol, result.Unit);
+    for (const ResultChoice& result : points_.Results()) add(result.Short(), result.Unit);
     heads.append(Q(Text(913330_text)));
     grid_->setColumnCount(static_cast<int>(heads.size()));
     grid_->setHorizontalHeaderLabels(heads);
@@ -157,7 +161,8 @@ QWidget* PointsWindow::ChartTab() {
     auto* row = new QHBoxLayout;
     row->setSpacing(sizes::kColumnGap);
     std::vector<QString> results, coordinates;
-    for (const ResultChoice& result : points_.Results()) results.push_back(SymbolAndWords(result.Symbol, result.Label));
+    for (const ResultChoice& result : points_.Results())
+        results.push_back(SymbolAndWords(result.Short(), result.Label));
     for (const FieldChoice& field : points_.Coordinates()) coordinates.push_back(Q(field.Short()));
     result_ = AskList(page, QStringLiteral("cboResult"), results, [this] { ShowChart(); });
     coordinate_ = AskList(page, QStringLiteral("cboCoordinate"), coordinates, [this] { ShowChart(); });
@@ -182,8 +187,9 @@ QBoxLayout* PointsWindow::Buttons() {
     csv_ = AskButton(this, *row, QStringLiteral("CSV") + dots, "cmdCsv", [this] { SaveCsvFile(*this, table_->Csv()); });
     sheet_ = AskButton(this, *row, Q(Text(910007_text)) + dots, "cmdSheet",
                        [this] { SaveSheetFile(*this, table_->Cells()); });
-    saveChart_ = AskButton(this, *row, Q(Text(913246_text)) + dots, "cmdChart",
-                           [this] { SaveChart(this, chart_->Plot().Chart(), chart_->Plot().Look()); });
+    saveChart_ = AskButton(this, *row, Q(Text(913246_text)) + dots, "cmdChart", [this] {
+        SaveChart(this, chart_->Plot().Chart(), chart_->Plot().Look(), ChartOf(points_.InPlainSymbols()));
+    });
     save_ = AskButton(this, *row, Q(Text(913281_text)) + dots, "cmdSavePoints", [this] { SavePoints(); });
     save_->setToolTip(Q(Text(913282_text)));
     row->addStretch(1);
@@ -323,6 +329,10 @@ void PointsWindow::ShowResults(bool all) {
     ShowState();
 }
 
+void PointsWindow::ShowChart() {
+    chart_->ShowChart(ChartOf(points_));
+}
+
 void PointsWindow::ShowRow(int row) {
     const Theme theme = ThemeOf(palette());
     const int first = points_.Editing().Columns(), last = grid_->columnCount() - 1;
@@ -342,7 +352,7 @@ void PointsWindow::ShowRow(int row) {
         std::string text;
         if (column == last) {
             text = !fault.empty() ? fault : line == nullptr ? "" : line->Status;
-            if (noticed) text += " - " + line->Notices;
+            if (noticed) text += " - " + NoticeWords(line->Notices);
         } else if (line != nullptr && !line->Aborted()) {
             const auto place = static_cast<std::size_t>(column - first);
             const float number = line->Numbers[place];
@@ -356,11 +366,12 @@ void PointsWindow::ShowRow(int row) {
         item->setForeground(wrong                       ? QBrush(ColourOf(Ink::Error, theme))
                             : noticed && column == last ? QBrush(ColourOf(Ink::Warning, theme))
                                                         : QBrush());
-        item->setToolTip(column == last ? Q(text) : QString());
+        const std::string ids = noticed ? "\n" + line->Notices : std::string();
+        item->setToolTip(column == last ? Q(text + ids) : QString());
     }
 }
 
-void PointsWindow::ShowChart() {
+ChartArguments PointsWindow::ChartOf(const PointsTable& points) const {
     const int result = std::max(0, result_->currentIndex());
     std::vector<float> numbers;
     for (int row = 0; row < points_.Editing().Rows(); ++row) {
@@ -368,7 +379,7 @@ void PointsWindow::ShowChart() {
         numbers.push_back(line == nullptr || line->Aborted() ? kMissing
                                                              : line->Numbers[static_cast<std::size_t>(result)]);
     }
-    chart_->ShowChart(PointsChart(points_, result, std::max(0, coordinate_->currentIndex()), numbers));
+    return PointsChart(points, result, std::max(0, coordinate_->currentIndex()), numbers);
 }
 
 void PointsWindow::ShowState() {

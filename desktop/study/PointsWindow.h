@@ -61,6 +61,8 @@ class PointsWindow : public QDialog {
     void ShowResults(bool all);
     void ShowRow(int row);
     void ShowChart();
+    // The result and the coordinate that are chosen, of all points that are worked.
+    ChartArguments ChartOf(const PointsTable& points) const;
     void ShowState();
     void ShowCommand();
     // The results of a row of the table; null where there are none.

@@ -17,7 +17,7 @@ namespace {
 std::vector<QString> RandomFieldItems(const StudyQuestion& question) {
     std::vector<QString> items = {Q(Text(913210_text))};
     for (const FieldChoice& field : question.Fields())
-        if (!field.Whole) items.push_back(SymbolAndWords(field.Symbol, field.Label));
+        if (!field.Whole) items.push_back(SymbolAndWords(field.Short(), field.Label));
     return items;
 }
 

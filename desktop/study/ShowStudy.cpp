@@ -6,7 +6,6 @@
 #include "desktop/study/PointsWindow.h"
 #include "desktop/study/StudyWindow.h"
 #include "files/CommonStep.h"
-#include "render/drawings/Symbols.h"
 #include "services/SharedServices.h"
 
 namespace lithmark {
@@ -17,14 +16,6 @@ namespace {
 void TellFault(ProblemForm& form, const BoxFault& fault) {
     SharedServices().ShowMessageBox(form.Caption, fault.Reason, MessageIcon::Exclamation);
     if (FormView* view = FormView::Of(form)) view->FocusOn(*fault.Box);
-}
-
-// Symbols as they stand in windows.
-template <typename Choice>
-std::vector<Choice> InPrint(std::vector<Choice> choices) {
-    for (Choice& choice : choices)
-        if (!choice.Symbol.empty()) choice.Symbol = SymbolWords(choice.Symbol).toStdString();
-    return choices;
 }
 
 // The field of the box that had the focus last, or else the first one that has a value.
@@ -44,12 +35,7 @@ void Show(ProblemForm& form, QWidget* parent) {
     UnderCommonStep([&] {
         const FormDraft draft = form.Draft();
         if (!draft.Valid()) return TellFault(form, draft.Faults.front());
-        StudySubject subject;
-        subject.Title = form.Caption;
-        subject.Draft = draft.Record;
-        subject.Modified = form.Modified();
-        subject.Fields = InPrint(FieldChoicesOf(form, draft.Record));
-        subject.Results = InPrint(ResultChoicesOf(draft.Record));
+        StudySubject subject = SubjectOf(form, draft.Record);
         subject.First = FirstField(form, subject.Fields);
         Window(subject, parent).exec();
     });

@@ -100,7 +100,8 @@ QGroupBox* StudyAsk::ResultGroup() {
     QVBoxLayout* column = GroupColumn(group);
     auto* row = new QHBoxLayout;
     std::vector<QString> items;
-    for (const ResultChoice& result : question_.Results()) items.push_back(SymbolAndWords(result.Symbol, result.Label));
+    for (const ResultChoice& result : question_.Results())
+        items.push_back(SymbolAndWords(result.Short(), result.Label));
     result_ = AskList(group, QStringLiteral("cboResult"), items, [this] {
         question_.Result = result_->currentIndex();
         ShowLimit();
@@ -117,7 +118,7 @@ QGroupBox* StudyAsk::ResultGroup() {
     takes->addWidget(new QLabel(Q(Text(913222_text)), group), 0, 0, 1, kColumns);
     for (std::size_t i = 0; i < question_.Results().size(); ++i) {
         const ResultChoice& result = question_.Results()[i];
-        auto* box = new QCheckBox(Q(result.Symbol), group);
+        auto* box = new QCheckBox(Q(result.Short()), group);
         box->setObjectName(NumberedName("chkTake", static_cast<int>(i) + 1));
         box->setToolTip(Q(result.Label));
         // "σ z, vertical stress"

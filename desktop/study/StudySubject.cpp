@@ -5,9 +5,31 @@
 #include "core/Session.h"
 #include "desktop/WidgetInk.h"
 #include "render/QtText.h"
+#include "render/drawings/Symbols.h"
 #include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
+
+namespace {
+
+template <typename Choice>
+std::vector<Choice> InPrint(std::vector<Choice> choices) {
+    for (Choice& choice : choices)
+        if (!choice.Symbol.empty()) choice.InPrint = SymbolWords(choice.Symbol).toStdString();
+    return choices;
+}
+
+}  // namespace
+
+StudySubject SubjectOf(const ProblemForm& form, const SessionRecord& draft) {
+    StudySubject subject;
+    subject.Title = form.Caption;
+    subject.Draft = draft;
+    subject.Modified = form.Modified();
+    subject.Fields = InPrint(FieldChoicesOf(form, draft));
+    subject.Results = InPrint(ResultChoicesOf(draft));
+    return subject;
+}
 
 std::string SavedProject() {
     return Session.DataDir + Session.ProjectName + ".PO3";

@@ -21,6 +21,9 @@ struct StudySubject {
     int First = 0;  // the field that varies at first
 };
 
+// Of a form and the record of its draft, which is valid; symbols as windows write them.
+StudySubject SubjectOf(const ProblemForm& form, const SessionRecord& draft);
+
 // The project file that a command names.
 std::string SavedProject();
 // A label that says whether the input is saved.

@@ -12,6 +12,7 @@
 
 #include "desktop/ChartPane.h"
 #include "desktop/ChartView.h"
+#include "desktop/KeptSize.h"
 #include "desktop/ManualTopics.h"
 #include "desktop/PaneKeys.h"
 #include "desktop/SaveChart.h"
@@ -103,6 +104,7 @@ StudyWindow::StudyWindow(const StudySubject& subject, QWidget* parent)
     });
     connect(tabs_, &QTabWidget::currentChanged, this, [this] { Asked(); });
     resize(1080, 720);
+    KeepSize(*this);
     Asked();
 }
 
@@ -245,6 +247,11 @@ void StudyWindow::Find() {
     work_.StartFind(question_);
 }
 
+// Of the same rows, what is drawn is as it is asked now.
+const StudyQuestion& StudyWindow::AskedOfRows() const {
+    return RowsAreOld() ? *work_.Question() : question_;
+}
+
 bool StudyWindow::RowsAreOld() const {
     return work_.Rows() != nullptr &&
            (!question_.Faults().empty() || StudyWork::RowsWords(question_, SavedProject()) != rowsWords_);
@@ -271,8 +278,7 @@ void StudyWindow::ShowWork() {
 
 void StudyWindow::ShowRows() {
     if (work_.Question() == nullptr || work_.Rows() == nullptr) return;
-    // Of the same rows, what is drawn is as it is asked now.
-    const StudyQuestion& asked = RowsAreOld() ? *work_.Question() : question_;
+    const StudyQuestion& asked = AskedOfRows();
     std::string answer;
     if (asked.FirstVaried() != nullptr) {
         const StudyCurves curves = CurvesOf(asked, *work_.Rows(), work_.Present());
@@ -369,8 +375,12 @@ void StudyWindow::SaveShown() {
     if (tabs_->currentIndex() == kTornado) return SaveTornadoFile(*this, tornado_->Picture());
     if (tabs_->currentIndex() == kCurve && drawn_->currentWidget() == contour_)
         return SaveFieldChartFile(*this, *contour_->Chart());
-    ChartView& plot = (tabs_->currentIndex() == kHistogram ? histogram_ : curve_)->Plot();
-    SaveChart(this, plot.Chart(), plot.Look());
+    const bool histogram = tabs_->currentIndex() == kHistogram;
+    ChartView& plot = (histogram ? histogram_ : curve_)->Plot();
+    const StudyQuestion plain = AskedOfRows().InPlainSymbols();
+    SaveChart(this, plot.Chart(), plot.Look(),
+              histogram ? HistogramChart(plain, HistogramOf(plain, *work_.Rows()))
+                        : CurveChart(plain, CurvesOf(plain, *work_.Rows(), work_.Present())));
 }
 
 }  // namespace lithmark

@@ -61,6 +61,7 @@ class StudyWindow : public QDialog {
     void TellFault();
     void ShowFault(const std::string& reason);
     void Say(const QString& words, Ink ink);
+    const StudyQuestion& AskedOfRows() const;
     bool RowsAreOld() const;
     bool BarsAreOld() const;
 

@@ -72,7 +72,7 @@ void TornadoTab::ShowBars(const TornadoPicture& picture, const QString& note) {
     plot_->setVisible(!picture.Bars.empty());
     QString words;
     for (const TornadoPicture::Bar& bar : picture.Bars)
-        words += Q(bar.Name + ": " + ShortNumber(bar.AtLow, 4) + " ... " + ShortNumber(bar.AtHigh, 4)) +
+        words += Q(bar.Name + ": " + PictureNumber(bar.AtLow, 4) + " ... " + PictureNumber(bar.AtHigh, 4)) +
                  QStringLiteral("\n");
     TellGraphic(*plot_, words);
     Draw();
@@ -97,8 +97,8 @@ void TornadoTab::Mark(const std::vector<AskFault>& faults) {
 TornadoPicture TornadoPictureOf(const StudyQuestion& question, const std::vector<TornadoBar>& bars, double middle) {
     TornadoPicture picture;
     const ResultChoice& drawn = question.Drawn();
-    picture.Title = Text(908303_text, {{"|1", drawn.Symbol}}) + "   " + Session.ProjectName;
-    picture.Axis = drawn.Label + " " + drawn.Symbol + " [" + (drawn.Unit.empty() ? "-" : drawn.Unit) + "]";
+    picture.Title = Text(908303_text, {{"|1", drawn.Short()}}) + "   " + Session.ProjectName;
+    picture.Axis = drawn.Label + " " + drawn.Short() + " [" + (drawn.Unit.empty() ? "-" : drawn.Unit) + "]";
     picture.LowLegend = Text(908304_text);
     picture.HighLegend = Text(908305_text);
     picture.Middle = middle;

@@ -18,7 +18,7 @@ enum VaryColumn { kVaryLabel, kVaryFirst, kVaryBetween, kVarySecond, kVaryUnit }
 
 std::vector<QString> FieldItems(const StudyQuestion& question) {
     std::vector<QString> items = {Q(Text(913210_text))};
-    for (const FieldChoice& field : question.Fields()) items.push_back(SymbolAndWords(field.Symbol, field.Label));
+    for (const FieldChoice& field : question.Fields()) items.push_back(SymbolAndWords(field.Short(), field.Label));
     return items;
 }
 

@@ -14,7 +14,7 @@ const std::pair<const char*, const char*> kGreek[] = {
     {"Varepsilon", "ε"}, {"Epsilon", "ε"}, {"Alpha", "α"}, {"Gamma", "γ"}, {"Sigma", "σ"}, {"Tau", "τ"}, {"Nue", "ν"},
 };
 // What a report writes ahead of a symbol stands in its index.
-const char* const kAhead[] = {"max_", "min_"};
+const char* const kAhead[] = {"max_", "min_", "max ", "min "};
 
 // How a Greek letter is spoken.
 struct SpokenLetter {

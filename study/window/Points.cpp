@@ -31,6 +31,13 @@ TableEdit EditOf(const std::vector<FieldChoice>& coordinates) {
 
 }  // namespace
 
+PointsTable PointsTable::InPlainSymbols() const {
+    PointsTable plain = *this;
+    for (FieldChoice& coordinate : plain.coordinates_) coordinate.InPrint.clear();
+    for (ResultChoice& result : plain.results_) result.InPrint.clear();
+    return plain;
+}
+
 std::vector<double> EvenValues::All() const {
     std::vector<double> values;
     const int count = From == To ? 1 : std::max(1, Count);

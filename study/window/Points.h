@@ -36,6 +36,8 @@ class PointsTable {
     const TableEditing& Editing() const noexcept { return editing_; }
     const std::vector<FieldChoice>& Coordinates() const noexcept { return coordinates_; }
     const std::vector<ResultChoice>& Results() const noexcept { return results_; }
+    // The same points in the symbols of reports, as files have them.
+    PointsTable InPlainSymbols() const;
 
     // All points of the values, z fastest, then y; in place of the present points or behind them. False, and nothing
     // changed, where they would be too many.

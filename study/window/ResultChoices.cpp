@@ -45,7 +45,7 @@ Quantity Time(const SessionRecord& draft) {
 }
 
 ResultChoice Of(const std::string& take, const std::string& symbol, const std::string& label, const Quantity& in) {
-    return {take, symbol, label, in.Unit, in.Factor, in.Format};
+    return {take, symbol, label, in.Unit, in.Factor, in.Format, {}};
 }
 
 std::string Along(TextId text, Axis axis) {

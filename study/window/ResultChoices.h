@@ -9,12 +9,15 @@
 namespace lithmark {
 
 struct ResultChoice {
-    std::string Take;    // as the command line has it: "s", "max(NodeSettlement)"
-    std::string Symbol;  // plain: "Sigma_z", "max s"
-    std::string Label;   // "Settlement"
-    std::string Unit;    // "cm"; empty where there is none
-    double Factor = 1;   // shown units for the number that a study gives
-    std::string Format;  // of the report
+    std::string Take;     // as the command line has it: "s", "max(NodeSettlement)"
+    std::string Symbol;   // plain: "Sigma_z", "max s"
+    std::string Label;    // "Settlement"
+    std::string Unit;     // "cm"; empty where there is none
+    double Factor = 1;    // shown units for the number that a study gives
+    std::string Format;   // of the report
+    std::string InPrint;  // the symbol as windows write it; empty: plain
+
+    const std::string& Short() const noexcept { return InPrint.empty() ? Symbol : InPrint; }
 
     // A number of a study as the report would print it.
     std::string Shown(double number) const;

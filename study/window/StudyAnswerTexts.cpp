@@ -4,6 +4,7 @@
 
 #include "base/NumberText.h"
 #include "services/texts/LanguageTexts.h"
+#include "study/window/NoticeWords.h"
 #include "study/window/ShortNumber.h"
 
 namespace lithmark {
@@ -50,7 +51,7 @@ ShownRows RowsOf(const StudyQuestion& asked, const StudyTable& table, std::size_
     for (const Take& take : head.Takes) {
         results.push_back(ResultOf(asked, take.Name));
         shown.Heads.push_back(results.back() == nullptr ? take.Name
-                                                        : HeadOf(results.back()->Symbol, results.back()->Unit));
+                                                        : HeadOf(results.back()->Short(), results.back()->Unit));
     }
     shown.Heads.push_back(Text(913330_text));
     shown.Heads.push_back(Text(913331_text));
@@ -70,7 +71,8 @@ ShownRows RowsOf(const StudyQuestion& asked, const StudyTable& table, std::size_
                                     : results[i]->Shown(static_cast<double>(number)));
         }
         row.Cells.push_back(line.Status);
-        row.Cells.push_back(line.Notices);
+        row.Cells.push_back(NoticeWords(line.Notices));
+        row.Notices = line.Notices;
         shown.Rows.push_back(std::move(row));
     }
     for (const std::size_t row : CrossedRows(asked, table))
@@ -98,8 +100,8 @@ std::string FoundText(const StudyQuestion& asked, const StudyAnswer& answer) {
         places += (places.empty() ? "" : Text(913314_text) + " ") + place;
     }
     const std::string shown = WithUnit(drawn.Shown(*limit), drawn.Unit);
-    std::string what = drawn.Symbol + " = " + shown;
-    if (asked.IsRandom()) what = Text(913332_text, {{"|1", drawn.Symbol + " > " + shown}, {"|2", asked.Share}});
+    std::string what = drawn.Short() + " = " + shown;
+    if (asked.IsRandom()) what = Text(913332_text, {{"|1", drawn.Short() + " > " + shown}, {"|2", asked.Share}});
     const std::string text =
         places.empty() ? Text(913316_text, {{"|1", what}}) : Text(913315_text, {{"|1", what}, {"|2", places}});
     return status.empty() ? text : text + " " + status;
@@ -112,8 +114,11 @@ std::vector<TornadoBar> TornadoBarsOf(const StudyQuestion& asked, const StudyAns
         const FieldChoice* field = FieldOf(asked, answer.Cell(row, "Field"));
         if (!low || !high || field == nullptr) continue;
         const double factor = asked.Drawn().Factor;
-        bars.push_back({field->Short() + "  " + ShownValue(*field, answer.Cell(row, "low"), 4) + " ... " +
-                            WithUnit(ShownValue(*field, answer.Cell(row, "high"), 4), field->Unit),
+        const auto end = [&](const char* column) {
+            const auto number = ParseNumber(answer.Cell(row, column));
+            return number ? PictureNumber(*number * field->Factor, 4) : answer.Cell(row, column);
+        };
+        bars.push_back({field->Short() + "  " + end("low") + " ... " + WithUnit(end("high"), field->Unit),
                         *low * factor, *high * factor});
     }
     return bars;

@@ -17,6 +17,7 @@ struct ShownRows {
         Kind Is = Kind::Good;
         bool Crossed = false;  // one of the two neighbours of a crossing
         std::vector<std::string> Cells;
+        std::string Notices;  // the ids of those that the last cell tells in words
     };
 
     std::vector<std::string> Heads;

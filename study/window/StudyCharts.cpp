@@ -16,11 +16,11 @@ namespace lithmark {
 namespace {
 
 std::string ResultAxis(const ResultChoice& result) {
-    return AxisTitle(result.Label, result.Symbol, result.Unit);
+    return AxisTitle(result.Label, result.Short(), result.Unit);
 }
 
 std::string LimitName(const StudyQuestion& asked, double limit) {
-    return Text(913317_text, {{"|1", WithUnit(ShortNumber(limit), asked.Drawn().Unit)}});
+    return Text(913317_text, {{"|1", WithUnit(PictureNumber(limit), asked.Drawn().Unit)}});
 }
 
 }  // namespace
@@ -102,7 +102,7 @@ Histogram HistogramOf(const StudyQuestion& asked, const StudyTable& table) {
 
 ChartArguments HistogramChart(const StudyQuestion& asked, const Histogram& histogram) {
     std::vector<ChartColumn> columns = {{"", LineStyle::Solid, {}},
-                                        {asked.Drawn().Symbol, LineStyle::LinesNoMarkers, {}}};
+                                        {asked.Drawn().Short(), LineStyle::LinesNoMarkers, {}}};
     double most = 0;
     for (std::size_t i = 0; i < histogram.Counts.size(); ++i) {
         const double share = 100 * static_cast<double>(histogram.Counts[i]) /
@@ -131,7 +131,7 @@ std::string HistogramText(const StudyQuestion& asked, const StudyTable& table) {
     const auto shown = [&](double number) { return WithUnit(ShortNumber(number * drawn.Factor, 4), drawn.Unit); };
     const MeanAndDeviation of = MeanAndDeviationOf(numbers);
     std::string text = Text(913327_text, {{"|1", std::to_string(numbers.size())},
-                                          {"|2", drawn.Symbol},
+                                          {"|2", drawn.Short()},
                                           {"|3", shown(of.Mean)},
                                           {"|4", shown(of.Deviation)},
                                           {"|5", shown(SortedQuantile(numbers, 0.05))},

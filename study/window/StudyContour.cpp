@@ -16,7 +16,7 @@ std::string AxisOf(const FieldChoice& field) {
 }
 
 std::string FieldAndValue(const FieldChoice& field, double value) {
-    return field.Short() + " = " + WithUnit(ShortNumber(value, kContourDigits), field.Unit);
+    return field.Short() + " = " + WithUnit(PictureNumber(value, kContourDigits), field.Unit);
 }
 
 }  // namespace
@@ -36,18 +36,18 @@ std::optional<FieldChart> ContourOf(const StudyQuestion& asked, const StudyCurve
     chart.Top = curves.Family.back();
     chart.XTitle = AxisOf(*first);
     chart.YTitle = AxisOf(*second);
-    chart.ValueTitle = AxisTitle(drawn.Label, drawn.Symbol, drawn.Unit);
+    chart.ValueTitle = AxisTitle(drawn.Label, drawn.Short(), drawn.Unit);
     chart.Title = chart.ValueTitle + "   " + Session.ProjectName;
     if (curves.Limit) {
         chart.Limit = curves.Limit;
-        chart.LimitName = Text(913317_text, {{"|1", WithUnit(ShortNumber(*curves.Limit), drawn.Unit)}});
+        chart.LimitName = Text(913317_text, {{"|1", WithUnit(PictureNumber(*curves.Limit), drawn.Unit)}});
     }
     const auto inside = [](double value, double from, double to) { return from <= value && value <= to; };
     if (curves.PresentX && inside(*curves.PresentX, chart.Left, chart.Right) &&
         inside(second->Value, chart.Bottom, chart.Top)) {
         chart.Present = FieldPoint{*curves.PresentX, second->Value};
         chart.PresentName =
-            Text(913318_text) + ": " + WithUnit(ShortNumber(*curves.PresentY, kContourDigits), drawn.Unit);
+            Text(913318_text) + ": " + WithUnit(PictureNumber(*curves.PresentY, kContourDigits), drawn.Unit);
     }
     return chart;
 }
@@ -56,7 +56,7 @@ std::string UnderContour(const StudyQuestion& asked, const FieldChart& chart, co
     std::string text = FieldAndValue(*asked.FirstVaried(), at.X) + ", " + FieldAndValue(*asked.SecondVaried(), at.Y);
     const ResultChoice& drawn = asked.Drawn();
     if (const auto value = chart.Field.ValueAt(at))
-        text += ": " + drawn.Symbol + " = " + WithUnit(ShortNumber(*value, kContourDigits), drawn.Unit);
+        text += ": " + drawn.Short() + " = " + WithUnit(PictureNumber(*value, kContourDigits), drawn.Unit);
     return text;
 }
 
@@ -64,11 +64,11 @@ std::string ContourWords(const StudyQuestion& asked, const FieldChart& chart) {
     const ResultChoice& drawn = asked.Drawn();
     const auto range = [](const std::string& what, double from, double to, const std::string& unit) {
         return Text(913257_text, {{"|1", what},
-                                  {"|2", ShortNumber(from, kContourDigits)},
-                                  {"|3", WithUnit(ShortNumber(to, kContourDigits), unit)}});
+                                  {"|2", PictureNumber(from, kContourDigits)},
+                                  {"|3", WithUnit(PictureNumber(to, kContourDigits), unit)}});
     };
     const FieldChoice &first = *asked.FirstVaried(), &second = *asked.SecondVaried();
-    return range(drawn.Symbol, chart.Field.Least(), chart.Field.Greatest(), drawn.Unit) + "; " +
+    return range(drawn.Short(), chart.Field.Least(), chart.Field.Greatest(), drawn.Unit) + "; " +
            range(first.Short(), chart.Left, chart.Right, first.Unit) + "; " +
            range(second.Short(), chart.Bottom, chart.Top, second.Unit);
 }

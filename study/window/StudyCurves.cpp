@@ -7,6 +7,8 @@
 #include <map>
 
 #include "base/NumberText.h"
+#include "contour/AxisTicks.h"
+#include "services/SharedServices.h"
 #include "services/texts/LanguageTexts.h"
 #include "study/Statistics.h"
 #include "study/window/ShortNumber.h"
@@ -52,6 +54,12 @@ double Quantile(std::vector<float> values, double share) {
     return SortedQuantile(values, share);
 }
 
+// "z = 2.5 m", of one of the values of a family.
+std::string MemberName(const FieldChoice& field, const std::vector<double>& family, std::size_t member,
+                       char decimalSign) {
+    return field.Short() + " = " + WithUnit(NumberApart(family[member], family, decimalSign), field.Unit);
+}
+
 bool Beyond(double y, double limit) {
     return y > limit;
 }
@@ -93,14 +101,14 @@ StudyCurves CurvesOf(const StudyQuestion& asked, const StudyTable& table, const 
         if (!IsMissing(number)) samples[family.PlaceOf(line)][across.PlaceOf(line)].push_back(number);
     }
     const auto nameOf = [&](std::size_t member) {
-        if (second == nullptr) return asked.Drawn().Symbol;
-        return second->Short() + " = " + WithUnit(ShortNumber(members[member], 5), second->Unit);
+        if (second == nullptr) return asked.Drawn().Short();
+        return MemberName(*second, members, member, LanguageDecimalSign());
     };
     for (std::size_t member = 0; member < members.size(); ++member) {
         const bool shares = asked.IsRandom() && second == nullptr;
         for (const double share :
              shares ? std::vector<double>(kShares.begin(), kShares.end()) : std::vector<double>{0.5}) {
-            StudyCurve curve{shares ? Text(913313_text, {{"|1", ShortNumber(share * 100)}}) : nameOf(member), gaps()};
+            StudyCurve curve{shares ? Text(913313_text, {{"|1", PictureNumber(share * 100)}}) : nameOf(member), gaps()};
             for (std::size_t i = 0; i < curves.X.size(); ++i)
                 curve.Y[i] = Quantile(samples[member][i], share) * asked.Drawn().Factor;
             curves.Curves.push_back(std::move(curve));
@@ -142,7 +150,12 @@ std::string CrossingText(const StudyQuestion& asked, const StudyCurves& curves) 
     const auto at = [&](const CurveCrossing& crossing) {
         const std::string value = WithUnit(ShortNumber(crossing.X, 4), first->Unit);
         const std::string where = first->Short() + " = " + value;
-        return curves.Curves.size() == 1 ? where : where + " (" + curves.Curves[crossing.Curve].Name + ")";
+        if (curves.Curves.size() == 1) return where;
+        const FieldChoice* second = asked.SecondVaried();
+        const std::string member =
+            second == nullptr ? curves.Curves[crossing.Curve].Name
+                              : MemberName(*second, curves.Family, crossing.Curve, SharedServices().DecimalSign);
+        return where + " (" + member + ")";
     };
     std::string places;
     if (asked.DrawsContour() && curves.Crossings.size() > 2) {
@@ -151,7 +164,7 @@ std::string CrossingText(const StudyQuestion& asked, const StudyCurves& curves) 
         for (const CurveCrossing& crossing : curves.Crossings)
             places += (places.empty() ? "" : Text(913314_text) + " ") + at(crossing);
     }
-    const std::string what = drawn.Symbol + " = " + limit;
+    const std::string what = drawn.Short() + " = " + limit;
     if (places.empty()) return Text(913316_text, {{"|1", what}});
     return Text(913315_text, {{"|1", what}, {"|2", places}});
 }

@@ -82,6 +82,13 @@ StudyQuestion::StudyQuestion(std::vector<FieldChoice> fields, std::vector<Result
     for (int line = 0; line < kRandomLines; ++line) ChooseRandom(line, kNoField);
 }
 
+StudyQuestion StudyQuestion::InPlainSymbols() const {
+    StudyQuestion plain = *this;
+    for (FieldChoice& field : plain.fields_) field.InPrint.clear();
+    for (ResultChoice& result : plain.results_) result.InPrint.clear();
+    return plain;
+}
+
 const FieldChoice* StudyQuestion::Choice(int field) const {
     return field < 0 || field >= static_cast<int>(fields_.size()) ? nullptr : &fields_[static_cast<std::size_t>(field)];
 }

@@ -54,6 +54,8 @@ class StudyQuestion {
 
     const std::vector<FieldChoice>& Fields() const noexcept { return fields_; }
     const std::vector<ResultChoice>& Results() const noexcept { return results_; }
+    // The same question in the symbols of reports, as files have them.
+    StudyQuestion InPlainSymbols() const;
 
     std::array<VaryLine, kVaryLines> Vary;
     std::array<RandomLine, kRandomLines> Random;

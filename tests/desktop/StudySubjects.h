@@ -19,12 +19,7 @@ inline std::unique_ptr<ProblemForm> LoadedDialog(int problem) {
 
 // A study of it over the field of a name.
 inline StudySubject SubjectOf(const ProblemForm& form, const std::string& first) {
-    StudySubject subject;
-    subject.Title = form.Caption;
-    subject.Draft = form.Draft().Record;
-    subject.Modified = form.Modified();
-    subject.Fields = FieldChoicesOf(form, subject.Draft);
-    subject.Results = ResultChoicesOf(subject.Draft);
+    StudySubject subject = lithmark::SubjectOf(form, form.Draft().Record);
     for (std::size_t i = 0; i < subject.Fields.size(); ++i)
         if (subject.Fields[i].Name == first) subject.First = static_cast<int>(i);
     return subject;

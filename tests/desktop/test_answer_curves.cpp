@@ -50,6 +50,39 @@ TEST_F(AnswerCurves, AValueWithoutANeighbourIsADot) {
     EXPECT_EQ(Coloured(Curve({{"", {kNone}, {3.5}}}), {300, 240})[0], 0);
 }
 
+// Two figures below each other, beside each other where they would be too low, and the first alone where it is narrow
+// too. A title never stands without its curve.
+TEST_F(AnswerCurves, WhatHasNoRoomIsLeftOutWithItsTitle) {
+    const AnswerCurve line = Curve({{"", {1, 2, 3}, {1, 3, 5}}});
+    const auto curves = [](const QImage& image) {
+        const QRgb colour = ColourOf(Ink::Curve1, Theme::Light).rgb();
+        bool left = false, right = false;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (image.pixel(x, y) == colour) (x < image.width() / 2 ? left : right) = true;
+        return std::pair(left, right);
+    };
+    const auto blank = [](const QImage& image) {
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (image.pixel(x, y) != image.pixel(0, 0)) return false;
+        return true;
+    };
+    const auto drawn = [&](const QSize& size) {
+        AnswerCurveView view(nullptr);
+        view.setMinimumSize(1, 1);
+        view.resize(size);
+        view.Show({line, line}, {}, true);
+        view.show();
+        return view.grab().toImage();
+    };
+    EXPECT_EQ(curves(drawn({320, 110})), std::pair(true, true)) << "beside each other";
+    EXPECT_TRUE(curves(drawn({140, 110})).first) << "the first one alone";
+    EXPECT_FALSE(blank(drawn({140, 110})));
+    EXPECT_TRUE(blank(drawn({320, 50})));
+    EXPECT_TRUE(blank(drawn({40, 400})));
+}
+
 // The samples alone have the colours here: nothing of the lines can be drawn.
 TEST_F(AnswerCurves, NamesThatHaveNoRoomBesideEachOtherStandInRows) {
     std::vector<AnswerCurve::Line> lines;

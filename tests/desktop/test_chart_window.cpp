@@ -259,6 +259,18 @@ TEST_F(ChartWindowTest, CopiesAPictureOrTheTable) {
     EXPECT_EQ(QApplication::clipboard()->text().toStdString(), ChartTabs(chart));
 }
 
+// The screen writes symbols as engineers do; tables have those of the report.
+TEST_F(ChartWindowTest, SymbolsStandInPrintOnTheScreenAlone) {
+    const ChartArguments chart = Chart(6, "Tab2");
+    ASSERT_THAT(chart.YTitle, EndsWith(" Setn [cm]"));
+    ChartWindow window(chart, nullptr);
+    ChartView& plot = Shown(window);
+    EXPECT_THAT(plot.yAxis->label().toStdString(), EndsWith(" S_etn [cm]"));
+    EXPECT_THAT(plot.Reading().ValuesAt(2), StartsWith("t = 1 "));
+    QTest::keyClick(&plot, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_THAT(QApplication::clipboard()->text().toStdString(), HasSubstr("Setn"));
+}
+
 // A name without an ending takes the one of the chosen kind.
 TEST_F(ChartWindowTest, SavesInTheChosenKind) {
     const ChartArguments chart = Chart(8, "Tab3");

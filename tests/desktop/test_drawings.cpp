@@ -242,6 +242,8 @@ TEST(Symbols, StandInPrint) {
     EXPECT_EQ(SymbolWords("Gamma*z").toStdString(), "γ·z");
     EXPECT_EQ(SymbolWords("Sigma_z").toStdString(), "σ_z");
     EXPECT_EQ(SymbolWords("Q").toStdString(), "Q");
+    EXPECT_EQ(SymbolWords("max_Tau").toStdString(), "τ_max");
+    EXPECT_EQ(SymbolWords("max s").toStdString(), "s_max");
     EXPECT_EQ(SymbolMarkup("Gamma_c").toStdString(), "<i>γ</i><sub style=\"font-style:normal\">c</sub>");
 }
 

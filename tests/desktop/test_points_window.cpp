@@ -120,6 +120,30 @@ TEST_F(PointsWindowTest, AGridIsAskedForAndDrawnOverTheDepth) {
     EXPECT_NEAR(plot.Reading().Y(1, 1), std::stod(Cell(0, 3)), 0.051);  // the cell has one decimal
 }
 
+// Windows write symbols as engineers do, files as reports do.
+TEST_F(PointsWindowTest, SymbolsStandInPrintOnTheScreenAlone) {
+    QApplication::clipboard()->setText(QStringLiteral("0\t0\t1\n0\t0\t2\n"));
+    ClickOn(*window_, "cmdPaste");
+    Await(2);
+    EXPECT_EQ(Grid().horizontalHeaderItem(3)->text().toStdString(), "σ_z\n[kN/m²]");
+    EXPECT_THAT(Grid().item(0, 3)->data(Qt::AccessibleTextRole).toString().toStdString(), HasSubstr("sigma z, "));
+    Child<QTabWidget>(*window_, "tabs").setCurrentIndex(1);
+    auto& plot = Child<ChartView>(*window_, "plot");
+    EXPECT_THAT(plot.yAxis->label().toStdString(), HasSubstr(" σ_z "));
+    const TestFolder folder;
+    const std::string file = folder / "points.csv";
+    QTimer::singleShot(0, window_.get(), [&] {
+        ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }, kPointsPatience));
+        auto& name = Child<QLineEdit>(*QApplication::activeModalWidget(), "fileNameEdit");
+        name.setText(QString::fromStdString(file));
+        QTest::keyClick(&name, Qt::Key_Return);
+    });
+    ClickOn(*window_, "cmdChart");
+    const std::string csv = ReadBytes(file);
+    EXPECT_THAT(csv, HasSubstr("Sigma_z"));
+    EXPECT_THAT(csv, Not(HasSubstr("σ")));
+}
+
 TEST_F(PointsWindowTest, UndoTakesAPasteBackAtOnce) {
     QApplication::clipboard()->setText(QStringLiteral("0\t0\t1\n0\t0\t2\n"));
     ClickOn(*window_, "cmdPaste");

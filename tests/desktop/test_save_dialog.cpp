@@ -1,4 +1,5 @@
 // The dialog that asks where a document, a picture or a table goes: the folder that it offers.
+#include <QComboBox>
 #include <QFileDialog>
 #include <filesystem>
 
@@ -63,6 +64,26 @@ TEST_F(SaveDialogTest, OffersTheFolderThatTheProjectsLastFileWentTo) {
     EXPECT_EQ(Offered(), "crane");
     EXPECT_EQ(BesideTheProgram(), beside);
     EXPECT_THAT(ReadBytes(folder_ / "settings/settings.json"), Not(HasSubstr("one.pdf")));
+}
+
+// The name and the folders are paths, also in a window that runs from right to left.
+TEST_F(SaveDialogTest, PathsRunFromLeftToRight) {
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    run_->In("QFileDialog", [](QWidget& window) {
+        EXPECT_EQ(window.layoutDirection(), Qt::RightToLeft);
+        EXPECT_EQ(Child<QLineEdit>(window, "fileNameEdit").layoutDirection(), Qt::LeftToRight);
+        EXPECT_EQ(Child<QComboBox>(window, "lookInCombo").layoutDirection(), Qt::LeftToRight);
+        QTest::keyClick(&window, Qt::Key_Escape);
+    });
+    EXPECT_FALSE(AskForFile(&run_->Window(), QStringLiteral("Save"), {{QStringLiteral("PDF"), "pdf"}}));
+    for (const auto& ask : {std::function([] { return CurrentHost().ChooseFileToOpen("Open", "/", "*.PO3"); }),
+                            std::function([] { return CurrentHost().BrowseFolder("/"); })}) {
+        run_->In("QFileDialog", [](QWidget& window) {
+            EXPECT_EQ(Child<QLineEdit>(window, "fileNameEdit").layoutDirection(), Qt::LeftToRight);
+            QTest::keyClick(&window, Qt::Key_Escape);
+        });
+        EXPECT_FALSE(ask());
+    }
 }
 
 }  // namespace

@@ -80,6 +80,18 @@ TEST_F(StudyContourTest, TheLimitIsALineOfItsOwnThatLiesOnItsValue) {
     EXPECT_NEAR(highest, 9, 1e-6);
 }
 
+TEST_F(StudyContourTest, APictureHasTheDecimalSignOfTheLanguage) {
+    StartIn(Language::German);
+    SharedServices().DecimalSign = '.';
+    StudyQuestion question = Plane();
+    question.Limit = "10.5";
+    const auto chart = ContourOf(question, CurvesOf(question, PlaneTable(question), nullptr));
+    ASSERT_TRUE(chart);
+    EXPECT_EQ(chart->LimitName, "Grenze 10,5 cm");
+    EXPECT_EQ(UnderContour(question, *chart, {4.5, 5}), "h = 4,5 m, z = 5 m: s = 11,5 cm");
+    EXPECT_EQ(ContourWords(question, *chart), "s von 4,5 bis 16,5 cm; h von 2 bis 6 m; z von 1 bis 9 m");
+}
+
 TEST_F(StudyContourTest, CellsOfARowThatAbortedAreAGap) {
     const StudyQuestion question = Plane();
     // h = 2 m, z = 1 m, a corner of the first cell alone.

@@ -1,9 +1,13 @@
 // The rows of a study as curves, crossings, frequencies and cells.
 #include "StudyWindowCase.h"
 #include "core/Units.h"
+#include "report/Notices.h"
 #include "study/StudyFailure.h"
+#include "study/window/NoticeWords.h"
+#include "study/window/ShortNumber.h"
 #include "study/window/StudyAnswerTexts.h"
 #include "study/window/StudyCharts.h"
+#include "support/Places.h"
 
 namespace lithmark::tests {
 namespace {
@@ -117,6 +121,94 @@ TEST_F(StudyCurvesTest, ASecondFieldGivesAFamily) {
     EXPECT_THAT(curves.Curves[0].Name, HasSubstr("z = 4 m"));
     EXPECT_THAT(curves.Curves[0].Y, ElementsAre(3, 6));
     EXPECT_THAT(curves.Curves[1].Y, ElementsAre(1.5, 3));
+}
+
+TEST_F(StudyCurvesTest, NumbersOfAFamilyHaveTheDigitsThatTellThemApart) {
+    const auto apart = [](const std::vector<double>& all) {
+        std::vector<std::string> texts;
+        for (const double value : all) texts.push_back(NumberApart(value, all, '.'));
+        return texts;
+    };
+    // Thirds of ten: each is off by less than a twentieth of their distance.
+    EXPECT_THAT(apart({20.0 / 3, 25.0 / 3, 10, 35.0 / 3}), ElementsAre("6.7", "8.3", "10", "11.7"));
+    EXPECT_THAT(apart({1.25, 1.5, 1.75}), ElementsAre("1.25", "1.5", "1.75"));
+    EXPECT_THAT(apart({4000, 16000.0 / 3}), ElementsAre("4000", "5333"));
+    EXPECT_THAT(apart({-0.5, 0.001, 0.01, 0.1}), ElementsAre("-0.5", "0.001", "0.01", "0.1"));
+    EXPECT_THAT(apart({2.3456789}), ElementsAre("2.3457"));
+    EXPECT_THAT(apart({3, 3}), ElementsAre("3", "3"));
+    EXPECT_EQ(NumberApart(1.5, {1.5, 2}, ','), "1,5");
+}
+
+// As charts do; sentences, tables and boxes have the user's.
+TEST_F(StudyCurvesTest, WhatIsDrawnHasTheDecimalSignOfTheLanguage) {
+    StartIn(Language::German);
+    SharedServices().DecimalSign = '.';
+    StudyQuestion question = Thickness();
+    question.Vary[0].Count = "2";
+    question.Limit = "2.5";
+    question.ChooseVaried(1, Place(question.Fields(), "z"));
+    question.Vary[1].Steps = StepKind::List;
+    question.Vary[1].List = "1.5; 8";
+    const StudyTable table = TableOf(question, {"1,2,1.5,2", "2,2,8,1.5", "3,5,1.5,3.5", "4,5,8,2"});
+    const StudyCurves curves = CurvesOf(question, table, nullptr);
+    const ChartArguments chart = CurveChart(question, curves);
+    EXPECT_EQ(chart.Legends(1), "z = 1,5 m");
+    EXPECT_EQ(chart.Legends(3), "Grenze 2,5 cm");
+    EXPECT_EQ(CrossingText(question, curves), "s = 2.50 cm bei h = 3 m (z = 1.5 m)");
+    const auto bars = TornadoBarsOf(question, StudyAnswer("Result,Field,low,high,at_low,at_high,swing\r\n"
+                                                          "s,h,3.6,4.4,2,3,1\r\n"));
+    ASSERT_THAT(bars, SizeIs(1));
+    EXPECT_EQ(bars[0].Name, "h  3,6 ... 4,4 m");
+}
+
+TEST_F(StudyCurvesTest, SymbolsInPrintAreOfTheWindowsAlone) {
+    Dialog(Problem::SoilStress);
+    const StudyQuestion asked = Question("z");
+    std::vector<FieldChoice> fields = asked.Fields();
+    std::vector<ResultChoice> results = asked.Results();
+    results[0].InPrint = "σ_z";
+    for (FieldChoice& field : fields)
+        if (field.Name == "Nue") field.InPrint = "ν_s";
+    StudyQuestion shown(fields, results, Place(fields, "Nue"));
+    const auto chart = [](const StudyQuestion& question) {
+        return CurveChart(question, CurvesOf(question, StudyTable(question.Rows()), nullptr));
+    };
+    EXPECT_THAT(chart(shown).XTitle, HasSubstr(" ν_s "));
+    EXPECT_THAT(chart(shown).YTitle, HasSubstr(" σ_z "));
+    const ChartArguments plain = chart(shown.InPlainSymbols());
+    EXPECT_THAT(plain.XTitle, HasSubstr(" Nue_s "));
+    EXPECT_THAT(plain.YTitle, HasSubstr(" Sigma_z "));
+    EXPECT_EQ(plain.Header(0, 1), plain.XTitle);
+}
+
+TEST_F(StudyCurvesTest, NoticesOfARowAreToldInWords) {
+    const StudyQuestion question = Thickness();
+    StudyTable table(question.Rows());
+    table.Append("Row,h,s,Status,Notices,Study\r\n1,2,3,ok,raft-thin-layer circle-mean-stress,0123abcd\r\n");
+    const ShownRows rows = RowsOf(question, table, 10);
+    ASSERT_THAT(rows.Rows, SizeIs(1));
+    EXPECT_EQ(rows.Rows[0].Cells.back(), "a layer thinner than an element; the mean stress off a circle's axis");
+    EXPECT_EQ(rows.Rows[0].Notices, "raft-thin-layer circle-mean-stress");
+    EXPECT_EQ(NoticeWords("of-a-later-version"), "of-a-later-version");
+    EXPECT_EQ(NoticeWords(""), "");
+}
+
+// The table at the head of the manual's page has the same words in each language.
+TEST_F(StudyCurvesTest, EveryNoticeIsCalledAsInTheManual) {
+    const std::string page = ReadBytes((SourceDir() / "docs/manual/source/notices.md").string());
+    for (const auto& [language, code] :
+         {std::pair(Language::German, "de"), {Language::English, "en"}, {Language::Arabic, "ar"}}) {
+        LanguageTexts().SetCurrent(language);
+        for (int i = 0; i < kNoticeIds; ++i) {
+            const std::string id(NoticeName(static_cast<NoticeId>(i)));
+            const std::string row = std::string("\n") + code + "|| [" + id + "](#" + id + ") | ";
+            const std::size_t at = page.find(row);
+            ASSERT_NE(at, std::string::npos) << row;
+            const std::string line = page.substr(at + 1, page.find('\n', at + 1) - at - 1);
+            EXPECT_THAT(line, ::testing::EndsWith(" | " + NoticeWords(id) + " |"));
+        }
+    }
+    LanguageTexts().SetCurrent(Language::English);
 }
 
 TEST_F(StudyCurvesTest, RandomRowsGiveWhatSharesOfTheSamplesDoNotExceed) {

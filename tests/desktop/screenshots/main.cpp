@@ -2,7 +2,7 @@
 //
 //     QT_QPA_PLATFORM=offscreen screenshots OUTDIR [dark] [studies]
 //
-// studies: the windows of studies and points alone.
+// studies: the start page and the windows of studies, points and comparisons alone.
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
@@ -313,9 +313,13 @@ bool TakeAll(const QString& folder, Language language, const QString& code, bool
         ResetSession();
         return !gallery.Failed();
     };
+    const auto compare = [&] {
+        return TakeComparison(settings,
+                              [&gallery](QWidget& comparison, const QString& name) { gallery.Take(comparison, name); });
+    };
     if (studies) {
         TakeStudies(gallery);
-        return end();
+        return compare() && end();
     }
 
     frmSplash splash([] { return 0LL; });
@@ -441,9 +445,7 @@ bool TakeAll(const QString& folder, Language language, const QString& code, bool
     gallery.TakeModal(QStringLiteral("table-loads"), [&] { oedometer.cmdTimeLoad_Click(); });
     gallery.TakeModal(QStringLiteral("table-oedometer"), [&] { oedometer.CmdOdomterSettlement_Click(); });
     TakeStudies(gallery);
-    const bool compared = TakeComparison(
-        settings, [&gallery](QWidget& comparison, const QString& name) { gallery.Take(comparison, name); });
-    return end() && compared;
+    return compare() && end();
 }
 
 }  // namespace
