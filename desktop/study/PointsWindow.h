@@ -11,6 +11,7 @@
 #include "desktop/study/PointsFill.h"
 #include "desktop/study/ShowTimer.h"
 #include "desktop/study/StudySubject.h"
+#include "services/host/Charting.h"
 #include "ui/model/DraftProject.h"
 
 class QBoxLayout;

@@ -1,6 +1,4 @@
 // Windows open in the size in which they were left.
-#include <QTabWidget>
-
 #include "EveryWindow.h"
 #include "ScreenRun.h"
 #include "desktop/ScreenRoom.h"
@@ -22,7 +20,7 @@ class KeptSizes : public FormTest {
             window->resize(left);
             QCoreApplication::processEvents();
         }
-        window->close();
+        window->hide();
         return opened;
     }
     // Left smaller, it opens smaller, and the next one as well.
