@@ -7,6 +7,7 @@
 #include <QShortcut>
 #include <algorithm>
 
+#include "desktop/NumberCells.h"
 #include "render/QtText.h"
 #include "render/drawings/Inks.h"
 #include "services/texts/LanguageTexts.h"
@@ -17,6 +18,7 @@ EditGrid::EditGrid(TableEditing& rows, QWidget* parent) : QTableWidget(parent), 
     setObjectName(QStringLiteral("grid"));
     setSelectionMode(QAbstractItemView::ContiguousSelection);
     setColumnCount(rows_.Columns());
+    setItemDelegate(new NumberCells(this));
     BindKeys();
     connect(this, &QTableWidget::cellChanged, this, [this](int row, int column) { Typed(row, column); });
     connect(this, &QTableWidget::itemSelectionChanged, this, [this] {

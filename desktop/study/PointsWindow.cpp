@@ -34,6 +34,7 @@
 #include "study/window/CommandWords.h"
 #include "study/window/NoticeWords.h"
 #include "study/window/PointsChart.h"
+#include "study/window/ShortNumber.h"
 #include "ui/model/UnsavedInput.h"
 #include "ui/model/UnsavedTable.h"
 
@@ -352,7 +353,7 @@ void PointsWindow::ShowRow(int row) {
         std::string text;
         if (column == last) {
             text = !fault.empty() ? fault : line == nullptr ? "" : line->Status;
-            if (noticed) text += " - " + NoticeWords(line->Notices);
+            if (noticed) text = Together(text) + " - " + Together(NoticeWords(line->Notices));
         } else if (line != nullptr && !line->Aborted()) {
             const auto place = static_cast<std::size_t>(column - first);
             const float number = line->Numbers[place];

@@ -9,6 +9,7 @@
 #include <QShortcut>
 #include <QTableWidget>
 
+#include "desktop/NumberCells.h"
 #include "desktop/Toast.h"
 #include "desktop/study/StudySubject.h"
 #include "render/QtText.h"
@@ -39,6 +40,7 @@ RowsTab::RowsTab(QWidget* parent)
     auto* copy = new QShortcut(QKeySequence::Copy, rows_);
     copy->setContext(Qt::WidgetWithChildrenShortcut);
     connect(copy, &QShortcut::activated, this, [this] { Copy(); });
+    rows_->setItemDelegate(new NumberCells(rows_));
     column->addWidget(rows_, 1);
 }
 

@@ -53,6 +53,7 @@ std::string NameOf(const PointLine& line, const std::vector<PointLine>& all, con
     for (std::size_t i = 0; i < 2; ++i) {
         const FieldChoice& field = points.Coordinates()[static_cast<std::size_t>(OthersOf(coordinate)[i])];
         std::vector<double> places;
+        places.reserve(all.size());
         for (const PointLine& each : all) places.push_back(each.At[i]);
         const std::string number = NumberApart(line.At[i], places, LanguageDecimalSign());
         name += (i == 0 ? "" : ", ") + field.Short() + " = " + WithUnit(number, field.Unit);

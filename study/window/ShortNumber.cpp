@@ -9,6 +9,7 @@
 #include "base/Utf8.h"
 #include "contour/AxisTicks.h"
 #include "services/SharedServices.h"
+#include "services/texts/LanguageTexts.h"
 
 namespace lithmark {
 
@@ -48,6 +49,10 @@ std::string NumberApart(double value, const std::vector<double>& all, char decim
 
 std::string WithUnit(const std::string& value, const std::string& unit) {
     return unit.empty() ? value : value + " " + unit;
+}
+
+std::string Together(const std::string& words) {
+    return LanguageTexts().RightToLeft() ? "\u2068" + words + "\u2069" : words;
 }
 
 std::string PerCentText(double share, int digits) {

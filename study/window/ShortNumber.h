@@ -18,6 +18,9 @@ std::string NumberApart(double value, const std::vector<double>& all, char decim
 
 // "5.00 cm"; the value alone where there is no unit.
 std::string WithUnit(const std::string& value, const std::string& unit);
+// Words that keep together in a line from right to left, such as a number with its unit, in the direction of their
+// first letter.
+std::string Together(const std::string& words);
 // A number of per cent with so many digits.
 std::string PerCentText(double share, int digits = 3);
 

@@ -97,11 +97,12 @@ std::string FoundText(const StudyQuestion& asked, const StudyAnswer& answer) {
             place += " (95 %: " + ShownValue(*field, low, 5) + " ... " + ShownValue(*field, high, 5) + ")";
         if (second != nullptr)
             place += " (" + second->Short() + " = " + ValueWithUnit(*second, answer.Cell(row, second->Name)) + ")";
-        places += (places.empty() ? "" : Text(913314_text) + " ") + place;
+        places += (places.empty() ? "" : Text(913314_text) + " ") + Together(place);
     }
     const std::string shown = WithUnit(drawn.Shown(*limit), drawn.Unit);
-    std::string what = drawn.Short() + " = " + shown;
-    if (asked.IsRandom()) what = Text(913332_text, {{"|1", drawn.Short() + " > " + shown}, {"|2", asked.Share}});
+    std::string what = Together(drawn.Short() + " = " + shown);
+    if (asked.IsRandom())
+        what = Text(913332_text, {{"|1", Together(drawn.Short() + " > " + shown)}, {"|2", asked.Share}});
     const std::string text =
         places.empty() ? Text(913316_text, {{"|1", what}}) : Text(913315_text, {{"|1", what}, {"|2", places}});
     return status.empty() ? text : text + " " + status;

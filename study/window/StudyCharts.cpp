@@ -20,7 +20,7 @@ std::string ResultAxis(const ResultChoice& result) {
 }
 
 std::string LimitName(const StudyQuestion& asked, double limit) {
-    return Text(913317_text, {{"|1", WithUnit(PictureNumber(limit), asked.Drawn().Unit)}});
+    return Text(913317_text, {{"|1", Together(WithUnit(PictureNumber(limit), asked.Drawn().Unit))}});
 }
 
 }  // namespace
@@ -128,7 +128,9 @@ std::string HistogramText(const StudyQuestion& asked, const StudyTable& table) {
     const std::vector<float> numbers = SampledNumbers(asked, table);
     if (numbers.empty()) return {};
     const ResultChoice& drawn = asked.Drawn();
-    const auto shown = [&](double number) { return WithUnit(ShortNumber(number * drawn.Factor, 4), drawn.Unit); };
+    const auto shown = [&](double number) {
+        return Together(WithUnit(ShortNumber(number * drawn.Factor, 4), drawn.Unit));
+    };
     const MeanAndDeviation of = MeanAndDeviationOf(numbers);
     std::string text = Text(913327_text, {{"|1", std::to_string(numbers.size())},
                                           {"|2", drawn.Short()},

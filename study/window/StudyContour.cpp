@@ -40,14 +40,14 @@ std::optional<FieldChart> ContourOf(const StudyQuestion& asked, const StudyCurve
     chart.Title = chart.ValueTitle + "   " + Session.ProjectName;
     if (curves.Limit) {
         chart.Limit = curves.Limit;
-        chart.LimitName = Text(913317_text, {{"|1", WithUnit(PictureNumber(*curves.Limit), drawn.Unit)}});
+        chart.LimitName = Text(913317_text, {{"|1", Together(WithUnit(PictureNumber(*curves.Limit), drawn.Unit))}});
     }
     const auto inside = [](double value, double from, double to) { return from <= value && value <= to; };
     if (curves.PresentX && inside(*curves.PresentX, chart.Left, chart.Right) &&
         inside(second->Value, chart.Bottom, chart.Top)) {
         chart.Present = FieldPoint{*curves.PresentX, second->Value};
         chart.PresentName =
-            Text(913318_text) + ": " + WithUnit(PictureNumber(*curves.PresentY, kContourDigits), drawn.Unit);
+            Text(913318_text) + ": " + Together(WithUnit(PictureNumber(*curves.PresentY, kContourDigits), drawn.Unit));
     }
     return chart;
 }

@@ -150,12 +150,12 @@ std::string CrossingText(const StudyQuestion& asked, const StudyCurves& curves) 
     const auto at = [&](const CurveCrossing& crossing) {
         const std::string value = WithUnit(ShortNumber(crossing.X, 4), first->Unit);
         const std::string where = first->Short() + " = " + value;
-        if (curves.Curves.size() == 1) return where;
+        if (curves.Curves.size() == 1) return Together(where);
         const FieldChoice* second = asked.SecondVaried();
         const std::string member =
             second == nullptr ? curves.Curves[crossing.Curve].Name
                               : MemberName(*second, curves.Family, crossing.Curve, SharedServices().DecimalSign);
-        return where + " (" + member + ")";
+        return Together(where + " (" + member + ")");
     };
     std::string places;
     if (asked.DrawsContour() && curves.Crossings.size() > 2) {
@@ -164,7 +164,7 @@ std::string CrossingText(const StudyQuestion& asked, const StudyCurves& curves) 
         for (const CurveCrossing& crossing : curves.Crossings)
             places += (places.empty() ? "" : Text(913314_text) + " ") + at(crossing);
     }
-    const std::string what = drawn.Short() + " = " + limit;
+    const std::string what = Together(drawn.Short() + " = " + limit);
     if (places.empty()) return Text(913316_text, {{"|1", what}});
     return Text(913315_text, {{"|1", what}, {"|2", places}});
 }

@@ -128,6 +128,9 @@ TEST_F(PointsWindowTest, SymbolsStandInPrintOnTheScreenAlone) {
     EXPECT_EQ(Grid().horizontalHeaderItem(3)->text().toStdString(), "σ_z\n[kN/m²]");
     EXPECT_THAT(Grid().item(0, 3)->data(Qt::AccessibleTextRole).toString().toStdString(), HasSubstr("sigma z, "));
     Child<QTabWidget>(*window_, "tabs").setCurrentIndex(1);
+    auto& coordinates = Child<QComboBox>(*window_, "cboCoordinate");
+    coordinates.setCurrentIndex(0);  // over x every point stands by itself, under the symbol
+    emit coordinates.activated(0);
     auto& plot = Child<ChartView>(*window_, "plot");
     EXPECT_THAT(plot.yAxis->label().toStdString(), HasSubstr(" σ_z "));
     const TestFolder folder;
