@@ -9,6 +9,7 @@
 #include "desktop/ChartView.h"
 #include "desktop/GraphicWords.h"
 #include "desktop/PaneKeys.h"
+#include "desktop/ScreenRoom.h"
 #include "desktop/Sizes.h"
 #include "render/QtText.h"
 #include "services/texts/LanguageTexts.h"
@@ -60,7 +61,11 @@ QString CaptionOf(const ChartArguments& chart, int curve) {
 }  // namespace
 
 ChartPane::ChartPane(const ChartArguments& chart, QWidget* parent, int legendRoom, Marks marks)
-    : QWidget(parent), legendRoom_(legendRoom), marksAt_(marks), column_(new QVBoxLayout(this)) {
+    : QWidget(parent),
+      legendRoom_(legendRoom),
+      marksAt_(marks),
+      column_(new QVBoxLayout(this)),
+      drawn_(new QHBoxLayout) {
     column_->setContentsMargins(0, 0, 0, 0);
     column_->setSpacing(sizes::kRowGap);
     // In the order of the Tab key.
@@ -69,10 +74,9 @@ ChartPane::ChartPane(const ChartArguments& chart, QWidget* parent, int legendRoo
     ShowSamples();
     values_ = ReadingLabel(this, "lblValues");
     marks_ = ReadingLabel(this, "lblMarks");
-    auto* drawn = new QHBoxLayout;
-    drawn->setSpacing(sizes::kEdge);
-    drawn->addWidget(plot_, 1);
-    column_->addLayout(drawn, 1);
+    drawn_->setSpacing(sizes::kEdge);
+    drawn_->addWidget(plot_, 1);
+    column_->addLayout(drawn_, 1);
     auto* readings = new QVBoxLayout;
     readings->setSpacing(2);
     readings->addWidget(values_);
@@ -80,7 +84,7 @@ ChartPane::ChartPane(const ChartArguments& chart, QWidget* parent, int legendRoo
     if (marks == Marks::Beside) {
         marks_->setFixedWidth(MarksWidth());
         marks_->setAlignment(Qt::AlignTop | (marks_->alignment() & Qt::AlignHorizontal_Mask));
-        drawn->addWidget(marks_);
+        drawn_->addWidget(marks_);
     } else {
         readings->addWidget(marks_);
     }
@@ -102,7 +106,10 @@ void ChartPane::BuildLegend(const ChartArguments& chart) {
         together += width;
         widest = std::max(widest, width);
     }
-    const int columns = together < legendRoom_ ? std::max(1, int(chart.Curves)) : std::max(1, legendRoom_ / widest);
+    int columns = together < legendRoom_ ? std::max(1, int(chart.Curves)) : std::max(1, legendRoom_ / widest);
+    constexpr int kMostAbove = 2, kMostBeside = 12;
+    const bool beside = OnSmallScreen(*this) && chart.Curves > kMostAbove * columns && chart.Curves <= kMostBeside;
+    if (beside) columns = 1;
     auto* grid = new QGridLayout(legend_);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(sizes::kGroupGap);
@@ -117,7 +124,10 @@ void ChartPane::BuildLegend(const ChartArguments& chart) {
         boxes_.push_back(box);
     }
     grid->setColumnStretch(columns, 1);
-    column_->insertWidget(0, legend_);
+    if (beside)
+        drawn_->addWidget(legend_, 0, Qt::AlignTop);
+    else
+        column_->insertWidget(0, legend_);
     if (plot_ == nullptr) return;
     ShowSamples();
     // Boxes that come later stand above the plot too, on the way of the Tab key.

@@ -19,7 +19,7 @@ class ChartPane : public QWidget {
     // Where the marks and their difference stand: beside the plot, or in a line below it.
     enum class Marks { Beside, Below };
     static constexpr int kLegendRoom = 800;
-    // `legendRoom`: how wide a row of boxes may become.
+    // `legendRoom`: how wide a row of boxes may become. On a small screen boxes of many rows stand beside the plot.
     ChartPane(const ChartArguments& chart, QWidget* parent, int legendRoom = kLegendRoom, Marks marks = Marks::Below);
 
     ChartView& Plot() noexcept { return *plot_; }
@@ -41,7 +41,7 @@ class ChartPane : public QWidget {
     const Marks marksAt_;
     ChartView* plot_ = nullptr;
     QLabel *values_ = nullptr, *marks_ = nullptr;
-    QBoxLayout* column_;
+    QBoxLayout *column_, *drawn_;
     QWidget* legend_ = nullptr;
     std::vector<QCheckBox*> boxes_;
 };

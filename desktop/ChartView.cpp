@@ -68,7 +68,14 @@ ChartInks WindowInks(const QPalette& palette) {
 void ChartView::Fill() {
     look_.Inks = WindowInks(palette());
     FillPlot(*this, chart_, look_);
+    FitUprightTitle(*yAxis, AxesChanged(chart_) ? chart_.XTitle : chart_.YTitle);
     DrawReading();
+}
+
+void ChartView::resizeEvent(QResizeEvent* event) {
+    QCustomPlot::resizeEvent(event);
+    FitUprightTitle(*yAxis, AxesChanged(chart_) ? chart_.XTitle : chart_.YTitle);
+    replot(rpQueuedReplot);
 }
 
 void ChartView::ShowCurve(int curve, bool on) {

@@ -65,6 +65,10 @@ void FillPlot(QCustomPlot& plot, const ChartArguments& chart, const ChartLook& l
 // A title "title symbol unit" that reads in one direction: its words in that of the language, symbol and unit from left
 // to right.
 QString AxisLabel(const std::string& title);
+// The title of an upright axis where the plot is as high as it is long, its symbol and unit alone where it is not.
+void FitUprightTitle(QCPAxis& axis, const std::string& title);
+// The legend above the plot, where it covers nothing that is drawn; one entry a line if they do not fit side by side.
+void PlaceLegend(QCustomPlot& plot, const ChartInks& inks);
 // The colour and the dash of a curve, which tell it apart with and without colours.
 QPen CurvePen(int curve, const ChartInks& inks);
 // An axis with a title, round ticks in the digits of the language, and those colours; `whole` keeps its ticks whole.

@@ -116,7 +116,8 @@ void SetRanges(QCustomPlot& plot, const ChartArguments& chart, const ChartLook& 
     plot.yAxis->setRangeReversed(chart.SettlementsDown);
 }
 
-// The legend above the plot, where it covers no point; one entry a line if they do not fit side by side.
+}  // namespace
+
 void PlaceLegend(QCustomPlot& plot, const ChartInks& inks) {
     QCPLegend* legend = plot.legend;
     legend->setVisible(true);
@@ -127,16 +128,16 @@ void PlaceLegend(QCustomPlot& plot, const ChartInks& inks) {
     const int entries = legend->itemCount();
     int width = 0;
     for (int i = 0; i < entries; ++i) width += legend->item(i)->minimumOuterSizeHint().width() + 12;
-    plot.axisRect()->insetLayout()->take(legend);
-    plot.plotLayout()->insertRow(0);
-    plot.plotLayout()->addElement(0, 0, legend);
-    plot.plotLayout()->setRowStretchFactor(0, 0.001);
+    if (legend->layout() == plot.axisRect()->insetLayout()) {
+        plot.axisRect()->insetLayout()->take(legend);
+        plot.plotLayout()->insertRow(0);
+        plot.plotLayout()->addElement(0, 0, legend);
+        plot.plotLayout()->setRowStretchFactor(0, 0.001);
+    }
     const bool sideBySide = width < plot.viewport().width() - 40;
     legend->setFillOrder(QCPLegend::foColumnsFirst);
     legend->setWrap(sideBySide ? 0 : 1);
 }
-
-}  // namespace
 
 QString AxisLabel(const std::string& title) {
     const AxisWords words = WordsOf(title);
@@ -147,6 +148,15 @@ QString AxisLabel(const std::string& title) {
     const QString unit = sign ? QString() : QLatin1Char(' ') + Q(words.Unit);
     return QChar(0x2067) + Q(words.Title) + QLatin1Char(' ') + QChar(0x2066) + symbol + QChar(0x2069) + unit +
            QChar(0x2069);
+}
+
+void FitUprightTitle(QCPAxis& axis, const std::string& title) {
+    constexpr int kBelow = 48;  // what the other axis takes of the height
+    const AxisWords words = WordsOf(title);
+    const QString whole = AxisLabel(title);
+    const int room = axis.parentPlot()->viewport().height() - kBelow;
+    const bool fits = words.Symbol.empty() || QFontMetrics(axis.labelFont()).horizontalAdvance(whole) <= room;
+    axis.setLabel(fits ? whole : Q(words.Symbol + " [" + (words.Unit.empty() ? "-" : words.Unit) + "]"));
 }
 
 QPen CurvePen(int curve, const ChartInks& inks) {

@@ -68,12 +68,7 @@ void FillTornado(QCustomPlot& plot, const TornadoPicture& picture, const ChartIn
     plot.yAxis->grid()->setVisible(false);
     plot.yAxis->setTickLength(0);
     StyleChartAxis(*plot.xAxis, picture.Axis, inks);
-    plot.legend->setVisible(true);
-    plot.legend->setFont(font);
-    plot.legend->setTextColor(inks.Text);
-    plot.legend->setBrush(QBrush(inks.Ground));
-    plot.legend->setBorderPen(QPen(inks.Axes));
-    plot.axisRect()->insetLayout()->setInsetAlignment(0, Qt::AlignRight | Qt::AlignBottom);
+    PlaceLegend(plot, inks);
 }
 
 std::string TornadoFile(PictureKind kind, const TornadoPicture& picture) {

@@ -119,9 +119,7 @@ void ShowCurve(QCustomPlot& curve, const frmContour& form) {
     curve.legend->setVisible(false);
     const ChartArguments chart = SectionChart(form.Field(), *section);
     FillPlot(curve, chart, look);
-    // A low plot has no room for the words of its upright axis.
-    if (const AxisWords words = WordsOf(chart.YTitle); curve.height() < kCurve && !words.Symbol.empty())
-        curve.yAxis->setLabel(Q(words.Symbol + " [" + words.Unit + "]"));
+    FitUprightTitle(*curve.yAxis, chart.YTitle);
     TellGraphic(curve, Q(ChartReading(chart).Summary()));
     curve.replot(QCustomPlot::rpQueuedReplot);
 }

@@ -53,8 +53,16 @@ void FieldChartView::Show(std::optional<FieldChart> chart, const std::string& wo
 void FieldChartView::Draw() {
     if (!chart_) return;
     FillFieldChart(*plot_, *chart_, WindowInks(palette()));
+    FitTitles();
     cross_->setPen(QPen(ColourOf(Ink::Point, Theme::Light), 1));
     plot_->replot(QCustomPlot::rpQueuedReplot);
+}
+
+// Of the values that go up and of the scale beside them.
+void FieldChartView::FitTitles() {
+    FitUprightTitle(*plot_->yAxis, chart_->YTitle);
+    if (auto* scale = qobject_cast<QCPColorScale*>(plot_->plotLayout()->element(0, 1)))
+        FitUprightTitle(*scale->axis(), chart_->ValueTitle);
 }
 
 void FieldChartView::GoTo(const FieldPoint& place) {
@@ -101,6 +109,7 @@ bool FieldChartView::eventFilter(QObject* watched, QEvent* event) {
             else
                 Leave();
         }
+        if (event->type() == QEvent::Resize) Draw();
         if (event->type() == QEvent::Leave || event->type() == QEvent::FocusOut) Leave();
         if (event->type() == QEvent::KeyPress && Walk(static_cast<QKeyEvent*>(event)->key())) return true;
     }

@@ -31,6 +31,7 @@ class FieldChartView : public QWidget {
 
   private:
     void Draw();
+    void FitTitles();
     void GoTo(const FieldPoint& place);
     void Leave();
     // By the arrow keys; true where it was one.

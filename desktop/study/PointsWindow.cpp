@@ -388,10 +388,13 @@ void PointsWindow::ShowState() {
     const auto bad = std::ranges::count_if(faults_, [](const std::string& fault) { return !fault.empty(); });
     const auto fault = bad > 0 ? points_.Editing().FirstFault() : std::nullopt;
     std::string note = pasted_;
-    if (fault)
-        note = Text(906538_text,
-                    {{"|1", std::to_string(fault->Row + 1)}, {"|2", points_.Editing().Title(fault->Column)}}) +
-               " - " + points_.Editing().Fault(fault->Row, fault->Column).value_or("");
+    if (fault) {
+        // The reason begins with the name of the column, which stands behind the row already.
+        const std::string title = points_.Editing().Title(fault->Column);
+        std::string reason = points_.Editing().Fault(fault->Row, fault->Column).value_or("");
+        if (reason.starts_with(title + ": ")) reason = reason.substr(title.size() + 2);
+        note = Text(906538_text, {{"|1", std::to_string(fault->Row + 1)}, {"|2", title}}) + ": " + reason;
+    }
     if (!trouble_.empty()) note = trouble_;
     // What has become wrong, or is wrong otherwise, is told at once.
     if ((fault || !trouble_.empty()) && isVisible() && note_->text() != Q(note)) SpeakAlert(*note_, Q(note));

@@ -129,6 +129,8 @@ QWidget* StudyWindow::Tabs() {
     contour_->setObjectName(QStringLiteral("contour"));
     drawn_->addWidget(curve_);
     drawn_->addWidget(contour_);
+    // Pages that lie on each other take no edge of their layout.
+    drawn_->setContentsMargins(sizes::kGroupPad, sizes::kGroupPad, sizes::kGroupPad, sizes::kGroupPad);
     add(drawn_, 913227_text);
     table_ = new RowsTab(tabs_);
     add(table_, 913228_text);

@@ -15,6 +15,7 @@
 #include "desktop/ChartView.h"
 #include "desktop/ChartWindow.h"
 #include "kernels/RunKernel.h"
+#include "render/TornadoDocument.h"
 #include "support/Matchers.h"
 
 namespace lithmark::tests {
@@ -269,6 +270,40 @@ TEST_F(ChartWindowTest, SymbolsStandInPrintOnTheScreenAlone) {
     EXPECT_THAT(plot.Reading().ValuesAt(2), StartsWith("t = 1 "));
     QTest::keyClick(&plot, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_THAT(QApplication::clipboard()->text().toStdString(), HasSubstr("Setn"));
+}
+
+// A low plot has no room for the words of its upright axis.
+TEST_F(ChartWindowTest, ATitleThatIsLongerThanThePlotIsHighIsShort) {
+    ChartArguments chart = Chart(8, "Tab3");
+    chart.YTitle = "Normal stress in z-direction σ_z [kN/m²]";
+    ChartView plot(chart, nullptr);
+    plot.resize(600, 600);
+    plot.show();
+    EXPECT_EQ(plot.yAxis->label().toStdString(), chart.YTitle);
+    plot.resize(600, 220);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(plot.yAxis->label().toStdString(), "σ_z [kN/m²]");
+    plot.resize(600, 600);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(plot.yAxis->label().toStdString(), chart.YTitle);
+}
+
+TEST_F(ChartWindowTest, TheLegendOfATornadoStandsAboveItsBars) {
+    TornadoPicture picture;
+    picture.Axis = "Settlement s [cm]";
+    picture.LowLegend = "low";
+    picture.HighLegend = "high";
+    picture.Middle = 5;
+    picture.Bars = {{"a  1 ... 2 m", 4, 6}, {"b  1 ... 2 m", 4, 6}};
+    QCustomPlot plot;
+    plot.resize(400, 200);
+    for (int filled = 0; filled < 2; ++filled) {
+        FillTornado(plot, picture, {});
+        plot.replot();
+        EXPECT_LT(plot.legend->outerRect().bottom(), plot.axisRect()->outerRect().bottom());
+        EXPECT_FALSE(plot.legend->outerRect().intersects(plot.axisRect()->rect()));
+        EXPECT_EQ(plot.legend->itemCount(), 2);
+    }
 }
 
 // A name without an ending takes the one of the chosen kind.

@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
+#include <QPainter>
 #include <QProcess>
 #include <QTabWidget>
 #include <QTableWidget>
@@ -14,6 +15,7 @@
 #include "base/Utf8.h"
 #include "desktop/ChartPane.h"
 #include "desktop/ChartView.h"
+#include "desktop/NumberCells.h"
 #include "desktop/study/PointsWindow.h"
 #include "support/Matchers.h"
 
@@ -145,6 +147,37 @@ TEST_F(PointsWindowTest, SymbolsStandInPrintOnTheScreenAlone) {
     const std::string csv = ReadBytes(file);
     EXPECT_THAT(csv, HasSubstr("Sigma_z"));
     EXPECT_THAT(csv, Not(HasSubstr("σ")));
+}
+
+// A sign stands before its number in a table that runs from right to left, and while it is typed.
+TEST_F(PointsWindowTest, NumbersRunFromLeftToRightInEveryTable) {
+    QTableWidget table(1, 2);
+    table.setItem(0, 0, new QTableWidgetItem(QStringLiteral("-12.5")));
+    table.item(0, 0)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter | Qt::AlignAbsolute);
+    table.setItem(0, 1, new QTableWidgetItem(QStringLiteral("-12.5")));
+    const auto painted = [&](const QAbstractItemDelegate& delegate, int column, Qt::LayoutDirection direction) {
+        QImage image(120, 30, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        QStyleOptionViewItem option;
+        option.initFrom(&table);
+        option.widget = &table;
+        option.font = table.font();
+        option.rect = image.rect();
+        option.direction = direction;
+        painter.setLayoutDirection(direction);
+        delegate.paint(&painter, option, table.model()->index(0, column));
+        return image;
+    };
+    const NumberCells cells;
+    EXPECT_EQ(painted(cells, 0, Qt::RightToLeft), painted(cells, 0, Qt::LeftToRight));
+    EXPECT_NE(painted(QStyledItemDelegate(), 0, Qt::RightToLeft), painted(cells, 0, Qt::LeftToRight));
+    EXPECT_NE(painted(cells, 1, Qt::RightToLeft), painted(cells, 1, Qt::LeftToRight)) << "words follow the window";
+    window_->setLayoutDirection(Qt::RightToLeft);
+    Grid().editItem(Grid().item(0, 1));
+    const auto* editor = Grid().viewport()->findChild<QLineEdit*>();
+    ASSERT_NE(editor, nullptr);
+    EXPECT_EQ(editor->layoutDirection(), Qt::LeftToRight);
 }
 
 TEST_F(PointsWindowTest, UndoTakesAPasteBackAtOnce) {

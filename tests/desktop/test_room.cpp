@@ -15,10 +15,13 @@
 #include <set>
 
 #include "EveryWindow.h"
+#include "desktop/ChartPane.h"
+#include "desktop/ChartView.h"
 #include "desktop/ContourView.h"
 #include "desktop/Palettes.h"
 #include "desktop/ScreenRoom.h"
 #include "desktop/Sizes.h"
+#include "study/window/ChartColumns.h"
 #include "support/Matchers.h"
 
 namespace lithmark::tests {
@@ -149,6 +152,27 @@ TEST_F(RoomTest, TheChartOfATableIsBesideItsRowsOrBehindATab) {
     if (!small) return;
     tabs->setCurrentIndex(1);
     EXPECT_TRUE(chart->isVisible());
+}
+
+// Boxes of more rows than two stand above the plot, where they would take its height beside it.
+TEST_F(RoomTest, ManyCurvesLeaveTheirPlotItsHeight) {
+    const bool small = QApplication::primaryScreen()->availableGeometry().height() < 600;
+    std::vector<ChartColumn> columns = {{"", LineStyle::Solid, {1, 2}}};
+    for (int i = 1; i <= 9; ++i)
+        columns.push_back({"z = " + std::to_string(i) + ".25 m", LineStyle::Solid, {1.0 * i, 2.0 * i}});
+    ChartPane pane(ChartOfColumns("", "z [m]", "Settlement s [cm]", columns), nullptr, 560);
+    pane.resize(560, 300);
+    pane.show();
+    QCoreApplication::processEvents();
+    const auto* box = pane.findChild<QWidget*>(QStringLiteral("chkCurve(9)"));
+    const QRect boxes(box->mapTo(&pane, QPoint()), box->size());
+    const QRect plot(pane.Plot().mapTo(&pane, QPoint()), pane.Plot().size());
+    EXPECT_EQ(boxes.left() > plot.right(), small);
+    EXPECT_EQ(boxes.bottom() < plot.top(), !small);
+    EXPECT_FALSE(boxes.intersects(plot));
+    if (small) {
+        EXPECT_GE(plot.height(), 220);
+    }
 }
 
 // All of the height is the plot's, with legend and buttons in two columns at its side.

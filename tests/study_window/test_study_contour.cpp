@@ -92,6 +92,18 @@ TEST_F(StudyContourTest, APictureHasTheDecimalSignOfTheLanguage) {
     EXPECT_EQ(ContourWords(question, *chart), "s von 4,5 bis 16,5 cm; h von 2 bis 6 m; z von 1 bis 9 m");
 }
 
+// In a line from right to left a number stays before its unit.
+TEST_F(StudyContourTest, AnArabicLineKeepsANumberWithItsUnit) {
+    StartIn(Language::Arabic);
+    StudyQuestion question = Plane();
+    question.Limit = "10";
+    const StudyCurves curves = CurvesOf(question, PlaneTable(question), nullptr);
+    const auto chart = ContourOf(question, curves);
+    ASSERT_TRUE(chart);
+    EXPECT_THAT(chart->LimitName, HasSubstr("\u206810 cm\u2069"));
+    EXPECT_THAT(CrossingText(question, curves), HasSubstr("\u2068h = 4.75 m (z = 1 m)\u2069"));
+}
+
 TEST_F(StudyContourTest, CellsOfARowThatAbortedAreAGap) {
     const StudyQuestion question = Plane();
     // h = 2 m, z = 1 m, a corner of the first cell alone.
