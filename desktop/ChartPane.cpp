@@ -75,7 +75,7 @@ ChartPane::ChartPane(const ChartArguments& chart, QWidget* parent, int legendRoo
     values_ = ReadingLabel(this, "lblValues");
     marks_ = ReadingLabel(this, "lblMarks");
     drawn_->setSpacing(sizes::kEdge);
-    drawn_->addWidget(plot_, 1);
+    drawn_->insertWidget(0, plot_, 1);
     column_->addLayout(drawn_, 1);
     auto* readings = new QVBoxLayout;
     readings->setSpacing(2);

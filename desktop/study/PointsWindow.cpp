@@ -353,7 +353,7 @@ void PointsWindow::ShowRow(int row) {
         std::string text;
         if (column == last) {
             text = !fault.empty() ? fault : line == nullptr ? "" : line->Status;
-            if (noticed) text = Together(text) + " - " + Together(NoticeWords(line->Notices));
+            if (noticed) text = Together(text) + " - " + NoticeWords(line->Notices);
         } else if (line != nullptr && !line->Aborted()) {
             const auto place = static_cast<std::size_t>(column - first);
             const float number = line->Numbers[place];
