@@ -122,7 +122,7 @@ QGroupBox* StudyAsk::ResultGroup() {
         box->setObjectName(NumberedName("chkTake", static_cast<int>(i) + 1));
         box->setToolTip(Q(result.Label));
         // "σ z, vertical stress"
-        box->setAccessibleName(Q(result.Symbol).replace(QLatin1Char('_'), QLatin1Char(' ')) + QStringLiteral(", ") +
+        box->setAccessibleName(Q(result.Short()).replace(QLatin1Char('_'), QLatin1Char(' ')) + QStringLiteral(", ") +
                                Q(result.Label));
         box->setChecked(question_.Taken[i]);
         connect(box, &QCheckBox::toggled, this, [this, i](bool on) {
