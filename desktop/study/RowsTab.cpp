@@ -81,8 +81,7 @@ void RowsTab::ShowRow(int row, const ShownRows& rows) {
         const QString crossed = shown.Crossed ? Q(Text(913651_text)) : QString();
         const bool notices = column == rows_->columnCount() - 1 && !shown.Notices.empty();
         item->setToolTip(!words    ? crossed
-                         : notices ? item->text() + QLatin1Char('
-') + Q(shown.Notices)
+                         : notices ? item->text() + QLatin1Char('\n') + Q(shown.Notices)
                                    : item->text());
         const QString said = Q(Text(906538_text, {{"|1", std::to_string(row + 1)}, {"|2", rows.Heads[place]}}) + ", " +
                                shown.Cells[place]);
