@@ -312,11 +312,11 @@ void FormView::FitContent() {
     heightWanted_ = wanted.height();
     if (first) return;
     if (pictures) FitWidth();
-    if (grown && wanted.height() > height()) resize(width(), wanted.height());
+    if (grown && wanted.height() > height()) ResizeForContent(*this, QSize(width(), wanted.height()));
 }
 
 void FormView::FitWidth() {
-    resize(sizeHint().boundedTo(ScreenRoom(*this)).width(), height());
+    ResizeForContent(*this, QSize(sizeHint().boundedTo(ScreenRoom(*this)).width(), height()));
 }
 
 void FormView::showEvent(QShowEvent* event) {

@@ -28,6 +28,13 @@ class SizeKeeper : public QObject {
   public:
     explicit SizeKeeper(QWidget& window) : QObject(&window), window_(window) { window.installEventFilter(this); }
 
+    // The window has become another size by itself.
+    void Follow(const QSize& before) {
+        if (!opened_) return;
+        opened_->Width += window_.width() - before.width();
+        opened_->Height += window_.height() - before.height();
+    }
+
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (!event->spontaneous() && event->type() == QEvent::Show) opened_ = PlaceOf(window_);
@@ -48,6 +55,13 @@ class SizeKeeper : public QObject {
 };
 
 }  // namespace
+
+void ResizeForContent(QWidget& window, const QSize& size) {
+    const QSize before = window.size();
+    window.resize(size);
+    for (QObject* child : window.children())
+        if (auto* keeper = dynamic_cast<SizeKeeper*>(child)) keeper->Follow(before);
+}
 
 // Where it stands is the desktop's choice.
 void KeepSize(QWidget& window) {

@@ -79,6 +79,23 @@ TEST_F(KeptSizes, Dialogs) {
     EXPECT_EQ(Opened(makeRate), other);
 }
 
+// A window that grew or shrank with what it shows has not been resized by the user.
+TEST_F(KeptSizes, ADialogThatHidItsDrawingOpensAsItAlwaysDid) {
+    const auto stress = LoadedDialog(Problem::SoilStress);
+    const Make make = [&] { return std::make_unique<FormView>(*stress, nullptr); };
+    const QSize usual = Opened(make);
+    {
+        FormView view(*stress, nullptr);
+        view.show();
+        ClickOn(view, "CmdMoreLess");
+        EXPECT_LT(view.width(), usual.width());
+        view.hide();
+    }
+    EXPECT_THAT(ReadBytes(SettingsFile("settings.json")), Not(HasSubstr("\"Windows\"")));
+    stress->Find("CmdMoreLess")->OnClick();
+    EXPECT_EQ(Opened(make), usual);
+}
+
 TEST_F(KeptSizes, WhatWasLeftOnALargerScreenFitsThisOne) {
     const auto form = LoadedDialog(Problem::Consolidation);
     ListTools().SaveFormPosition("studyWindow", {0, 0, 9000, 8000, false}, kApplicationTitle, "Windows");
