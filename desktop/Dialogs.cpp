@@ -16,6 +16,7 @@
 #include <algorithm>
 
 #include "core/Session.h"
+#include "desktop/CellWords.h"
 #include "desktop/ChosenPath.h"
 #include "desktop/FindBar.h"
 #include "desktop/Icons.h"
@@ -227,6 +228,7 @@ QString ShowFilesOfFolder(QWidget* parent, const QString& folder, const QString&
         table->setItem(row, 2, new QTableWidgetItem(Q(glance.Order)));
         table->setItem(row, 3, new QTableWidgetItem(Q(glance.Changed)));
     }
+    SayCells(*table);
     table->resizeColumnsToContents();
     table->horizontalHeader()->setStretchLastSection(true);
     table->setMinimumSize(640, 320);

@@ -156,7 +156,9 @@ void AnswerList::ShowAnswer(const Answer* answer, const Answer* kept, bool prese
         const std::string fine = FineText(value);
         line.setToolTip(Q(value.Label) + (fine.empty() ? QString() : QStringLiteral(": ") + Q(fine)));
         QString words = InWords(value);
-        if (before != nullptr) words += Q(Text(913032_text, {{"|1", before->Text}}));
+        if (before != nullptr)
+            words +=
+                Q(Text(913032_text, {{"|1", before->Text}})) + QStringLiteral(", ") + Q(DifferenceText(value, *before));
         if (!present) words += QStringLiteral(", ") + Q(Text(913002_text));
         line.setData(Qt::AccessibleTextRole, words);
         line.setData(Qt::AccessibleDescriptionRole, line.toolTip());

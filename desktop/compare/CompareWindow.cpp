@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "desktop/CellWords.h"
 #include "desktop/ChartPane.h"
 #include "desktop/ChartView.h"
 #include "desktop/KeptSize.h"
@@ -163,10 +164,10 @@ void CompareWindow::Show(QTableWidget& table, const std::vector<ComparedRow>& ro
             const bool number = i == kChangeColumn || ((i == kOneColumn || i == kOtherColumn) && !of.Change.empty());
             item->setTextAlignment(Qt::AlignVCenter |
                                    (number ? Qt::AlignRight | Qt::AlignAbsolute : Qt::Alignment(Qt::AlignLeading)));
-            if (i == kSymbolColumn && !of.Symbol.empty())
-                item->setData(Qt::AccessibleTextRole, SpokenSymbol(of.Symbol));
-            else
-                item->setToolTip(cells[i]);
+            QString said = i == kSymbolColumn && !of.Symbol.empty() ? SpokenSymbol(of.Symbol) : cells[i];
+            if (number && i != kChangeColumn) said = (said + QLatin1Char(' ') + Q(of.Unit)).trimmed();
+            item->setData(Qt::AccessibleTextRole, CellInWords(table, row, i, said));
+            if (i != kSymbolColumn) item->setToolTip(cells[i]);
             table.setItem(row, i, item);
         }
     }

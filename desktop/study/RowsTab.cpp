@@ -9,6 +9,7 @@
 #include <QShortcut>
 #include <QTableWidget>
 
+#include "desktop/CellWords.h"
 #include "desktop/NumberCells.h"
 #include "desktop/Toast.h"
 #include "desktop/study/StudySubject.h"
@@ -83,8 +84,7 @@ void RowsTab::ShowRow(int row, const ShownRows& rows) {
         item->setToolTip(!words    ? crossed
                          : notices ? item->text() + QLatin1Char('\n') + Q(shown.Notices)
                                    : item->text());
-        const QString said = Q(Text(906538_text, {{"|1", std::to_string(row + 1)}, {"|2", rows.Heads[place]}}) + ", " +
-                               shown.Cells[place]);
+        const QString said = CellInWords(*rows_, row, column, Q(shown.Cells[place]));
         item->setData(Qt::AccessibleTextRole, crossed.isEmpty() ? said : said + QStringLiteral(", ") + crossed);
     }
 }

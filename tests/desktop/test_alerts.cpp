@@ -252,7 +252,7 @@ TEST_F(AlertTest, APointThatCannotBeTakenIsTold) {
     const std::vector<Alert> told = Taken();
     ASSERT_THAT(told, SizeIs(1));
     EXPECT_EQ(told[0].Object, "lblNote");
-    EXPECT_THAT(told[0].Name, StartsWith("Row 1, z"));
+    EXPECT_THAT(told[0].Name, StartsWith("Row 1, z: "));
 
     PointsTable table = points.Points();
     PointsFill fill(table, PointsFill::Kind::Grid, nullptr);

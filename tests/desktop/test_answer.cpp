@@ -373,7 +373,8 @@ TEST_F(AnswerTest, AKeptAnswerStandsBesideTheNewOne) {
             [&] { return list.item(0)->data(Qt::AccessibleTextRole).toString().contains(QLatin1String("253.5")); },
             kPatience));
         EXPECT_GT(list.Columns().Kept, 0);
-        EXPECT_EQ(list.item(0)->data(Qt::AccessibleTextRole).toString().toStdString(), "σ z, 253.5 kN/m², kept 126.7");
+        EXPECT_EQ(list.item(0)->data(Qt::AccessibleTextRole).toString().toStdString(),
+                  "σ z, 253.5 kN/m², kept 126.7, +100.0 %");
         QTest::mouseClick(&keep, Qt::LeftButton);
         EXPECT_EQ(list.Columns().Kept, 0);
     });

@@ -226,7 +226,12 @@ TEST_F(CompareWindowTest, IsSaidInWords) {
         EXPECT_FALSE(spoken->text(QAccessible::Name).isEmpty()) << name;
     }
     const auto& table = Child<QTableWidget>(window, "differing");
-    EXPECT_EQ(table.item(0, 1)->data(Qt::AccessibleTextRole).toString(), "S c");
+    const auto said = [&](int column) {
+        return table.item(0, column)->data(Qt::AccessibleTextRole).toString().toStdString();
+    };
+    EXPECT_EQ(said(1), "Row 1, Symbol, S c");
+    EXPECT_THAT(said(2), AllOf(StartsWith("Row 1, "), HasSubstr("One"), HasSubstr("12.10"), EndsWith(" cm")));
+    EXPECT_THAT(said(5), AllOf(StartsWith("Row 1, Change, "), HasSubstr("+24.0 %")));
 }
 
 }  // namespace

@@ -61,6 +61,28 @@ TEST_F(GraphicTest, ATableSpeaksOfItsRowsAndOfTheirChart) {
     EXPECT_EQ(Said(chart, QAccessible::Description), "Load [kN] from 7 to 83; Time [days] from 1 to 4.5");
 }
 
+// In every window, and not only in those that edit.
+TEST_F(GraphicTest, EveryCellSaysItsRowAndItsColumn) {
+    std::vector<std::string> failing;
+    int seen = 0;
+    ForAllWindows([&](QWidget& window, const std::string& name) {
+        for (const auto* table : window.findChildren<QTableWidget*>())
+            for (int row = 0; row < table->rowCount(); ++row)
+                for (int column = 0; column < table->columnCount(); ++column) {
+                    const QTableWidgetItem* cell = table->item(row, column);
+                    if (cell == nullptr) continue;
+                    ++seen;
+                    const std::string begin =
+                        Text(906538_text, {{"|1", std::to_string(row + 1)}, {"|2", std::string()}});
+                    const std::string said = cell->data(Qt::AccessibleTextRole).toString().toStdString();
+                    if (!said.starts_with(begin) || said.size() <= begin.size())
+                        failing.push_back(name + ": " + table->objectName().toStdString() + " " + said);
+                }
+    });
+    EXPECT_THAT(failing, IsEmpty());
+    EXPECT_GT(seen, 3 * 20);
+}
+
 // A load counts from the begin of its time step, until the next one.
 TEST_F(GraphicTest, ALoadHistoryIsAStaircase) {
     RowsChart stairs(RowsChart::Kind::Stairs, nullptr), line(RowsChart::Kind::Line, nullptr);
