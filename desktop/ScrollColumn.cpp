@@ -7,7 +7,7 @@ namespace lithmark {
 
 namespace {
 
-constexpr int kLeastHeight = 120;
+constexpr int kLeastShown = 120;
 
 }  // namespace
 
@@ -26,7 +26,7 @@ QSize ScrollColumn::sizeHint() const {
 
 // No line is ever cut at its end, with the bar or without.
 QSize ScrollColumn::minimumSizeHint() const {
-    return {widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width(), kLeastHeight};
+    return {widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width(), kLeastShown};
 }
 
 // The area watches what it holds.

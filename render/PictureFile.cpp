@@ -47,9 +47,13 @@ QImage PixelsOf(const QSize& size, int scale, const Draw& draw) {
 
 }  // namespace
 
+bool IsRecorded(const QPainter& painter) {
+    return painter.paintEngine()->type() == QPaintEngine::Picture;
+}
+
 void DrawOnPage(QCPPainter& painter, const QSize& size, const Draw& draw) {
     constexpr int kPixels = 4;  // for each unit: sharp at four times the size of the screen
-    if (painter.paintEngine()->type() == QPaintEngine::Picture && LanguageTexts().RightToLeft())
+    if (IsRecorded(painter) && LanguageTexts().RightToLeft())
         painter.drawImage(QRect(QPoint(0, 0), size), PixelsOf(size, kPixels, draw));
     else
         draw(painter);

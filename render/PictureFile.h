@@ -8,6 +8,7 @@
 
 class QCPPainter;
 class QPaintDevice;
+class QPainter;
 
 namespace lithmark {
 
@@ -17,8 +18,11 @@ inline constexpr int kUsualSide = 700;
 // Draws on a painter whose units are those of the drawing's size.
 using Draw = std::function<void(QCPPainter&)>;
 
-// Draws on a page that is being painted. A page that is only recorded, as the preview does, would bend Arabic texts
-// when it is replayed: there the drawing is pixels.
+// A page that is only recorded, as the preview's are: replayed, each run of a text stands as one from left to right,
+// which bends Arabic (signs and spaces at a run's ends change their sides).
+bool IsRecorded(const QPainter& painter);
+
+// Draws on a page that is being painted; where it is only recorded and the language is Arabic, as pixels.
 void DrawOnPage(QCPPainter& painter, const QSize& size, const Draw& draw);
 
 // Lines and texts stay such, instead of becoming pixels; the drawing is as large as fits into the extent.

@@ -138,9 +138,8 @@ class ReportPainter {
         if (alignment & Qt::AlignRight) left = area.right() - width;
         if (alignment & Qt::AlignHCenter) left = area.center().x() - width / 2;
         const QPointF at(left - line.naturalTextRect().left(), area.top());
-        // A recorded page (the preview) replays each run of a text as one from left to right, which bends Arabic: signs
-        // and spaces at a run's ends change their sides. Glyphs stay where they are.
-        if (painter_.paintEngine()->type() == QPaintEngine::Picture)
+        // Glyphs stay where they are.
+        if (IsRecorded(painter_))
             for (const QGlyphRun& run : layout.glyphRuns()) painter_.drawGlyphRun(at, run);
         else
             layout.draw(&painter_, at);

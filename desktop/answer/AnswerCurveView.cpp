@@ -24,7 +24,7 @@ namespace {
 constexpr int kPad = 4, kTick = 3, kPointSize = 4, kFewPixels = 56, kLines = 32, kSample = 18;
 constexpr Ink kInks[] = {Ink::Curve1, Ink::Curve2, Ink::Curve3, Ink::Curve4};
 
-struct Range {
+struct Extent {
     double Least = 0, Greatest = 0;
     void Take(double value) {
         if (!std::isfinite(value)) return;
@@ -37,8 +37,8 @@ struct Range {
 };
 
 // Of all lines and points, from 0.
-std::pair<Range, Range> RangesOf(std::initializer_list<const AnswerCurve*> curves) {
-    Range x, y;
+std::pair<Extent, Extent> RangesOf(std::initializer_list<const AnswerCurve*> curves) {
+    Extent x, y;
     for (const AnswerCurve* curve : curves) {
         if (curve == nullptr) continue;
         for (const AnswerCurve::Line& line : curve->Lines) {
@@ -106,7 +106,7 @@ class FigurePainter {
         return {area_.left() + (x - x_.Least) / (x_.Greatest - x_.Least) * area_.width(),
                 area_.top() + (y - y_.Least) / (y_.Greatest - y_.Least) * area_.height()};
     }
-    static AxisTicks TicksOf(const Range& range, double length, int apart, bool whole) {
+    static AxisTicks TicksOf(const Extent& range, double length, int apart, bool whole) {
         return RoundTicks(range.Least, range.Greatest, std::clamp(static_cast<int>(length / apart) + 1, 2, 6), whole);
     }
     static QString Number(double value, int decimals) {
@@ -238,13 +238,13 @@ class FigurePainter {
     QRectF area_;
     double line_ = 0;
     std::vector<QPointF> legend_;
-    Range x_, y_;
+    Extent x_, y_;
 };
 
 // "Stress below the point: σ z 0 to 120 kN/m², z 0 to 8 m"
 QString InWords(const AnswerCurve& curve) {
     const auto [x, y] = RangesOf({&curve});
-    const auto axis = [](const std::string& symbol, const std::string& unit, const Range& range) {
+    const auto axis = [](const std::string& symbol, const std::string& unit, const Extent& range) {
         QString plain = Q(unit);
         plain.remove(QLatin1Char('[')).remove(QLatin1Char(']'));
         return Q(Text(913033_text,

@@ -20,7 +20,7 @@ namespace lithmark {
 namespace {
 
 enum Role { kSymbol = Qt::UserRole, kNow, kKept, kChange, kUnit, kQuiet };
-constexpr int kPad = 4, kLinesShown = 6;
+constexpr int kCellPad = 4, kLinesShown = 6;
 
 QString Plain(QString unit) {
     return unit.remove(QLatin1Char('[')).remove(QLatin1Char(']'));
@@ -38,13 +38,13 @@ QString InWords(const AnswerValue& value) {
 // A line and the head, in the same columns.
 void PaintCells(QPainter& painter, const QRect& line, const AnswerColumns& columns, Qt::LayoutDirection direction,
                 const std::function<void(Role, const QRect&)>& cell) {
-    int at = line.left() + kPad;
+    int at = line.left() + kCellPad;
     for (const auto& [role, width] :
          {std::pair(kSymbol, columns.Symbol), std::pair(kNow, columns.Now), std::pair(kKept, columns.Kept),
           std::pair(kChange, columns.Change), std::pair(kUnit, columns.Unit)}) {
         if (width == 0) continue;
         const QRect place(at, line.top(), width, line.height());
-        cell(role, QStyle::visualRect(direction, line, place).adjusted(kPad, 0, -kPad, 0));
+        cell(role, QStyle::visualRect(direction, line, place).adjusted(kCellPad, 0, -kCellPad, 0));
         at += width;
     }
     painter.setPen(Qt::NoPen);
@@ -79,7 +79,7 @@ class LinePainter : public QStyledItemDelegate {
         });
     }
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override {
-        return {0, std::max(option.fontMetrics.height() + kPad, sizes::kClicked - kPad)};
+        return {0, std::max(option.fontMetrics.height() + kCellPad, sizes::kClicked - kCellPad)};
     }
 
   private:
@@ -184,24 +184,24 @@ void AnswerList::FitColumns() {
             const QString text = item(i)->data(role).toString();
             const int wide =
                 role == kSymbol ? SymbolWidth(font(), text.toStdString()) : metrics.horizontalAdvance(text);
-            width = std::max(width, wide + 2 * kPad);
+            width = std::max(width, wide + 2 * kCellPad);
         }
         return width;
     };
     bool kept = false;
     for (int i = 0; i < count(); ++i) kept = kept || !item(i)->data(kKept).toString().isEmpty();
-    const auto headed = [&](TextId head) { return metrics.horizontalAdvance(Q(Text(head))) + 2 * kPad; };
+    const auto headed = [&](TextId head) { return metrics.horizontalAdvance(Q(Text(head))) + 2 * kCellPad; };
     columns_.Symbol = widest(kSymbol, sizes::kSymbolWidth);
     columns_.Now = widest(kNow, std::max({metrics.horizontalAdvance(QStringLiteral("-0000.00")), headed(913001_text),
                                           headed(913650_text)}));
     columns_.Kept = kept ? widest(kKept, headed(913003_text)) : 0;
-    columns_.Change = kept ? widest(kChange, metrics.horizontalAdvance(QStringLiteral("+10.0 %")) + 2 * kPad) : 0;
+    columns_.Change = kept ? widest(kChange, metrics.horizontalAdvance(QStringLiteral("+10.0 %")) + 2 * kCellPad) : 0;
     columns_.Unit = widest(kUnit, 0);
     PlaceHead();
 }
 
 void AnswerList::PlaceHead() {
-    const int height = QFontMetrics(font()).height() + kPad;
+    const int height = QFontMetrics(font()).height() + kCellPad;
     setViewportMargins(0, height, 0, 0);
     head_->setGeometry(QRect(viewport()->x(), viewport()->y() - height, viewport()->width(), height));
 }
@@ -220,7 +220,7 @@ void AnswerList::resizeEvent(QResizeEvent* event) {
 QSize AnswerList::sizeHint() const {
     const int line = count() > 0 ? sizeHintForRow(0) : sizes::kClicked;
     const int lines = std::max(count(), kLinesShown);
-    return {sizes::kAnswerWidth, (lines + 1) * line + 2 * kPad};
+    return {sizes::kAnswerWidth, (lines + 1) * line + 2 * kCellPad};
 }
 
 QSize AnswerList::minimumSizeHint() const {

@@ -16,7 +16,8 @@ constexpr int kExitAfterInterrupt = 130;  // 128 + SIGINT, as shells tell it
 
 volatile std::sig_atomic_t interrupted = 0;
 
-extern "C" void OnInterrupt(int signal) {
+extern "C" {
+static void OnInterrupt(int signal) {
     std::signal(signal, OnInterrupt);  // some systems forget a handler that they have called
     if (interrupted != 0) {
         RemoveRegisteredFiles();
@@ -24,6 +25,7 @@ extern "C" void OnInterrupt(int signal) {
     }
     interrupted = 1;
 }
+}  // extern "C"
 
 }  // namespace
 

@@ -33,6 +33,9 @@
 
 namespace lithmark::tests {
 
+// How long a test waits for what another process works out, in milliseconds.
+inline constexpr int kWorkPatience = 60000;
+
 class ScreenRun {
   public:
     // Starts the program on a settings folder; the clock makes the splash's wait short.

@@ -10,9 +10,11 @@
 
 #include "EveryWindow.h"
 #include "ScreenRun.h"
+#include "core/Catalogue.h"
 #include "desktop/Toast.h"
 #include "desktop/answer/AnswerView.h"
 #include "support/Matchers.h"
+#include "ui/ProblemForms.h"
 #include "ui/frmNumberFormats.h"
 #include "ui/frmPreferences.h"
 #include "ui/frmResultTools.h"
@@ -112,11 +114,11 @@ TEST_F(AlertTest, AnUnfinishedBoxIsToldAsItIsLeftForAnotherBox) {
 // Every dialog of a problem: each box that a text can spoil tells it.
 TEST_F(AlertTest, EveryBoxOfEveryProblemTells) {
     int boxes = 0;
-    for (const FormRow& row : AllForms()) {
+    for (const ProblemRow& row : ProblemCatalogue()) {
+        if (!HasProblemForm(row.ProblemType)) continue;
         StartIn(Language::English);
         Session.ProblemType = row.ProblemType;
-        const std::unique_ptr<Form> form = row.Make();
-        if (dynamic_cast<ProblemForm*>(form.get()) == nullptr) continue;
+        const std::unique_ptr<ProblemForm> form = MakeProblemForm(row.ProblemType);
         form->Reopen();
         form->Load();
         FormView view(*form, nullptr);

@@ -15,6 +15,7 @@
 
 #include "../ui/AllForms.h"
 #include "../ui/FormTest.h"
+#include "ScreenRun.h"
 #include "core/Catalogue.h"
 #include "core/SessionFields.h"
 #include "desktop/FormView.h"
@@ -36,8 +37,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr Language kAll[] = {Language::German, Language::English, Language::Arabic};
-constexpr int kPatience = 60000;
-
 struct Example {
     const char* Name;
     int Problem;
@@ -129,7 +128,7 @@ class AnswerTest : public FormTest {
         FAIL() << "no dialog";
     }
     static void Await(AnswerView& answer, AnswerState state = AnswerState::Now) {
-        EXPECT_TRUE(QTest::qWaitFor([&] { return answer.Model().State() == state; }, kPatience))
+        EXPECT_TRUE(QTest::qWaitFor([&] { return answer.Model().State() == state; }, kWorkPatience))
             << static_cast<int>(answer.Model().State()) << answer.Model().Reason();
     }
     static QLineEdit& Box(FormView& view, const char* name) {
@@ -248,7 +247,7 @@ TEST_F(AnswerTest, AKeyGivesANewAnswerAndChangesNothing) {
                     return answer.Model().State() == AnswerState::Now &&
                            answer.Model().Shown()->Values[0].Text != before;
                 },
-                kPatience));
+                kWorkPatience));
             EXPECT_EQ(WholeRecord(), record);
             EXPECT_EQ(BytesBelow(DataDir()), files);
             auto after = BytesBelow(Session.ProgramDir);
@@ -328,7 +327,7 @@ TEST_F(AnswerTest, AnUnfinishedNumberIsNotMarkedBeforeItIsLeft) {
         EXPECT_NE(view.ShownMark(*form.Find("txt_Nue")), "");
         Keys(view, "txt_Nue", "-");
         EXPECT_EQ(view.ShownMark(*form.Find("txt_Nue")), "");
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !view.ShownMark(*form.Find("txt_Nue")).empty(); }, kPatience));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !view.ShownMark(*form.Find("txt_Nue")).empty(); }, kWorkPatience));
     });
 }
 
@@ -371,7 +370,7 @@ TEST_F(AnswerTest, AKeptAnswerStandsBesideTheNewOne) {
         Keys(view, "txt_P", "440");
         EXPECT_TRUE(QTest::qWaitFor(
             [&] { return list.item(0)->data(Qt::AccessibleTextRole).toString().contains(QLatin1String("253.5")); },
-            kPatience));
+            kWorkPatience));
         EXPECT_GT(list.Columns().Kept, 0);
         EXPECT_EQ(list.item(0)->data(Qt::AccessibleTextRole).toString().toStdString(),
                   "σ z, 253.5 kN/m², kept 126.7, +100.0 %");

@@ -22,8 +22,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kPatience = 60000;
-
 class CompareWindowTest : public ::testing::Test {
   protected:
     CompareWindowTest() {
@@ -60,7 +58,7 @@ class CompareWindowTest : public ::testing::Test {
         });
     }
     static void WaitForResults(QWidget& window) {
-        ASSERT_TRUE(QTest::qWaitFor([&] { return dynamic_cast<CompareWindow&>(window).Worked(); }, kPatience));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return dynamic_cast<CompareWindow&>(window).Worked(); }, kWorkPatience));
     }
     static std::string Cell(const QTableWidget& table, int row, int column) {
         QString text = table.item(row, column)->text();

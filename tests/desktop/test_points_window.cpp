@@ -22,8 +22,6 @@
 namespace lithmark::tests {
 namespace {
 
-constexpr int kPointsPatience = 60000;
-
 class PointsWindowTest : public FormTest {
   protected:
     PointsWindowTest() {
@@ -36,7 +34,7 @@ class PointsWindowTest : public FormTest {
     void Await(std::size_t rows) {
         EXPECT_TRUE(QTest::qWaitFor(
             [&] { return window_->Table() && !window_->Working() && window_->Table()->Lines().size() == rows; },
-            kPointsPatience))
+            kWorkPatience))
             << Child<QLabel>(*window_, "lblNote").text().toStdString();
         QTest::qWait(0);
     }
@@ -63,7 +61,7 @@ TEST_F(PointsWindowTest, EveryResultIsTheOneThatAReportOfThePointPrints) {
                   << QStringLiteral("%1=%2").arg(QChar(u'x' + c)).arg(QString::fromStdString(Cell(row, c)));
         for (const std::string& word : project.Options()) words << QString::fromStdString(word);
         report.start(QString::fromStdString(CliProcess::Program()), words);
-        ASSERT_TRUE(report.waitForFinished(kPointsPatience));
+        ASSERT_TRUE(report.waitForFinished(kWorkPatience));
         const std::string text = report.readAllStandardOutput().toStdString();
         for (std::size_t i = 0; i < window_->Points().Results().size(); ++i) {
             const ResultChoice& result = window_->Points().Results()[i];
@@ -97,7 +95,7 @@ TEST_F(PointsWindowTest, AWrongRowSaysWhyAndTheOthersAreWorked) {
 TEST_F(PointsWindowTest, AGridIsAskedForAndDrawnOverTheDepth) {
     Await(1);
     QTimer::singleShot(0, window_.get(), [&] {
-        EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }, kPointsPatience));
+        EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }, kWorkPatience));
         QWidget& fill = *QApplication::activeModalWidget();
         TypeInto(fill, "txtFrom(1)", "0");
         TypeInto(fill, "txtTo(1)", "2");

@@ -28,7 +28,6 @@
 namespace lithmark::tests {
 namespace {
 
-constexpr int kStudyPatience = 60000;
 constexpr int kCurveTab = 0, kTableTab = 1, kTornadoTab = 3;
 
 class StudyWindowTest : public FormTest {
@@ -54,7 +53,7 @@ class StudyWindowTest : public FormTest {
                 if (work.EndOfRows() == StudyWork::RowsEnd::Promised) ClickOn(window, "cmdRun");
                 return work.EndOfRows() == StudyWork::RowsEnd::Done;
             },
-            kStudyPatience))
+            kWorkPatience))
             << work.Trouble();
     }
     static std::string Command(QWidget& window) { return Child<QLineEdit>(window, "txtCommand").text().toStdString(); }
@@ -64,7 +63,7 @@ class StudyWindowTest : public FormTest {
         shell.setWorkingDirectory(QString::fromStdString(SharedServices().ExecutableDir()));
         const std::string text = "./" + command + " --settings '" + Session.ProgramDir + "' --lang en";
         shell.start(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), QString::fromStdString(text)});
-        EXPECT_TRUE(shell.waitForFinished(kStudyPatience));
+        EXPECT_TRUE(shell.waitForFinished(kWorkPatience));
         return shell.readAllStandardOutput().toStdString();
     }
     // Without the last column, which names the study: the saved project is another one than its scratch copy only there
@@ -106,7 +105,7 @@ TEST_F(StudyWindowTest, TheRowsAreWhatTheCommandGivesThatTheWindowShows) {
     Child<QCheckBox>(*window, "chkTake(2)").click();
     TypeInto(*window, "txtLimit", "5");
     AwaitRows(*window);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window->Work().Rows()->Wanted() == 8; }, kStudyPatience));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->Work().Rows()->Wanted() == 8; }, kWorkPatience));
     AwaitRows(*window);
     EXPECT_THAT(Command(*window), StartsWith("lithmark-cli study " + DataFile("P1.PO3") + " --vary 'h="));
     EXPECT_THAT(Command(*window), HasSubstr("--take s --take Sigma_z --limit s=5"));
@@ -136,7 +135,7 @@ TEST_F(StudyWindowTest, LookingChangesNothing) {
         AwaitRows(*window);
         TypeInto(*window, "txtFrom(1)", "1");
         Choose(*window, "cboField(2)", 1);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return window->Work().Question()->Varied(1) != nullptr; }, kStudyPatience));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return window->Work().Question()->Varied(1) != nullptr; }, kWorkPatience));
         AwaitRows(*window);
     }
     EXPECT_EQ(look(), fields);
@@ -153,7 +152,7 @@ TEST_F(StudyWindowTest, ALimitIsFoundBetweenTwoRowsAndByTheSearch) {
     const double limit =
         (static_cast<double>(lines.front().Numbers[0]) + static_cast<double>(lines.back().Numbers[0])) / 2;
     TypeInto(*window, "txtLimit", std::to_string(limit));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window->Work().Question()->LimitNumber().has_value(); }, kStudyPatience));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->Work().Question()->LimitNumber().has_value(); }, kWorkPatience));
     AwaitRows(*window);
     const std::string answer = Child<QLabel>(*window, "lblAnswer").text().toStdString();
     EXPECT_THAT(answer, HasSubstr(" at h = "));
@@ -168,7 +167,7 @@ TEST_F(StudyWindowTest, ALimitIsFoundBetweenTwoRowsAndByTheSearch) {
     EXPECT_EQ(marked, 2);
     ClickOn(*window, "cmdFind");
     EXPECT_THAT(Command(*window), HasSubstr(" --find h="));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !window->Work().Found().empty(); }, kStudyPatience))
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window->Work().Found().empty(); }, kWorkPatience))
         << window->Work().Trouble();
     // The command's own answer.
     const StudyAnswer told(RunInShell(Command(*window)));
@@ -189,7 +188,7 @@ TEST_F(StudyWindowTest, WhatCannotBeTakenIsMarkedAndTold) {
     EXPECT_FALSE(Child<QPushButton>(*window, "cmdRun").isEnabled());
     EXPECT_EQ(Command(*window), "");
     TypeInto(*window, "txtCount(1)", "5");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window->Work().Rows()->Wanted() == 5; }, kStudyPatience));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->Work().Rows()->Wanted() == 5; }, kWorkPatience));
     AwaitRows(*window);
     EXPECT_EQ(Child<QLabel>(*window, "lblProgress").text().toStdString(), "5 of 5 rows");
 }
@@ -237,7 +236,7 @@ TEST_F(StudyWindowTest, KeysStepANumber) {
     EXPECT_EQ(count.text().toStdString(), "22");
     QTest::keyClick(&count, Qt::Key_PageDown);
     EXPECT_EQ(count.text().toStdString(), "12");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window->Work().Rows()->Wanted() == 12; }, kStudyPatience));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->Work().Rows()->Wanted() == 12; }, kWorkPatience));
     AwaitRows(*window);
     EXPECT_THAT(Command(*window), HasSubstr(":*12"));
     // The command is read and not stepped.
@@ -269,7 +268,7 @@ TEST_F(StudyWindowTest, AChartOfTheSameRowsStaysAsItWasLeft) {
     EXPECT_EQ(plot.xAxis->range(), range);
     // Other rows are another chart.
     TypeInto(*window, "txtCount(1)", "5");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return plot.Reading().Rows() <= 6; }, kStudyPatience));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return plot.Reading().Rows() <= 6; }, kWorkPatience));
     EXPECT_FALSE(plot.A());
 }
 
@@ -312,7 +311,7 @@ TEST_F(StudyWindowTest, BarsOfFormerBoxesSaySo) {
     AwaitRows(*window);
     Child<QTabWidget>(*window, "tabs").setCurrentIndex(kTornadoTab);
     const auto done = [&] { return !window->Work().Bars().empty() && window->Work().Doing() == StudyWork::Job::None; };
-    ASSERT_TRUE(QTest::qWaitFor(done, kStudyPatience));
+    ASSERT_TRUE(QTest::qWaitFor(done, kWorkPatience));
     const auto& state = Child<QLabel>(*window, "lblProgress");
     EXPECT_THAT(state.text().toStdString(), Not(HasSubstr("former")));
     TypeInto(*window, "txtSwing", "120");
@@ -320,7 +319,7 @@ TEST_F(StudyWindowTest, BarsOfFormerBoxesSaySo) {
     EXPECT_TRUE(Child<QWidget>(*window, "tornado").isVisible());
     TypeInto(*window, "txtSwing", "20");
     ASSERT_TRUE(
-        QTest::qWaitFor([&] { return done() && !state.text().contains(QLatin1String("former")); }, kStudyPatience));
+        QTest::qWaitFor([&] { return done() && !state.text().contains(QLatin1String("former")); }, kWorkPatience));
 }
 
 TEST_F(StudyWindowTest, RandomSamplesGiveAHistogram) {
@@ -332,7 +331,7 @@ TEST_F(StudyWindowTest, RandomSamplesGiveAHistogram) {
     const auto& random = Child<QComboBox>(*window, "cboRandom(1)");
     Choose(*window, "cboRandom(1)", random.findText(QStringLiteral("h  "), Qt::MatchStartsWith));
     TypeInto(*window, "txtSamples", "200");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window->Work().Rows()->Wanted() == 200; }, kStudyPatience));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->Work().Rows()->Wanted() == 200; }, kWorkPatience));
     AwaitRows(*window);
     EXPECT_TRUE(tabs.isTabEnabled(2));
     EXPECT_FALSE(tabs.isTabEnabled(0));
@@ -345,7 +344,7 @@ TEST_F(StudyWindowTest, ATornadoOfAllQuantitiesIsThatOfTheCommand) {
     const auto window = Open();
     AwaitRows(*window);
     Child<QTabWidget>(*window, "tabs").setCurrentIndex(3);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !window->Work().Bars().empty(); }, kStudyPatience))
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window->Work().Bars().empty(); }, kWorkPatience))
         << window->Work().Trouble();
     EXPECT_THAT(Command(*window), HasSubstr("--tornado"));
     const StudyAnswer told(RunInShell(Command(*window)));
@@ -364,9 +363,9 @@ TEST_F(StudyWindowTest, CancelKeepsTheRowsSoFarAndSaysHowManyAreMissing) {
     ClickOn(*window, "cmdRun");
     const StudyWork& work = window->Work();
     ASSERT_TRUE(QTest::qWaitFor([&] { return !work.Rows()->Lines().empty() && work.Rows()->Wanted() == 70000; },
-                                kStudyPatience));
+                                kWorkPatience));
     ClickOn(*window, "cmdCancel");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return work.Doing() == StudyWork::Job::None; }, kStudyPatience));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return work.Doing() == StudyWork::Job::None; }, kWorkPatience));
     if (work.EndOfRows() == StudyWork::RowsEnd::Done) GTEST_SKIP() << "faster than the click";
     EXPECT_EQ(work.EndOfRows(), StudyWork::RowsEnd::Cancelled);
     const std::size_t rows = work.Rows()->Lines().size();
@@ -383,7 +382,7 @@ TEST_F(StudyWindowTest, TwoQuantitiesAreDrawnAsContourLines) {
     EXPECT_EQ(Child<QLineEdit>(*window, "txtCount(2)").text().toStdString(), "15");
     TypeInto(*window, "txtCount(1)", "6");
     TypeInto(*window, "txtCount(2)", "5");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window->Work().Rows()->Wanted() == 30; }, kStudyPatience));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->Work().Rows()->Wanted() == 30; }, kWorkPatience));
     AwaitRows(*window);
     auto& view = dynamic_cast<FieldChartView&>(Child<QWidget>(*window, "contour"));
     EXPECT_TRUE(view.isVisible());
@@ -410,7 +409,7 @@ TEST_F(StudyWindowTest, TwoQuantitiesAreDrawnAsContourLines) {
     EXPECT_THAT(under.text().toStdString(), HasSubstr(" m: s = "));
     // As curves again, and the same rows.
     ClickOn(*window, "optDraw(1)");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return Child<QWidget>(*window, "curve").isVisible(); }, kStudyPatience));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Child<QWidget>(*window, "curve").isVisible(); }, kWorkPatience));
 }
 
 TEST_F(StudyWindowTest, TheCommandIsCopied) {
@@ -447,7 +446,7 @@ TEST_F(StudyWindowTest, TheDialogsButtonOpensTheStudyOfTheBoxThatHadTheFocus) {
     form_->Focus = form_->Find("txt_h");
     std::string first;
     QTimer::singleShot(0, &view, [&] {
-        EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }, kStudyPatience));
+        EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }, kWorkPatience));
         QWidget* modal = QApplication::activeModalWidget();
         ASSERT_NE(modal, nullptr);
         EXPECT_EQ(modal->objectName().toStdString(), "studyWindow");
@@ -461,7 +460,7 @@ TEST_F(StudyWindowTest, TheDialogsButtonOpensTheStudyOfTheBoxThatHadTheFocus) {
     view.Refresh();
     std::string told;
     QTimer::singleShot(0, &view, [&] {
-        EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }, kStudyPatience));
+        EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }, kWorkPatience));
         told = QApplication::activeModalWidget()->objectName().toStdString();
         QApplication::activeModalWidget()->close();
     });

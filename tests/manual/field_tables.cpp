@@ -5,7 +5,6 @@
 #include <nlohmann/json.hpp>
 #include <string>
 
-#include "AllForms.h"
 #include "ChangedField.h"
 #include "FormTest.h"
 #include "core/Units.h"
@@ -15,8 +14,6 @@ using namespace lithmark::tests;
 using nlohmann::ordered_json;
 
 namespace {
-
-constexpr int kProblems = 10;
 
 ordered_json LimitOf(const FieldForm& form, const Limit& limit, double factor) {
     const auto number = [&] { return limit.Shown(factor, kNoLimit); };
@@ -42,14 +39,11 @@ std::string CheckedOf(CheckedWhen when) {
 
 class Tables : public FormTest {
   public:
-    ordered_json Of(const FormRow& row, Language language) {
-        StartIn(language);
-        Session.ProblemType = row.ProblemType;
-        const auto form = row.Make();
-        ordered_json table;
-        host.OnForm([&](Form& shown) { table = TableOf(dynamic_cast<ProblemForm&>(shown)); });
-        CurrentHost().ShowForm(*form);
-        return table;
+    ordered_json In(Language language) {
+        ordered_json tables;
+        OnEachProblem([&](ProblemForm& form) { tables[std::to_string(Session.ProblemType)] = TableOf(form); },
+                      [&](int) { StartIn(language); });
+        return tables;
     }
 
   private:
@@ -98,10 +92,6 @@ int main() {
     ordered_json all;
     for (const auto& [name, language] :
          std::map<std::string, Language>{{"ar", Language::Arabic}, {"de", Language::German}, {"en", Language::English}})
-        for (int problem = 1; problem <= kProblems; ++problem)
-            for (const FormRow& row : AllForms())
-                if (row.ProblemType == problem && dynamic_cast<ProblemForm*>(row.Make().get()) != nullptr &&
-                    !all[name].contains(std::to_string(problem)))
-                    all[name][std::to_string(problem)] = Tables().Of(row, language);
+        all[name] = Tables().In(language);
     std::cout << all.dump(1) << '\n';
 }

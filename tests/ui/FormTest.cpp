@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "core/Catalogue.h"
 #include "core/StartSession.h"
 #include "report/Notices.h"
 #include "services/ProjectStore.h"
 #include "services/SharedServices.h"
+#include "ui/ProblemForms.h"
 #include "ui/frmResultTools.h"
 #include "ui/model/ResultViewer.h"
 
@@ -44,6 +46,24 @@ std::vector<std::string> FormTest::DataFiles() const {
         if (entry.path().extension() != ".lock") names.push_back(entry.path().filename());
     std::sort(names.begin(), names.end());
     return names;
+}
+
+void FormTest::OnEachProblem(const std::function<void(ProblemForm&)>& script, const std::function<void(int)>& prepare) {
+    int shown = 0;
+    for (const ProblemRow& row : ProblemCatalogue()) {
+        const int problem = row.ProblemType;
+        if (!HasProblemForm(problem)) continue;
+        if (prepare) prepare(problem);
+        Session.ProblemType = problem;
+        const auto form = MakeProblemForm(problem);
+        SCOPED_TRACE(form->Name + " of problem " + std::to_string(problem));
+        host.OnForm([&](Form& dialog) {
+            ++shown;
+            script(dynamic_cast<ProblemForm&>(dialog));
+        });
+        CurrentHost().ShowForm(*form);
+    }
+    EXPECT_EQ(shown, 10);
 }
 
 std::string Lines(std::initializer_list<const char*> values) {

@@ -16,6 +16,7 @@
 #include "services/texts/LanguageTexts.h"
 #include "support/Files.h"
 #include "support/ScriptedHost.h"
+#include "ui/model/ProblemForm.h"
 #include "ui/model/ProjectFlags.h"
 
 namespace lithmark::tests {
@@ -39,6 +40,9 @@ class FormTest : public ::testing::Test {
         host.OnForm<F>(std::move(script));
         CurrentHost().ShowForm(form);
     }
+
+    // Plays a script on the dialog of each of the ten problems, shown in a session of its problem that `prepare` made.
+    void OnEachProblem(const std::function<void(ProblemForm&)>& script, const std::function<void(int)>& prepare = {});
 
     ScriptedHost host;
 

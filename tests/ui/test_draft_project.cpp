@@ -3,7 +3,6 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "AllForms.h"
 #include "FormTest.h"
 #include "core/Catalogue.h"
 #include "core/Units.h"
@@ -24,15 +23,9 @@ class DraftProjectTest : public FormTest {
   protected:
     // Plays a script in the dialog of every problem, with a box of it changed.
     void InEveryDialog(const std::function<void(ProblemForm&)>& script) {
-        int dialogs = 0;
-        for (const FormRow& row : AllForms()) {
-            const auto form = row.Make();
-            if (dynamic_cast<ProblemForm*>(form.get()) == nullptr) continue;
-            SCOPED_TRACE(form->Name + " of problem " + std::to_string(row.ProblemType));
-            ++dialogs;
-            Session.ProblemType = row.ProblemType;
-            host.OnForm([&](Form& shown) {
-                auto& dialog = dynamic_cast<ProblemForm&>(shown);
+        const auto forget = [](int) { fs::remove_all(SharedServices().StateDir()); };
+        OnEachProblem(
+            [&](ProblemForm& dialog) {
                 for (const char* box : {"txt_Q", "txt_P", "txt_Pt", "txt_T"}) {
                     const Control* control = dialog.Find(box);
                     if (control == nullptr || !control->Visible || !control->Enabled) continue;
@@ -41,11 +34,8 @@ class DraftProjectTest : public FormTest {
                 }
                 EXPECT_TRUE(dialog.Modified());
                 script(dialog);
-            });
-            CurrentHost().ShowForm(*form);
-            fs::remove_all(SharedServices().StateDir());
-        }
-        EXPECT_EQ(dialogs, 10);
+            },
+            forget);
     }
     // The report of the command line for a draft.
     std::string ReportOf(const DraftProject& draft) const {

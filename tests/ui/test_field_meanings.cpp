@@ -1,7 +1,6 @@
 // What listings and scripts are told of a field is what its dialog says of it.
 #include <set>
 
-#include "AllForms.h"
 #include "ChangedField.h"
 #include "FormTest.h"
 #include "core/FieldMeanings.h"
@@ -45,15 +44,8 @@ class MeaningsOfForms : public FormTest {
   protected:
     // Each problem's dialog in a session of its problem.
     void ForEachProblem(const std::function<void(int, ProblemForm&)>& script) {
-        for (const FormRow& row : AllForms()) {
-            if (dynamic_cast<ProblemForm*>(row.Make().get()) == nullptr) continue;
-            StartIn(Language::English);
-            Session.ProblemType = row.ProblemType;
-            const auto form = row.Make();
-            SCOPED_TRACE(form->Name + " of problem " + std::to_string(row.ProblemType));
-            host.OnForm([&](Form& shown) { script(row.ProblemType, dynamic_cast<ProblemForm&>(shown)); });
-            CurrentHost().ShowForm(*form);
-        }
+        OnEachProblem([&](ProblemForm& form) { script(Session.ProblemType, form); },
+                      [&](int) { StartIn(Language::English); });
     }
 };
 

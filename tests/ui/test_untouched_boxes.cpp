@@ -3,7 +3,6 @@
 #include <cstdlib>
 #include <string>
 
-#include "AllForms.h"
 #include "FormTest.h"
 #include "core/Catalogue.h"
 #include "core/SessionFields.h"
@@ -12,6 +11,9 @@
 #include "support/DistinctFields.h"
 #include "support/Matchers.h"
 #include "support/Places.h"
+#include "ui/frmPreferences.h"
+#include "ui/frmResultTools.h"
+#include "ui/frmstress.h"
 
 namespace lithmark::tests {
 namespace {
@@ -45,19 +47,12 @@ class UntouchedBoxes : public FormTest {
     }
     // Plays a script on each dialog of a problem, shown on odd data in coarse units.
     void ForEachProblem(const std::function<void(int, ProblemForm&)>& script) {
-        int dialogs = 0;
-        for (const FormRow& row : AllForms()) {
-            const auto form = row.Make();
-            if (dynamic_cast<ProblemForm*>(form.get()) == nullptr) continue;
-            ++dialogs;
-            SCOPED_TRACE(form->Name + " of problem " + std::to_string(row.ProblemType));
-            StartIn(Language::English);
-            UseCoarseUnits();
-            SaveOddData(row.ProblemType);
-            host.OnForm([&](Form& shown) { script(row.ProblemType, dynamic_cast<ProblemForm&>(shown)); });
-            CurrentHost().ShowForm(*form);
-        }
-        EXPECT_GE(dialogs, 3);
+        OnEachProblem([&](ProblemForm& form) { script(Session.ProblemType, form); },
+                      [&](int problem) {
+                          StartIn(Language::English);
+                          UseCoarseUnits();
+                          SaveOddData(problem);
+                      });
     }
     // The report that lithmark-cli gives for the project, with the units of the session.
     std::string CommandLineReport() {
