@@ -26,7 +26,7 @@ class LargeRaftNotices : public RaftRunCase {
     }
 };
 
-TEST_F(LargeRaftNotices, AFallbackIsTold) {
+TEST_F(LargeRaftNotices, AFallbackToTheInverseIsTold) {
     RunWith(4);
     EXPECT_FALSE(Raised(NoticeId::SolverFallback));
     RunWith(4.64);

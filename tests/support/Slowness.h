@@ -1,31 +1,11 @@
 // How fast this machine is, for limits that are told in seconds.
 #pragma once
 
-#include <algorithm>
-#include <ctime>
-#include <vector>
-
 namespace lithmark::tests {
 
-// How many times as long as a usual processor this one takes for what long runs do most, a row of numbers added to
-// another one; at least 1. Processor time of this thread, and the shortest of several: a busy machine counts little.
-inline double Slowness() {
-    constexpr int kRow = 4000, kTimes = 12000, kTries = 5;
-    constexpr double kUsual = 0.004;  // seconds
-    std::vector<float> row(kRow, 1.0F), sum(kRow, 0.5F);
-    double shortest = 1e9;
-    for (int i = 0; i < kTries; ++i) {
-        const std::clock_t begin = std::clock();
-        for (int times = 0; times < kTimes; ++times) {
-            const volatile float factor = 1e-3F;
-            const float by = factor;
-            for (int k = 0; k < kRow; ++k) sum[static_cast<std::size_t>(k)] -= by * row[static_cast<std::size_t>(k)];
-        }
-        const volatile float kept = sum.back();
-        (void)kept;
-        shortest = std::min(shortest, static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC);
-    }
-    return std::max(1.0, shortest / kUsual);
-}
+// How many times as long as a usual processor this one takes, with the options that the program is compiled with, for
+// what long runs do most: a row of numbers added to another one; at least 1. Processor time of this thread, and the
+// shortest of several: a busy machine counts little. Measured once.
+double Slowness();
 
 }  // namespace lithmark::tests
