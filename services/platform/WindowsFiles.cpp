@@ -60,14 +60,20 @@ std::int64_t Write(int descriptor, const char* from, std::size_t count, OVERLAPP
     return ::WriteFile(HandleOf(descriptor), from, Most(count), &written, place) != 0 ? written : FailWithLast();
 }
 
-// Names that stand for devices in every folder, with an ending too.
-bool IsDeviceName(const std::string& path) {
+// The last part of a path, in capitals.
+std::string NameOf(const std::string& path) {
     const auto slash = path.find_last_of("/\\:");
     std::string name = path.substr(slash == std::string::npos ? 0 : slash + 1);
-    name = name.substr(0, name.find('.'));
-    while (name.ends_with(' ')) name.pop_back();
     for (char& c : name)
         if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+    return name;
+}
+
+// Names that stand for devices in every folder, with an ending too.
+bool IsDeviceName(const std::string& path) {
+    std::string name = NameOf(path);
+    name = name.substr(0, name.find('.'));
+    while (name.ends_with(' ')) name.pop_back();
     for (const std::string_view device : {"CON", "PRN", "AUX", "NUL", "CONIN$", "CONOUT$"})
         if (name == device) return true;
     return name.size() == 4 && (name.starts_with("COM") || name.starts_with("LPT")) && name[3] >= '1' && name[3] <= '9';
@@ -107,8 +113,9 @@ bool StateOfHandle(HANDLE handle, FileState& state) noexcept {
 }  // namespace
 
 int OpenFile(const std::string& path, Open how) noexcept {
-    const bool makes = how == Open::New || how == Open::Card;
-    if (makes && IsDeviceName(path)) return FailWith(EACCES);
+    // Nothing is written to devices, which take it without a word, but where what is written shall vanish.
+    const bool writes = how != Open::Read && how != Open::ReadOwnName;
+    if (writes && IsDeviceName(path) && (how != Open::Write || NameOf(path) != "NUL")) return FailWith(EACCES);
     const DWORD access = how == Open::Read || how == Open::ReadOwnName ? GENERIC_READ
                          : how == Open::Card                           ? GENERIC_READ | GENERIC_WRITE
                                                                        : GENERIC_WRITE;
