@@ -5,11 +5,6 @@
 
 namespace lithmark::tests {
 
-inline std::vector<std::string> With(std::vector<std::string> words, const std::vector<std::string>& more) {
-    words.insert(words.end(), more.begin(), more.end());
-    return words;
-}
-
 class CliStudy : public CliTest {
   protected:
     // The rows as objects; some may have aborted.

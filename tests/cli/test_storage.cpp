@@ -168,10 +168,14 @@ TEST_F(CliStorage, AStudyThatHasNoRowYetIsLeftAloneByOthersAndLeavesNothing) {
         return names;
     };
     ASSERT_EQ(std::system((study + " 2>/dev/null & echo $! >'" + (work / "pid") + "'").c_str()), 0);
-    for (int tries = 0; hidden().empty() && tries < 1000; ++tries)
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    const auto awaitHidden = [&] {
+        for (int tries = 0; hidden().empty() && tries < 1000; ++tries)
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    };
+    awaitHidden();
     ASSERT_EQ(hidden().size(), 1u);
     EXPECT_TRUE(ProjectStore().UnpackProject(work / "Raft1", ".po3"));  // tidies up
+    awaitHidden();  // one that was gone before its lock was on it is made again
     EXPECT_EQ(hidden().size(), 1u);
     KillProcess(std::stoi(ReadBytes(work / "pid")));
     EXPECT_EQ(ReadBytes(table), "old");

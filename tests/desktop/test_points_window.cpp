@@ -136,7 +136,7 @@ TEST_F(PointsWindowTest, SymbolsStandInPrintOnTheScreenAlone) {
     const TestFolder folder;
     const std::string file = folder / "points.csv";
     QTimer::singleShot(0, window_.get(), [&] {
-        ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }, kPointsPatience));
+        ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }, kWorkPatience));
         auto& name = Child<QLineEdit>(*QApplication::activeModalWidget(), "fileNameEdit");
         name.setText(QString::fromStdString(file));
         QTest::keyClick(&name, Qt::Key_Return);
