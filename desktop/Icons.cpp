@@ -162,7 +162,7 @@ void HelpIcon(QPainter& p, const QString& sign) {
     p.drawText(QRectF(3, 3, 18, 18), Qt::AlignCenter, sign);
 }
 
-QIcon Draw(const Drawing& drawing) {
+QIcon IconDrawnBy(const Drawing& drawing) {
     QIcon icon;
     for (const int size : {16, 24, 32, 48, 64}) {
         QPixmap pixmap(size, size);
@@ -204,20 +204,20 @@ const std::map<std::string, Drawing>& Drawings() {
 }  // namespace
 
 QIcon ProgramIcon() {
-    return Draw([](QPainter& p) { DrawLogo(p, QRectF(0, 0, 24, 24)); });
+    return IconDrawnBy([](QPainter& p) { DrawLogo(p, QRectF(0, 0, 24, 24)); });
 }
 
 QIcon IconOf(const std::string& key) {
     const auto found = Drawings().find(key);
-    if (found != Drawings().end()) return Draw(found->second);
+    if (found != Drawings().end()) return IconDrawnBy(found->second);
     if (!key.starts_with("mnuProblem(")) return {};
     const ProblemRow* problem = FirstProblemOf(ListTools().KeyIndex(key));
     return problem == nullptr ? QIcon() : IconOfProblem(problem->ProblemType);
 }
 
 QIcon IconOfProblem(int problemType) {
-    if (FindProblem(problemType) == nullptr) return Draw(Paper);
-    return Draw([problemType](QPainter& painter) { DrawProblemIcon(painter, problemType, Outline()); });
+    if (FindProblem(problemType) == nullptr) return IconDrawnBy(Paper);
+    return IconDrawnBy([problemType](QPainter& painter) { DrawProblemIcon(painter, problemType, Outline()); });
 }
 
 }  // namespace lithmark

@@ -12,7 +12,7 @@ namespace lithmark {
 
 namespace {
 
-const std::string kSection = "Windows";
+const std::string kSizesSection = "Windows";
 
 FormPosition PlaceOf(const QWidget& window) {
     const QRect place = window.isMaximized() ? window.normalGeometry() : window.geometry();
@@ -47,7 +47,7 @@ class SizeKeeper : public QObject {
         const FormPosition left = PlaceOf(window_);
         if (!opened_ || SameSize(*opened_, left)) return;
         const std::string name = window_.objectName().toStdString();
-        PassingOverErrors([&] { ListTools().SaveFormPosition(name, left, kApplicationTitle, kSection); });
+        PassingOverErrors([&] { ListTools().SaveFormPosition(name, left, kApplicationTitle, kSizesSection); });
     }
 
     QWidget& window_;
@@ -66,7 +66,7 @@ void ResizeForContent(QWidget& window, const QSize& size) {
 // Where it stands is the desktop's choice.
 void KeepSize(QWidget& window) {
     const std::string name = window.objectName().toStdString();
-    if (const auto kept = ListTools().LoadFormPosition(name, kApplicationTitle, kSection)) {
+    if (const auto kept = ListTools().LoadFormPosition(name, kApplicationTitle, kSizesSection)) {
         window.resize(kept->Width, kept->Height);
         if (kept->Maximized) window.setWindowState(window.windowState() | Qt::WindowMaximized);
     }

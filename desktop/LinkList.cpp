@@ -9,7 +9,7 @@ namespace lithmark {
 
 namespace {
 
-constexpr int kLinesShown = 6;
+constexpr int kLinksShown = 6;
 
 }  // namespace
 
@@ -57,7 +57,7 @@ QSize LinkList::sizeHint() const {
     int height = 2 * frameWidth();
     for (int i = 0; i < count(); ++i) height += sizeHintForRow(i);
     return {QListWidget::sizeHint().width(),
-            std::min(height, kLinesShown * fontMetrics().lineSpacing() + 2 * frameWidth())};
+            std::min(height, kLinksShown * fontMetrics().lineSpacing() + 2 * frameWidth())};
 }
 
 // Its lines break anew with its width.

@@ -12,7 +12,7 @@ namespace lithmark {
 
 namespace {
 
-constexpr int kPad = sizes::kGroupPad, kGap = sizes::kColumnGap;
+constexpr int kButtonPad = sizes::kGroupPad, kGap = sizes::kColumnGap;
 constexpr double kRound = 4, kUsualLine = 1, kFocusLine = 2;
 
 }  // namespace
@@ -46,7 +46,7 @@ QFont PictureButton::CaptionFont() const {
 }
 
 QRect PictureButton::WordsIn(const QRect& button) const {
-    const QRect inside = button.adjusted(kPad, kPad, -kPad, -kPad);
+    const QRect inside = button.adjusted(kButtonPad, kButtonPad, -kButtonPad, -kButtonPad);
     if (kind_ == Kind::Card) return inside.adjusted(0, pictureSize_.height() + kGap, 0, 0);
     const int beside = pictureSize_.width() + kGap;
     return layoutDirection() == Qt::RightToLeft ? inside.adjusted(0, 0, -beside, 0) : inside.adjusted(beside, 0, 0, 0);
@@ -62,7 +62,7 @@ QSize PictureButton::sizeHint() const {
     const int words = HeightOf(CaptionFont(), caption_) + HeightOf(font(), detail_);
     const int inside =
         kind_ == Kind::Card ? pictureSize_.height() + kGap + words : std::max(pictureSize_.height(), words);
-    return {width_, inside + 2 * kPad};
+    return {width_, inside + 2 * kButtonPad};
 }
 
 void PictureButton::paintEvent(QPaintEvent*) {
@@ -77,7 +77,7 @@ void PictureButton::paintEvent(QPaintEvent*) {
     painter.setBrush(ColourOf(isDown() ? Ink::Window : Ink::Base, theme));
     painter.drawRoundedRect(QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2), kRound, kRound);
 
-    const QRect inside = rect().adjusted(kPad, kPad, -kPad, -kPad);
+    const QRect inside = rect().adjusted(kButtonPad, kButtonPad, -kButtonPad, -kButtonPad);
     QRect picture(QPoint(), pictureSize_);
     if (kind_ == Kind::Card)
         picture.moveTopLeft({inside.center().x() - pictureSize_.width() / 2, inside.top()});

@@ -13,7 +13,7 @@ namespace lithmark {
 
 namespace {
 
-constexpr int kEdge = 8, kLeftRoom = 58, kLineRoom = 20;
+constexpr int kChartEdge = 8, kLeftRoom = 58, kLineRoom = 20;
 
 // From the least to the greatest value, with 0, so that the axes meet there; never without width.
 std::pair<double, double> RangeOf(const std::vector<QPointF>& points, double (QPointF::*of)() const) {
@@ -86,8 +86,8 @@ void RowsChart::paintEvent(QPaintEvent*) {
     painter.setLayoutDirection(Qt::LeftToRight);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillRect(rect(), palette().base());
-    const QRectF area(kLeftRoom, kEdge + 2 * kLineRoom, width() - kLeftRoom - 2 * kEdge,
-                      height() - kEdge - 4 * kLineRoom);
+    const QRectF area(kLeftRoom, kChartEdge + 2 * kLineRoom, width() - kLeftRoom - 2 * kChartEdge,
+                      height() - kChartEdge - 4 * kLineRoom);
     const auto [x0, x1] = RangeOf(points_, &QPointF::x);
     const auto [y0, y1] = RangeOf(points_, &QPointF::y);
     const auto at = [&, x0 = x0, x1 = x1, y0 = y0, y1 = y1](const QPointF& p) {
@@ -97,9 +97,9 @@ void RowsChart::paintEvent(QPaintEvent*) {
     painter.setPen(palette().color(QPalette::Mid));
     painter.drawRect(area);
     painter.setPen(palette().color(QPalette::Text));
-    painter.drawText(QRectF(0, kEdge, width(), kLineRoom), Qt::AlignLeft | Qt::AlignVCenter, " " + yTitle_);
-    painter.drawText(QRectF(0, height() - kLineRoom - 2, width() - kEdge, kLineRoom), Qt::AlignRight | Qt::AlignVCenter,
-                     xTitle_);
+    painter.drawText(QRectF(0, kChartEdge, width(), kLineRoom), Qt::AlignLeft | Qt::AlignVCenter, " " + yTitle_);
+    painter.drawText(QRectF(0, height() - kLineRoom - 2, width() - kChartEdge, kLineRoom),
+                     Qt::AlignRight | Qt::AlignVCenter, xTitle_);
     const QRectF left(0, 0, kLeftRoom - 6, kLineRoom);
     painter.drawText(left.translated(0, area.top() - 8), Qt::AlignRight, NumberAt(y1));
     painter.drawText(left.translated(0, area.bottom() - 10), Qt::AlignRight, NumberAt(y0));

@@ -26,7 +26,7 @@ namespace {
 
 using namespace sizes;
 
-constexpr int kProjectWidth = 280, kCardWidth = 184, kExampleWidth = 300;
+constexpr int kProjectsWidth = 280, kCardWidth = 184, kExampleWidth = 300;
 constexpr QSize kProjectPicture(32, 32), kCardPicture(160, 104), kExamplePicture(84, 60);
 constexpr int kLogo = 48, kHeadButton = 48, kMostCards = 5, kLeastCards = 3;
 
@@ -60,7 +60,7 @@ StartView::StartView(MDITools& frame, QWidget* parent) : QWidget(parent) {
     page->addWidget(scroll_, 1);
 
     content_ = new QWidget;
-    projects_ = MakePanel(kProjectWidth);
+    projects_ = MakePanel(kProjectsWidth);
     cards_ = MakePanel(kCardWidth);
     examples_ = MakePanel(kExampleWidth);
     auto* grid = new QGridLayout(content_);
@@ -162,7 +162,7 @@ void StartView::AddProject(const QString& name, const ListedProject& project) {
     auto* row = new QHBoxLayout(line);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(2);
-    auto* open = new PictureButton(line, PictureButton::Kind::Row, kProjectWidth - kClicked - 2, kProjectPicture);
+    auto* open = new PictureButton(line, PictureButton::Kind::Row, kProjectsWidth - kClicked - 2, kProjectPicture);
     open->setObjectName(name);
     open->setToolTip(Isolated(path));
     QStringList about;
@@ -243,7 +243,7 @@ void StartView::FillExamples() {
 void StartView::Arrange() {
     auto* grid = static_cast<QGridLayout*>(content_->layout());
     const int room = scroll_->viewport()->width() - 2 * kPagePad;
-    const int projects = projects_.Box->isHidden() ? 0 : kProjectWidth + kGroupGap;
+    const int projects = projects_.Box->isHidden() ? 0 : kProjectsWidth + kGroupGap;
     const int examples = examples_.Box->isHidden() ? 0 : kExampleWidth + kGroupGap;
     const int rest = room - projects - examples;
     const bool beside = rest >= WidthOf(kLeastCards, kCardWidth);

@@ -74,8 +74,8 @@ std::string PageStyle(const ReportPaper& paper, bool rightToLeft) {
 }
 
 // Lines [first, end) as one block, which ends with its last line.
-std::string Block(const std::vector<std::string>& texts, std::size_t first, std::size_t end,
-                  const std::string& kind = {}) {
+std::string BlockOf(const std::vector<std::string>& texts, std::size_t first, std::size_t end,
+                    const std::string& kind = {}) {
     std::string html = (kind.empty() ? "<pre" : "<pre class=\"" + kind + "\"") + ">\n";
     for (std::size_t i = first; i < end; ++i) html += (i > first ? "\n" : "") + Escaped(texts[i]);
     return html + "</pre>\n";
@@ -91,7 +91,7 @@ std::string Paragraphs(const std::vector<std::string>& lines, const std::vector<
         while (text < end && lines[text].empty()) ++text;
         std::size_t next = text;
         while (next < end && !lines[next].empty()) ++next;
-        html += Block(texts, i, next, next > text && next - text <= kHeadingLines ? "heading" : "");
+        html += BlockOf(texts, i, next, next > text && next - text <= kHeadingLines ? "heading" : "");
         i = next;
     }
     return html;
@@ -133,9 +133,9 @@ std::string ReportHtml(const std::string& report, const ReportPaper& paper) {
     html += "<main>\n";
     std::size_t at = 0;
     for (const TablePlace& table : TablesOf(lines)) {
-        html += Paragraphs(lines, texts, at, table.First) + Block(texts, table.First, table.Head, "heading") +
-                "<table><thead><tr><td>" + Block(texts, table.Head, table.Rows) +
-                "</td></tr></thead>\n<tbody><tr><td>" + Block(texts, table.Rows, table.End) +
+        html += Paragraphs(lines, texts, at, table.First) + BlockOf(texts, table.First, table.Head, "heading") +
+                "<table><thead><tr><td>" + BlockOf(texts, table.Head, table.Rows) +
+                "</td></tr></thead>\n<tbody><tr><td>" + BlockOf(texts, table.Rows, table.End) +
                 "</td></tr></tbody></table>\n";
         at = table.End;
     }

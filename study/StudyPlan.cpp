@@ -12,7 +12,7 @@ namespace lithmark {
 namespace {
 
 // The place in the fastest dimension; what is left counts the slower ones.
-std::uint64_t Split(std::uint64_t& rest, std::uint64_t size) {
+std::uint64_t TakePart(std::uint64_t& rest, std::uint64_t size) {
     return std::exchange(rest, rest / size) % size;
 }
 
@@ -70,16 +70,16 @@ PlannedRow StudyPlan::Row(std::uint64_t row) const {
     planned.Values.resize(fields_.size());
     std::size_t at = fields_.size();
     if (sampler_) {
-        const std::vector<double> values = sampler_->Values(Split(row, sampler_->Count()));
+        const std::vector<double> values = sampler_->Values(TakePart(row, sampler_->Count()));
         for (std::size_t i = values.size(); i-- > 0;) {
             --at;
             planned.Values[at] = ValueText(fields_[at], values[i]);
         }
     }
     for (std::size_t i = variations_.size(); i-- > 0;)
-        planned.Values[--at] = variations_[i].Value(Split(row, variations_[i].Count()));
+        planned.Values[--at] = variations_[i].Value(TakePart(row, variations_[i].Count()));
     if (rows_) {
-        std::vector<std::string> values = rows_->Values(Split(row, rows_->Count()));
+        std::vector<std::string> values = rows_->Values(TakePart(row, rows_->Count()));
         std::move(values.begin(), values.end(), planned.Values.begin());
     }
     if (!cases_.empty()) {

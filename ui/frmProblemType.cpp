@@ -12,6 +12,7 @@
 #include "services/TextTools.h"
 #include "ui/model/HelpText.h"
 #include "ui/model/ProjectFlags.h"
+#include "ui/model/ProjectHeading.h"
 
 namespace lithmark {
 
@@ -24,12 +25,6 @@ int ListRowOf(const ProblemRow& problem) {
 
 const ProblemRow* ProblemOfRow(int row) {
     return row < 0 ? nullptr : FirstProblemOf(row + 1);
-}
-
-void ClearHeading() {
-    Session.Auftr.clear();
-    Session.Datum = TextTools().LongDateOfToday();
-    Session.Proj.clear();
 }
 
 }  // namespace

@@ -8,7 +8,6 @@ namespace lithmark {
 namespace {
 
 constexpr long long kShownMilliseconds = 3000;
-const std::string kSplashMayEnd = "Start Prog";
 
 }  // namespace
 
@@ -27,7 +26,7 @@ void frmSplash::Load() {
 }
 
 void frmSplash::Unloading() {
-    if (Tag != kSplashMayEnd) return;
+    if (Tag != kMayEnd) return;
     Tag.clear();
     dismissed_ = false;
     while (!dismissed_ && milliseconds_() - loadedAt_ <= kShownMilliseconds) CurrentHost().RunEvents();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include "ui/model/Controls.h"
 
@@ -18,7 +19,8 @@ class frmSplash : public Form {
     TextLabel lblPlatform{*this, "lblPlatform"}, Label1{*this, "Label1"}, Label3{*this, "Label3"},
         Label4{*this, "Label4"}, Label5{*this, "Label5"}, lblVersion{*this, "lblVersion"};
 
-    // "Start Prog" once the program is ready: unloading then waits for the three seconds to end, or for the user.
+    // Once the program is ready: unloading then waits for the three seconds to end, or for the user.
+    static constexpr const char* kMayEnd = "Start Prog";
     std::string Tag;
 
     void Load() override;

@@ -19,7 +19,7 @@ namespace lithmark {
 
 namespace {
 
-enum Role { kSymbol = Qt::UserRole, kNow, kKept, kChange, kUnit, kQuiet };
+enum Role { kSymbolRole = Qt::UserRole, kNow, kKept, kChange, kUnitRole, kQuiet };
 constexpr int kCellPad = 4, kLinesShown = 6;
 
 QString Plain(QString unit) {
@@ -40,8 +40,8 @@ void PaintCells(QPainter& painter, const QRect& line, const AnswerColumns& colum
                 const std::function<void(Role, const QRect&)>& cell) {
     int at = line.left() + kCellPad;
     for (const auto& [role, width] :
-         {std::pair(kSymbol, columns.Symbol), std::pair(kNow, columns.Now), std::pair(kKept, columns.Kept),
-          std::pair(kChange, columns.Change), std::pair(kUnit, columns.Unit)}) {
+         {std::pair(kSymbolRole, columns.Symbol), std::pair(kNow, columns.Now), std::pair(kKept, columns.Kept),
+          std::pair(kChange, columns.Change), std::pair(kUnitRole, columns.Unit)}) {
         if (width == 0) continue;
         const QRect place(at, line.top(), width, line.height());
         cell(role, QStyle::visualRect(direction, line, place).adjusted(kCellPad, 0, -kCellPad, 0));
@@ -65,14 +65,14 @@ class LinePainter : public QStyledItemDelegate {
         const QColor quiet = chosen ? ink : ColourOf(Ink::Quiet, theme);
         painter->setFont(option.font);
         PaintCells(*painter, option.rect, list_.Columns(), option.direction, [&](Role role, const QRect& place) {
-            painter->setPen(role == kKept || role == kUnit ? quiet : ink);
+            painter->setPen(role == kKept || role == kUnitRole ? quiet : ink);
             // A number runs from left to right in every language: its sign stands before it.
-            painter->setLayoutDirection(role == kUnit ? option.direction : Qt::LeftToRight);
+            painter->setLayoutDirection(role == kUnitRole ? option.direction : Qt::LeftToRight);
             const QString text = index.data(role).toString();
-            if (role == kSymbol)
+            if (role == kSymbolRole)
                 PaintSymbol(*painter, place, text.toStdString(),
                             option.direction == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft);
-            else if (role == kUnit)
+            else if (role == kUnitRole)
                 painter->drawText(place, Qt::AlignVCenter | Qt::AlignLeading, text);
             else
                 painter->drawText(place, Qt::AlignVCenter | Qt::AlignRight | Qt::AlignAbsolute, text);
@@ -98,7 +98,7 @@ class AnswerHead : public QWidget {
         const QColor quiet = ColourOf(Ink::Quiet, ThemeOf(palette()));
         PaintCells(painter, rect(), list_.Columns(), layoutDirection(), [&](Role role, const QRect& place) {
             painter.setPen(quiet);
-            if (role == kSymbol && !list_.Present()) PaintClock(painter, place, quiet);
+            if (role == kSymbolRole && !list_.Present()) PaintClock(painter, place, quiet);
             const QString text = role == kKept              ? Q(Text(913003_text))
                                  : role != kNow             ? QString()
                                  : !list_.Present()         ? Q(Text(913650_text))
@@ -147,9 +147,9 @@ void AnswerList::ShowAnswer(const Answer* answer, const Answer* kept, bool prese
         const AnswerValue& value = *lines[static_cast<std::size_t>(i)];
         const AnswerValue* before = kept != nullptr ? kept->Find(value.Symbol) : nullptr;
         QListWidgetItem& line = *item(i);
-        line.setData(kSymbol, Q(value.Symbol));
+        line.setData(kSymbolRole, Q(value.Symbol));
         line.setData(kNow, Q(value.Text));
-        line.setData(kUnit, value.Unit == "[-]" ? QString() : Q(value.Unit));
+        line.setData(kUnitRole, value.Unit == "[-]" ? QString() : Q(value.Unit));
         line.setData(kQuiet, !present);
         line.setData(kKept, before != nullptr ? Q(before->Text) : QString());
         line.setData(kChange, before != nullptr ? Q(DifferenceText(value, *before)) : QString());
@@ -183,7 +183,7 @@ void AnswerList::FitColumns() {
         for (int i = 0; i < count(); ++i) {
             const QString text = item(i)->data(role).toString();
             const int wide =
-                role == kSymbol ? SymbolWidth(font(), text.toStdString()) : metrics.horizontalAdvance(text);
+                role == kSymbolRole ? SymbolWidth(font(), text.toStdString()) : metrics.horizontalAdvance(text);
             width = std::max(width, wide + 2 * kCellPad);
         }
         return width;
@@ -191,12 +191,12 @@ void AnswerList::FitColumns() {
     bool kept = false;
     for (int i = 0; i < count(); ++i) kept = kept || !item(i)->data(kKept).toString().isEmpty();
     const auto headed = [&](TextId head) { return metrics.horizontalAdvance(Q(Text(head))) + 2 * kCellPad; };
-    columns_.Symbol = widest(kSymbol, sizes::kSymbolWidth);
+    columns_.Symbol = widest(kSymbolRole, sizes::kSymbolWidth);
     columns_.Now = widest(kNow, std::max({metrics.horizontalAdvance(QStringLiteral("-0000.00")), headed(913001_text),
                                           headed(913650_text)}));
     columns_.Kept = kept ? widest(kKept, headed(913003_text)) : 0;
     columns_.Change = kept ? widest(kChange, metrics.horizontalAdvance(QStringLiteral("+10.0 %")) + 2 * kCellPad) : 0;
-    columns_.Unit = widest(kUnit, 0);
+    columns_.Unit = widest(kUnitRole, 0);
     PlaceHead();
 }
 

@@ -70,7 +70,7 @@ FieldPicture FieldOf(const frmContour& form) {
     return {form.Plot, form.Field(), form.Drawn(), form.Section()};
 }
 
-void SaveAs(FormView& view, frmContour& form) {
+void SavePlotAs(FormView& view, frmContour& form) {
     if (!form.Ready()) return;
     const auto file = AskForFile(&view, view.windowTitle(),
                                  {{QStringLiteral("PDF"), QStringLiteral("pdf")},
@@ -219,7 +219,7 @@ const LayoutOf<frmContour> kLayoutContour([](FormView& view, frmContour& form) {
     auto* print = OwnButton(view, Text(910003_text, Styles::Button), "cmdPrint");
     QObject::connect(print, &QPushButton::clicked, &view, [&view, &form] { Print(view, form); });
     auto* save = OwnButton(view, Text(9_text, Styles::DialogButton), "cmdSaveAs");
-    QObject::connect(save, &QPushButton::clicked, &view, [&view, &form] { SaveAs(view, form); });
+    QObject::connect(save, &QPushButton::clicked, &view, [&view, &form] { SavePlotAs(view, form); });
     QBoxLayout* buttons = ButtonRow(view, form.cmdHelp, form.cmdok);
     buttons->insertWidget(0, copy);
     buttons->insertWidget(1, print);

@@ -12,7 +12,7 @@ namespace {
 constexpr double kFocusWidth = 2.5, kGap = 5, kPlate = 3, kTick = 5, kIndexSize = 0.7;
 // Below the first a drawing has room for symbols only; below the second, as on a card, for none, and all that is as
 // large as letters elsewhere is a part of the picture.
-constexpr double kLeastWidth = 260, kLeastHeight = 200, kPlainWidth = 180, kPlainHeight = 130;
+constexpr double kLeastDrawnWidth = 260, kLeastHeight = 200, kPlainWidth = 180, kPlainHeight = 130;
 constexpr double kPlainLine = 1.0 / 14, kPlainHead = 0.55, kPlainDot = 0.6, kPlainPen = 1.8;
 // A number goes out of the way of lines as far as this, a pixel for each that it would hide; more for those of a load.
 constexpr double kOutOfTheWay = 60, kLoadWeight = 3;
@@ -32,7 +32,7 @@ Sketch::Sketch(QPainter& painter, const QRectF& area, const DrawnForm& form, The
       Record(form.Record()),
       theme_(theme),
       scale_(scale),
-      symbolsOnly_(area.width() < kLeastWidth || area.height() < kLeastHeight),
+      symbolsOnly_(area.width() < kLeastDrawnWidth || area.height() < kLeastHeight),
       plain_(area.width() < kPlainWidth || area.height() < kPlainHeight) {}
 
 QPen Sketch::Pen(Ink ink, double width, Qt::PenStyle style) const {

@@ -21,7 +21,9 @@
 #include "ui/frame/StartPage.h"
 #include "ui/frmProblemType.h"
 #include "ui/frmProjectCheck.h"
+#include "ui/model/Hourglass.h"
 #include "ui/model/ProjectFlags.h"
+#include "ui/model/ProjectHeading.h"
 
 namespace lithmark {
 
@@ -57,22 +59,12 @@ void PackLeftProject(const std::string& newFile) {
         ProjectStore().PackProject(OpenProjectPath(), Session.CompressFlag, newFile, kStandsForProject);
 }
 
-void ClearHeading() {
-    Session.Auftr.clear();
-    Session.Datum = TextTools().LongDateOfToday();
-    Session.Proj.clear();
-}
-
 // Settings, what the program brings along, and folders that only the system writes.
 bool IsNoPlaceForProjects(const std::string& dir) {
     SharedServicesService& services = SharedServices();
     const bool own = dir == services.ExecutableDir() || dir.starts_with(services.ResourceDir());
     const bool settings = dir == Session.ProgramDir && dir != services.GetDirectories().DataDir;
     return own || settings || (PathExists(dir) && !platform::MayWrite(dir));
-}
-
-void EndHourglass() {
-    SharedServices().SetPointer(PointerShape::Default);
 }
 
 }  // namespace

@@ -19,7 +19,6 @@ namespace {
 
 constexpr int kProgramNumber = 6;
 constexpr int kProjectFile = 6;
-const std::string kSplashMayEnd = "Start Prog";
 
 long long MachineMilliseconds() {
     using namespace std::chrono;
@@ -97,7 +96,7 @@ void MDITools::ShowSplash() {
 }
 
 void MDITools::CloseSplash() {
-    if (splash_ != nullptr) splash_->Tag = kSplashMayEnd;
+    if (splash_ != nullptr) splash_->Tag = frmSplash::kMayEnd;
     TakeSplashAway();
 }
 

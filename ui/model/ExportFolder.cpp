@@ -15,7 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const std::string kSection = "Export", kKey = "Folders";
+const std::string kExportSection = "Export", kKey = "Folders";
 // Of so many projects, the ones that exported last.
 constexpr std::size_t kProjects = 50;
 
@@ -30,7 +30,7 @@ std::string OpenProject() {
 // A line for the project, and one for its folder.
 std::vector<Row> StoredRows() {
     const std::vector<std::string> lines =
-        Split(SharedServices().GetSetting(kApplicationTitle, kSection, kKey, ""), '\n');
+        Split(SharedServices().GetSetting(kApplicationTitle, kExportSection, kKey, ""), '\n');
     std::vector<Row> rows;
     for (std::size_t i = 0; i + 1 < lines.size(); i += 2) rows.push_back({lines[i], lines[i + 1]});
     return rows;
@@ -60,8 +60,8 @@ void RememberExportFolder(const std::string& folder) {
     if (rows.size() > kProjects) rows.resize(kProjects);
     std::string list;
     for (const Row& row : rows) list += (list.empty() ? "" : "\n") + row.Project + "\n" + row.Folder;
-    if (list != SharedServices().GetSetting(kApplicationTitle, kSection, kKey, ""))
-        SharedServices().SaveSetting(kApplicationTitle, kSection, kKey, list);
+    if (list != SharedServices().GetSetting(kApplicationTitle, kExportSection, kKey, ""))
+        SharedServices().SaveSetting(kApplicationTitle, kExportSection, kKey, list);
 }
 
 }  // namespace lithmark

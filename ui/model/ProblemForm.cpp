@@ -11,17 +11,13 @@
 #include "services/FileDialogs.h"
 #include "services/SharedServices.h"
 #include "ui/model/HelpText.h"
+#include "ui/model/Hourglass.h"
 #include "ui/model/ProjectFlags.h"
 #include "ui/model/ResultViewer.h"
 
 namespace lithmark {
 
 namespace {
-
-// A run that failed and a file that is missing leave the hourglass; a form that waits for its user does not.
-void EndHourglass() {
-    SharedServices().SetPointer(PointerShape::Default);
-}
 
 // Runs a command of the form; what goes wrong in it is told and leaves no hourglass.
 template <typename Command>

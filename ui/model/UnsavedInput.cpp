@@ -63,7 +63,7 @@ bool IsInput(ControlKind kind) {
            kind == ControlKind::Option || kind == ControlKind::CheckBox;
 }
 
-std::string TextOf(const Control& control) {
+std::string KeptTextOf(const Control& control) {
     if (control.Kind == ControlKind::Option || control.Kind == ControlKind::CheckBox) return control.Value ? "1" : "0";
     if (control.Kind == ControlKind::ComboBox) return std::to_string(control.ListIndex);
     return control.Text;
@@ -107,7 +107,7 @@ StoredDraft DraftOf(const FieldForm& form) {
     draft.Shown = HowTextsAreShown(form);
     draft.When = TextTools().LongDateOfToday();
     for (const Control* control : form.Controls())
-        if (IsInput(control->Kind)) draft.Texts.emplace_back(control->Name, TextOf(*control));
+        if (IsInput(control->Kind)) draft.Texts.emplace_back(control->Name, KeptTextOf(*control));
     return draft;
 }
 
@@ -135,7 +135,7 @@ void TakeDraftTexts(FieldForm& form, const StoredDraft& draft) {
     for (const bool boxes : {false, true, true})
         for (const auto& [name, text] : draft.Texts) {
             Control* control = form.Find(name);
-            if (control == nullptr || !IsInput(control->Kind) || TextOf(*control) == text) continue;
+            if (control == nullptr || !IsInput(control->Kind) || KeptTextOf(*control) == text) continue;
             const bool isBox = control->Kind == ControlKind::TextBox || control->Kind == ControlKind::DatePicker;
             if (isBox == boxes) Choose(form, *control, text);
         }
