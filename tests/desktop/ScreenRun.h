@@ -137,7 +137,7 @@ class ScreenRun {
         steps_.pop_front();
     }
 
-    static constexpr qint64 kPatience = 5000;
+    static constexpr int kPatience = 30000;  // a machine that does much else is slow
 
     QtHost host_;
     MDITools frame_;
@@ -170,7 +170,7 @@ inline void TypeInto(QWidget& window, const char* name, const std::string& text)
 // Goes back to a window from another one that was shown over it: without a window manager nobody gives it the focus.
 inline void BackTo(QWidget& window) {
     window.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&window)) << window.objectName().toStdString();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window, kWorkPatience)) << window.objectName().toStdString();
 }
 
 inline void ClickOn(QWidget& window, const char* name) {
