@@ -7,7 +7,7 @@ namespace lithmark {
 
 namespace {
 
-constexpr int kPatience = 500;  // ms from the request to end until the end
+constexpr int kEndPatience = 500;  // ms from the request to end until the end
 
 }  // namespace
 
@@ -29,7 +29,7 @@ CliProcess::CliProcess(QObject* parent) : QObject(parent) {
         QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
     });
     patience_.setSingleShot(true);
-    patience_.setInterval(kPatience);
+    patience_.setInterval(kEndPatience);
     connect(&patience_, &QTimer::timeout, &process_, &QProcess::kill);
 }
 

@@ -18,7 +18,7 @@ namespace lithmark {
 namespace {
 
 constexpr int kLeast = 240, kUsual = 520, kLegendWidth = 84, kLegendHeight = 400;
-constexpr int kLegendRoom = 70;  // what a legend's boxes and gaps take beside its texts
+constexpr int kLegendGaps = 70;  // what a legend's boxes and gaps take beside its texts
 constexpr double kTextShare = 0.85;
 
 }  // namespace
@@ -47,7 +47,7 @@ void ContourView::FitLegend() {
     if (form_.ShowsField()) {
         for (const double limit : form_.Field().Limits())
             width = std::max(width, metrics.horizontalAdvance(Q(form_.Field().LimitText(limit))));
-        width += kLegendRoom;
+        width += kLegendGaps;
     } else {
         for (const std::string& label : form_.Plot.ClassLabel)
             width = std::max(width, metrics.horizontalAdvance(Q(label)));

@@ -37,7 +37,7 @@ namespace lithmark {
 
 namespace {
 
-constexpr int kCurve = 170, kSmallCurve = 120;  // the height of the section's curve
+constexpr int kCurveHeight = 170, kSmallCurveHeight = 120;  // the height of the section's curve
 
 // Puts a drawing into the place of a picture.
 ContourView* PutInto(FormView& view, frmContour& form, PictureBox& picture, ContourView::Shows shows) {
@@ -179,7 +179,7 @@ const LayoutOf<frmContour> kLayoutContour([](FormView& view, frmContour& form) {
     auto* curve = new QCustomPlot(&view);
     curve->setObjectName(QStringLiteral("sectionCurve"));
     curve->setLayoutDirection(Qt::LeftToRight);
-    curve->setFixedHeight(kCurve);
+    curve->setFixedHeight(kCurveHeight);
     MakeGraphic(*curve, Q(Text(910022_text)));
     curve->setToolTip(Q(Text(910027_text)));
     plot->setToolTip(Q(Text(913652_text)));
@@ -200,7 +200,7 @@ const LayoutOf<frmContour> kLayoutContour([](FormView& view, frmContour& form) {
         side->addLayout(Choices(view, form, true));
         side->addWidget(Zooms(view, form, false));
         side->addStretch(1);
-        curve->setFixedHeight(kSmallCurve);
+        curve->setFixedHeight(kSmallCurveHeight);
     } else {
         auto* top = new QHBoxLayout;
         top->setSpacing(sizes::kEdge);
