@@ -25,7 +25,6 @@ namespace lithmark {
 namespace {
 
 constexpr int kWhole = 1, kReal = 2, kUsualCount = 11;
-constexpr int kUnfinishedFor = 1000;  // ms until a number that is not ended is an error
 
 TextId TitleOf(PointsFill::Kind kind) {
     switch (kind) {

@@ -42,8 +42,7 @@ namespace lithmark {
 
 namespace {
 
-constexpr int kStudyRest = 150;          // ms after the last change until the study begins
-constexpr int kUnfinishedNumber = 1000;  // ms until it is an error
+constexpr int kStudyRest = 150;  // ms after the last change until the study begins
 
 const std::string kStudySection = "Study";
 
@@ -95,7 +94,7 @@ StudyWindow::StudyWindow(const StudySubject& subject, QWidget* parent)
     connect(&rest_, &QTimer::timeout, this, [this] { Work(false); });
     // A number that is left is finished.
     patience_.setSingleShot(true);
-    patience_.setInterval(kUnfinishedNumber);
+    patience_.setInterval(kUnfinishedFor);
     connect(&patience_, &QTimer::timeout, this, [this] { ShowFaults(); });
     connect(qApp, &QApplication::focusChanged, &patience_, [this] {
         typing_ = false;

@@ -18,5 +18,7 @@ class BoxMarks {
 
 // A text that is not a number yet: nothing, a sign, a decimal sign alone, "1e-".
 bool IsUnfinished(const std::string& text);
+// So many milliseconds after the last key it is an error where it stands.
+inline constexpr int kUnfinishedFor = 1000;
 
 }  // namespace lithmark
