@@ -37,11 +37,19 @@ endif()
 target_include_directories(lithmark_flags INTERFACE ${PROJECT_SOURCE_DIR})
 target_compile_definitions(lithmark_flags INTERFACE LITHMARK_VERSION="${PROJECT_VERSION}")
 if(LITHMARK_SANITIZE)
-  target_compile_definitions(lithmark_flags INTERFACE _GLIBCXX_ASSERTIONS)
+  target_compile_definitions(lithmark_flags INTERFACE _GLIBCXX_ASSERTIONS LITHMARK_SANITIZE)
   target_compile_options(lithmark_flags INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(lithmark_flags INTERFACE -fsanitize=address,undefined)
 endif()
+
+# lithmark_compile_quickly(): the floors of this folder do little with numbers; under the sanitizers the optimiser would cost
+# more time than their tests take without it.
+function(lithmark_compile_quickly)
+  if(LITHMARK_SANITIZE)
+    add_compile_options(-O0)
+  endif()
+endfunction()
 
 # lithmark_precompile(TARGET HEADERS...): compiles the headers once; targets of the same flags share them by REUSE_FROM.
 function(lithmark_precompile target)

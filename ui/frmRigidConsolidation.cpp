@@ -4,10 +4,14 @@
 #include "services/SharedServices.h"
 
 namespace lithmark {
+namespace {
+
+using R = SessionRecord;
+
+}  // namespace
 
 frmRigidConsolidation::frmRigidConsolidation()
     : RaftForm("frmRigidConsolidation", {"RigidConsolidation.bmp", "Consolidation Form", "raft"}) {
-    using R = SessionRecord;
     const auto enabled = CheckedWhen::Enabled;
     SetFields({
         FieldRow({lbl_z_Coord, Axis::Z}, {lbl_z, "z"}, txt_z, {lblm3, Unit::Length}, {&R::z, &R::FmtLength}, {0},

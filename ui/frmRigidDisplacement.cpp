@@ -1,10 +1,14 @@
 #include "ui/frmRigidDisplacement.h"
 
 namespace lithmark {
+namespace {
+
+using R = SessionRecord;
+
+}  // namespace
 
 frmRigidDisplacement::frmRigidDisplacement()
     : RaftForm("frmRigidDisplacement", {"RigidDisplacement.bmp", "Consolidation Form", "raft"}) {
-    using R = SessionRecord;
     const auto always = CheckedWhen::Always;
     SetFields({RowH(), RowQ(), RowA(), RowEx(always), RowEy(always), RowB(0), RowEs({0}, {GoTo(txt_Nue)}, always),
                FieldRow({lblPoissonRatio, 90004_text}, {Label60, "Nue_s"}, txt_Nue, {Label14, Unit::None},

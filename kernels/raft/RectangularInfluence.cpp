@@ -78,15 +78,14 @@ void FillFlexibility(const Grid& grid, OffsetFactors& factors, const Array<Singl
 void SuperposeAtAllNodes(const Grid& grid, OffsetFactors& factors, std::span<const double> own,
                          std::span<const double> force, Array<Single>& sums,
                          const std::function<void(double)>& progress) {
-    using Stored = Single::Storage;
     const RectangularMesh& mesh = grid.Mesh;
     const auto columns = static_cast<std::size_t>(mesh.Columns());
     sums.Redim(1, mesh.Nodes());
     // The sums of a row of targets grow side by side, each in the order of the nodes. An overflow stays in a sum and is
     // found when the sum is stored.
-    std::vector<Stored> row(columns);
+    std::vector<Single::Storage> row(columns);
     for (int j = 1; j <= mesh.Rows(); ++j) {
-        std::fill(row.begin(), row.end(), Stored(0));
+        std::fill(row.begin(), row.end(), Single::Storage(0));
         for (int k = 1; k <= mesh.Rows(); ++k) {
             const std::span<const Single> between = factors.Between(j, k);
             for (std::size_t c = 0; c < columns; ++c) {
@@ -95,13 +94,13 @@ void SuperposeAtAllNodes(const Grid& grid, OffsetFactors& factors, std::span<con
                 const double f = force[source];
                 const auto add = [&](std::size_t first, std::size_t last) {
                     for (std::size_t t = first; t < last; ++t)
-                        row[t] = static_cast<Stored>(row[t] + between[static_cast<std::size_t>(index[t])] * f);
+                        row[t] = static_cast<Single::Storage>(row[t] + between[static_cast<std::size_t>(index[t])] * f);
                 };
                 if (k != j) {
                     add(0, columns);
                 } else {
                     add(0, c);
-                    row[c] = static_cast<Stored>(row[c] + own[source]);
+                    row[c] = static_cast<Single::Storage>(row[c] + own[source]);
                     add(c + 1, columns);
                 }
             }

@@ -141,7 +141,9 @@ TEST_F(Consolidation, OfARectangleInsideOnItsEdgesAndOutside) {
         in.x = x, in.y = y;
         ExpectRuns();
         const double mean =
-            100 * Integral([&](double z) { return RectangleStress(-2 - x, 2 - x, -1.5 - y, 1.5 - y, z); }, 2, 5, 20) /
+            100 *
+            Integral([x = x, y = y](double z) { return RectangleStress(-2 - x, 2 - x, -1.5 - y, 1.5 - y, z); }, 2, 5,
+                     20) /
             3;
         EXPECT_NEAR(Session.Sigma_z, mean, 2e-4) << x << ' ' << y;
         EXPECT_NEAR(Session.s, mean * 3 * 100 / 5000, 2e-5);
@@ -183,7 +185,8 @@ TEST_F(Consolidation, OfACircleOffItsAxisIsTheSumOverItsMesh) {
         for (const auto& [x, y] : {std::pair{0.01, 0.0}, {0.9, -0.4}, {0.0, 1.6}, {-2.0, 0.1}, {3.0, 4.0}}) {
             in.x = x, in.y = y;
             ExpectRuns();
-            const double mean = 100 * Integral([&](double z) { return CircleMeshStress(2, x, y, z, N); }, 2, 5, 60) / 3;
+            const double mean =
+                100 * Integral([&, x = x, y = y](double z) { return CircleMeshStress(2, x, y, z, N); }, 2, 5, 60) / 3;
             EXPECT_NEAR(Session.Sigma_z, mean, 1e-5 * mean) << N << ": " << x << ' ' << y;
         }
     }

@@ -29,8 +29,11 @@ bool TooLong() {
 }
 
 void HoldPrintable() {
-    const std::string& report = Session.ResultText;
+    std::string report = Session.ResultText;
     Hold(report.ends_with("\r\n"), "a report ends its last line");
+    // The day of the beginning is the user's own words.
+    if (const auto day = report.find(Text(300051_text)); day != std::string::npos)
+        report.erase(day, report.find('\n', day) - day);
     Hold(report.find("nan") == std::string::npos && report.find("inf") == std::string::npos,
          "a report has numbers in it");
 }
@@ -51,10 +54,11 @@ void BuildCurves() {
     }
 }
 
-// "The calculation was stopped: ..."
+// "The calculation was stopped: ...", or that it is not possible with the time unit.
 bool TellsAnAbort(const std::string& message) {
     const std::string text = Text(909100_text);
-    return message.starts_with(text.substr(0, text.find('|'))) && message.size() > text.size();
+    return (message.starts_with(text.substr(0, text.find('|'))) && message.size() > text.size()) ||
+           message == Text(400123_text, {{"|1", Session.TimeUnit}});
 }
 
 }  // namespace

@@ -47,7 +47,7 @@ TEST(RectangularMesh, SideShorterThanHalfAnElementDividesByZero) {
 TEST(RectangularMesh, NegativeSideHasNoNodes) {
     for (const auto& [a, b] : {std::pair(-5.0, 5.0), std::pair(5.0, -5.0), std::pair(-5.0, -5.0)}) {
         Single dx = 0.5, dy = 0.5;
-        EXPECT_EQ(KindOf([&] { BuildRectangularMesh(a, b, dx, dy); }), FailureKind::SubscriptRange);
+        EXPECT_EQ(KindOf([&, a = a, b = b] { BuildRectangularMesh(a, b, dx, dy); }), FailureKind::SubscriptRange);
     }
 }
 

@@ -106,7 +106,7 @@ TEST(FileDialogs, SavingPutsTheExtensionBehindANameWithoutIt) {
 TEST(FileDialogs, ARelativePathIsSplitIntoAnAbsoluteFolderAndAName) {
     std::string dir, name;
     FileDialogs().SplitProjectPath("sub/../Raft1.PO3", dir, name);
-    EXPECT_EQ(dir, std::filesystem::current_path().string() + "/");
+    EXPECT_EQ(dir, std::filesystem::current_path().generic_string() + "/");
     EXPECT_EQ(name, "Raft1");
 }
 

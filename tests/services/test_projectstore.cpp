@@ -9,6 +9,7 @@
 #include "support/Files.h"
 #include "support/Matchers.h"
 #include "support/ScriptedHost.h"
+#include "support/System.h"
 
 namespace lithmark::tests {
 namespace {
@@ -126,6 +127,7 @@ TEST_F(ProjectStoreTest, PackingTwiceAndUnpackingTwiceAreHarmless) {
 }
 
 TEST_F(ProjectStoreTest, FilesOfAnyLetterCaseArePackedAndComeBackInUpperCase) {
+    LITHMARK_NEEDS(NamesByCase);
     std::filesystem::rename(folder / "Raft1.PO3", folder / "Raft1.po3");
     std::filesystem::rename(folder / "Raft1.TO1", folder / "Raft1.To1");
     EXPECT_TRUE(Pack());

@@ -65,7 +65,7 @@ LittleMemory::LittleMemory(std::uint64_t bytes) {
     rlimit before{};
     ::getrlimit(RLIMIT_AS, &before);
     before_ = before.rlim_cur;
-#ifndef __SANITIZE_ADDRESS__
+#ifndef LITHMARK_SANITIZE
     const rlimit little{bytes, before.rlim_max};
     ::setrlimit(RLIMIT_AS, &little);
 #else

@@ -78,7 +78,7 @@ TEST_F(EveryForm, HasButtonsThatDoSomething) {
 }
 
 TEST_F(EveryForm, StoresNothingWhenItIsClosed) {
-    ForEach([this](const FormRow& row, Form& form) {
+    ForEach([](const FormRow& row, Form& form) {
         const auto before = StoredFields();
         for (Control* control : form.Controls()) {
             if (!control->Visible || !control->Enabled || control->ReadOnly) continue;

@@ -61,7 +61,7 @@ TEST_F(ConsolidationDialog, ValuesOutsideTheirRangeAreRefusedInTheOrderOfTheFiel
 
 TEST_F(ConsolidationDialog, ALayerThinnerThanTheSublayersPassesTheDialog) {
     Session.PrefDz = 2;
-    On<frmConsolidation>(4, [this](frmConsolidation& form) {
+    On<frmConsolidation>(4, [](frmConsolidation& form) {
         Type(form, "txt_h", "0.25");
         Click(form, "cmdResult");
         EXPECT_TRUE(Session.DataValid);

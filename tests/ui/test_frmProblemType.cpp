@@ -191,7 +191,7 @@ TEST_F(ProjectDialog, EnterMovesOnAndSavesAtTheEnd) {
 
 TEST_F(ProjectDialog, ASaveOfAnOpenProjectAsksForNoName) {
     HaveProject(1);
-    OnDialog([this](frmProblemType& form) {
+    OnDialog([](frmProblemType& form) {
         Session.WorkDir = "/elsewhere/";  // as opening another file leaves it
         Session.WorkName = "other";
         Select(form, "cmbItem", 3);

@@ -126,14 +126,14 @@ TEST_F(RaftDialog, TheOverburdenGoesWhenTheLayerBeginsAtTheSurface) {
 
 // One that the user's choice has switched off; one that never counted stays as the file has it.
 TEST_F(RaftDialog, AnEccentricityThatNoLongerCountsBecomes0) {
-    On<frmRigidConsolidation>(10, [this](frmRigidConsolidation& form) {
+    On<frmRigidConsolidation>(10, [](frmRigidConsolidation& form) {
         Click(form, "optLoadType(2)");
         Click(form, "optAnalysisType(1)");
         Type(form, "txt_Exz_x", "0.5");
         Click(form, "cmdSave");
         EXPECT_EQ(Session.Exz_x, 0.5);
     });
-    On<frmRigidConsolidation>(10, [this](frmRigidConsolidation& form) {
+    On<frmRigidConsolidation>(10, [](frmRigidConsolidation& form) {
         EXPECT_EQ(form.txt_Exz_x.Text, "0.50");
         Click(form, "optAnalysisType(0)");
         Click(form, "optLoadType(1)");

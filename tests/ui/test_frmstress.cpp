@@ -207,7 +207,7 @@ TEST_F(StressDialog, TheMessageTellsTheRange) {
 }
 
 TEST_F(StressDialog, AHiddenLoadIsNotCheckedAndStoredAllTheSame) {
-    OnStress(2, [this](frmstress& form) {
+    OnStress(2, [](frmstress& form) {
         Type(form, "txt_B", "-3");
         Click(form, "optLoadType(2)");
         Click(form, "cmdSave");

@@ -27,7 +27,7 @@ TEST_F(StressCommands, TheCaptionNamesTheProblem) {
     const std::map<int, std::string> captions = {
         {1, "Stresses in soil"}, {2, "Strains in soil"}, {3, "Displacements in soil"}};
     for (const auto& [problem, caption] : captions)
-        OnStress(problem, [&](frmstress& form) { EXPECT_EQ(form.Caption, caption); });
+        OnStress(problem, [caption = caption](frmstress& form) { EXPECT_EQ(form.Caption, caption); });
 }
 
 TEST_F(StressCommands, CaptionsComeByTheirNumbers) {
