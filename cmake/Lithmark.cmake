@@ -51,18 +51,20 @@ function(lithmark_compile_quickly)
   endif()
 endfunction()
 
+# What ccache asks for where headers are precompiled.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  set(LITHMARK_CACHED_HEADERS -fpch-preprocess)
+else()
+  set(LITHMARK_CACHED_HEADERS "SHELL:-Xclang -fno-pch-timestamp")
+endif()
 # lithmark_precompile(TARGET HEADERS...): compiles the headers once; targets of the same flags share them by REUSE_FROM.
 function(lithmark_precompile target)
   target_precompile_headers(${target} PRIVATE ${ARGN})
-  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    target_compile_options(${target} PRIVATE -fpch-preprocess)  # ccache asks for it
-  endif()
+  target_compile_options(${target} PRIVATE ${LITHMARK_CACHED_HEADERS})
 endfunction()
 function(lithmark_reuse target owner)
   target_precompile_headers(${target} REUSE_FROM ${owner})
-  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    target_compile_options(${target} PRIVATE -fpch-preprocess)
-  endif()
+  target_compile_options(${target} PRIVATE ${LITHMARK_CACHED_HEADERS})
 endfunction()
 
 if(LITHMARK_FUZZ)
