@@ -250,7 +250,8 @@ void StudyWindow::Find() {
 
 // Of the same rows, what is drawn is as it is asked now.
 const StudyQuestion& StudyWindow::AskedOfRows() const {
-    return RowsAreOld() ? *work_.Question() : question_;
+    const StudyQuestion* told = work_.Question();
+    return told && RowsAreOld() ? *told : question_;
 }
 
 bool StudyWindow::RowsAreOld() const {
