@@ -42,6 +42,7 @@ rows_in() {
 has_rows() { [ "$(rows_in "$1")" -ge "$2" ]; }
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
+[ -n "${BUILD:-}" ] || "$root/scripts/build" release lithmark-cli
 cli=${BUILD:-$root/build/release}/cli/lithmark-cli
 cli=$(readlink -f "$cli")
 [ -x "$cli" ] || fail "$cli is not built"
