@@ -1,12 +1,13 @@
 #include "base/Failure.h"
 
 #include <cerrno>
-#include <cstring>
 #include <filesystem>
 #include <new>
 #include <stdexcept>
 #include <system_error>
 #include <utility>
+
+#include "base/SystemErrors.h"
 
 namespace lithmark {
 
@@ -24,29 +25,17 @@ FailureKind KindOf(int error, FailureKind otherwise) {
         case EROFS:
             return FailureKind::PermissionDenied;
         case ENOSPC:
-#ifdef EDQUOT
-        case EDQUOT:
-#endif
             return FailureKind::DiskFull;
         case ENOMEM:
             return FailureKind::OutOfMemory;
         default:
-            return otherwise;
+            return IsQuotaError(error) ? FailureKind::DiskFull : otherwise;
     }
 }
 
 std::string ShortName(int error) {
-#ifdef __GLIBC__
-    if (const char* name = ::strerrorname_np(error)) return name;
-#else
-    static constexpr std::pair<int, const char*> kNames[] = {
-        {E2BIG, "E2BIG"},   {EAGAIN, "EAGAIN"}, {EBADF, "EBADF"},   {EBUSY, "EBUSY"},     {EEXIST, "EEXIST"},
-        {EFBIG, "EFBIG"},   {EINTR, "EINTR"},   {EINVAL, "EINVAL"}, {EIO, "EIO"},         {EMFILE, "EMFILE"},
-        {ENFILE, "ENFILE"}, {EPIPE, "EPIPE"},   {ESPIPE, "ESPIPE"}, {ETXTBSY, "ETXTBSY"}, {EXDEV, "EXDEV"}};
-    for (const auto& [number, name] : kNames)
-        if (number == error) return name;
-#endif
-    return std::to_string(error);
+    const std::string name = NameOfError(error);
+    return name.empty() ? std::to_string(error) : name;
 }
 
 // The usual number of an error, where the system has others of its own.
