@@ -6,7 +6,6 @@
 #include <limits>
 
 #include "core/Problems.h"
-#include "render/drawings/Drawings.h"
 #include "render/drawings/DrawnParts.h"
 #include "render/drawings/Proportions.h"
 

@@ -1,6 +1,5 @@
 // Settlement of a clay layer under a load: the section, and load and point from
 // above in a corner.
-#include "render/drawings/Drawings.h"
 #include "render/drawings/GroundSection.h"
 
 namespace lithmark {

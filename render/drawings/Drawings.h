@@ -1,5 +1,5 @@
 // The drawings that stand beside a problem's fields and in its report, found by the name that the form's picture gives.
-// A drawing has a file of its own, a line here and a row in the table of Drawings.cpp.
+// A drawing is a file and nothing else: StressDrawing.cpp has the function StressDrawing, whose name is "stress".
 #pragma once
 
 #include <string>
@@ -10,13 +10,6 @@ class Sketch;
 
 // Draws what the sketch's form holds into the sketch's area.
 using DrawingFunction = void (*)(Sketch& sketch);
-
-void StressDrawing(Sketch& sketch);
-void ConsolidationDrawing(Sketch& sketch);
-void RateDrawing(Sketch& sketch);
-void BuildingDrawing(Sketch& sketch);
-void RaftDrawing(Sketch& sketch);
-void LogoDrawing(Sketch& sketch);
 
 // Null when there is no drawing of the name.
 DrawingFunction FindDrawing(const std::string& name);

@@ -1,7 +1,6 @@
 // The mark of the program, where a form shows it: a raft on layers of soil and the waves of its stresses.
 #include <QPainterPath>
 
-#include "render/drawings/Drawings.h"
 #include "render/drawings/Logo.h"
 #include "render/drawings/Sketch.h"
 

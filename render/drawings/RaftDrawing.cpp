@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "core/Problems.h"
-#include "render/drawings/Drawings.h"
 #include "render/drawings/Perspective.h"
 #include "render/drawings/Proportions.h"
 
