@@ -11,7 +11,7 @@ constexpr int kEndPatience = 500;  // ms from the request to end until the end
 
 }  // namespace
 
-CliProcess::CliProcess(QObject* parent) : QObject(parent) {
+CliProcess::CliProcess(QObject* parent) : QObject(parent), patience_(kEndPatience, [this] { process_.kill(); }) {
     process_.setStandardInputFile(QProcess::nullDevice());
     connect(&process_, &QProcess::readyReadStandardOutput, this,
             [this] { Take(QProcess::StandardOutput, out_, OnLine); });
@@ -28,9 +28,6 @@ CliProcess::CliProcess(QObject* parent) : QObject(parent) {
         };
         QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
     });
-    patience_.setSingleShot(true);
-    patience_.setInterval(kEndPatience);
-    connect(&patience_, &QTimer::timeout, &process_, &QProcess::kill);
 }
 
 CliProcess::~CliProcess() {

@@ -3,10 +3,11 @@
 
 #include <QObject>
 #include <QProcess>
-#include <QTimer>
 #include <functional>
 #include <string>
 #include <vector>
+
+#include "desktop/Pause.h"
 
 namespace lithmark {
 
@@ -44,7 +45,7 @@ class CliProcess : public QObject {
     void End(CliEnd end);
 
     QProcess process_;
-    QTimer patience_;
+    Pause patience_;
     QByteArray out_, error_;  // a line that has not ended
     unsigned run_ = 0;
     bool running_ = false, cancelled_ = false;

@@ -58,16 +58,14 @@ QDate DateOf(const std::string& text) {
 
 }  // namespace
 
-FormView::FormView(Form& form, QWidget* parent) : QDialog(parent), form_(form) {
+FormView::FormView(Form& form, QWidget* parent)
+    : QDialog(parent), form_(form), keep_(kKeepAfter, [this] {
+          form_.KeepInput();
+          EndTyping();
+      }) {
     OpenViews()[&form] = this;
     setObjectName(Q(form.Name));
     setModal(true);
-    keep_.setSingleShot(true);
-    keep_.setInterval(kKeepAfter);
-    connect(&keep_, &QTimer::timeout, this, [this] {
-        form_.KeepInput();
-        EndTyping();
-    });
     setLayoutDirection(form.RightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     BuildLayout(*this);

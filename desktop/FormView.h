@@ -3,11 +3,11 @@
 #pragma once
 
 #include <QDialog>
-#include <QTimer>
 #include <functional>
 #include <unordered_map>
 
 #include "desktop/OptionGroups.h"
+#include "desktop/Pause.h"
 #include "services/host/Form.h"
 
 class QKeyEvent;
@@ -86,7 +86,7 @@ class FormView : public QDialog {
     std::unordered_map<const Control*, int> placed_;
     OptionGroups options_{*this};
     bool refreshing_ = false;
-    QTimer keep_;                     // runs from an event of the user until the form keeps its input
+    Pause keep_;                      // runs from an event of the user until the form keeps its input
     const Control* typed_ = nullptr;  // the box of the last key, as long as the number in it may be unfinished
     int picturesShown_ = -1, heightWanted_ = 0;
 };

@@ -45,6 +45,7 @@ TableEditorDialog::TableEditorDialog(TableEdit& table, QWidget* parent)
     : QDialog(parent),
       table_(table),
       rows_(table),
+      keep_(kKeepAfter, [this] { KeepRows(table_, rows_.Texts()); }),
       grid_(new EditGrid(rows_, this)),
       chart_(new RowsChart(KindOf(table), this)),
       note_(new QLabel(this)) {
@@ -69,9 +70,6 @@ TableEditorDialog::TableEditorDialog(TableEdit& table, QWidget* parent)
     window->addWidget(Buttons());
     BindHelpKey(*this, TopicOfProblem);
     new PaneKeys(*this);
-    keep_.setSingleShot(true);
-    keep_.setInterval(kKeepAfter);
-    connect(&keep_, &QTimer::timeout, this, [this] { KeepRows(table_, rows_.Texts()); });
     grid_->OnSelection = [this] { ShowState(); };
     grid_->OnPasted = [this](const std::string& words) {
         pasted_ = words;

@@ -2,8 +2,8 @@
 #pragma once
 
 #include <QDialog>
-#include <QTimer>
 
+#include "desktop/Pause.h"
 #include "ui/model/TableEditing.h"
 
 class QLabel;
@@ -33,7 +33,7 @@ class TableEditorDialog : public QDialog {
 
     TableEdit& table_;
     TableEditing rows_;
-    QTimer keep_;
+    Pause keep_;
     EditGrid* grid_;
     RowsChart* chart_;
     QLabel* note_;

@@ -44,7 +44,15 @@ double NumberIn(const QLineEdit& box) {
 }  // namespace
 
 PointsFill::PointsFill(PointsTable& points, Kind kind, QWidget* parent)
-    : QDialog(parent), points_(points), kind_(kind), replace_(nullptr), note_(nullptr) {
+    : QDialog(parent),
+      points_(points),
+      kind_(kind),
+      replace_(nullptr),
+      note_(nullptr),
+      patience_(kUnfinishedFor, [this] {
+          typed_ = nullptr;
+          Check();
+      }) {
     setObjectName(QStringLiteral("pointsFill"));
     setWindowTitle(Q(Text(TitleOf(kind))));
     setLayoutDirection(LanguageTexts().RightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
@@ -85,13 +93,6 @@ PointsFill::PointsFill(PointsTable& points, Kind kind, QWidget* parent)
     column->addLayout(row);
     BindHelpKey(*this, [] { return std::string("studies"); });
     new PaneKeys(*this);
-    // A number that is not ended is an error after a while.
-    patience_.setSingleShot(true);
-    patience_.setInterval(kUnfinishedFor);
-    connect(&patience_, &QTimer::timeout, this, [this] {
-        typed_ = nullptr;
-        Check();
-    });
 }
 
 // From, to and count, as far as the kind has them: a line has one count, depths have one x and one y.

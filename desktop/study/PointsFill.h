@@ -3,9 +3,9 @@
 
 #include <QDialog>
 #include <QString>
-#include <QTimer>
 #include <array>
 
+#include "desktop/Pause.h"
 #include "study/window/Points.h"
 
 class QCheckBox;
@@ -44,7 +44,7 @@ class PointsFill : public QDialog {
     QLabel* note_;
     QLineEdit* typed_ = nullptr;  // the box that is typed into, as long as the number in it may be unfinished
     QString wrong_, told_;
-    QTimer patience_;
+    Pause patience_;  // a number that is not ended is an error after a while
 };
 
 }  // namespace lithmark

@@ -65,6 +65,8 @@ PointsWindow::PointsWindow(const StudySubject& subject, QWidget* parent)
       points_(CoordinatesOf(subject), subject.Results),
       project_(subject.Draft),
       process_(this),
+      rest_(kPointsRest, [this] { Start(); }),
+      keep_(kKeepAfter, [this] { Keep(); }),
       shown_([this] { ShowResults(false); }) {
     setObjectName(QStringLiteral("pointsWindow"));
     setWindowTitle(Q(Text(913278_text, {{"|1", subject.Title}})));
@@ -72,12 +74,6 @@ PointsWindow::PointsWindow(const StudySubject& subject, QWidget* parent)
     process_.OnLine = [this](const std::string& line) { Take(line); };
     process_.OnErrorLine = [this](const std::string& line) { trouble_ = line; };
     process_.OnEnd = [this](const CliEnd& end) { End(end); };
-    rest_.setSingleShot(true);
-    rest_.setInterval(kPointsRest);
-    connect(&rest_, &QTimer::timeout, this, [this] { Start(); });
-    keep_.setSingleShot(true);
-    keep_.setInterval(kKeepAfter);
-    connect(&keep_, &QTimer::timeout, this, [this] { Keep(); });
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(sizes::kEdge, sizes::kEdge, sizes::kEdge, sizes::kEdge);

@@ -3,11 +3,11 @@
 #pragma once
 
 #include <QDialog>
-#include <QTimer>
 #include <memory>
 #include <vector>
 
 #include "desktop/CliProcess.h"
+#include "desktop/Pause.h"
 #include "desktop/study/PointsFill.h"
 #include "desktop/study/ShowTimer.h"
 #include "desktop/study/StudySubject.h"
@@ -80,7 +80,7 @@ class PointsWindow : public QDialog {
     std::size_t linesShown_ = 0;
     bool stale_ = false, cancelled_ = false;
     std::string trouble_, pasted_, pointsFile_ = "points.csv";
-    QTimer rest_, keep_;
+    Pause rest_, keep_;
     ShowTimer shown_;
 
     EditGrid* grid_ = nullptr;

@@ -58,6 +58,8 @@ StudyWindow::StudyWindow(const StudySubject& subject, QWidget* parent)
       subject_(subject),
       question_(subject.Fields, subject.Results, subject.First),
       work_(subject.Draft, this),
+      rest_(kStudyRest, [this] { Work(false); }),
+      patience_(kUnfinishedFor, [this] { ShowFaults(); }),
       shown_([this] { ShowWork(); }) {
     setObjectName(QStringLiteral("studyWindow"));
     Recall(question_, SharedServices().GetSetting(kApplicationTitle, kStudySection, MemoryKey(), ""));
@@ -89,13 +91,7 @@ StudyWindow::StudyWindow(const StudySubject& subject, QWidget* parent)
     ask_->OnChange = tornado_->OnChange = [this] { Asked(); };
     ask_->OnFind = [this] { Find(); };
     work_.OnChange = [this] { Came(); };
-    rest_.setSingleShot(true);
-    rest_.setInterval(kStudyRest);
-    connect(&rest_, &QTimer::timeout, this, [this] { Work(false); });
     // A number that is left is finished.
-    patience_.setSingleShot(true);
-    patience_.setInterval(kUnfinishedFor);
-    connect(&patience_, &QTimer::timeout, this, [this] { ShowFaults(); });
     connect(qApp, &QApplication::focusChanged, &patience_, [this] {
         typing_ = false;
         if (patience_.isActive()) return ShowFaults();

@@ -3,8 +3,8 @@
 #pragma once
 
 #include <QDialog>
-#include <QTimer>
 
+#include "desktop/Pause.h"
 #include "desktop/study/ShowTimer.h"
 #include "desktop/study/StudySubject.h"
 #include "desktop/study/StudyWork.h"
@@ -70,7 +70,7 @@ class StudyWindow : public QDialog {
     const StudySubject subject_;
     StudyQuestion question_;
     StudyWork work_;
-    QTimer rest_, patience_;
+    Pause rest_, patience_;
     bool typing_ = false;  // the last change came from a box that has the focus
     QString untold_;       // what is wrong and has not been said yet
     ShowTimer shown_;

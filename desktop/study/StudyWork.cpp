@@ -24,13 +24,11 @@ double Seconds(const QElapsedTimer& since) {
 
 }  // namespace
 
-StudyWork::StudyWork(const SessionRecord& draft, QObject* parent) : QObject(parent), project_(draft), process_(this) {
+StudyWork::StudyWork(const SessionRecord& draft, QObject* parent)
+    : QObject(parent), project_(draft), process_(this), promise_(kPromiseAfter, [this] { LookAtPromise(); }) {
     process_.OnLine = [this](const std::string& line) { Take(line); };
     process_.OnErrorLine = [this](const std::string& line) { lastError_ = line; };
     process_.OnEnd = [this](const CliEnd& end) { End(end); };
-    promise_.setSingleShot(true);
-    promise_.setInterval(kPromiseAfter);
-    connect(&promise_, &QTimer::timeout, this, [this] { LookAtPromise(); });
 }
 
 std::vector<std::string> StudyWork::RowsWords(const StudyQuestion& question, const std::string& project) {

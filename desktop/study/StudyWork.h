@@ -3,7 +3,6 @@
 
 #include <QElapsedTimer>
 #include <QObject>
-#include <QTimer>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -11,6 +10,7 @@
 #include <vector>
 
 #include "desktop/CliProcess.h"
+#include "desktop/Pause.h"
 #include "study/window/StudyAnswerTexts.h"
 #include "study/window/StudyQuestion.h"
 #include "study/window/StudyTable.h"
@@ -74,7 +74,7 @@ class StudyWork : public QObject {
     RowsEnd rowsEnd_ = RowsEnd::None;
     bool asked_ = false, left_ = false;
     QElapsedTimer since_;
-    QTimer promise_;
+    Pause promise_;
     double promised_ = 0;
     std::string answer_, found_, trouble_, lastError_;
     std::vector<TornadoBar> bars_;
