@@ -22,7 +22,7 @@ StudyRequest Request(int problemType, bool sobol) {
     StartSession();
     Session.ProblemType = problemType;
     SetProblemDefaults();
-    SetDerivedFields();
+    SetDerivedFields(Session);
     StudyRequest request;
     request.Random = {"Es=lognormal:5000:30%", "z=uniform:1:3"};
     request.Samples = std::uint64_t{1} << 20;

@@ -193,7 +193,7 @@ void OpenProjectForRun(const CommonOptions& options) {
     RefuseProjectFile(options.Output);
     RequireFolderOf(options.Output);
     ApplySets(options.Sets);
-    SetDerivedFields();
+    SetDerivedFields(Session);
 }
 
 void TellNotices(ConsoleHost& host) {

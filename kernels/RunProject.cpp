@@ -6,8 +6,8 @@
 
 namespace lithmark {
 
-void SetDerivedFields() {
-    Session.A0 = Session.A;
+void SetDerivedFields(SessionRecord& record) {
+    record.A0 = record.A;
 }
 
 void RunProject() {

@@ -94,7 +94,7 @@ RowOutcome RowWork::Run(const RowInput& input) const {
             fail(trouble);
             return outcome;
         }
-        SetDerivedFields();
+        SetDerivedFields(Session);
         RunProject();
         outcome.Notices = NoticeIds();
         outcome.Aborted = Session.CalcAborted;

@@ -23,7 +23,7 @@ inline void StartProblem(int problemType) {
     StartSession();
     Session.ProblemType = problemType;
     SetProblemDefaults();
-    SetDerivedFields();
+    SetDerivedFields(Session);
 }
 
 inline std::vector<Take> TakesOf(int problemType, const std::vector<std::string>& names) {

@@ -7,6 +7,7 @@
 #include "files/GloableVariable.h"
 #include "files/ProblemData.h"
 #include "kernels/RunKernel.h"
+#include "kernels/RunProject.h"
 #include "report/StepTables.h"
 #include "services/FileDialogs.h"
 #include "services/SharedServices.h"
@@ -23,11 +24,6 @@ namespace {
 template <typename Command>
 void Run(Command&& command) {
     if (!UnderCommonStep(std::forward<Command>(command))) EndHourglass();
-}
-
-// The radius of circular loads is the length that the dialogs take.
-void TakeRadius(SessionRecord& record) {
-    record.A0 = record.A;
 }
 
 }  // namespace
@@ -84,7 +80,7 @@ void ProblemForm::ShowInForce() {
 
 void ProblemForm::ShowData() {
     ShowFields();
-    TakeRadius(Session);
+    SetDerivedFields(Session);
     ShowChoices();
 }
 
@@ -92,7 +88,7 @@ FormDraft ProblemForm::Draft() const {
     FormDraft draft{Session, Faults()};
     if (!draft.Valid()) return draft;
     StoreFields(draft.Record);
-    TakeRadius(draft.Record);
+    SetDerivedFields(draft.Record);
     StoreChoices(draft.Record);
     draft.Record.DataValid = true;
     return draft;
