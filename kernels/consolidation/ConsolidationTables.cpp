@@ -10,19 +10,21 @@ namespace lithmark {
 
 namespace {
 
+constexpr long kLineLoad = 4;  // selector of UnitLabel
+
 void AddLayers(const ConsolidationRateInput& in, const MarchRecord& march) {
     StepTable& table = Steps().Add(Text(907224_text));
     table.AddColumn(907225_text, "i");
     table.AddColumn(40052_text, "h", Session.Len1Label);
     table.AddColumn(907226_text, "n");
     table.AddColumn(907227_text, "dz", Session.Len1Label);
-    table.AddColumn(10243_text, "Cv", UnitLabel(10));
+    table.AddColumn(10243_text, "Cv", LabelOf(Unit::AreaPerTime));
     table.AddColumn(907228_text, "dt", in.TimeUnit);
     table.AddColumn(907229_text, "Cv dt/dz2", "[-]");
     for (int i = 1; i <= in.NumLayers; ++i)
         table.Rows.push_back({double(i), in.hLayer(i) * Session.Len1Factor, double(march.n(i)),
-                              march.dz(i) * Session.Len1Factor, in.CvLayer(i) * UnitFactor(10), march.TimeStep,
-                              march.Lambda(i)});
+                              march.dz(i) * Session.Len1Factor, in.CvLayer(i) * FactorOf(Unit::AreaPerTime),
+                              march.TimeStep, march.Lambda(i)});
     table.Notes.push_back(
         Text(907230_text, {{"|1", FormatValue(in.T, "")}, {"|2", in.TimeUnit}, {"|3", FormatValue(march.Steps, "")}}));
 }
@@ -33,10 +35,10 @@ void AddNodes(const MarchRecord& march) {
     table.AddColumn(13_text, "i");
     table.AddColumn(300018_text, "z", Session.Len1Label);
     table.AddColumn(907232_text, "dz", Session.Len1Label);
-    table.AddColumn(300016_text, "u0", UnitLabel(0));
-    table.AddColumn(300017_text, "uf", UnitLabel(0));
-    table.AddColumn(907233_text, "u0*dz", UnitLabel(4));
-    table.AddColumn(907233_text, "uf*dz", UnitLabel(4));
+    table.AddColumn(300016_text, "u0", LabelOf(Unit::Pressure));
+    table.AddColumn(300017_text, "uf", LabelOf(Unit::Pressure));
+    table.AddColumn(907233_text, "u0*dz", UnitLabel(kLineLoad));
+    table.AddColumn(907233_text, "uf*dz", UnitLabel(kLineLoad));
     for (int m = 0; m <= Session.IsoLast; ++m) {
         const double dz = march.Weight(m) * length;
         const double u0 = Session.IsoU0(m) * pressure, uf = Session.IsoUf(m) * pressure;
@@ -68,8 +70,8 @@ void AddSublayerTable(const ConsolidationInput& in, const std::vector<Sublayer>&
     table.AddColumn(907218_text, "i");
     table.AddColumn(907219_text, "z", Session.Len1Label);
     table.AddColumn(907220_text, "dz", Session.Len1Label);
-    if (byIndex) table.AddColumn(907221_text, "p", UnitLabel(0));
-    table.AddColumn(907222_text, "Sigma_z", UnitLabel(0));
+    if (byIndex) table.AddColumn(907221_text, "p", LabelOf(Unit::Pressure));
+    table.AddColumn(907222_text, "Sigma_z", LabelOf(Unit::Pressure));
     table.AddColumn(907223_text, "ds/dz", "[%]");
     table.AddColumn(40081_text, "ds", Session.Len2Label);
     for (std::size_t i = 0; i < sublayers.size(); ++i) {

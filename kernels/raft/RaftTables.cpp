@@ -7,6 +7,12 @@
 
 namespace lithmark {
 
+namespace {
+
+constexpr long kArea = 6;  // selector of UnitFactor and UnitLabel
+
+}  // namespace
+
 void AddNodeTable(const RaftResult& result) {
     const RaftInput& in = result.Input;
     const double length = Session.Len1Factor, force = Session.Force1Factor;
@@ -15,16 +21,16 @@ void AddNodeTable(const RaftResult& result) {
     table.AddColumn(13_text, "i");
     table.AddColumn(907251_text, "u", Session.Len1Label);
     table.AddColumn(907251_text, "v", Session.Len1Label);
-    table.AddColumn(907252_text, "A", UnitLabel(6));
-    table.AddColumn(90098_text, "q", UnitLabel(0));
+    table.AddColumn(907252_text, "A", UnitLabel(kArea));
+    table.AddColumn(90098_text, "q", LabelOf(Unit::Pressure));
     table.AddColumn(400122_text, "f", Session.Force1Label);
-    table.AddColumn(907253_text, "f*u", UnitLabel(2));
-    table.AddColumn(907253_text, "f*v", UnitLabel(2));
+    table.AddColumn(907253_text, "f*u", LabelOf(Unit::Moment));
+    table.AddColumn(907253_text, "f*v", LabelOf(Unit::Moment));
     table.AddColumn(40081_text, "s", Session.Len2Label);
     for (int i = 1; i <= Session.NodeForce.Upper(); ++i) {
         const double u = (Session.NodeX(i) - halfA) * length, v = (Session.NodeY(i) - halfB) * length;
         const double f = Session.NodeForce(i) * force;
-        table.Rows.push_back({double(i), u, v, Session.NodeArea(i) * UnitFactor(6),
+        table.Rows.push_back({double(i), u, v, Session.NodeArea(i) * UnitFactor(kArea),
                               Session.NodePressure(i) * FactorOf(Unit::Pressure), f, f * u, f * v,
                               Session.NodeSettlement(i) * Session.Len2Factor});
     }
@@ -32,10 +38,10 @@ void AddNodeTable(const RaftResult& result) {
     const double Q = in.Q * force, mX = Q * in.Exz_x * length;
     const double mY = result.Circular ? 0 : Q * in.Exz_y * length;
     const double area = result.Circular ? PI * Square(in.A) : double(in.A) * in.B;
-    table.AddLine(Text(907254_text), {{}, {}, area * UnitFactor(6), {}, Q, mX, mY});
+    table.AddLine(Text(907254_text), {{}, {}, area * UnitFactor(kArea), {}, Q, mX, mY});
     table.AddLine(Text(907255_text), {{},
                                       {},
-                                      table.SumOf(3) - area * UnitFactor(6),
+                                      table.SumOf(3) - area * UnitFactor(kArea),
                                       {},
                                       table.SumOf(5) - Q,
                                       table.SumOf(6) - mX,

@@ -75,8 +75,8 @@ void AddStressTerms(const SoilStressInput& in, const CornerRecord& record) {
               {Sum::TauYz, "Tau_yz"}},
              "[-]");
     const double unit = FactorOf(Unit::Pressure), f = in.P / (2 * PI) * unit;
-    table.AddLine(Text(907212_text, {{"|1", UnitLabel(0)}}), UnderTerms({f, -f, -f, f, -f, -f}));
-    table.AddLine(Text(907213_text, {{"|1", UnitLabel(0)}}),
+    table.AddLine(Text(907212_text, {{"|1", LabelOf(Unit::Pressure)}}), UnderTerms({f, -f, -f, f, -f, -f}));
+    table.AddLine(Text(907213_text, {{"|1", LabelOf(Unit::Pressure)}}),
                   UnderTerms({Session.Sigma_z * unit, Session.Sigma_x * unit, Session.Sigma_y * unit,
                               Session.Tau_xy * unit, Session.Tau_xz * unit, Session.Tau_yz * unit}));
 }
