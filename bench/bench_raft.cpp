@@ -12,6 +12,7 @@
 
 #include <filesystem>
 
+#include "core/Problems.h"
 #include "core/Session.h"
 #include "kernels/elastic/LayerFactors.h"
 #include "kernels/raft/BasCircularRigidRaft.h"
@@ -56,7 +57,7 @@ void SetProblem(int side, Kind kind) {
 // A circle of 5 m radius on the same soils.
 void SetCircle(int divisions, Kind kind) {
     SetProblem(11, kind);
-    Session.LoadType = 3;
+    Session.LoadType = LoadShape::Circle;
     Session.A = 5;
     Session.Exz_y = 0;
     Session.PrefND = divisions;
@@ -64,7 +65,7 @@ void SetCircle(int divisions, Kind kind) {
 
 void Run() {
     SessionRecord& s = Session;
-    if (s.LoadType == 3)
+    if (s.LoadType == LoadShape::Circle)
         ComputeCircularRaft(s.z, s.Q, s.A, s.h, s.eo, s.Po, s.Cc, s.Es, s.SoilPropertyType, s.Exz_x, s.Gamma,
                             s.AnalysisType, s.SettlementAt);
     else

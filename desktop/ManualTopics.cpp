@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/Problems.h"
+#include "core/Catalogue.h"
 #include "core/Session.h"
 #include "services/SharedServices.h"
 #include "services/host/Form.h"
@@ -77,10 +77,9 @@ std::string PageOfTopic(const std::string& topic) {
 }
 
 std::string TopicOfProblem() {
-    const int problem = Session.ProblemType;
-    return problem >= Problem::SoilStress && problem <= Problem::RaftConsolidation
-               ? std::string(kProblemPage) + std::to_string(problem)
-               : "index";
+    const ProblemRow* problem = FindProblem(Session.ProblemType);
+    return problem != nullptr && problem->Calculated ? std::string(kProblemPage) + std::to_string(problem->ProblemType)
+                                                     : "index";
 }
 
 std::string TopicOfForm(const Form& form) {

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <ctime>
 
+#include "core/Problems.h"
 #include "kernels/raft/BasCircularRigidRaft.h"
 #include "raft/RaftRunCase.h"
 #include "report/Notices.h"
@@ -45,7 +46,7 @@ class EndedRaftRuns : public tests::RaftRunCase, public testing::WithParamInterf
     void RunIt() {
         Session.CalcAborted = false;
         SessionRecord& s = Session;
-        if (s.LoadType == 2)
+        if (s.LoadType == LoadShape::Rectangle)
             RunRectangle();
         else
             ComputeCircularRaft(s.z, s.Q, s.A, s.h, s.eo, s.Po, s.Cc, s.Es, s.SoilPropertyType, s.Exz_x, s.Gamma,
@@ -65,7 +66,7 @@ class EndedRaftRuns : public tests::RaftRunCase, public testing::WithParamInterf
         Session.PrefDy = kind.Dy;
         Session.PrefND = 16;
         Session.Exz_x = 0.3;
-        if (kind.LoadType == 2) Session.Exz_y = 0.2;
+        if (kind.LoadType == LoadShape::Rectangle) Session.Exz_y = 0.2;
     }
     // Runs until it is so far.
     void RunUntil(double part) {
