@@ -17,7 +17,7 @@ inline constexpr int kClicked = 24;  // the least of what is clicked
 
 inline constexpr int kPictureWidth = 300, kPictureHeight = 260;  // the least
 inline constexpr int kPictureGoodWidth = 440, kPictureGoodHeight = 400;
-inline constexpr int kAnswerWidth = 300, kAnswerHeight = 260;  // the least
+inline constexpr int kAnswerWidth = 300;  // the least
 inline constexpr int kAnswerGoodWidth = 340, kAnswerGoodHeight = 400;
 inline constexpr int kTabsBelow = 460;        // drawing and answer, one below the other, need this height
 inline constexpr double kScreenShare = 0.95;  // of the free area, for a window at most
