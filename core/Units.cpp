@@ -38,7 +38,8 @@ constexpr std::array kNumberFormats = {
 };
 
 // Selectors of UnitFactor and UnitLabel.
-constexpr long kPressure = 0, kMoment = 2, kUnitWeight = 3, kAreaPerTime = 10, kLengthPerTime = 11;
+constexpr long kPressure = 0, kMoment = 2, kUnitWeight = 3, kLineLoad = 4, kArea = 6, kAreaPerTime = 10,
+               kLengthPerTime = 11;
 
 // What a unit is made of: a unit group of its own, or a derived unit.
 struct UnitSource {
@@ -64,6 +65,10 @@ UnitSource SourceOf(Unit unit) {
             return {.Selector = kLengthPerTime};
         case Unit::Moment:
             return {.Selector = kMoment};
+        case Unit::LineLoad:
+            return {.Selector = kLineLoad};
+        case Unit::Area:
+            return {.Selector = kArea};
         case Unit::None:
         case Unit::PerCent:
             break;

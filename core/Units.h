@@ -17,10 +17,23 @@ double UnitFactor(long selector);
 std::string UnitLabel(long selector);
 
 // What a quantity of the dialogs and reports is counted in.
-enum class Unit { None, Length, Settlement, Force, Pressure, UnitWeight, AreaPerTime, LengthPerTime, Moment, PerCent };
-// Display units per base unit, and the label with its brackets, at this moment; 1 and "[-]" for None, 1 and "[%]" for
-// PerCent. As UnitFactor,
-// DivisionByZero when a length factor of 0 stands under the line.
+enum class Unit {
+    None,
+    Length,
+    Settlement,
+    Force,
+    Pressure,
+    UnitWeight,
+    AreaPerTime,
+    LengthPerTime,
+    Moment,
+    LineLoad,
+    Area,
+    PerCent
+};
+// Display units per base unit, and the label with its brackets, at this moment.
+// 1 and "[-]" for None, 1 and "[%]" for PerCent. DivisionByZero, as from UnitFactor, when a length factor of 0 stands
+// under the line.
 double FactorOf(Unit unit);
 std::string LabelOf(Unit unit);
 

@@ -10,8 +10,6 @@ namespace lithmark {
 
 namespace {
 
-constexpr long kLineLoad = 4;  // selector of UnitLabel
-
 void AddLayers(const ConsolidationRateInput& in, const MarchRecord& march) {
     StepTable& table = Steps().Add(Text(907224_text));
     table.AddColumn(907225_text, "i");
@@ -37,8 +35,8 @@ void AddNodes(const MarchRecord& march) {
     table.AddColumn(907232_text, "dz", Session.Len1Label);
     table.AddColumn(300016_text, "u0", LabelOf(Unit::Pressure));
     table.AddColumn(300017_text, "uf", LabelOf(Unit::Pressure));
-    table.AddColumn(907233_text, "u0*dz", UnitLabel(kLineLoad));
-    table.AddColumn(907233_text, "uf*dz", UnitLabel(kLineLoad));
+    table.AddColumn(907233_text, "u0*dz", LabelOf(Unit::LineLoad));
+    table.AddColumn(907233_text, "uf*dz", LabelOf(Unit::LineLoad));
     for (int m = 0; m <= Session.IsoLast; ++m) {
         const double dz = march.Weight(m) * length;
         const double u0 = Session.IsoU0(m) * pressure, uf = Session.IsoUf(m) * pressure;
