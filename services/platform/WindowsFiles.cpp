@@ -36,6 +36,11 @@ bool IsFolder(const std::wstring& path) noexcept {
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
+bool IsReadOnly(const std::wstring& path) noexcept {
+    const DWORD attributes = ::GetFileAttributesW(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+}
+
 DWORD Most(std::size_t count) noexcept {
     constexpr std::size_t kMost = 1 << 30;
     return static_cast<DWORD>(count < kMost ? count : kMost);
@@ -139,8 +144,15 @@ int CloseFile(int descriptor) noexcept {
     return ::_close(descriptor);
 }
 
+// As all handles of files, it is not handed on to workers.
 int DuplicateFile(int descriptor) noexcept {
-    return ::_dup(descriptor);
+    const HANDLE self = ::GetCurrentProcess();
+    HANDLE handle = nullptr;
+    if (::DuplicateHandle(self, HandleOf(descriptor), self, &handle, 0, FALSE, DUPLICATE_SAME_ACCESS) == 0)
+        return FailWithLast();
+    const int copy = ::_open_osfhandle(reinterpret_cast<std::intptr_t>(handle), _O_BINARY | _O_NOINHERIT);
+    if (copy < 0) ::CloseHandle(handle);
+    return copy;
 }
 
 std::FILE* OpenStream(const std::string& path) noexcept {
@@ -181,9 +193,19 @@ void SyncFolder(const std::string&) noexcept {}  // RenameOver writes through
 int RenameOver(const std::string& from, const std::string& to) noexcept {
     constexpr DWORD kHow = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
     const std::wstring target = WidePath(to);
-    if (::MoveFileExW(WidePath(from).c_str(), target.c_str(), kHow) != 0) return 0;
-    const int number = NumberOfLastError();
-    return FailWith(IsFolder(target) ? EISDIR : number);
+    // Others hold a file for a moment: what looks for viruses, a worker that has just ended. For a second they are
+    // waited for, where it is nothing that stays.
+    constexpr int kTries = 50;
+    constexpr DWORD kPause = 20;  // ms
+    for (int tries = 1;; ++tries) {
+        if (::MoveFileExW(WidePath(from).c_str(), target.c_str(), kHow) != 0) return 0;
+        const DWORD error = ::GetLastError();
+        const int number = NumberOfLastError();
+        if (IsFolder(target)) return FailWith(EISDIR);
+        const bool mayPass = error == ERROR_SHARING_VIOLATION || (error == ERROR_ACCESS_DENIED && !IsReadOnly(target));
+        if (!mayPass || tries == kTries) return FailWith(number);
+        ::Sleep(kPause);
+    }
 }
 
 int RemoveFile(const char* path) noexcept {
