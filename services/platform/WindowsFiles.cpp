@@ -31,14 +31,13 @@ int FailWithLast() noexcept {
     return FailWith(NumberOfLastError());
 }
 
-bool IsFolder(const std::wstring& path) noexcept {
+bool HasAttribute(const std::wstring& path, DWORD attribute) noexcept {
     const DWORD attributes = ::GetFileAttributesW(path.c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & attribute) != 0;
 }
 
-bool IsReadOnly(const std::wstring& path) noexcept {
-    const DWORD attributes = ::GetFileAttributesW(path.c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+bool IsFolder(const std::wstring& path) noexcept {
+    return HasAttribute(path, FILE_ATTRIBUTE_DIRECTORY);
 }
 
 DWORD Most(std::size_t count) noexcept {
@@ -202,7 +201,8 @@ int RenameOver(const std::string& from, const std::string& to) noexcept {
         const DWORD error = ::GetLastError();
         const int number = NumberOfLastError();
         if (IsFolder(target)) return FailWith(EISDIR);
-        const bool mayPass = error == ERROR_SHARING_VIOLATION || (error == ERROR_ACCESS_DENIED && !IsReadOnly(target));
+        const bool mayPass = error == ERROR_SHARING_VIOLATION ||
+                             (error == ERROR_ACCESS_DENIED && !HasAttribute(target, FILE_ATTRIBUTE_READONLY));
         if (!mayPass || tries == kTries) return FailWith(number);
         ::Sleep(kPause);
     }
